@@ -1,0 +1,19 @@
+#include "RatioReporter.h"
+
+#include <QGuiApplication>
+
+using lineforge::bench::RatioReporter;
+
+int main(int argc, char* argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    RatioReporter reporter({
+        {"a walk over 100,000 rows, by bare SQLite calls", "WalkRecordset", "WalkBare", 1.5},
+        {"opening a branch with 10 siblings, by reading their files once", "OpenBranch", "ReadFilesBare", 3.0},
+        {"start to a shown main window, by an empty window's", "StartLineforge", "StartEmpty", 1.5},
+    });
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    return reporter.AllKept() ? 0 : 1;
+}

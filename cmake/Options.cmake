@@ -1,0 +1,18 @@
+# How every target of this project is compiled. Warnings and sanitizers are usage requirements, never global flags.
+add_library(lineforge_options INTERFACE)
+target_compile_features(lineforge_options INTERFACE cxx_std_20)
+target_compile_definitions(lineforge_options INTERFACE
+    QT_NO_CAST_FROM_ASCII
+    QT_NO_CAST_TO_ASCII
+    QT_NO_CONTEXTLESS_CONNECT
+    QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+    QT_NO_URL_CAST_FROM_STRING
+    QT_USE_QSTRINGBUILDER)
+target_compile_options(lineforge_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+    $<$<BOOL:${LINEFORGE_WERROR}>:-Werror>)
+if(LINEFORGE_SANITIZE)
+    target_compile_options(lineforge_options INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer
+                                                       -fno-sanitize-recover=undefined)
+    target_link_options(lineforge_options INTERFACE -fsanitize=address,undefined)
+endif()

@@ -1,0 +1,42 @@
+# The distribution packages that this project stands on. Sourced by run.sh and test.sh.
+
+build_packages="g++ cmake ninja-build ccache qt6-base-dev qt6-multimedia-dev libgl1-mesa-dev libsqlite3-dev"
+run_packages="fonts-liberation qt6-qpa-plugins libqt6multimedia6 gstreamer1.0-plugins-good"
+screen_packages="xvfb xauth libxcb1-dev libxcb-xtest0-dev"
+test_packages="libgtest-dev libgmock-dev $screen_packages"
+
+# Installs those of the named packages that are missing; says nothing when none is.
+install_missing() {
+    missing=""
+    for package in "$@"; do
+        state=$(dpkg-query -W -f='${Status}' "$package" 2>/dev/null || true)
+        [ "$state" = "install ok installed" ] || missing="$missing $package"
+    done
+    [ -z "$missing" ] && return 0
+
+    as_root=""
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null || { echo "These packages are missing, and installing them needs root:$missing" >&2; exit 1; }
+        as_root="sudo"
+    fi
+    echo "Installing:$missing"
+    $as_root apt-get update -q >/dev/null
+    # shellcheck disable=SC2086
+    $as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends $missing >/dev/null
+}
+
+# Configures a preset once and builds targets of it, quietly: the whole output comes only when something fails.
+build_preset() {
+    preset=$1
+    shift
+    log=$(mktemp)
+    if [ ! -f "build/$preset/build.ninja" ]; then
+        echo "Configuring ($preset) ..."
+        cmake --preset "$preset" >"$log" 2>&1 || { cat "$log" >&2; rm -f "$log"; exit 1; }
+    fi
+    if ! ninja -C "build/$preset" -n "$@" 2>/dev/null | grep -q 'no work to do'; then
+        echo "Building ($preset) ..."
+    fi
+    ninja -C "build/$preset" "$@" >"$log" 2>&1 || { grep -v '^\[' "$log" >&2; tail -n 40 "$log" >&2; rm -f "$log"; exit 1; }
+    rm -f "$log"
+}

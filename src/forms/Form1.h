@@ -1,0 +1,107 @@
+#pragma once
+
+#include "platform/Form.h"
+#include "platform/PictureBox.h"
+
+namespace lineforge::forms
+{
+
+// What the main window was laid out for, below its menus; how large all windows are shown goes by it.
+inline constexpr Size MainWindowClient{11880, 8190};
+
+// The main window: the map, the subject beside it, and the menus.
+struct Form1 : Form {
+    Form1();
+
+    MenuItem mnuFile{Menus, u"mnuFile", u"&File"};
+    MenuItem New{mnuFile, u"New", u"&New"};
+    MenuItem Open{mnuFile, u"Open", u"&Open"};
+    MenuItem mnuDash1{mnuFile, u"mnuDash1", u"-"};
+    MenuItem mnuAddBkMark{mnuFile, u"mnuAddBkMark", u"&Add BookMark"};
+    MenuItem mnuClrList{mnuFile, u"mnuClrList", u"Clear Bookmarks"};
+    MenuItem mnuTreePrint{mnuFile, u"mnuTreePrint", u"Print"};
+    MenuItem mnuPrinterSetUp{mnuTreePrint, u"mnuPrinterSetUp", u"Printer &Setup"};
+    MenuItem mnuPrint{mnuTreePrint, u"mnuPrint", u"Print &Branch"};
+    MenuItem mnuPrintPage{mnuTreePrint, u"mnuPrintPage", u"Print Pa&ge"};
+    MenuItem mnuPrintRecord{mnuTreePrint, u"mnuPrintRecord", u"Print &Record"};
+    MenuItem mnuPrinList{mnuTreePrint, u"mnuPrinList", u"Print Bookmarks"};
+    MenuItem mnuDash2{mnuFile, u"mnuDash2", u"-"};
+    MenuItem mnuMainCopy{mnuFile, u"mnuMainCopy", u"Copy"};
+    MenuItem mnuBackup{mnuMainCopy, u"mnuBackup", u"Make Bac&kup"};
+    MenuItem mnuTxtFileList{mnuMainCopy, u"mnuTxtFileList", u"Bookmark List"};
+    MenuItem mnuTxtDBase{mnuMainCopy, u"mnuTxtDBase", u"Database"};
+    MenuItem mnuDash3{mnuFile, u"mnuDash3", u"-"};
+    MenuItem mnuExport{mnuFile, u"mnuExport", u"&Export"};
+    MenuItem mnuExpSub{mnuExport, u"mnuExpSub", u"Database and Gallery"};
+    MenuItem mnuExpGedcom{mnuExport, u"mnuExpGedcom", u"Ged File"};
+    MenuItem mnuImport{mnuFile, u"mnuImport", u"Import"};
+    MenuItem mnuImpSub{mnuImport, u"mnuImpSub", u"Database and Gallery"};
+    MenuItem mnuImpGedcom{mnuImport, u"mnuImpGedcom", u"Ged File"};
+    MenuItem mnuDash4{mnuFile, u"mnuDash4", u"-"};
+    MenuItem mnuCloseDB{mnuFile, u"mnuCloseDB", u"Close DataBase"};
+    MenuItem mnuExit{mnuFile, u"mnuExit", u"E&xit"};
+
+    MenuItem mnuEdit{Menus, u"mnuEdit", u"&Edit"};
+    MenuItem mnuCopy{mnuEdit, u"mnuCopy", u"&Copy"};
+    MenuItem mnuPaste{mnuEdit, u"mnuPaste", u"&Paste"};
+    MenuItem mnuDash5{mnuEdit, u"mnuDash5", u"-"};
+    MenuItem mnuDataBase{mnuEdit, u"mnuDataBase", u"&Database"};
+    MenuItem mnuViewRecs{mnuDataBase, u"mnuViewRecs", u"View Records"};
+    MenuItem mnuComp{mnuDataBase, u"mnuComp", u"Compare Records"};
+    MenuItem mnuDash6{mnuEdit, u"mnuDash6", u"-"};
+    MenuItem mnuDel{mnuEdit, u"mnuDel", u"Delete"};
+    MenuItem mnuDelSub{mnuDel, u"mnuDelSub", u"Delete Dbase and Galleries"};
+
+    MenuItem mnuTreeGraphics{Menus, u"mnuTreeGraphics", u"Tree Graphics"};
+    MenuItem mnuTreeTools{mnuTreeGraphics, u"mnuTreeTools", u"&TreeTools"};
+    MenuItem mnuMapSubject{mnuTreeGraphics, u"mnuMapSubject", u"&Map Subject"};
+    MenuItem mnuRemap{mnuTreeGraphics, u"mnuRemap", u"ReMapSubject"};
+
+    MenuItem mnuHelp{Menus, u"mnuHelp", u"&Help"};
+    MenuItem mnuConts{mnuHelp, u"mnuConts", u"Contents"};
+    MenuItem MnuAbout{mnuHelp, u"MnuAbout", u"About"};
+
+    PictureBox Picture1{*this, u"Picture1", {0, 0, 8415, 12750}};
+    Shape Shape1{Picture1, u"Shape1", {0, 0, 135, 255}};
+    ScrollBar VScroll1{*this, u"VScroll1", {8400, 0, 255, 7455}, 8000, 100, 1500};
+
+    Button Command5{*this, u"Command5", {8760, 120, 975, 375}, u"Compare"};
+    Button Command1{*this, u"Command1", {9840, 120, 975, 375}, u"Records"};
+    Button Command2{*this, u"Command2", {10920, 120, 855, 375}, u"Gallery"};
+
+    Frame Frame1{*this, u"Frame1", {8760, 720, 3015, 2775}, u"Ref  "};
+    Image Image1{Frame1, u"Image1", {120, 240, 2775, 2415}};
+
+    Label Label9{*this, u"Label9", {8760, 3570, 3015, 285}};
+    Label Label10{*this, u"Label10", {8760, 3855, 3015, 285}};
+    Label Label2{*this, u"Label2", {8760, 4200, 1125, 255}, u"Birthdate"};
+    Label Label11{*this, u"Label11", {9930, 4200, 1845, 255}};
+    Label Label3{*this, u"Label3", {8760, 4470, 1125, 255}, u"Deceased"};
+    Label Label12{*this, u"Label12", {9930, 4470, 1845, 255}};
+    Label Label4{*this, u"Label4", {8760, 4740, 1125, 255}, u"Spouse"};
+    Label Label14{*this, u"Label14", {9930, 4740, 1845, 255}};
+    Label Label13{*this, u"Label13", {8760, 5010, 1125, 255}, u"Maiden Name"};
+    Label Label15{*this, u"Label15", {9930, 5010, 1845, 255}};
+    Label Label16{*this, u"Label16", {8760, 5280, 1125, 255}, u"Gender"};
+    Label Label17{*this, u"Label17", {9930, 5280, 1845, 255}};
+
+    Frame Frame2{*this, u"Frame2", {8760, 5610, 3015, 930}, u"Tree Co-ordinates"};
+    Label Label6{Frame2, u"Label6", {120, 255, 1125, 240}, u"Reference"};
+    TextBox Text8{Frame2, u"Text8", {120, 510, 1125, 315}};
+    Label Label7{Frame2, u"Label7", {1350, 255, 720, 240}, u"Mouse 'X'"};
+    TextBox Text9{Frame2, u"Text9", {1350, 510, 720, 315}};
+    Label Label8{Frame2, u"Label8", {2175, 255, 720, 240}, u"Mouse 'Y'"};
+    TextBox Text10{Frame2, u"Text10", {2175, 510, 720, 315}};
+
+    Frame Frame3{*this, u"Frame3", {8760, 6600, 3015, 735}, u"Heredity Lineage Indicater"};
+    Label Label18{Frame3, u"Label18", {120, 330, 765, 240}, u"Surname :"};
+    TextBox Text1{Frame3, u"Text1", {885, 300, 930, 315}};
+    Button Command3{Frame3, u"Command3", {1860, 300, 525, 315}, u"View"};
+    Button Command4{Frame3, u"Command4", {2400, 300, 525, 315}, u"Clear"};
+
+    Frame Frame4{*this, u"Frame4", {8760, 7395, 3015, 600}};
+
+    MultimediaControl MMControl1{*this, u"MMControl1"};
+};
+
+} // namespace lineforge::forms

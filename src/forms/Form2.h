@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/Form.h"
+
+namespace lineforge::forms
+{
+
+// A picture on its own.
+struct Form2 : Form {
+    Form2() : Form(u"Form2", {}, {7500, 6000}) {}
+};
+
+} // namespace lineforge::forms

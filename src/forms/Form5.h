@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/Form.h"
+
+namespace lineforge::forms
+{
+
+// The gallery of a record.
+struct Form5 : Form {
+    Form5() : Form(u"Form5", {}, {11880, 8190}) {}
+
+    MultimediaControl MMControl1{*this, u"MMControl1"};
+    MultimediaControl MMControl2{*this, u"MMControl2"};
+};
+
+} // namespace lineforge::forms

@@ -1,0 +1,230 @@
+#include "map/BoxCaptions.h"
+
+#include "map/CurrentBox.h"
+#include "map/MapItems.h"
+#include "platform/Text.h"
+#include "program/BranchPaths.h"
+#include "program/WorkDatabase.h"
+
+#include <QHash>
+#include <QScopeGuard>
+
+#include <map>
+#include <memory>
+#include <utility>
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr Point numberInBox{100, 0}; // from the box's corner
+constexpr Point forenameInBox{50, 100};
+
+bool OnPaper(const Program& p)
+{
+    return p.Output.PrintToPrinter == 1;
+}
+
+bool IsPlacingSubject(const Program& p)
+{
+    return p.Tools.MapCursorMode >= 1 && p.Tools.MapCursorMode <= 3;
+}
+
+Point InBox(const Program& p, Point offset)
+{
+    return {p.Mouse.BoxX + offset.X, p.Mouse.BoxY + offset.Y};
+}
+
+// On paper the lines of a caption lie `below` the stretched top of the box.
+Point CaptionPlace(const Program& p, Point offset, int below)
+{
+    return OnPaper(p) ? OnMapSurface(p, InBox(p, {offset.X, 0}), below) : InBox(p, offset);
+}
+
+Surface& CaptionSurface(Program& p)
+{
+    Surface& surface = MapSurface(p);
+    if (!OnPaper(p))
+        ResetMapFont(surface);
+    surface.ForeColor = Black;
+    return surface;
+}
+
+QString FiledNumber(const Program& p, int row)
+{
+    return p.Map.BoxArr[row][BoxColumn::File].Text();
+}
+
+// The cursors on sibling branches of one pass over the boxes, so that each database is opened once.
+class Siblings
+{
+public:
+    explicit Siblings(Program& p) : p_(p) {}
+
+    // The cursor on the branch in `WorkDir`, standing on that record; null when there is no such record, or no
+    // database that can be opened.
+    Recordset* Find(const QString& file)
+    {
+        try {
+            std::unique_ptr<Recordset>& records = open_[p_.Branch.sDbaseName];
+            if (!records)
+                records = std::make_unique<Recordset>(p_.Databases.Open(p_.Files, p_.Branch.sDbaseName), u"Tree99"_s);
+            return records->Seek(u"File", file) ? records.get() : nullptr;
+        } catch (const RuntimeError&) {
+            // A neighbour that is gone or spoilt costs its forename, not the drawing of this map.
+            return nullptr;
+        }
+    }
+
+private:
+    Program& p_;
+    std::map<QString, std::unique_ptr<Recordset>> open_;
+};
+
+// A record of another branch: the program points there for the time of the drawing.
+void DrawForeignCaption(Program& p, Siblings& siblings, int row)
+{
+    const QString file = FiledNumber(p, row);
+    p.Branch.WorkDirSaved = p.Branch.WorkDir;
+    p.Branch.HomeDirSaved = p.Branch.HomeDir;
+    const auto pointBack = qScopeGuard([&p, ownDatabase = p.Branch.sDbaseName] {
+        p.Branch.WorkDir = p.Branch.WorkDirSaved;
+        p.Branch.HomeDir = p.Branch.HomeDirSaved;
+        p.Branch.sDbaseName = ownDatabase;
+        // Not what it was before: a pass over foreign boxes always ends on the own branch.
+        p.Branch.UsingAlternate = 0;
+    });
+    p.Branch.WorkDir = SiblingDirectory(p.Branch.WorkDir, file.first(1));
+    p.Branch.sDbaseName = DatabasePath(p.Branch.WorkDir);
+    p.Branch.UsingAlternate = 1;
+
+    TakeBoxPosition(p, row);
+    if (const Recordset* record = siblings.Find(file))
+        DrawRecordInBox(p, *record);
+    else
+        DrawBoxNumber(p);
+}
+
+// The boxes by the records that they hold.
+QMultiHash<QString, int> BoxesByRecord(const MapState& map)
+{
+    QMultiHash<QString, int> boxes;
+    for (int row = LastFiledBox; row >= 0; --row)
+        if (const QString file = map.BoxArr[row][BoxColumn::File].Text(); !file.isEmpty())
+            boxes.insert(file.toCaseFolded(), row);
+    return boxes;
+}
+} // namespace
+
+QString FittedForename(const QString& forename)
+{
+    constexpr qsizetype room = 8;
+    if (forename.size() < room)
+        return forename;
+    const qsizetype blank = forename.indexOf(u' ');
+    const QString first = blank < 0 ? forename : forename.first(blank);
+    return first.size() < room ? first : first.first(5) + u'\'' + first.back();
+}
+
+void FitForename(Program& p, const Recordset& row)
+{
+    p.Record.sForeName = FittedForename(row.Text(u"Forename"));
+}
+
+void FitForename(Program& p)
+{
+    FitForename(p, Records(p));
+}
+
+void DrawRecordInBox(Program& p, const Recordset& row)
+{
+    if (row.Eof())
+        return;
+    FitForename(p, row);
+    if (IsPlacingSubject(p))
+        FindBoxOfRecord(p);
+    Surface& surface = CaptionSurface(p);
+    surface.PrintAt(CaptionPlace(p, numberInBox, 10), row.Text(u"File"));
+    surface.PrintAt(CaptionPlace(p, forenameInBox, 130), p.Record.sForeName);
+    if (OnPaper(p))
+        surface.PrintAt(CaptionPlace(p, forenameInBox, 260), u"B :"_s + row.Text(u"BirthDate").right(4));
+}
+
+void DrawRecordInBox(Program& p)
+{
+    DrawRecordInBox(p, Records(p));
+}
+
+void DrawBoxNumber(Program& p)
+{
+    if (IsPlacingSubject(p))
+        FindBoxOfRecord(p);
+    CaptionSurface(p).PrintAt(CaptionPlace(p, numberInBox, 40), FiledNumber(p, p.Scratch.IdxA));
+}
+
+void DrawBoxCaptions(Program& p)
+{
+    Siblings siblings(p);
+    for (int row = 0; row <= LastFiledBox; ++row) {
+        p.Scratch.IdxA = row;
+        const QString letter = FiledNumber(p, row).left(1);
+        if (letter.isEmpty() || letter == u"0")
+            continue;
+        const bool isOwn = SameText(letter, BranchLetter(p.Branch.WorkDir));
+        // The neighbours of an imported branch can't be reached.
+        if (isOwn || IsImported(p.Branch.WorkDir)) {
+            TakeBoxPosition(p, row);
+            DrawBoxNumber(p);
+        } else {
+            DrawForeignCaption(p, siblings, row);
+        }
+    }
+}
+
+void DrawRecordsInBoxes(Program& p)
+{
+    Recordset& records = Records(p);
+    if (records.IsEmpty())
+        return;
+    const QMultiHash<QString, int> boxes = BoxesByRecord(p.Map);
+    for (records.MoveFirst(); !records.Eof(); records.MoveNext()) {
+        const QString file = records.Text(u"File");
+        const auto [first, last] = boxes.equal_range(file.toCaseFolded());
+        for (auto box = first; box != last; ++box) {
+            if (!SameText(FiledNumber(p, *box), file))
+                continue;
+            TakeBoxPosition(p, *box);
+            DrawRecordInBox(p);
+        }
+    }
+}
+
+void EraseBoxCaption(Program& p)
+{
+    const bool isAlternate = p.Branch.UsingAlternate == 1;
+    if (!isAlternate) {
+        FindBoxOfRecord(p);
+        // Stops at the last box too, which therefore can't be erased this way; so it is meant to be.
+        if (p.Scratch.IdxA == LastFiledBox)
+            return;
+        FitForename(p);
+    } else {
+        p.Scratch.IdxA = p.Mouse.BoxIdx;
+        TakeBoxPosition(p, p.Mouse.BoxIdx);
+        p.Record.sForeName = FittedForename(p.Record.sAltName);
+    }
+    const QString number = isAlternate ? FiledNumber(p, p.Scratch.IdxA) : Records(p).Text(u"File");
+    p.Map.BoxArr[p.Scratch.IdxA][BoxColumn::File] = 0;
+
+    PictureBox& picture = p.Form1->Picture1;
+    ResetMapFont(picture);
+    picture.ForeColor = picture.BackColor;
+    picture.PrintAt(InBox(p, numberInBox), number);
+    picture.PrintAt(InBox(p, forenameInBox), p.Record.sForeName);
+    picture.ForeColor = Black;
+}
+
+} // namespace lineforge

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/Recordset.h"
+#include "program/Program.h"
+
+namespace lineforge
+{
+
+// The number and the forename that stand in a box, always in black.
+
+// A forename as a box has room for it: fewer than 8 characters stay whole, blanks and all; a longer one is cut before
+// its first blank; what still has 8 or more becomes its first five, an apostrophe and its last.
+QString FittedForename(const QString& forename);
+
+// `sForeName` from the current row; Null gives empty text.
+void FitForename(Program& p, const Recordset& row);
+void FitForename(Program& p);
+
+// Prints number and forename of that cursor's row in the box at `BoxX`, `BoxY`; nothing at `Eof`. While a subject is
+// being mapped or moved the box is looked for first. On paper the year of birth follows.
+void DrawRecordInBox(Program& p, const Recordset& row);
+void DrawRecordInBox(Program& p);
+
+// Prints the number that row `IdxA` of the boxes holds, at `BoxX`, `BoxY`.
+void DrawBoxNumber(Program& p);
+
+// Prints the number in each box that has one, and the forename too where the record is another branch's.
+void DrawBoxCaptions(Program& p);
+
+// Walks the open branch's table once and prints each record in every box that holds it; ends at `Eof`.
+void DrawRecordsInBoxes(Program& p);
+
+// Overprints the caption of the current record's box in the background colour and empties the box. While a record of
+// another branch is shown the box is the one that the mouse hit, and the forename is `sAltName`.
+void EraseBoxCaption(Program& p);
+
+} // namespace lineforge

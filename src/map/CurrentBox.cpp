@@ -1,0 +1,64 @@
+#include "map/CurrentBox.h"
+
+#include "platform/Text.h"
+#include "program/WorkDatabase.h"
+
+namespace lineforge
+{
+
+namespace
+{
+constexpr int markerOffset = 60; // from the middle of the box, left and up
+
+Colour MarkerColour(const QString& gender)
+{
+    if (SameText(gender.left(1), u"F"))
+        return QbColor(12);
+    if (SameText(gender.left(1), u"M"))
+        return QbColor(9);
+    return QbColor(13);
+}
+
+// The first filed row whose box holds that record, or the row behind the last.
+int RowOfRecord(const MapState& map, const FieldValue& file)
+{
+    int row = 0;
+    while (row <= LastFiledBox && !(file && SameText(map.BoxArr[row][BoxColumn::File].Text(), *file)))
+        ++row;
+    return row;
+}
+} // namespace
+
+void TakeBoxPosition(Program& p, int row)
+{
+    p.Mouse.BoxX = p.Map.BoxArr[row][BoxColumn::X].Number();
+    p.Mouse.BoxY = p.Map.BoxArr[row][BoxColumn::Y].Number();
+}
+
+void FindBoxOfRecord(Program& p)
+{
+    if (p.Branch.UsingAlternate == 1)
+        return;
+    p.Scratch.IdxA = RowOfRecord(p.Map, Records(p).Value(u"File"));
+    if (p.Scratch.IdxA <= LastFiledBox)
+        TakeBoxPosition(p, p.Scratch.IdxA);
+}
+
+void MarkCurrentBox(Program& p)
+{
+    forms::Form1& form = *p.Form1;
+    form.Shape1.Visible = false;
+    p.Gallery.FirstShow = 1;
+
+    const int row = RowOfRecord(p.Map, Records(p).Value(u"File"));
+    if (row > LastFiledBox)
+        return;
+    TakeBoxPosition(p, row);
+    p.Mouse.BoxX += BoxCentreX - markerOffset;
+    p.Mouse.BoxY += BoxCentreY - markerOffset;
+    form.Shape1.Move({p.Mouse.BoxX, p.Mouse.BoxY});
+    form.Shape1.BorderColor = MarkerColour(Records(p).Text(u"Gender"));
+    form.Shape1.Visible = true;
+}
+
+} // namespace lineforge

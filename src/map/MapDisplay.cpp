@@ -1,0 +1,50 @@
+#include "map/MapDisplay.h"
+
+#include "map/BoxCaptions.h"
+#include "map/MapItems.h"
+#include "platform/Text.h"
+#include "program/WorkDatabase.h"
+
+namespace lineforge
+{
+
+void RedrawMap(Program& p)
+{
+    PictureBox& picture = p.Form1->Picture1;
+    for (int row = 0; row <= p.Map.SBoxes; ++row)
+        DrawBox(p, row);
+
+    const Colour pen = picture.ForeColor;
+    const TextFont font = picture.Font;
+    for (int row = 0; row <= p.Map.STexts; ++row) {
+        DrawText(p, row);
+        picture.ForeColor = pen;
+        picture.Font = font;
+        if (!SameText(picture.Font.Name, u"Arial"))
+            ResetMapFont(picture);
+    }
+    for (int row = 0; row <= p.Map.SLines; ++row)
+        DrawLine(p, row);
+
+    if (Records(p).IsEmpty())
+        return;
+    DrawRecordsInBoxes(p);
+    DrawBoxCaptions(p);
+    Records(p).SetBookmark(p.Record.SavedBookmark);
+}
+
+void ShowCoordinates(Program& p, double x, double y)
+{
+    p.Mouse.BoxX = static_cast<int>(x);
+    p.Mouse.BoxY = static_cast<int>(y);
+    p.Mouse.BoxLeft = p.Mouse.BoxX - BoxCentreX;
+    p.Mouse.BoxTop = p.Mouse.BoxY - BoxCentreY;
+    p.Mouse.sCoords = QString::number(p.Mouse.BoxLeft) + u',' + QString::number(p.Mouse.BoxTop);
+
+    forms::Form1& form = *p.Form1;
+    form.Text9.Text = QString::number(p.Mouse.BoxX);
+    form.Text10.Text = QString::number(p.Mouse.BoxY);
+    form.Text8.Text = p.Mouse.sCoords;
+}
+
+} // namespace lineforge

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "program/Program.h"
+
+namespace lineforge
+{
+
+// Repaints boxes, texts and lines from the arrays up to their counts, then all captions. The current record goes back
+// to `SavedBookmark`.
+void RedrawMap(Program& p);
+
+// Shows a point of the picture beside the map, and the corner that a box centred on it would have; both are kept for
+// the mapping of a new box.
+void ShowCoordinates(Program& p, double x, double y);
+
+} // namespace lineforge

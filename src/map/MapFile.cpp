@@ -1,0 +1,166 @@
+#include "map/MapFile.h"
+
+#include "platform/TextFile.h"
+#include "program/AlternateBranch.h"
+#include "program/BranchPaths.h"
+
+#include <QScopeGuard>
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr int fileNameLength = 12; // of "LfgDat_A.cfg"
+
+void Append(QString& list, QChar character)
+{
+    if (character != u'\r' && character != u'\n')
+        list += character;
+}
+
+// Appends to the list itself, so that what a cut-off file still holds is there when its end is met as an error.
+void ReadUpToBracket(TextReader& reader, QString& list)
+{
+    list.clear();
+    for (QChar character = reader.Next(); character != u'['; character = reader.Next())
+        Append(list, character);
+}
+
+// A "[" can stand in the last list, for nothing follows it.
+void ReadToEnd(TextReader& reader, QString& list)
+{
+    list.clear();
+    while (!reader.AtEnd())
+        Append(list, reader.Next());
+}
+
+// The "[" that ended the list before is the first letter of the name, and has been read.
+bool NextSectionIs(TextReader& reader, QStringView rest)
+{
+    for (const QChar expected : rest)
+        if (reader.AtEnd() || reader.Next().toLower() != expected.toLower())
+            return false;
+    return true;
+}
+
+// After a name that isn't the expected one the search goes on for the first section, in what is left of the file.
+void ReadLists(TextReader& reader, MapState& map)
+{
+    while (reader.SkipPast(u"[Boxes]")) {
+        ReadUpToBracket(reader, map.sBoxesText);
+        if (!NextSectionIs(reader, u"Lines]"))
+            continue;
+        ReadUpToBracket(reader, map.sLinesText);
+        if (!NextSectionIs(reader, u"Text]"))
+            continue;
+        ReadToEnd(reader, map.sTextsText);
+        return;
+    }
+}
+
+void WarnOfFirstEmptyList(Program& p)
+{
+    const struct {
+        const QString& List;
+        QStringView Kind;
+    } lists[] = {{p.Map.sBoxesText, u"Box"}, {p.Map.sLinesText, u"Line"}, {p.Map.sTextsText, u"Text"}};
+    for (const auto& [list, kind] : lists) {
+        if (list.isEmpty()) {
+            p.Prompts.MsgBox(u"Box Config File record corrupt"_s, u"Config "_s + kind + u" Record empty",
+                             Buttons::Information);
+            return;
+        }
+    }
+}
+
+// A map goes to no branch but its own. With none open there is no branch to be spoilt.
+bool BelongsToOpenBranch(const Program& p)
+{
+    return p.Branch.WorkDir.isEmpty() || p.Map.Owner == p.Branch.WorkDir;
+}
+
+void WriteLists(Program& p)
+{
+    const QString file = MapFileToWrite(p.Branch.WorkDir, p.Branch.HomeDir, u".cfg");
+    if (p.Files.LookUpGivesTail(file, fileNameLength))
+        p.Files.FileCopy(file, MapFileToWrite(p.Branch.WorkDir, p.Branch.HomeDir, u".~cf"));
+    WriteTextLines(p.Files, file,
+                   {u"This File Contains Graphic Data crucial to your program. Warning: DO NOT MODIFY."_s,
+                    u'[' + DirectoryName(p.Branch.WorkDir) + u']', u"[Boxes]"_s, p.Map.sBoxesText, u"[Lines]"_s,
+                    p.Map.sLinesText, u"[Text]"_s, p.Map.sTextsText});
+}
+} // namespace
+
+void ReadMapFile(Program& p)
+{
+    const QString file = MapFileToRead(p.Branch.WorkDir);
+    p.Map.Owner = p.Branch.WorkDir;
+    if (!p.Files.LookUpGivesTail(file, fileNameLength)) {
+        p.Prompts.MsgBox(u"Graphic Config File not Found."_s,
+                         u"You need to create a new Ancestral Map for this Database."_s, Buttons::Information);
+        return;
+    }
+    TextReader reader(p.Files, file);
+    ReadLists(reader, p.Map);
+    WarnOfFirstEmptyList(p);
+}
+
+void WriteMapFile(Program& p)
+{
+    const bool isAlternate = p.Branch.UsingAlternate == 1;
+    if (isAlternate)
+        SwapBranchDirs(p);
+    const auto swapBack = qScopeGuard([&] {
+        if (isAlternate)
+            SwapBranchDirs(p);
+    });
+    if (BelongsToOpenBranch(p))
+        WriteLists(p);
+}
+
+void SaveBoxes(Program& p)
+{
+    p.Map.sBoxesText = ListOfBoxes(p.Map);
+    WriteMapFile(p);
+}
+
+QString ListOfBoxes(const MapState& map)
+{
+    QString list;
+    for (int row = 0; row <= LastFiledBox; ++row) {
+        if (map.BoxArr[row][BoxColumn::X].IsZero())
+            continue;
+        for (int column = 0; column < BoxColumn::Count; ++column)
+            list += map.BoxArr[row][column].Text() + u',';
+    }
+    return list;
+}
+
+QString ListOfLines(const MapState& map)
+{
+    QString list;
+    for (int row = 0; row <= LastFiledLine; ++row) {
+        if (map.LineArr[row][LineColumn::X1] == 0)
+            continue;
+        for (int column = 0; column < LineColumn::Count; ++column)
+            list += QString::number(map.LineArr[row][column]) + u',';
+    }
+    return list;
+}
+
+QString ListOfTexts(const MapState& map)
+{
+    QString list;
+    for (int row = 0; row <= map.STexts; ++row) {
+        if (map.TextArr[row][TextColumn::X].IsZero())
+            continue;
+        for (int column = 0; column < TextColumn::Count; ++column)
+            list += map.TextArr[row][column].Text() + u',';
+    }
+    return list;
+}
+
+} // namespace lineforge

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "program/Program.h"
+
+namespace lineforge
+{
+
+// The map file: eight lines, the last of each pair a list of values with a comma after every one.
+
+// Fills the three lists of the branch in `WorkDir`, and says which of them came out empty. A file that isn't there
+// leaves the lists as they were. Error 62 when it ends inside the boxes or the lines.
+void ReadMapFile(Program& p);
+
+// Writes the three lists, the old file becoming the previous generation. The file goes to the branch whose map is in
+// memory, also while a record of another branch is shown; lists of no branch, or of another one, are not written.
+// Errors of the disk; the old file then stays.
+void WriteMapFile(Program& p);
+
+// Rebuilds the list of boxes from rows 0 to 99 and writes the file. The lists of lines and texts go out as they were
+// last read or saved.
+void SaveBoxes(Program& p);
+
+// The three lists from the arrays, free rows left out. Error 13 for a position that is no number.
+QString ListOfBoxes(const MapState& map);
+QString ListOfLines(const MapState& map); // rows 0 to 199
+QString ListOfTexts(const MapState& map); // rows 0 to `STexts`
+
+} // namespace lineforge

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/Surface.h"
+#include "program/Program.h"
+
+namespace lineforge
+{
+
+// What the map is drawn on: the picture, or the printer's page while a branch is printed.
+Surface& MapSurface(Program& p);
+
+// The position of a box or text of the picture on that surface: on paper 1200 twips to the right, and 1.8 times as far
+// down, `below` twips lower.
+Point OnMapSurface(const Program& p, Point place, int below = 0);
+
+// One item of the arrays, in its own colour and font. A free row is not drawn. A text leaves its colour in the pen, the
+// others leave the pen as it was. Error 13 for a value that is no number.
+void DrawBox(Program& p, int row);
+void DrawLine(Program& p, int row);
+void DrawText(Program& p, int row);
+
+// The drawing font between operations: Arial, 8 points, not bold.
+void ResetMapFont(Surface& surface);
+
+} // namespace lineforge

@@ -1,0 +1,94 @@
+#include "map/MapParse.h"
+
+#include "map/BoxCaptions.h"
+#include "map/MapItems.h"
+#include "platform/Number.h"
+#include "program/WorkDatabase.h"
+
+namespace lineforge
+{
+
+namespace
+{
+constexpr qsizetype shortestList = 9; // characters; what is shorter counts as empty, without a word
+
+// Calls store(row, column, value) for each value that a comma ends, `columns` values to a row; returns how many rows
+// were filled.
+template <class Store>
+int ForEachValue(const QString& list, int columns, Store&& store)
+{
+    int row = 0;
+    int column = 0;
+    qsizetype start = 0;
+    for (qsizetype comma = list.indexOf(u','); comma >= 0; comma = list.indexOf(u',', start)) {
+        store(row, column, list.mid(start, comma - start));
+        start = comma + 1;
+        if (++column == columns) {
+            column = 0;
+            ++row;
+        }
+    }
+    return row;
+}
+
+// The highest row that `rows` filled rows can have reached in an array.
+int HighestRow(int rows)
+{
+    return std::min(rows - 1, LastMapRow);
+}
+
+void DrawAllCaptions(Program& p)
+{
+    p.Errors.Ignoring([&] { p.Record.SavedBookmark = Records(p).GetBookmark(); });
+    p.Errors.Ignoring([&] { DrawBoxCaptions(p); });
+    p.Errors.Ignoring([&] { DrawRecordsInBoxes(p); });
+    p.Errors.Ignoring([&] { Records(p).SetBookmark(p.Record.SavedBookmark); });
+}
+} // namespace
+
+void ParseBoxes(Program& p)
+{
+    if (p.Map.sBoxesText.size() < shortestList)
+        return;
+    const int rows = ForEachValue(p.Map.sBoxesText, BoxColumn::Count, [&](int row, int column, const QString& value) {
+        if (row > LastMapRow)
+            return;
+        p.Map.BoxArr[row][column] = value;
+        // The outline needs no more than the columns before the record's.
+        if (column == BoxColumn::File)
+            p.Errors.Ignoring([&] { DrawBox(p, row); });
+    });
+    p.Map.SBoxes = HighestRow(rows);
+    DrawAllCaptions(p);
+}
+
+void ParseLines(Program& p)
+{
+    if (p.Map.sLinesText.size() < shortestList)
+        return;
+    MapSurface(p).ForeColor = Black;
+    const int rows = ForEachValue(p.Map.sLinesText, LineColumn::Count, [&](int row, int column, const QString& value) {
+        p.Map.LineArr[row][column] = ToLong(value);
+        if (column == LineColumn::Colour)
+            DrawLine(p, row);
+    });
+    p.Map.SLines = rows - 1;
+}
+
+void ParseTexts(Program& p)
+{
+    p.Map.STexts = -1;
+    if (p.Map.sTextsText.size() < shortestList)
+        return;
+    const int rows = ForEachValue(p.Map.sTextsText, TextColumn::Count, [&](int row, int column, const QString& value) {
+        if (row > LastMapRow)
+            return;
+        p.Map.TextArr[row][column] = value;
+        if (column == TextColumn::Colour)
+            p.Errors.Ignoring([&] { DrawText(p, row); });
+    });
+    p.Map.STexts = HighestRow(rows);
+    ResetMapFont(p.Form1->Picture1);
+}
+
+} // namespace lineforge

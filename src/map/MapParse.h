@@ -1,0 +1,17 @@
+#pragma once
+
+#include "program/Program.h"
+
+namespace lineforge
+{
+
+// Split the three lists into the arrays and draw each item as it comes. A list shorter than 9 characters counts as
+// empty. Rows beyond the arrays are passed over in boxes and texts, with whatever else fails there; in lines they are
+// error 9, and a value that is no number error 13.
+
+// Then draws the captions of all boxes; the current record stays.
+void ParseBoxes(Program& p);
+void ParseLines(Program& p);
+void ParseTexts(Program& p);
+
+} // namespace lineforge

@@ -1,0 +1,59 @@
+#include "map/SubjectPanel.h"
+
+#include "platform/Picture.h"
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+struct PanelField {
+    Label forms::Form1::*Shown;
+    TextBox forms::Form3::*Box;
+    QStringView Field;
+};
+
+constexpr PanelField panelFields[] = {
+    {&forms::Form1::Label9, &forms::Form3::Text3, u"Forename"},
+    {&forms::Form1::Label10, &forms::Form3::Text2, u"Surname"},
+    {&forms::Form1::Label11, &forms::Form3::Text4, u"BirthDate"},
+    {&forms::Form1::Label12, &forms::Form3::Text10, u"Deceased"},
+    {&forms::Form1::Label14, &forms::Form3::Text6, u"Spouse"},
+    {&forms::Form1::Label15, &forms::Form3::Text16, u"Maiden"},
+    {&forms::Form1::Label17, &forms::Form3::Text23, u"Gender"},
+};
+} // namespace
+
+void BindSubjectLabels(Program& p, forms::Form3& record)
+{
+    for (const PanelField& field : panelFields)
+        record.Data1.Bind((*p.Form1).*field.Shown, field.Field.toString());
+}
+
+void FillSubjectLabels(Program& p)
+{
+    for (const PanelField& field : panelFields)
+        ((*p.Form1).*field.Shown).Caption = ((*p.Form3).*field.Box).Text.value();
+    p.Form1->Frame1.Caption = u"Ref  "_s + p.Form3->Label25.Caption.value();
+}
+
+void EmptySubjectLabels(Program& p, std::initializer_list<Label forms::Form1::*> labels, const QString& frame)
+{
+    for (Label forms::Form1::*label : labels)
+        ((*p.Form1).*label).Caption = QString();
+    p.Form1->Frame1.Caption = frame;
+}
+
+void LoadSubjectPicture(Program& p, Image& target)
+{
+    target.Picture = LoadPicture(p.Files, p.Branch.WorkDir + PathSeparator + p.Record.sPicFile);
+}
+
+void TellPictureMissing(Program& p)
+{
+    p.Prompts.MsgBox(u"Image not Present"_s, u"Searched Image File for "_s + p.Record.sPicFile, Buttons::Information);
+}
+
+} // namespace lineforge

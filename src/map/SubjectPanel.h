@@ -1,0 +1,28 @@
+#pragma once
+
+#include "program/Program.h"
+
+#include <initializer_list>
+
+namespace lineforge
+{
+
+// The panel beside the map: the current record's picture and seven of its fields.
+
+// Ties the labels to the record form's data control, so that they follow its current row.
+void BindSubjectLabels(Program& p, forms::Form3& record);
+
+// Copies the record form's boxes into the labels, and the record's number into the frame's caption.
+void FillSubjectLabels(Program& p);
+
+// Empties those labels; which ones, and what the frame then says, differs from command to command.
+void EmptySubjectLabels(Program& p, std::initializer_list<Label forms::Form1::*> labels, const QString& frame);
+
+// The subject picture of the record in `sPicFile`. Error 53 or 481 when it can't be loaded; the panel then keeps what
+// it shows.
+void LoadSubjectPicture(Program& p, Image& target);
+
+// Tells that the picture of `sPicFile` isn't there.
+void TellPictureMissing(Program& p);
+
+} // namespace lineforge

@@ -1,0 +1,68 @@
+#include "platform/Controls.h"
+
+namespace lineforge
+{
+
+Control::Control(Container& parent, QStringView name, Rectangle place)
+    : Name(name.toString()), Left(place.Left), Top(place.Top), Width(place.Width), Height(place.Height)
+{
+    parent.controls_.push_back(this);
+}
+
+Label::Label(Container& parent, QStringView name, Rectangle place, QStringView caption)
+    : ControlKind(parent, name, place)
+{
+    Caption.Show(caption.toString());
+}
+
+TextBox::TextBox(Container& parent, QStringView name, Rectangle place, int maxLength)
+    : ControlKind(parent, name, place), MaxLength(maxLength)
+{
+}
+
+Button::Button(Container& parent, QStringView name, Rectangle place, QStringView caption)
+    : ControlKind(parent, name, place), Caption(caption.toString())
+{
+}
+
+CheckBox::CheckBox(Container& parent, QStringView name, Rectangle place, QStringView caption)
+    : ControlKind(parent, name, place), Caption(caption.toString())
+{
+}
+
+Frame::Frame(Container& parent, QStringView name, Rectangle place, QStringView caption)
+    : ControlKind(parent, name, place), Caption(caption.toString())
+{
+}
+
+QString ListBox::Text() const
+{
+    return Items.value().value(ListIndex.value());
+}
+
+void ListBox::SetText(const QString& text)
+{
+    ListIndex = static_cast<int>(Items.value().indexOf(text));
+}
+
+Shape::Shape(Container& parent, QStringView name, Rectangle place) : ControlKind(parent, name, place)
+{
+    Visible = false;
+}
+
+ScrollBar::ScrollBar(Container& parent, QStringView name, Rectangle place, int max, int smallChange, int largeChange)
+    : ControlKind(parent, name, place), Max(max), SmallChange(smallChange), LargeChange(largeChange)
+{
+}
+
+MultimediaControl::MultimediaControl(Container& parent, QStringView name) : ControlKind(parent, name, {}) {}
+
+MenuItem::MenuItem(std::vector<MenuItem*>& level, QStringView name, QStringView caption)
+    : Name(name.toString()), Caption(caption.toString())
+{
+    level.push_back(this);
+}
+
+MenuItem::MenuItem(MenuItem& parent, QStringView name, QStringView caption) : MenuItem(parent.Items, name, caption) {}
+
+} // namespace lineforge

@@ -1,0 +1,238 @@
+#pragma once
+
+#include "platform/ControlVisitor.h"
+#include "platform/Geometry.h"
+#include "platform/Surface.h"
+
+#include <QImage>
+#include <QProperty>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <vector>
+
+// The controls of a window as data: their state in observable properties, their events as functions that the window's
+// handlers fill in. Nothing here knows how a control looks; whoever shows a window walks its controls once and keeps
+// both sides in step.
+namespace lineforge
+{
+
+class Container;
+using Event = std::function<void()>;
+
+inline void Fire(const Event& event)
+{
+    if (event)
+        event();
+}
+
+class ControlText;
+
+// Where the text of a control comes from when it shows a field of the current record.
+class TextSource
+{
+public:
+    virtual ~TextSource() = default;
+    // Brings the texts that it feeds up to date.
+    virtual void Settle() = 0;
+    // A user or the program has put another text in a control that it feeds.
+    virtual void Edited(const ControlText& text) = 0;
+    // The control that a text belongs to goes.
+    virtual void Forget(const ControlText& text) = 0;
+};
+
+// The text of a label or a box. Fed by a source it is brought up to date whenever it is read or set.
+class ControlText
+{
+public:
+    ControlText() = default;
+    ControlText(const ControlText&) = delete;
+    ~ControlText()
+    {
+        if (source_)
+            source_->Forget(*this);
+    }
+
+    QString value() const
+    {
+        if (source_)
+            source_->Settle();
+        return text_.value();
+    }
+    operator QString() const { return value(); }
+
+    ControlText& operator=(const QString& text)
+    {
+        if (source_)
+            source_->Settle();
+        text_ = text;
+        if (source_)
+            source_->Edited(*this);
+        return *this;
+    }
+
+    template <class Observer>
+    auto OnChange(Observer&& observer)
+    {
+        return text_.addNotifier(std::forward<Observer>(observer));
+    }
+
+    // For the source alone: ties the text to it, and shows what it holds without calling that an edit.
+    void Attach(TextSource* source) { source_ = source; }
+    void Show(const QString& text) { text_ = text; }
+    // The text as it stands, up to date or not.
+    const QString& Shown() const { return text_.value(); }
+
+private:
+    QProperty<QString> text_;
+    TextSource* source_ = nullptr;
+};
+
+struct Control {
+    Control(Container& parent, QStringView name, Rectangle place);
+    virtual ~Control() = default;
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
+    virtual void Accept(ControlVisitor& visitor) = 0;
+    // The window goes: lets go of what the control holds open.
+    virtual void Release() {}
+
+    QString Name;
+    QProperty<int> Left;
+    QProperty<int> Top;
+    QProperty<int> Width;
+    QProperty<int> Height;
+    QProperty<bool> Visible{true};
+    QProperty<bool> Enabled{true};
+    QString ToolTipText;
+
+    void Move(Point place)
+    {
+        Left = place.X;
+        Top = place.Y;
+    }
+};
+
+// Gives a kind of control its stop in every visitor.
+template <class Kind>
+struct ControlKind : Control {
+    using Control::Control;
+    void Accept(ControlVisitor& visitor) override { visitor.Visit(static_cast<Kind&>(*this)); }
+};
+
+// What controls stand in: a window, a frame, a picture.
+class Container
+{
+public:
+    virtual ~Container() = default;
+    const std::vector<Control*>& Controls() const { return controls_; }
+
+private:
+    friend struct Control;
+    std::vector<Control*> controls_;
+};
+
+struct Label : ControlKind<Label> {
+    Label(Container& parent, QStringView name, Rectangle place, QStringView caption = {});
+    ControlText Caption;
+    TextFont Font;
+};
+
+struct TextBox : ControlKind<TextBox> {
+    TextBox(Container& parent, QStringView name, Rectangle place, int maxLength = 0);
+    ControlText Text;
+    int MaxLength; // characters, 0 for no limit
+    Event Click;
+};
+
+struct Button : ControlKind<Button> {
+    Button(Container& parent, QStringView name, Rectangle place, QStringView caption);
+    QProperty<QString> Caption;
+    Event Click;
+};
+
+struct CheckBox : ControlKind<CheckBox> {
+    CheckBox(Container& parent, QStringView name, Rectangle place, QStringView caption);
+    QProperty<QString> Caption;
+    QProperty<bool> Value{false};
+    Event Click;
+};
+
+struct Frame : ControlKind<Frame>, Container {
+    Frame(Container& parent, QStringView name, Rectangle place, QStringView caption = {});
+    QProperty<QString> Caption;
+    Event Click;
+};
+
+struct ListBox : ControlKind<ListBox> {
+    using ControlKind::ControlKind;
+    QProperty<QStringList> Items;
+    QProperty<int> ListIndex{-1}; // -1 for nothing selected
+    Event DblClick;
+
+    // The selected item; empty for none. Setting it selects the first item of exactly that text, or none.
+    QString Text() const;
+    void SetText(const QString& text);
+};
+
+// A picture stretched to the control.
+struct Image : ControlKind<Image> {
+    using ControlKind::ControlKind;
+    QProperty<QImage> Picture;
+    Event Click;
+};
+
+// An outline above its container, which lets the mouse through. Hidden until it is told to show.
+struct Shape : ControlKind<Shape> {
+    Shape(Container& parent, QStringView name, Rectangle place);
+    QProperty<Colour> BorderColor{Black};
+    int BorderWidth = 1; // pixels
+    bool Filled = false; // with the colour of its border
+};
+
+struct ScrollBar : ControlKind<ScrollBar> {
+    ScrollBar(Container& parent, QStringView name, Rectangle place, int max, int smallChange, int largeChange);
+    QProperty<int> Value{0};
+    int Max;
+    int SmallChange;
+    int LargeChange;
+    Event Change;
+};
+
+// A player of sounds and videos. Its commands act at once; a file or device that isn't there is passed over.
+struct MultimediaControl : ControlKind<MultimediaControl> {
+    MultimediaControl(Container& parent, QStringView name);
+    void Release() override { Command(u"Close"); }
+
+    // "Open", "Sound", "Close".
+    void Command(QStringView command)
+    {
+        if (Act)
+            Act(command);
+    }
+
+    bool Notify = false;
+    bool Wait = false;
+    bool Shareable = false;
+    QString DeviceType;
+    QString FileName;
+    std::function<void(QStringView command)> Act; // by whoever shows the window
+};
+
+// An entry of a menu, the menu itself included. A caption of "-" is a separator.
+struct MenuItem {
+    MenuItem(std::vector<MenuItem*>& level, QStringView name, QStringView caption);
+    MenuItem(MenuItem& parent, QStringView name, QStringView caption);
+    MenuItem(const MenuItem&) = delete;
+    MenuItem& operator=(const MenuItem&) = delete;
+
+    QString Name;
+    QString Caption;
+    QProperty<bool> Enabled{true};
+    Event Click; // of a menu: it opens
+    std::vector<MenuItem*> Items;
+};
+
+} // namespace lineforge

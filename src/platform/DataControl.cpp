@@ -1,0 +1,150 @@
+#include "platform/DataControl.h"
+
+#include "platform/RuntimeError.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace lineforge
+{
+
+// The control's cursor: carries what was typed in the bound boxes into the row that it leaves or updates.
+class DataControl::BoundRecordset : public Recordset
+{
+public:
+    BoundRecordset(DataControl& control, std::shared_ptr<Database> database, const QString& table)
+        : Recordset(std::move(database), table), control_(control)
+    {
+    }
+
+    void Leaving() override
+    {
+        if (!control_.HasEdits())
+            return;
+        // Without a row there is nowhere to store them.
+        if (HasRow())
+            Update();
+        else
+            control_.DropEdits();
+    }
+
+protected:
+    void Arrived() override
+    {
+        control_.DropEdits();
+        control_.MarkStale();
+    }
+
+    void Updating() override
+    {
+        if (!control_.HasEdits())
+            return;
+        if (!IsEditing())
+            Edit();
+        for (const Binding& binding : control_.bindings_)
+            if (binding.IsEdited)
+                Put(binding.Field, binding.Text->Shown());
+    }
+
+private:
+    DataControl& control_;
+};
+
+DataControl::DataControl(Container& parent, QStringView name, Rectangle place, QStringView caption)
+    : ControlKind(parent, name, place), Caption(caption.toString())
+{
+}
+
+DataControl::~DataControl()
+{
+    Unbind();
+}
+
+void DataControl::Unbind()
+{
+    for (const Binding& binding : bindings_)
+        binding.Text->Attach(nullptr);
+    bindings_.clear();
+}
+
+void DataControl::Refresh(Databases& databases, const FileSystem& files)
+{
+    auto opened = std::make_unique<BoundRecordset>(*this, databases.Open(files, DatabaseName), RecordSource);
+    if (records_)
+        records_->Leaving();
+    records_ = std::move(opened);
+    MarkStale();
+}
+
+Recordset& DataControl::Records()
+{
+    if (!records_)
+        throw RuntimeError(ErrorNumber::ObjectNotSet);
+    return *records_;
+}
+
+void DataControl::Bind(ControlText& text, const QString& field, bool writes)
+{
+    bindings_.push_back({&text, field, writes});
+    text.Attach(this);
+}
+
+void DataControl::Bind(Label& label, const QString& field)
+{
+    Bind(label.Caption, field, false);
+}
+
+void DataControl::Bind(TextBox& box, const QString& field)
+{
+    Bind(box.Text, field, true);
+}
+
+void DataControl::Edited(const ControlText& text)
+{
+    for (Binding& binding : bindings_)
+        if (binding.Text == &text)
+            binding.IsEdited = binding.Writes && records_ != nullptr;
+}
+
+void DataControl::Forget(const ControlText& text)
+{
+    std::erase_if(bindings_, [&](const Binding& binding) { return binding.Text == &text; });
+}
+
+bool DataControl::HasEdits() const
+{
+    return std::ranges::any_of(bindings_, &Binding::IsEdited);
+}
+
+void DataControl::DropEdits()
+{
+    for (Binding& binding : bindings_)
+        binding.IsEdited = false;
+}
+
+void DataControl::MarkStale()
+{
+    if (!std::exchange(stale_, true))
+        Fire(Stale);
+}
+
+void DataControl::Settle()
+{
+    if (!std::exchange(stale_, false) || !records_)
+        return;
+    records_->Rest();
+    const bool hasRow = records_->HasRow();
+    for (const Binding& binding : bindings_)
+        binding.Text->Show(hasRow ? records_->Text(binding.Field) : QString());
+}
+
+void DataControl::Release()
+{
+    if (records_)
+        records_->Leaving();
+    records_.reset();
+    // The texts stay as they stand; a label of another window may soon be bound to this control's successor.
+    Unbind();
+}
+
+} // namespace lineforge

@@ -1,0 +1,260 @@
+#include "platform/FileSystem.h"
+
+#include "platform/RuntimeError.h"
+#include "platform/Text.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSaveFile>
+
+#include <algorithm>
+#include <cerrno>
+#include <unistd.h>
+#include <utility>
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+[[noreturn]] void Refuse(int number)
+{
+    throw RuntimeError(number);
+}
+
+bool OwnerCanWrite(const QString& path)
+{
+    return QFileInfo(path).permissions().testFlag(QFileDevice::WriteOwner);
+}
+
+QString ParentOf(const QString& path)
+{
+    return QFileInfo(path).path();
+}
+
+// A name can be added to or taken from a directory only when it is there and its owner may write it.
+void RequireWritableParent(const QString& path)
+{
+    const QString parent = ParentOf(path);
+    if (!QFileInfo(parent).isDir())
+        Refuse(ErrorNumber::PathNotFound);
+    if (!OwnerCanWrite(parent))
+        Refuse(ErrorNumber::PathFileAccess);
+}
+
+void RequireFile(const QString& path)
+{
+    if (!QFileInfo(path).isFile())
+        Refuse(ErrorNumber::FileNotFound);
+}
+
+void RequireReplaceable(const QString& path)
+{
+    RequireWritableParent(path);
+    const QFileInfo standing(path);
+    if (standing.isDir() || (standing.exists() && !OwnerCanWrite(path)))
+        Refuse(ErrorNumber::PathFileAccess);
+}
+
+int NumberOfFailure(const QFileDevice& file)
+{
+    if (errno == ENOSPC || errno == EDQUOT)
+        return ErrorNumber::DiskFull;
+    // The toolkit calls it a failure to open like any other.
+    if (errno == EACCES || errno == EPERM)
+        return ErrorNumber::PermissionDenied;
+    return file.error() == QFileDevice::OpenError ? ErrorNumber::PathFileAccess : ErrorNumber::DeviceIo;
+}
+
+// The entry of a directory that is spelt like `name`, case ignored; exact spelling first, empty for none.
+QString EntryLike(const QString& directory, const QString& name)
+{
+    if (QFileInfo::exists(directory + PathSeparator + name))
+        return name;
+    const QStringList entries =
+        QDir(directory).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+    const auto found = std::ranges::find_if(entries, [&](const QString& entry) { return SameText(entry, name); });
+    return found == entries.end() ? QString() : *found;
+}
+
+// Everything but the star and the question mark stands for itself, brackets too: they are common in names.
+QRegularExpression PatternOf(const QString& name)
+{
+    QString pattern = QRegularExpression::escape(name);
+    pattern.replace(u"\\*"_s, u".*"_s).replace(u"\\?"_s, u"."_s);
+    return QRegularExpression(QRegularExpression::anchoredPattern(pattern),
+                              QRegularExpression::CaseInsensitiveOption |
+                                  QRegularExpression::DotMatchesEverythingOption);
+}
+
+// Case decides only between names that are otherwise the same, so that every disk gives the same order.
+bool ComesBefore(const QString& a, const QString& b)
+{
+    const int order = a.compare(b, Qt::CaseInsensitive);
+    return order != 0 ? order < 0 : a < b;
+}
+
+void RequireWritten(QSaveFile& output)
+{
+    // Told here, because a commit passes over what fails while it empties its buffers.
+    if (!output.flush() || fsync(output.handle()) != 0)
+        Refuse(NumberOfFailure(output));
+}
+} // namespace
+
+FileSystem::FileSystem(QString currentDirectory) : currentDirectory_(std::move(currentDirectory)) {}
+
+QString FileSystem::Resolve(const QString& path) const
+{
+    const QString absolute = QDir::cleanPath(QDir(currentDirectory_).absoluteFilePath(path));
+    if (QFileInfo::exists(absolute))
+        return absolute;
+
+    QString resolved;
+    for (const QString& part : absolute.split(PathSeparator, Qt::SkipEmptyParts)) {
+        const QString entry = EntryLike(resolved.isEmpty() ? QString(PathSeparator) : resolved, part);
+        resolved += PathSeparator + (entry.isEmpty() ? part : entry);
+    }
+    return resolved;
+}
+
+QStringList FileSystem::List(const QString& path, bool directories) const
+{
+    const qsizetype slash = path.lastIndexOf(PathSeparator);
+    const QString pattern = path.sliced(slash + 1);
+    const QString directory = slash < 0 ? currentDirectory_ : Resolve(path.first(slash + 1));
+    QStringList names = QDir(directory).entryList(
+        (directories ? QDir::Dirs : QDir::Files) | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Unsorted);
+    if (!pattern.isEmpty()) {
+        const QRegularExpression fits = PatternOf(pattern);
+        names.removeIf([&](const QString& name) { return !fits.match(name).hasMatch(); });
+    }
+    std::ranges::sort(names, ComesBefore);
+    return names;
+}
+
+QStringList FileSystem::Files(const QString& path) const
+{
+    return List(path, false);
+}
+
+QStringList FileSystem::Directories(const QString& path) const
+{
+    return List(path, true);
+}
+
+QString FileSystem::Dir(const QString& path) const
+{
+    const bool isPattern = path.contains(u'*') || path.contains(u'?') || path.endsWith(PathSeparator);
+    if (isPattern)
+        return Files(path).value(0);
+    const QFileInfo file(Resolve(path));
+    return file.isFile() ? file.fileName() : QString();
+}
+
+bool FileSystem::LookUpGivesTail(const QString& path, int length) const
+{
+    return SameText(Dir(path), QStringView(path).right(length));
+}
+
+void FileSystem::FileCopy(const QString& source, const QString& destination) const
+{
+    const QString from = Resolve(source);
+    const QString to = Resolve(destination);
+    RequireFile(from);
+    if (from == to)
+        Refuse(ErrorNumber::PermissionDenied);
+    RequireReplaceable(to);
+
+    QFile input(from);
+    QSaveFile output(to);
+    if (!input.open(QFile::ReadOnly))
+        Refuse(NumberOfFailure(input));
+    if (!output.open(QFile::WriteOnly))
+        Refuse(NumberOfFailure(output));
+    constexpr qint64 block = 1 << 20;
+    for (QByteArray bytes = input.read(block); !bytes.isEmpty(); bytes = input.read(block))
+        if (output.write(bytes) != bytes.size())
+            Refuse(NumberOfFailure(output));
+    if (input.error() != QFile::NoError)
+        Refuse(NumberOfFailure(input));
+    RequireWritten(output);
+    output.setFileTime(QFileInfo(from).lastModified(), QFileDevice::FileModificationTime);
+    if (!output.commit())
+        Refuse(NumberOfFailure(output));
+}
+
+void FileSystem::Kill(const QString& path) const
+{
+    const QString file = Resolve(path);
+    RequireFile(file);
+    RequireReplaceable(file);
+    if (!QFile::remove(file))
+        Refuse(ErrorNumber::PermissionDenied);
+}
+
+void FileSystem::MkDir(const QString& path) const
+{
+    const QString directory = Resolve(path);
+    if (QFileInfo::exists(directory))
+        Refuse(ErrorNumber::PathFileAccess);
+    RequireWritableParent(directory);
+    if (!QDir().mkdir(directory))
+        Refuse(ErrorNumber::PathFileAccess);
+}
+
+void FileSystem::RmDir(const QString& path) const
+{
+    const QString directory = Resolve(path);
+    if (!QFileInfo(directory).isDir())
+        Refuse(ErrorNumber::PathNotFound);
+    RequireWritableParent(directory);
+    if (!QDir().rmdir(directory))
+        Refuse(ErrorNumber::PathFileAccess);
+}
+
+void FileSystem::ChDir(const QString& path)
+{
+    const QString directory = Resolve(path);
+    if (!QFileInfo(directory).isDir())
+        Refuse(ErrorNumber::PathNotFound);
+    currentDirectory_ = directory;
+}
+
+int FileSystem::GetAttr(const QString& path) const
+{
+    const QFileInfo entry(Resolve(path));
+    if (!entry.exists())
+        Refuse(ErrorNumber::FileNotFound);
+    return (OwnerCanWrite(entry.filePath()) ? 0 : ReadOnly) | (entry.isDir() ? Directory : 0);
+}
+
+void FileSystem::Replace(const QString& path, const QByteArray& bytes) const
+{
+    const QString file = Resolve(path);
+    RequireReplaceable(file);
+    QSaveFile output(file);
+    if (!output.open(QFile::WriteOnly) || output.write(bytes) != bytes.size())
+        Refuse(NumberOfFailure(output));
+    RequireWritten(output);
+    if (!output.commit())
+        Refuse(NumberOfFailure(output));
+}
+
+QByteArray FileSystem::Read(const QString& path) const
+{
+    QFile file(Resolve(path));
+    RequireFile(file.fileName());
+    if (!file.open(QFile::ReadOnly))
+        Refuse(NumberOfFailure(file));
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFile::NoError)
+        Refuse(NumberOfFailure(file));
+    return bytes;
+}
+
+} // namespace lineforge

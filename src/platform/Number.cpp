@@ -1,0 +1,52 @@
+#include "platform/Number.h"
+
+#include "platform/RuntimeError.h"
+
+#include <cmath>
+#include <limits>
+
+namespace lineforge
+{
+
+namespace
+{
+template <class Whole>
+Whole ToWhole(QStringView text)
+{
+    const double rounded = std::nearbyint(ToNumber(text));
+    if (rounded < std::numeric_limits<Whole>::min() || rounded > std::numeric_limits<Whole>::max())
+        throw RuntimeError(ErrorNumber::Overflow);
+    return static_cast<Whole>(rounded);
+}
+} // namespace
+
+double ToNumber(QStringView text)
+{
+    bool isNumber = false;
+    const double number = text.trimmed().toDouble(&isNumber);
+    if (!isNumber && std::isinf(number))
+        throw RuntimeError(ErrorNumber::Overflow);
+    // "nan" and "inf" are words here, not numbers.
+    if (!isNumber || !std::isfinite(number))
+        throw RuntimeError(ErrorNumber::TypeMismatch);
+    return number;
+}
+
+std::int16_t ToInteger(QStringView text)
+{
+    return ToWhole<std::int16_t>(text);
+}
+
+std::int32_t ToLong(QStringView text)
+{
+    return ToWhole<std::int32_t>(text);
+}
+
+std::int16_t Integer16::Narrowed(int value)
+{
+    if (value < std::numeric_limits<std::int16_t>::min() || value > std::numeric_limits<std::int16_t>::max())
+        throw RuntimeError(ErrorNumber::Overflow);
+    return static_cast<std::int16_t>(value);
+}
+
+} // namespace lineforge

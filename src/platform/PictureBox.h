@@ -1,0 +1,68 @@
+#pragma once
+
+#include "platform/Controls.h"
+#include "platform/Surface.h"
+
+#include <QImage>
+#include <QRegion>
+
+#include <functional>
+
+namespace lineforge
+{
+
+// Which modifier keys are held at a mouse event; the numbers are the platform's and add up.
+namespace ShiftMask
+{
+inline constexpr int Shift = 1;
+inline constexpr int Ctrl = 2;
+inline constexpr int Alt = 4;
+} // namespace ShiftMask
+
+// A picture that keeps what is drawn on it: an image of one pixel to `TwipsPerPixel` twips, drawn without smoothing, so
+// that the same text printed in the background colour leaves no pixel behind and the two exclusive-or pens undo
+// themselves. Whoever shows it scales it down. A pen of `DrawWidth` 1 is three pixels wide.
+// Its own controls lie above the drawing and scroll with it.
+class PictureBox : public ControlKind<PictureBox>, public Container, public Surface
+{
+public:
+    static constexpr int TwipsPerPixel = 5;
+
+    PictureBox(Container& parent, QStringView name, Rectangle place);
+
+    void Line(Point from, Point to) override;
+    void Box(Rectangle place) override;
+    void Print(const QString& text) override;
+    int TextWidth(const QString& text) const override;
+    int TextHeight(const QString& text) const override;
+
+    // Wipes the drawing, and sets the current position to the top left.
+    void Cls();
+
+    // The drawing; null while nothing has been drawn yet, which looks like an image of `BackColor` alone.
+    const QImage& Drawing() const { return drawing_; }
+
+    Colour BackColor = White;
+
+    // Positions in twips from the picture's top left, with their fraction; `shift` adds up `ShiftMask`.
+    using MouseEvent = std::function<void(int button, int shift, double x, double y)>;
+    MouseEvent MouseDown;
+    MouseEvent MouseMove;
+    MouseEvent MouseUp;
+    Event DblClick;
+
+    // Told of each stretch of the drawing that has changed, in pixels of the drawing.
+    std::function<void(const QRect& pixels)> Changed;
+
+private:
+    template <class Draw>
+    void Paint(const QRect& pixels, Draw&& draw);
+    int PenPixels() const { return 3 * DrawWidth; }
+
+    QImage drawing_;
+};
+
+// The colour for the toolkit's painters.
+QColor ToQColor(Colour colour);
+
+} // namespace lineforge

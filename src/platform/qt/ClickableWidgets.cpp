@@ -1,0 +1,126 @@
+#include "platform/qt/ClickableWidgets.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyleOption>
+#include <QWheelEvent>
+
+#include <utility>
+
+namespace lineforge
+{
+
+namespace
+{
+bool IsClick(const QWidget& widget, const QMouseEvent& release)
+{
+    return release.button() == Qt::LeftButton && widget.rect().contains(release.position().toPoint());
+}
+} // namespace
+
+void ClientArea::mousePressEvent(QMouseEvent* event)
+{
+    event->accept();
+}
+
+void ClientArea::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (IsClick(*this, *event) && !childAt(event->position().toPoint()) && Clicked)
+        Clicked();
+}
+
+void ClientArea::wheelEvent(QWheelEvent* event)
+{
+    for (QScrollBar* bar : findChildren<QScrollBar*>(Qt::FindDirectChildrenOnly))
+        if (bar->isVisible() && bar->isEnabled()) {
+            QCoreApplication::sendEvent(bar, event);
+            return;
+        }
+    event->ignore();
+}
+
+void FrameView::paintEvent(QPaintEvent*)
+{
+    QStyleOptionGroupBox option;
+    initStyleOption(&option);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const int line = title().isEmpty() ? 0 : fontMetrics().height() / 2;
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, line + 0.5, -0.5, -0.5), 3, 3);
+    if (title().isEmpty())
+        return;
+
+    const int indent = fontMetrics().height() / 2;
+    const int gap = indent / 2;
+    const QString text = fontMetrics().elidedText(title(), Qt::ElideRight, width() - 2 * (indent + gap));
+    const QRect place(indent + gap, 0, fontMetrics().horizontalAdvance(text), fontMetrics().height());
+    painter.fillRect(place.adjusted(-gap, 0, gap, 0), palette().brush(QPalette::Window));
+    style()->drawItemText(&painter, place, Qt::AlignCenter | Qt::TextHideMnemonic, palette(), isEnabled(), text,
+                          QPalette::WindowText);
+}
+
+void FrameView::mousePressEvent(QMouseEvent* event)
+{
+    event->accept();
+}
+
+void FrameView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (!IsClick(*this, *event) || !Clicked)
+        return;
+    const QWidget* child = childAt(event->position().toPoint());
+    if (!child || qobject_cast<const QLabel*>(child) || dynamic_cast<const ImageView*>(child))
+        Clicked();
+}
+
+void ImageView::Show(const QImage& picture)
+{
+    picture_ = picture;
+    scaled_ = {};
+    update();
+}
+
+void ImageView::paintEvent(QPaintEvent*)
+{
+    if (picture_.isNull() || size().isEmpty())
+        return;
+    const QSize wanted = (QSizeF(size()) * devicePixelRatioF()).toSize();
+    if (scaled_.size() != wanted) {
+        scaled_ = QPixmap::fromImage(picture_.scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        scaled_.setDevicePixelRatio(devicePixelRatioF());
+    }
+    QPainter(this).drawPixmap(rect(), scaled_);
+}
+
+void ImageView::mousePressEvent(QMouseEvent* event)
+{
+    event->setAccepted(TakesClicks && TakesClicks());
+}
+
+void ImageView::mouseReleaseEvent(QMouseEvent* event)
+{
+    event->setAccepted(TakesClicks && TakesClicks());
+    if (event->isAccepted() && IsClick(*this, *event))
+        Clicked();
+}
+
+ClickWatcher::ClickWatcher(QWidget* watched, std::function<void()> clicked)
+    : QObject(watched), clicked_(std::move(clicked))
+{
+    watched->installEventFilter(this);
+}
+
+bool ClickWatcher::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto& widget = static_cast<const QWidget&>(*watched);
+    if (event->type() == QEvent::MouseButtonRelease && widget.isEnabled() &&
+        IsClick(widget, *static_cast<QMouseEvent*>(event)))
+        clicked_();
+    return false;
+}
+
+} // namespace lineforge

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <QGroupBox>
+#include <QImage>
+#include <QPixmap>
+#include <QWidget>
+
+#include <functional>
+
+namespace lineforge
+{
+
+// The bare area of a window below its menus. A click on anything that stands in it is not a click on it.
+class ClientArea : public QWidget
+{
+public:
+    using QWidget::QWidget;
+    std::function<void()> Clicked;
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    // The map has no wheel of its own: the window's scroll bar takes it, wherever the pointer is.
+    void wheelEvent(QWheelEvent* event) override;
+};
+
+// A titled border, the title in the border's line. Labels and pictures that take no clicks themselves count as part
+// of it.
+class FrameView : public QGroupBox
+{
+public:
+    using QGroupBox::QGroupBox;
+    std::function<void()> Clicked;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+};
+
+// A picture stretched to the widget, scaled once for each picture and size.
+class ImageView : public QWidget
+{
+public:
+    using QWidget::QWidget;
+    void Show(const QImage& picture);
+    const QImage& Picture() const { return picture_; }
+    std::function<bool()> TakesClicks;
+    std::function<void()> Clicked;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    QImage picture_;
+    QPixmap scaled_;
+};
+
+// Tells of clicks on a widget that has a use for the mouse itself.
+class ClickWatcher : public QObject
+{
+public:
+    // `watched` is the part that the mouse meets, the owner of the watcher too.
+    ClickWatcher(QWidget* watched, std::function<void()> clicked);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    std::function<void()> clicked_;
+};
+
+} // namespace lineforge

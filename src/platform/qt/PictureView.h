@@ -1,0 +1,47 @@
+#pragma once
+
+#include "platform/PictureBox.h"
+#include "platform/qt/Handlers.h"
+#include "platform/qt/Scale.h"
+#include "platform/qt/ScaledPicture.h"
+
+#include <QElapsedTimer>
+#include <QTimer>
+#include <QWidget>
+
+#include <memory>
+
+namespace lineforge
+{
+
+// Shows a picture and hands it the mouse. Changes are collected and shown at most 60 times a second, however often the
+// program lets the event loop run while it draws.
+class PictureView : public QWidget
+{
+public:
+    PictureView(QWidget* parent, PictureBox& picture, const Scale& scale, std::shared_ptr<const Gate> gate);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    // The second press of a double click is nothing but the double click; its release comes as any other.
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+private:
+    void Take(const QRect& drawingPixels);
+    void ShowChanges();
+    void PaintDrawing(QPainter& painter, const QRect& exposed);
+    void Tell(const PictureBox::MouseEvent& handler, int button, const QMouseEvent& event) const;
+
+    PictureBox& picture_;
+    const Scale scale_;
+    std::shared_ptr<const Gate> gate_;
+    ScaledPicture scaled_;
+    QRect changed_; // in pixels of the screen, not yet asked to be painted
+    QElapsedTimer sinceShown_;
+    QTimer nextShow_;
+};
+
+} // namespace lineforge

@@ -1,0 +1,42 @@
+#include "platform/qt/QtEventLoop.h"
+
+#include <QApplication>
+#include <QDialog>
+
+namespace lineforge
+{
+
+namespace
+{
+void CloseDialogs()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows)
+        if (auto* dialog = qobject_cast<QDialog*>(window); dialog && dialog->isVisible())
+            dialog->done(QDialog::Rejected);
+}
+} // namespace
+
+void QtEventLoop::DoEvents()
+{
+    ThrowIfEnded();
+    QCoreApplication::processEvents();
+    ThrowIfEnded();
+}
+
+void QtEventLoop::End(int exitCode)
+{
+    ended_ = true;
+    exitCode_ = exitCode;
+    CloseDialogs();
+    QCoreApplication::exit(exitCode);
+    throw ProgramEnded{};
+}
+
+void QtEventLoop::ThrowIfEnded() const
+{
+    if (ended_)
+        throw ProgramEnded{};
+}
+
+} // namespace lineforge

@@ -1,0 +1,139 @@
+#include "platform/qt/QtPrompts.h"
+
+#include "platform/qt/FileFilters.h"
+#include "platform/qt/HelpWindow.h"
+#include "platform/qt/QtEventLoop.h"
+#include "platform/qt/ScreenPointer.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMessageBox>
+
+#include <utility>
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr auto ok = QMessageBox::Ok;
+constexpr auto cancel = QMessageBox::Cancel;
+constexpr auto yes = QMessageBox::Yes;
+constexpr auto no = QMessageBox::No;
+
+struct ButtonSet {
+    QMessageBox::Icon Icon;
+    QMessageBox::StandardButton First; // the one that Enter presses
+    QMessageBox::StandardButton Last;  // the one that Escape presses
+};
+
+ButtonSet SetOf(Buttons buttons)
+{
+    switch (buttons) {
+    case Buttons::Plain:
+        break;
+    case Buttons::Error:
+        return {QMessageBox::Critical, ok, ok};
+    case Buttons::ErrorYesNo:
+        return {QMessageBox::Critical, yes, no};
+    case Buttons::QuestionOkCancel:
+        return {QMessageBox::Question, ok, cancel};
+    case Buttons::QuestionYesNo:
+        return {QMessageBox::Question, yes, no};
+    case Buttons::Information:
+        return {QMessageBox::Information, ok, ok};
+    case Buttons::InformationOkCancel:
+        return {QMessageBox::Information, ok, cancel};
+    case Buttons::InformationYesNo:
+        return {QMessageBox::Information, yes, no};
+    }
+    return {QMessageBox::NoIcon, ok, ok};
+}
+
+Answer ToAnswer(int button)
+{
+    switch (button) {
+    case yes:
+        return Answer::Yes;
+    case no:
+        return Answer::No;
+    case cancel:
+        return Answer::Cancel;
+    default:
+        return Answer::Ok;
+    }
+}
+} // namespace
+
+QtPrompts::QtPrompts(const QtEventLoop& loop, std::function<QString()> currentDirectory)
+    : loop_(loop), currentDirectory_(std::move(currentDirectory))
+{
+}
+
+QtPrompts::~QtPrompts() = default;
+
+Answer QtPrompts::MsgBox(const QString& title, const QString& text, Buttons buttons)
+{
+    loop_.ThrowIfEnded();
+    const ButtonSet set = SetOf(buttons);
+    QMessageBox box(set.Icon, title, {}, set.First | set.Last, QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.setText(text);
+    box.setDefaultButton(set.First);
+    box.setEscapeButton(set.Last);
+    const ArrowMeanwhile arrow;
+    const int button = box.exec();
+    loop_.ThrowIfEnded();
+    return ToAnswer(button);
+}
+
+QString QtPrompts::InputBox(const QString& title, const QString& prompt)
+{
+    loop_.ThrowIfEnded();
+    QInputDialog box(QApplication::activeWindow());
+    box.setWindowTitle(title);
+    box.setLabelText(prompt);
+    for (QLabel* label : box.findChildren<QLabel*>())
+        label->setTextFormat(Qt::PlainText);
+    const ArrowMeanwhile arrow;
+    const bool entered = box.exec() == QDialog::Accepted;
+    loop_.ThrowIfEnded();
+    return entered ? box.textValue() : QString();
+}
+
+std::optional<QString> QtPrompts::OpenFile(const FileQuestion& question)
+{
+    loop_.ThrowIfEnded();
+    QFileDialog box(QApplication::activeWindow(), question.Title, currentDirectory_());
+    box.setOption(QFileDialog::DontUseNativeDialog);
+    box.setFileMode(QFileDialog::ExistingFile);
+    if (const QStringList filters = ToFileFilters(question.Filter); !filters.isEmpty())
+        box.setNameFilters(filters);
+    const ArrowMeanwhile arrow;
+    const bool chosen = box.exec() == QDialog::Accepted;
+    loop_.ThrowIfEnded();
+    const QStringList files = box.selectedFiles();
+    if (!chosen || files.isEmpty())
+        return std::nullopt;
+    return files.first();
+}
+
+void QtPrompts::ShowHelp(const QString& helpFile)
+{
+    loop_.ThrowIfEnded();
+    if (!help_)
+        help_ = std::make_unique<HelpWindow>();
+    if (!help_->Open(helpFile)) {
+        MsgBox(u"Lineforge"_s, u"The help file can't be found.\n"_s + helpFile, Buttons::Information);
+        return;
+    }
+    help_->show();
+    help_->raise();
+    help_->activateWindow();
+}
+
+} // namespace lineforge

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/Prompts.h"
+
+#include <functional>
+#include <memory>
+
+namespace lineforge
+{
+
+class HelpWindow;
+class QtEventLoop;
+
+// Asks the user with boxes above the active window. Each throws ProgramEnded when the program has been told to end
+// while it was open, or before.
+class QtPrompts : public Prompts
+{
+public:
+    QtPrompts(const QtEventLoop& loop, std::function<QString()> currentDirectory);
+    ~QtPrompts() override;
+
+    Answer MsgBox(const QString& title, const QString& text, Buttons buttons) override;
+    QString InputBox(const QString& title, const QString& prompt) override;
+    std::optional<QString> OpenFile(const FileQuestion& question) override;
+    void ShowHelp(const QString& helpFile) override;
+
+private:
+    const QtEventLoop& loop_;
+    std::function<QString()> currentDirectory_;
+    std::unique_ptr<HelpWindow> help_;
+};
+
+} // namespace lineforge

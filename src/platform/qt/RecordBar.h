@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QWidget>
+
+namespace lineforge
+{
+
+class Recordset;
+
+// The four buttons of a data control with its caption between them.
+class RecordBar : public QWidget
+{
+public:
+    // Buttons are called `name` + "First", "Previous", "Next", "Last".
+    RecordBar(QWidget* parent, const QString& name, const QString& caption);
+
+    using Step = void (*)(Recordset& records);
+    // A button wants another record.
+    std::function<void(Step step)> Stepped;
+
+private:
+    void AddButton(const QString& objectName, const QString& text, int icon, Step step);
+};
+
+// Each stops quietly at the ends: the current record stays.
+void StepToFirst(Recordset& records);
+void StepToPrevious(Recordset& records);
+void StepToNext(Recordset& records);
+void StepToLast(Recordset& records);
+
+} // namespace lineforge

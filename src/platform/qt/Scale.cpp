@@ -1,0 +1,53 @@
+#include "platform/qt/Scale.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace lineforge
+{
+
+namespace
+{
+constexpr int twipsPerPoint = 20;
+constexpr int smallestFontPixels = 10;
+constexpr int coarsest = 15;
+constexpr std::array<int, 8> finestFirst{3, 4, 5, 6, 8, 10, 12, coarsest};
+
+// A menu bar isn't made yet when the scale is chosen; a line of text with half a line above and below it is what
+// the usual styles give it at most.
+int MenuBarPixels(const Scale& scale)
+{
+    return 2 * scale.FontPixels(8) + 2;
+}
+} // namespace
+
+int Scale::ToPixels(int twips) const
+{
+    return static_cast<int>(std::lround(static_cast<double>(twips) / twipsAPixel_));
+}
+
+QRect Scale::ToPixels(Rectangle twips) const
+{
+    const QPoint topLeft(ToPixels(twips.Left), ToPixels(twips.Top));
+    const QPoint behind(ToPixels(twips.Left + twips.Width), ToPixels(twips.Top + twips.Height));
+    return {topLeft, QSize(behind.x() - topLeft.x(), behind.y() - topLeft.y())};
+}
+
+int Scale::FontPixels(double points) const
+{
+    return std::max(smallestFontPixels, static_cast<int>(std::lround(points * twipsPerPoint / twipsAPixel_)));
+}
+
+Scale FittingScale(Size client, QSize available, int titlePixels)
+{
+    for (const int twipsAPixel : finestFirst) {
+        const Scale scale(twipsAPixel);
+        const QSize window = scale.ToPixels(client) + QSize(0, MenuBarPixels(scale) + titlePixels);
+        if (window.width() <= available.width() && window.height() <= available.height())
+            return scale;
+    }
+    return Scale(coarsest);
+}
+
+} // namespace lineforge

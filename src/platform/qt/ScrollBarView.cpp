@@ -1,0 +1,41 @@
+#include "platform/qt/ScrollBarView.h"
+
+#include <QEvent>
+#include <QSignalBlocker>
+
+#include <utility>
+
+namespace lineforge
+{
+
+ScrollBarView::ScrollBarView(QWidget* parent, std::function<int()> maximum)
+    : QScrollBar(Qt::Vertical, parent), maximum_(std::move(maximum))
+{
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+void ScrollBarView::Show(int value)
+{
+    const QSignalBlocker quiet(this);
+    setRange(0, maximum_());
+    setValue(value);
+}
+
+// The maximum is asked for when it begins to matter: before the user can do anything with the bar.
+bool ScrollBarView::event(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::Show:
+    case QEvent::Enter:
+    case QEvent::FocusIn:
+    case QEvent::Wheel:
+    case QEvent::MouseButtonPress:
+        setRange(0, maximum_());
+        break;
+    default:
+        break;
+    }
+    return QScrollBar::event(event);
+}
+
+} // namespace lineforge

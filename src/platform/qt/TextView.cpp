@@ -1,0 +1,56 @@
+#include "platform/qt/TextView.h"
+
+#include <QScopedValueRollback>
+#include <QSignalBlocker>
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+TextView::TextView(QWidget* parent, int maxLength) : QPlainTextEdit(parent), maxLength_(maxLength)
+{
+    setTabChangesFocus(true);
+    connect(this, &QPlainTextEdit::textChanged, this, &TextView::TakeEdit);
+}
+
+void TextView::Show(const QString& text)
+{
+    const QSignalBlocker quiet(this);
+    hasCarriageReturns_ = text.contains(u"\r\n"_s);
+    QString shown = text;
+    shown.remove(u'\r');
+    if (shown != toPlainText())
+        setPlainText(shown);
+}
+
+// The text is kept with the line ends that it came with.
+void TextView::TakeEdit()
+{
+    if (cutting_)
+        return;
+    CutToLimit();
+    QString text = toPlainText();
+    if (hasCarriageReturns_)
+        text.replace(u'\n', u"\r\n"_s);
+    if (Edited)
+        Edited(text);
+}
+
+// What is too much was typed or pasted just before the cursor.
+void TextView::CutToLimit()
+{
+    const int excess = static_cast<int>(toPlainText().size()) - maxLength_;
+    if (maxLength_ == 0 || excess <= 0)
+        return;
+    const QScopedValueRollback<bool> cutting(cutting_, true);
+    QTextCursor cursor = textCursor();
+    const int end = cursor.position();
+    cursor.joinPreviousEditBlock();
+    cursor.setPosition(std::max(0, end - excess));
+    cursor.setPosition(end, QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
+    cursor.endEditBlock();
+}
+
+} // namespace lineforge

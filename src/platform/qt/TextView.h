@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QPlainTextEdit>
+
+namespace lineforge
+{
+
+// A box for several lines with a limit to its characters. Tab goes on to the next control.
+class TextView : public QPlainTextEdit
+{
+public:
+    // 0 for no limit.
+    TextView(QWidget* parent, int maxLength);
+
+    // Shows a text without calling that an edit.
+    void Show(const QString& text);
+
+    // The text as it stands, after the user has changed it.
+    std::function<void(const QString& text)> Edited;
+
+private:
+    void TakeEdit();
+    void CutToLimit();
+
+    int maxLength_;
+    bool cutting_ = false;
+    bool hasCarriageReturns_ = false;
+};
+
+} // namespace lineforge

@@ -1,0 +1,275 @@
+#include "platform/qt/WidgetBuilder.h"
+
+#include "platform/DataControl.h"
+#include "platform/PictureBox.h"
+#include "platform/qt/AccessibleName.h"
+#include "platform/qt/ClickableWidgets.h"
+#include "platform/qt/LabelView.h"
+#include "platform/qt/PictureView.h"
+#include "platform/qt/RecordBar.h"
+#include "platform/qt/ScrollBarView.h"
+#include "platform/qt/ShapeView.h"
+#include "platform/qt/TextView.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <utility>
+
+namespace lineforge
+{
+
+namespace
+{
+// The pixel of the days when widths of outlines were counted in them.
+constexpr int designTwipsAPixel = 15;
+constexpr int thinnestOutline = 2;
+// From this many lines on a text box holds several.
+constexpr double linesForSeveral = 2.2;
+
+// The family that the design asks for everywhere is only its word for "the usual one".
+QFont FontOf(const TextFont& wanted, const QFont& usual, const Scale& scale)
+{
+    QFont font = wanted.Name == TextFont().Name ? usual : QFont(wanted.Name);
+    font.setPixelSize(scale.FontPixels(wanted.Size));
+    font.setBold(wanted.Bold);
+    font.setItalic(wanted.Italic);
+    return font;
+}
+
+void Select(QListWidget& list, int index)
+{
+    const QSignalBlocker quiet(list);
+    list.setCurrentRow(index >= 0 && index < list.count() ? index : -1);
+}
+
+int SelectedRow(const QListWidget& list)
+{
+    const QList<QListWidgetItem*> selected = list.selectedItems();
+    return selected.isEmpty() ? -1 : list.row(selected.first());
+}
+
+// The cursor stays where the user works, and a long text begins with its beginning for everybody else.
+void ShowInLine(QLineEdit& line, const QString& text)
+{
+    if (line.text() == text)
+        return;
+    const int cursor = line.hasFocus() ? line.cursorPosition() : 0;
+    line.setText(text);
+    line.setCursorPosition(cursor);
+}
+} // namespace
+
+WidgetBuilder::WidgetBuilder(const Scale& scale, std::shared_ptr<const Gate> gate, Bindings& bindings)
+    : scale_(scale), gate_(std::move(gate)), bindings_(bindings)
+{
+}
+
+void WidgetBuilder::Build(const Container& container, QWidget* parent)
+{
+    const Container* outerContainer = std::exchange(container_, &container);
+    QWidget* outerParent = std::exchange(parent_, parent);
+    for (Control* control : container.Controls())
+        control->Accept(*this);
+    container_ = outerContainer;
+    parent_ = outerParent;
+    for (QObject* child : parent->children())
+        if (auto* shape = dynamic_cast<ShapeView*>(child))
+            shape->raise();
+}
+
+void WidgetBuilder::Dress(QWidget* widget, Control& control)
+{
+    widget->setObjectName(control.Name);
+    widget->setToolTip(control.ToolTipText.toHtmlEscaped());
+    const auto place = [widget, &control, scale = scale_] {
+        widget->setGeometry(scale.ToPixels(Rectangle{control.Left, control.Top, control.Width, control.Height}));
+    };
+    place();
+    for (QProperty<int>* length : {&control.Left, &control.Top, &control.Width, &control.Height})
+        bindings_.Watch(*length, place);
+    bindings_.Follow(control.Visible, [widget, &control] { widget->setVisible(control.Visible); });
+    bindings_.Follow(control.Enabled, [widget, &control] { widget->setEnabled(control.Enabled); });
+}
+
+void WidgetBuilder::NameForReaders(QWidget* widget, const Control& control)
+{
+    widget->setAccessibleName(BorrowedName(control, *container_));
+}
+
+template <class Caption>
+void WidgetBuilder::FollowCaption(QWidget* widget, const Control& control, Caption& caption)
+{
+    const QString otherwise = BorrowedName(control, *container_);
+    bindings_.Follow(caption, [widget, &caption, otherwise] {
+        const QString spoken = SpokenCaption(caption.value());
+        widget->setAccessibleName(spoken.isEmpty() ? otherwise : spoken);
+    });
+}
+
+void WidgetBuilder::Visit(Label& label)
+{
+    auto* view = new LabelView(parent_);
+    view->setFont(FontOf(label.Font, view->font(), scale_));
+    const QString otherwise = BorrowedName(label, *container_);
+    bindings_.Follow(label.Caption, [view, &label, otherwise] {
+        const QString& text = label.Caption.Shown();
+        view->setText(text);
+        view->setAccessibleName(text.isEmpty() ? otherwise : text);
+    });
+    Dress(view, label);
+}
+
+void WidgetBuilder::Visit(TextBox& box)
+{
+    const int lineHeight = parent_->fontMetrics().lineSpacing();
+    if (scale_.ToPixels(box.Height) > linesForSeveral * lineHeight)
+        VisitLines(box);
+    else
+        VisitLine(box);
+}
+
+void WidgetBuilder::VisitLine(TextBox& box)
+{
+    auto* line = new QLineEdit(parent_);
+    if (box.MaxLength > 0)
+        line->setMaxLength(box.MaxLength);
+    bindings_.Follow(box.Text, [line, &box] { ShowInLine(*line, box.Text.Shown()); });
+    QObject::connect(line, &QLineEdit::textEdited, line,
+                     [gate = gate_, &box](const QString& typed) { gate->Run([&box, typed] { box.Text = typed; }); });
+    new ClickWatcher(line, [gate = gate_, &box] { gate->Run(box.Click); });
+    NameForReaders(line, box);
+    Dress(line, box);
+}
+
+void WidgetBuilder::VisitLines(TextBox& box)
+{
+    auto* lines = new TextView(parent_, box.MaxLength);
+    bindings_.Follow(box.Text, [lines, &box] { lines->Show(box.Text.Shown()); });
+    lines->Edited = [gate = gate_, &box](const QString& typed) { gate->Run([&box, typed] { box.Text = typed; }); };
+    new ClickWatcher(lines->viewport(), [gate = gate_, &box] { gate->Run(box.Click); });
+    NameForReaders(lines, box);
+    Dress(lines, box);
+}
+
+void WidgetBuilder::Visit(Button& button)
+{
+    auto* view = new QPushButton(parent_);
+    view->setAutoDefault(true); // so that Enter presses it, too
+    bindings_.Follow(button.Caption, [view, &button] { view->setText(button.Caption); });
+    QObject::connect(view, &QPushButton::clicked, view, [gate = gate_, &button] { gate->Run(button.Click); });
+    FollowCaption(view, button, button.Caption);
+    Dress(view, button);
+}
+
+void WidgetBuilder::Visit(CheckBox& box)
+{
+    auto* view = new QCheckBox(parent_);
+    bindings_.Follow(box.Caption, [view, &box] { view->setText(box.Caption); });
+    bindings_.Follow(box.Value, [view, &box] { view->setChecked(box.Value); });
+    QObject::connect(view, &QCheckBox::clicked, view, [gate = gate_, &box](bool checked) {
+        gate->Run([&box, checked] {
+            box.Value = checked;
+            Fire(box.Click);
+        });
+    });
+    FollowCaption(view, box, box.Caption);
+    Dress(view, box);
+}
+
+void WidgetBuilder::Visit(Frame& frame)
+{
+    auto* view = new FrameView(parent_);
+    bindings_.Follow(frame.Caption, [view, &frame] { view->setTitle(frame.Caption); });
+    view->Clicked = [gate = gate_, &frame] { gate->Run(frame.Click); };
+    FollowCaption(view, frame, frame.Caption);
+    Dress(view, frame);
+    Build(frame, view);
+}
+
+void WidgetBuilder::Visit(ListBox& list)
+{
+    auto* view = new QListWidget(parent_);
+    view->setUniformItemSizes(true);
+    view->setSpacing(1);
+    bindings_.Follow(list.Items, [view, &list] {
+        const QSignalBlocker quiet(view);
+        view->clear();
+        view->addItems(list.Items);
+        Select(*view, list.ListIndex);
+    });
+    bindings_.Follow(list.ListIndex, [view, &list] { Select(*view, list.ListIndex); });
+    QObject::connect(view, &QListWidget::itemSelectionChanged, view, [gate = gate_, view, &list] {
+        gate->Run([view, &list] { list.ListIndex = SelectedRow(*view); });
+    });
+    QObject::connect(view, &QListWidget::itemDoubleClicked, view, [gate = gate_, &list] { gate->Run(list.DblClick); });
+    NameForReaders(view, list);
+    Dress(view, list);
+}
+
+void WidgetBuilder::Visit(Image& image)
+{
+    auto* view = new ImageView(parent_);
+    bindings_.Follow(image.Picture, [view, &image] { view->Show(image.Picture); });
+    view->TakesClicks = [gate = gate_, &image] { return gate->IsOpen() && image.Click; };
+    view->Clicked = [gate = gate_, &image] { gate->Run(image.Click); };
+    NameForReaders(view, image);
+    Dress(view, image);
+}
+
+void WidgetBuilder::Visit(Shape& shape)
+{
+    const int pen = std::max(thinnestOutline, scale_.ToPixels(shape.BorderWidth * designTwipsAPixel));
+    auto* view = new ShapeView(parent_, pen, shape.Filled);
+    bindings_.Follow(shape.BorderColor, [view, &shape] { view->SetColour(ToQColor(shape.BorderColor)); });
+    view->setAccessibleName(shape.Name);
+    Dress(view, shape);
+}
+
+// A value that the program sets is a change as well, as one that the user sets is.
+void WidgetBuilder::Visit(ScrollBar& bar)
+{
+    auto* view = new ScrollBarView(parent_, [&bar] { return bar.Max; });
+    view->setSingleStep(bar.SmallChange);
+    view->setPageStep(bar.LargeChange);
+    view->Show(bar.Value);
+    bindings_.Watch(bar.Value, [gate = gate_, view, &bar] {
+        view->Show(bar.Value);
+        gate->Run(bar.Change);
+    });
+    QObject::connect(view, &QScrollBar::valueChanged, view, [gate = gate_, &bar](int value) {
+        if (gate->IsOpen())
+            bar.Value = value;
+    });
+    NameForReaders(view, bar);
+    Dress(view, bar);
+}
+
+void WidgetBuilder::Visit(MultimediaControl&) {}
+
+void WidgetBuilder::Visit(PictureBox& picture)
+{
+    auto* view = new PictureView(parent_, picture, scale_, gate_);
+    NameForReaders(view, picture);
+    Dress(view, picture);
+    Build(picture, view);
+}
+
+void WidgetBuilder::Visit(DataControl& data)
+{
+    auto* view = new RecordBar(parent_, data.Name, data.Caption);
+    view->Stepped = [gate = gate_, &data](RecordBar::Step step) {
+        gate->Run([&data, step] {
+            if (data.IsOpen())
+                step(data.Records());
+        });
+    };
+    view->setAccessibleName(data.Caption.isEmpty() ? data.Name : data.Caption);
+    Dress(view, data);
+}
+
+} // namespace lineforge

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "platform/ControlVisitor.h"
+#include "platform/Controls.h"
+#include "platform/qt/Bindings.h"
+#include "platform/qt/Handlers.h"
+#include "platform/qt/Scale.h"
+
+#include <QWidget>
+
+#include <memory>
+
+namespace lineforge
+{
+
+// Makes the widgets for the controls of a container and keeps both sides in step from then on. Made in the order of the
+// controls, which is the order that Tab follows.
+class WidgetBuilder : private ControlVisitor
+{
+public:
+    WidgetBuilder(const Scale& scale, std::shared_ptr<const Gate> gate, Bindings& bindings);
+
+    void Build(const Container& container, QWidget* parent);
+
+private:
+    void Visit(Label& label) override;
+    void Visit(TextBox& box) override;
+    void Visit(Button& button) override;
+    void Visit(CheckBox& box) override;
+    void Visit(Frame& frame) override;
+    void Visit(ListBox& list) override;
+    void Visit(Image& image) override;
+    void Visit(Shape& shape) override;
+    void Visit(ScrollBar& bar) override;
+    void Visit(MultimediaControl& player) override;
+    void Visit(PictureBox& picture) override;
+    void Visit(DataControl& data) override;
+
+    void VisitLine(TextBox& box);
+    void VisitLines(TextBox& box);
+    // What all kinds have in common: name, place, being visible and enabled.
+    void Dress(QWidget* widget, Control& control);
+    void NameForReaders(QWidget* widget, const Control& control);
+    template <class Caption>
+    void FollowCaption(QWidget* widget, const Control& control, Caption& caption);
+
+    const Scale scale_;
+    std::shared_ptr<const Gate> gate_;
+    Bindings& bindings_;
+    const Container* container_ = nullptr;
+    QWidget* parent_ = nullptr;
+};
+
+} // namespace lineforge

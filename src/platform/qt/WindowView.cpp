@@ -1,0 +1,121 @@
+#include "platform/qt/WindowView.h"
+
+#include "platform/qt/ClickableWidgets.h"
+#include "platform/qt/MenuBuilder.h"
+#include "platform/qt/WidgetBuilder.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QMenuBar>
+#include <QScreen>
+#include <QStyle>
+
+#include <algorithm>
+#include <utility>
+
+namespace lineforge
+{
+
+WindowView::WindowView(Form& form, const Scale& scale, std::shared_ptr<const Gate> gate)
+    : form_(form), scale_(scale), gate_(std::move(gate))
+{
+    setObjectName(form.Name);
+    setWindowFlag(Qt::WindowStaysOnTopHint, form.Topmost);
+    setWindowFlag(Qt::FramelessWindowHint, form.Frameless);
+    if (!form.Menus.empty()) {
+        menuBar()->setNativeMenuBar(false);
+        BuildMenus(*menuBar(), form.Menus, gate_, bindings_);
+    }
+    BuildClient();
+    FollowForm();
+}
+
+void WindowView::BuildClient()
+{
+    auto* client = new ClientArea(this);
+    client->Clicked = [gate = gate_, &form = form_] { gate->Run(form.Click); };
+    WidgetBuilder(scale_, gate_, bindings_).Build(form_, client);
+    setCentralWidget(client);
+}
+
+void WindowView::FollowForm()
+{
+    bindings_.Follow(form_.Caption, [this] {
+        setWindowTitle(form_.Caption);
+        setAccessibleName(form_.Caption.value().isEmpty() ? form_.Name : form_.Caption.value());
+    });
+    bindings_.Follow(form_.Enabled, [this] { setEnabled(form_.Enabled); });
+    TakePlace();
+    for (QProperty<int>* length : {&form_.Left, &form_.Top, &form_.Width, &form_.Height})
+        bindings_.Watch(*length, [this] { TakePlace(); });
+}
+
+bool WindowView::HasOwnSize() const
+{
+    return Size{form_.Width, form_.Height} != form_.Client;
+}
+
+int WindowView::TitleHeight() const
+{
+    return form_.Frameless ? 0 : style()->pixelMetric(QStyle::PM_TitleBarHeight);
+}
+
+QSize WindowView::InnerSize(QSize available) const
+{
+    QSize wanted;
+    if (HasOwnSize()) {
+        wanted = scale_.ToPixels(Size{form_.Width, form_.Height}) - QSize(0, TitleHeight());
+    } else {
+        wanted = scale_.ToPixels(form_.Client);
+        if (!form_.Menus.empty())
+            wanted.rheight() += static_cast<const QMenuBar*>(menuWidget())->heightForWidth(wanted.width());
+    }
+    return wanted.boundedTo(available).expandedTo({1, 1});
+}
+
+void WindowView::TakePlace()
+{
+    const QScreen& monitor = *QGuiApplication::primaryScreen();
+    const QRect available = monitor.availableGeometry();
+    const QSize inner = InnerSize(available.size() - QSize(0, TitleHeight()));
+    const QSize whole = inner + QSize(0, TitleHeight());
+    const QPoint spare(available.width() - whole.width(), available.height() - whole.height());
+    const bool isPlaced = HasOwnSize() || form_.Left != 0 || form_.Top != 0;
+    const QPoint wanted =
+        isPlaced ? monitor.geometry().topLeft() + QPoint(scale_.ToPixels(form_.Left), scale_.ToPixels(form_.Top))
+                 : available.topLeft() + spare / 2;
+    // Nothing in a window of designed size could make use of more room.
+    if (HasOwnSize()) {
+        setMinimumSize(0, 0);
+        setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+        resize(inner);
+    } else {
+        setFixedSize(inner);
+    }
+    move(std::clamp(wanted.x(), available.left(), available.left() + spare.x()),
+         std::clamp(wanted.y(), available.top(), available.top() + spare.y()));
+}
+
+void WindowView::Appear()
+{
+    show();
+    raise();
+    activateWindow();
+}
+
+void WindowView::Detach()
+{
+    bindings_ = {};
+    // Whoever looks for the window by its name means the next one that is made.
+    setObjectName({});
+    hide();
+}
+
+// Closing is the program's business: unloading the form takes the window away.
+void WindowView::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    gate_->Run(form_.CloseByFrame);
+}
+
+} // namespace lineforge

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/Form.h"
+#include "platform/qt/Bindings.h"
+#include "platform/qt/Handlers.h"
+#include "platform/qt/Scale.h"
+
+#include <QMainWindow>
+
+#include <memory>
+
+namespace lineforge
+{
+
+// What shows one window. Without a size of its own the window has exactly the client area of its design, in the middle
+// of the screen unless it has been placed; a size that the program gave is that of the whole window with its frame.
+class WindowView : public QMainWindow
+{
+public:
+    WindowView(Form& form, const Scale& scale, std::shared_ptr<const Gate> gate);
+
+    // Before all other windows.
+    void Appear();
+    // For good: the window goes from the screen and nothing follows the form any more.
+    void Detach();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void BuildClient();
+    void FollowForm();
+    bool HasOwnSize() const;
+    QSize InnerSize(QSize available) const;
+    void TakePlace();
+    int TitleHeight() const;
+
+    Form& form_;
+    const Scale scale_;
+    std::shared_ptr<const Gate> gate_;
+    Bindings bindings_;
+};
+
+} // namespace lineforge

@@ -1,0 +1,118 @@
+#include "program/AliasList.h"
+
+#include "platform/Number.h"
+#include "platform/Text.h"
+#include "platform/TextFile.h"
+
+#include <functional>
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr int fileNameLength = 13; // of "AliasList.cfg"
+constexpr int directoryLength = 8; // of "LfgDat_A"
+
+QString ListPath(const Program& p)
+{
+    return p.Branch.HomeDir + u"AliasList.cfg";
+}
+
+// Whether the list can be read. Only an attribute value of exactly read-only refuses; a file that bears another
+// attribute as well passes here and fails later, when it is written.
+bool CanRead(Program& p)
+{
+    if (!p.Files.LookUpGivesTail(ListPath(p), fileNameLength)) {
+        p.form9.Unload();
+        p.Prompts.MsgBox(u"File not Found."_s, u"Can't find AliasList.cfg in Home Directory"_s, Buttons::Information);
+        return false;
+    }
+    p.Alias.AliasAttr = p.Files.GetAttr(ListPath(p));
+    if (p.Alias.AliasAttr == FileSystem::ReadOnly) {
+        p.Prompts.MsgBox(u"File Attribute set for Read Only."_s,
+                         u"Cannot access a Read Only File. Use 'Import File' to read this File."_s,
+                         Buttons::Information);
+        return false;
+    }
+    return true;
+}
+
+// Hands over each value of a section that a comma ends. Brackets and line ends between values don't count, so that
+// the bracket which opens the section's line is passed over, and with it any that stands in a value.
+void ReadSection(TextReader& reader, QStringView section, const std::function<void(const QString&)>& take)
+{
+    if (!reader.SkipPast(section))
+        return;
+    QString value;
+    for (QChar character = reader.Next(); character != u']'; character = reader.Next()) {
+        if (character == u',')
+            take(std::exchange(value, QString()));
+        else if (character != u'[' && character != u'\n' && character != u'\r')
+            value += character;
+    }
+}
+} // namespace
+
+void ReadAliasConfig(Program& p)
+{
+    if (!CanRead(p))
+        return;
+    TextReader reader(p.Files, ListPath(p));
+    ReadSection(reader, u"[CFG]", [&](const QString& value) { p.Alias.NoSplash = ToInteger(value); });
+}
+
+void ReadAliasList(Program& p)
+{
+    if (!CanRead(p))
+        return;
+    p.Alias.AliasTable.Erase();
+    p.Alias.sAliasList.clear();
+    TextReader reader(p.Files, ListPath(p));
+    int index = 0;
+    ReadSection(reader, u"[Alias]", [&](const QString& entry) {
+        p.Alias.AliasTable[index++] = entry;
+        p.Alias.sAliasList += entry + u',';
+    });
+}
+
+void WriteAliasList(Program& p)
+{
+    p.Scratch.sFileA = ListPath(p);
+    p.Scratch.sFileB = p.Branch.HomeDir + u"AliasList.bak";
+    if (p.Files.LookUpGivesTail(p.Scratch.sFileA, fileNameLength))
+        p.Files.FileCopy(p.Scratch.sFileA, p.Scratch.sFileB);
+    WriteTextLines(p.Files, p.Scratch.sFileA,
+                   {u"This File Contains Graphic Data crucial to your program. Warning: DO NOT MODIFY."_s, u"[Alias]"_s,
+                    u'[' + p.Alias.sAliasList + u']', u"[CFG]"_s, u"[%1,]"_s.arg(p.Alias.NoSplash)});
+}
+
+void FillBranchList(Program& p)
+{
+    if (p.Alias.sAliasList.isEmpty())
+        return;
+    const FixedArray<QString, 0, 99>& table = p.Alias.AliasTable;
+    ListBox& list = p.Form8->List1;
+
+    QStringList names;
+    for (int index = 0; !table[index].isEmpty(); ++index) {
+        const qsizetype equals = table[index].indexOf(u'=');
+        if (equals < 0)
+            break;
+        names += table[index].first(equals);
+    }
+    list.ListIndex = -1;
+    list.Items = names;
+
+    const QString open = p.Branch.WorkDir.right(directoryLength);
+    for (int index = 0; !table[index].isEmpty(); ++index) {
+        if (SameText(table[index].right(directoryLength), open)) {
+            list.SetText(table[index].chopped(directoryLength + 1));
+            break;
+        }
+    }
+}
+
+} // namespace lineforge

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "program/Program.h"
+
+namespace lineforge
+{
+
+// The registry of tree branches, `AliasList.cfg` in `HomeDir`: five lines with the list of friendly names and
+// directories and the one setting. The readers show a box and leave everything as it was when the file is missing or
+// read-only; a file that ends inside a section is error 62, an entry beyond the hundredth error 9.
+
+// Reads `NoSplash`. Error 13 for a setting that is no number.
+void ReadAliasConfig(Program& p);
+
+// Rebuilds `AliasTable` and `sAliasList`.
+void ReadAliasList(Program& p);
+
+// Writes the file anew from `sAliasList` and `NoSplash`; the old one becomes `AliasList.bak`. Errors of the disk.
+void WriteAliasList(Program& p);
+
+// Puts the friendly names into the branch list, in the table's order, and selects the open branch. Does nothing while
+// `sAliasList` is empty.
+void FillBranchList(Program& p);
+
+} // namespace lineforge

@@ -1,0 +1,53 @@
+#include "program/AlternateBranch.h"
+
+#include "program/BranchPaths.h"
+#include "program/WorkDatabase.h"
+
+#include <utility>
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+void SwapBranchDirs(Program& p)
+{
+    std::swap(p.Branch.WorkDir, p.Branch.WorkDirSaved);
+    std::swap(p.Branch.HomeDir, p.Branch.HomeDirSaved);
+}
+
+bool RequireSibling(Program& p, QStringView letter)
+{
+    const bool isImported = IsImported(p.Branch.WorkDir);
+    const QString directory = (isImported ? u"Import_"_s : u"LfgDat_"_s) + letter;
+    const QString database = p.Branch.HomeDir + directory + PathSeparator + u"LfgDat_" + letter + u".mdb";
+    if (!p.Files.Dir(database).isEmpty())
+        return true;
+    if (isImported)
+        p.Prompts.MsgBox(u"External Import Record not present."_s,
+                         u"Cannot Access External Imported Database subject."_s, Buttons::Information);
+    else
+        p.Prompts.MsgBox(u"External Record not present."_s,
+                         u"Cannot Access this External Database and subject.\n"_s + database + u" not present.",
+                         Buttons::Information);
+    return false;
+}
+
+void SwitchToSibling(Program& p, QStringView letter)
+{
+    p.Branch.WorkDirSaved = p.Branch.WorkDir;
+    p.Branch.HomeDirSaved = p.Branch.HomeDir;
+    p.Branch.WorkDir = SiblingDirectory(p.Branch.WorkDir, letter);
+    OpenWorkDatabase(p);
+    p.Branch.UsingAlternate = 1;
+}
+
+void ReturnFromSibling(Program& p)
+{
+    p.Branch.WorkDir = p.Branch.WorkDirSaved;
+    p.Branch.HomeDir = p.Branch.HomeDirSaved;
+    OpenWorkDatabase(p);
+    p.Branch.UsingAlternate = 0;
+}
+
+} // namespace lineforge

@@ -1,0 +1,52 @@
+#include "program/BranchPaths.h"
+
+#include "platform/FileSystem.h"
+#include "platform/Text.h"
+
+namespace lineforge
+{
+
+namespace
+{
+constexpr int directoryNameLength = 8;
+}
+
+QString DirectoryName(const QString& workDir)
+{
+    return workDir.right(directoryNameLength);
+}
+
+QString BranchLetter(const QString& workDir)
+{
+    return workDir.right(1);
+}
+
+QString SiblingDirectory(const QString& workDir, QStringView letter)
+{
+    return workDir.chopped(1) + letter;
+}
+
+bool IsImported(const QString& workDir)
+{
+    return SameText(DirectoryName(workDir).first(std::min<qsizetype>(6, workDir.size())), u"Import");
+}
+
+QString DatabasePath(const QString& workDir)
+{
+    return workDir + PathSeparator + u"LfgDat_" + BranchLetter(workDir) + u".mdb";
+}
+
+QString MapFileToRead(const QString& workDir)
+{
+    return workDir + PathSeparator + u"LfgDat_" + BranchLetter(workDir) + u".cfg";
+}
+
+QString MapFileToWrite(const QString& workDir, const QString& homeDir, QStringView ending)
+{
+    // With no branch open the name has lost its directory and begins at the root, which here is the home directory.
+    if (workDir.isEmpty())
+        return homeDir + ending;
+    return workDir + PathSeparator + DirectoryName(workDir) + ending;
+}
+
+} // namespace lineforge

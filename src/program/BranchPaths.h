@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+
+// How the paths of a tree branch are made of its directory; pure.
+namespace lineforge
+{
+
+// "LfgDat_A" of a branch directory's path.
+QString DirectoryName(const QString& workDir);
+
+// "A" of the same; empty of an empty path.
+QString BranchLetter(const QString& workDir);
+
+// The directory of the same family whose letter is another one.
+QString SiblingDirectory(const QString& workDir, QStringView letter);
+
+// A branch that was imported beside another of its letter.
+bool IsImported(const QString& workDir);
+
+// The record database. Its name keeps the ordinary prefix in an imported branch.
+QString DatabasePath(const QString& workDir);
+
+// Where a map is read. In an imported branch that is the file which came with it, never the one that is written
+// there, so that changes to an imported map don't come back; that is the settled behaviour.
+QString MapFileToRead(const QString& workDir);
+
+// Where a map is written, with the given ending: ".cfg", or ".~cf" for the previous generation.
+QString MapFileToWrite(const QString& workDir, const QString& homeDir, QStringView ending);
+
+} // namespace lineforge

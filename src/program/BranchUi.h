@@ -1,0 +1,21 @@
+#pragma once
+
+#include "program/Program.h"
+
+namespace lineforge
+{
+
+// What needs an open branch: off at the start. Nothing turns it off again, not even closing the branch.
+void DisableBranchUI(Program& p);
+void EnableBranchUI(Program& p);
+
+// Ends a pending mapping or re-positioning of a subject.
+void ClearMapCursor(Program& p);
+
+// `sCurFile` and `sPicFile` from the record form.
+void SetPictureName(Program& p);
+
+// Shows the last run-time error, if there is one, in a plain box.
+void ReportError(Program& p);
+
+} // namespace lineforge

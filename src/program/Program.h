@@ -1,0 +1,141 @@
+#pragma once
+
+#include "forms/Form1.h"
+#include "forms/Form11.h"
+#include "forms/Form12.h"
+#include "forms/Form2.h"
+#include "forms/Form3.h"
+#include "forms/Form4.h"
+#include "forms/Form5.h"
+#include "forms/Form6.h"
+#include "forms/Form7.h"
+#include "forms/Form8.h"
+#include "forms/form9.h"
+#include "platform/Database.h"
+#include "platform/FileSystem.h"
+#include "platform/Platform.h"
+#include "platform/Recordset.h"
+#include "platform/RuntimeError.h"
+#include "program/MapState.h"
+
+#include <QString>
+
+namespace lineforge
+{
+
+struct BranchState {
+    QString HomeDir;      // with a trailing separator; all fixed files and branch directories stand beneath it
+    QString WorkDir;      // directory of the open branch, without a trailing separator; empty: none is open
+    Integer16 WorkDirLen; // its length, kept beside it
+    // The open database; empty: none. A whole path after New and after a switch to a sibling branch, the bare file
+    // name after Open, so that whoever compares it tries both.
+    QString sDbaseName;
+    QString sBranchName;
+    // 1 while the current record comes from a branch other than the one whose map is shown; the two directories then
+    // point at that branch and the saved ones hold the map's own.
+    Integer16 UsingAlternate;
+    QString WorkDirSaved;
+    QString HomeDirSaved;
+    // Letters that were in use at some time of this run; one that a deletion has freed stays in here.
+    FixedArray<bool, 1, 26> TakenLetters;
+};
+
+struct AliasState {
+    QString sAliasList;                    // "name=directory," again and again
+    FixedArray<QString, 0, 99> AliasTable; // the same entries without their commas; the first empty one ends them
+    Integer16 AliasAttr;                   // attributes of the list's file at its last reading
+    Integer16 NoSplash;                    // 1: the splash isn't shown
+};
+
+struct ToolState {
+    Integer16 ToolMode; // 0 normal, 1 lineage view on, 3 graphics tools open
+    Integer16 ToolSel;  // the tool in hand, 0 for none
+    Integer16 ToolStep;
+    Integer16 MapCursorMode; // 0 normal, 1 mapping, 2 re-positioning, 3 moving a subject
+};
+
+// What the mouse did on the map; twips on the picture.
+struct MapMouseState {
+    Integer16 DownX;
+    Integer16 DownY;
+    Integer16 BoxX; // position of the box at hand
+    Integer16 BoxY;
+    Integer16 BoxLeft;
+    Integer16 BoxTop;
+    Integer16 BoxIdx; // the box that a press hit
+    Integer16 BoxMiss;
+    QString sCoords;
+};
+
+struct RecordState {
+    QString sCurFile; // `File` of the record at hand
+    QString sPicFile; // and its picture's name
+    QString sForeName;
+    QString sAltName; // forename of a record of another branch
+    QString sShownName;
+    Bookmark SavedBookmark;
+};
+
+struct GalleryState {
+    Integer16 FirstShow; // 1: the page must be built before it is shown
+};
+
+struct BookmarkState {
+    FixedArray<QString, 0, 100> BookmarkList;
+    Integer16 BookmarkCount;
+};
+
+struct OutputState {
+    Integer16 PrintToPrinter; // 1: the map's draw routines write to the page instead of the picture
+    Surface* Page = nullptr;  // the printer's page while that is so
+};
+
+// Shared by all routines. They carry no state between commands, but some routines read what a called one left there.
+struct ScratchState {
+    int IdxA = 0;
+    int IdxB = 0;
+    int LenScratch = 0;
+    QString sFileA;
+    QString sFileB;
+    QString sNewDir; // written by several commands; the searches and the gallery rely on the last writer
+    QString sPath;
+    QString sInput;
+};
+
+// One run of the program: the machine it runs on, all its state, and its windows.
+struct Program {
+    explicit Program(const Platform& platform);
+
+    lineforge::Prompts& Prompts;
+    EventLoop& Loop;
+    lineforge::Screen& Screen;
+    QString ExecutableDirectory;
+    FileSystem Files;
+    lineforge::Databases Databases;
+    ErrorState Errors;
+
+    BranchState Branch;
+    AliasState Alias;
+    ToolState Tools;
+    MapState Map;
+    MapMouseState Mouse;
+    RecordState Record;
+    GalleryState Gallery;
+    BookmarkState Bookmarks;
+    OutputState Output;
+    ScratchState Scratch;
+
+    Window<forms::form9> form9;
+    Window<forms::Form1> Form1;
+    Window<forms::Form2> Form2;
+    Window<forms::Form3> Form3;
+    Window<forms::Form4> Form4;
+    Window<forms::Form5> Form5;
+    Window<forms::Form6> Form6;
+    Window<forms::Form7> Form7;
+    Window<forms::Form8> Form8;
+    Window<forms::Form11> Form11;
+    Window<forms::Form12> Form12;
+};
+
+} // namespace lineforge

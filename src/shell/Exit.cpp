@@ -1,0 +1,33 @@
+#include "shell/Exit.h"
+
+#include "map/MapFile.h"
+
+namespace lineforge
+{
+
+void ExitProgram(Program& p)
+{
+    SaveBoxes(p);
+    p.Form5->MMControl1.Command(u"Close");
+    // The main window takes all others with it and ends the program.
+    p.Form1.Unload();
+}
+
+void CloseMainWindow(Program& p)
+{
+    p.Form1->MMControl1.Command(u"Close");
+    p.Form5->MMControl1.Command(u"Close");
+    p.Form2.Unload();
+    p.Form3.Unload();
+    p.Form4.Unload();
+    p.Form5.Unload();
+    p.Form6.Unload();
+    p.Form7.Unload();
+    p.Form8.Unload();
+    p.form9.Unload();
+    p.Form11.Unload();
+    p.Form12.Unload();
+    p.Loop.End(0);
+}
+
+} // namespace lineforge

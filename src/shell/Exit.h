@@ -1,0 +1,16 @@
+#pragma once
+
+#include "program/Program.h"
+
+namespace lineforge
+{
+
+// The Exit command of any window: saves the boxes, whether or not a branch is open, and ends the program. Errors of the
+// disk come through before anything is closed.
+void ExitProgram(Program& p);
+
+// The main window goes, by its frame or by the command: closes sounds and all windows and ends the program. By the
+// frame alone the boxes aren't saved; that is the settled behaviour.
+void CloseMainWindow(Program& p);
+
+} // namespace lineforge

@@ -1,0 +1,31 @@
+#include "shell/FatalPath.h"
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+void EndWithError(Program& p, const RuntimeError& error)
+{
+    p.Errors.Last = error;
+    p.Prompts.MsgBox(u"Lineforge"_s, u"Run-time error '%1':\n\n%2"_s.arg(error.Number).arg(error.Text), Buttons::Error);
+    p.Loop.End(1);
+}
+} // namespace
+
+void RunHandler(Program& p, const Event& handler)
+{
+    try {
+        try {
+            Fire(handler);
+        } catch (const RuntimeError& error) {
+            EndWithError(p, error);
+        }
+    } catch (const ProgramEnded&) {
+        // The handlers further out learn of the end when their own waiting returns.
+    }
+}
+
+} // namespace lineforge

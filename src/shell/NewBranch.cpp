@@ -1,0 +1,173 @@
+#include "shell/NewBranch.h"
+
+#include "map/MapFile.h"
+#include "map/MapItems.h"
+#include "map/MapParse.h"
+#include "map/SubjectPanel.h"
+#include "platform/Text.h"
+#include "program/AliasList.h"
+#include "program/BranchUi.h"
+#include "program/WorkDatabase.h"
+#include "shell/EmptyTable.h"
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr QStringView letters = u"ABCDEFGHIJKLMNOPQRSTUVWXYZ";
+constexpr QStringView ordinaryPrefix = u"LfgDat_";
+
+void PutOldMapAway(Program& p)
+{
+    if (!p.Branch.WorkDir.isEmpty())
+        SaveBoxes(p);
+    p.Form1->Picture1.Cls();
+    ResetMapFont(p.Form1->Picture1);
+    p.Map.Erase();
+    p.Branch.UsingAlternate = 0;
+}
+
+// Marks the letters of all branch directories; false, and a box, when the last letter is among them. The table counts
+// as full then, even with gaps below.
+bool MarkTakenLetters(Program& p)
+{
+    p.Files.ChDir(p.Branch.HomeDir);
+    for (const QString& name : p.Files.Directories(u"*"_s)) {
+        if (!SameText(name.left(ordinaryPrefix.size()), ordinaryPrefix))
+            continue;
+        if (SameText(name, u"LFGDAT_Z")) {
+            p.Prompts.MsgBox(u"Directory Table Full."_s,
+                             u"Last Directory(LFGDAT_Z) used. You need to have space for a new directory(maximum 26 "
+                             u"allowed).Contact software vendor for support."_s,
+                             Buttons::Information);
+            return false;
+        }
+        if (const qsizetype letter = letters.indexOf(name.back().toUpper()); letter >= 0)
+            p.Branch.TakenLetters[static_cast<int>(letter) + 1] = true;
+    }
+    return true;
+}
+
+QChar FirstFreeLetter(const Program& p)
+{
+    int slot = 1;
+    while (p.Branch.TakenLetters[slot])
+        ++slot;
+    return letters[slot - 1];
+}
+
+bool IsNameInUse(const QString& aliasList, const QString& name)
+{
+    qsizetype start = 0;
+    for (qsizetype at = 0; at < aliasList.size(); ++at) {
+        if (aliasList[at] == u',')
+            start = at + 1;
+        else if (aliasList[at] == u'=' && SameText(aliasList.sliced(start, at - start), name))
+            return true;
+    }
+    return false;
+}
+
+// A name that no branch has; empty for a cancelled question.
+QString AskName(Program& p)
+{
+    for (;;) {
+        const QString name =
+            p.Prompts.InputBox(u"New Tree Branch name"_s, u"Enter the name for this new Tree Branch Map"_s);
+        if (name.isEmpty() || !IsNameInUse(p.Alias.sAliasList, name))
+            return name;
+        p.Prompts.MsgBox(u"Duplicate Name entered."_s, u"Cannot have Tree Branch databases with same name"_s,
+                         Buttons::Information);
+    }
+}
+
+bool Confirm(Program& p, const QString& name, const QString& directory)
+{
+    const QString text = u"New '"_s + name +
+                         u"' Tree Branch Database and new map file will be \nplaced in new Directory " +
+                         p.Branch.HomeDir + directory + u".\nNew '" + name +
+                         u"' Subject and Gallery files will be copied to this \ndirectory when presented.";
+    return p.Prompts.MsgBox(name + u" Tree Branch new Directory and Files", text, Buttons::InformationOkCancel) ==
+           Answer::Ok;
+}
+
+// False, and a box, when the directory is there already.
+bool MakeDirectories(Program& p, const QString& directory)
+{
+    try {
+        p.Files.MkDir(directory);
+    } catch (const RuntimeError& error) {
+        if (error.Number != ErrorNumber::PathFileAccess)
+            throw;
+        // The words of the text are meant as they stand.
+        p.Prompts.MsgBox(u"Error Setting New Directory"_s, u" sDir & ' directory already exists.'"_s,
+                         Buttons::Information);
+        return false;
+    }
+    p.Files.MkDir(directory + PathSeparator + u"LfgGal_" + directory.back());
+    return true;
+}
+
+void ShowNoSubject(Program& p)
+{
+    forms::Form1& form = *p.Form1;
+    form.Shape1.Visible = false;
+    EmptySubjectLabels(p,
+                       {&forms::Form1::Label9, &forms::Form1::Label10, &forms::Form1::Label11, &forms::Form1::Label12,
+                        &forms::Form1::Label14},
+                       QString());
+    form.Image1.Picture = QImage();
+    p.Form4->Hide();
+}
+
+void AddToAliasList(Program& p, const QString& name, const QString& directory)
+{
+    ReadAliasList(p);
+    p.Alias.sAliasList += name + u'=' + directory + u',';
+    WriteAliasList(p);
+    ReadAliasList(p);
+    FillBranchList(p);
+}
+
+void MakeBranch(Program& p, const QString& name, const QString& directory)
+{
+    p.Branch.sBranchName = name;
+    p.Branch.WorkDir = p.Branch.HomeDir + directory;
+    p.Branch.WorkDirLen = static_cast<int>(p.Branch.WorkDir.size());
+    p.Scratch.sNewDir = directory;
+    // Relative to the current directory, which is the home directory since its branches were listed.
+    if (!MakeDirectories(p, directory))
+        return;
+    const QString stem = directory + PathSeparator + directory;
+    p.Files.FileCopy(p.Branch.HomeDir + u"LfgEmpt.~cf", stem + u".cfg");
+    p.Files.FileCopy(p.Branch.HomeDir + u"LfgEmpt.~Md", stem + u".mdb");
+    p.Branch.sDbaseName = p.Branch.HomeDir + stem + u".mdb";
+    PointAtDatabase(p, p.Branch.sDbaseName);
+
+    ShowNoSubject(p);
+    AddToAliasList(p, name, directory);
+    ReadMapFile(p);
+    ParseBoxes(p);
+    ParseLines(p);
+    ParseTexts(p);
+    EnableBranchUI(p);
+    TellIfEmpty(p);
+}
+} // namespace
+
+void NewBranch(Program& p)
+{
+    PutOldMapAway(p);
+    if (!MarkTakenLetters(p))
+        return;
+    const QString directory = ordinaryPrefix + FirstFreeLetter(p);
+    const QString name = AskName(p);
+    if (name.isEmpty() || !Confirm(p, name, directory))
+        return;
+    MakeBranch(p, name, directory);
+}
+
+} // namespace lineforge

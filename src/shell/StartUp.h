@@ -1,0 +1,20 @@
+#pragma once
+
+#include "program/Program.h"
+
+namespace lineforge
+{
+
+// Starts the program: loads the splash, which does the rest.
+void StartProgram(Program& p);
+
+// The splash's load: home directory, setting, splash and sound, then the main window.
+void LoadSplash(Program& p);
+
+// The splash's check box: the setting is written at once.
+void ChooseSplash(Program& p);
+
+// The main window's load: its size, the list of branches, and what is off until a branch is open.
+void LoadMainWindow(Program& p);
+
+} // namespace lineforge

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "program/Program.h"
+
+namespace lineforge
+{
+
+// What the controls of each window do, one file a window; each handler is one call.
+void InstallForm1(Program& p, forms::Form1& form);
+void InstallForm3(Program& p, forms::Form3& form);
+void InstallForm8(Program& p, forms::Form8& form);
+void InstallForm9(Program& p, forms::form9& form);
+
+// For all windows of a program, whenever they are made.
+void InstallHandlers(Program& p);
+
+} // namespace lineforge

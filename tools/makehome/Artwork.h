@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QString>
+
+namespace lineforge::makehome
+{
+
+void MakeArtwork(const QString& targetDirectory);
+
+}

@@ -1,0 +1,151 @@
+#include "Icons.h"
+
+#include "Paint.h"
+
+#include <QPainterPath>
+
+namespace lineforge::makehome
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr QSize galleryIconSize(98, 114);
+
+QImage GalleryCard(const QColor& tint)
+{
+    QImage picture = Canvas(galleryIconSize, QColor(240, 240, 240));
+    SmoothPainter painter(picture);
+    painter.setPen(QPen(tint.darker(150), 1.5));
+    painter.setBrush(tint);
+    painter.drawRoundedRect(QRectF(3, 3, 92, 108), 9, 9);
+    return picture;
+}
+
+void DrawBranchBox(QPainter& painter, const QRectF& box, const QColor& colour)
+{
+    painter.setPen(QPen(colour.darker(150), 4));
+    painter.setBrush(colour);
+    painter.drawRoundedRect(box, 10, 10);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(255, 255, 255, 215));
+    painter.drawRoundedRect(QRectF(box.left() + 14, box.top() + 17, box.width() - 44, 8), 4, 4);
+    painter.drawRoundedRect(QRectF(box.left() + 14, box.top() + 35, box.width() - 28, 8), 4, 4);
+}
+
+void DrawDoor(QPainter& painter)
+{
+    painter.fillRect(7, 5, 13, 23, QColor(92, 60, 30));
+    painter.fillRect(9, 7, 9, 21, QColor(64, 92, 128));
+    const QPolygonF leaf{QPointF(9, 7), QPointF(15, 10), QPointF(15, 29), QPointF(9, 28)};
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(196, 140, 74));
+    painter.drawPolygon(leaf);
+    painter.fillRect(13, 18, 1, 3, QColor(60, 40, 20));
+}
+
+} // namespace
+
+QImage SoundClipIcon()
+{
+    QImage picture = GalleryCard(QColor(206, 226, 244));
+    SmoothPainter painter(picture);
+    const QColor ink(38, 74, 120);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ink);
+    painter.drawPolygon(QPolygonF{QPointF(36, 30), QPointF(74, 20), QPointF(74, 32), QPointF(36, 42)});
+    painter.drawRect(QRectF(36, 34, 4.5, 48));
+    painter.drawRect(QRectF(69.5, 24, 4.5, 48));
+    for (const QPointF& head : {QPointF(31, 82), QPointF(64.5, 72)}) {
+        painter.save();
+        painter.translate(head);
+        painter.rotate(-20);
+        painter.drawEllipse(QPointF(0, 0), 11, 8);
+        painter.restore();
+    }
+    return picture;
+}
+
+QImage FilmClipIcon()
+{
+    QImage picture = GalleryCard(QColor(236, 218, 240));
+    SmoothPainter painter(picture);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(58, 44, 70));
+    painter.drawRoundedRect(QRectF(17, 17, 64, 80), 4, 4);
+    painter.setBrush(QColor(236, 218, 240));
+    for (int hole = 0; hole < 7; ++hole) {
+        painter.drawRect(QRectF(21, 21.5 + hole * 11, 6, 6));
+        painter.drawRect(QRectF(71, 21.5 + hole * 11, 6, 6));
+    }
+    painter.setBrush(QColor(250, 246, 252));
+    painter.drawRect(QRectF(31, 23, 36, 68));
+    painter.setBrush(QColor(150, 70, 160));
+    painter.drawPolygon(QPolygonF{QPointF(39, 41), QPointF(39, 73), QPointF(62, 57)});
+    return picture;
+}
+
+QImage TextFileIcon()
+{
+    QImage picture = GalleryCard(QColor(246, 236, 206));
+    SmoothPainter painter(picture);
+    QPainterPath page;
+    page.moveTo(22, 16);
+    page.lineTo(60, 16);
+    page.lineTo(76, 32);
+    page.lineTo(76, 98);
+    page.lineTo(22, 98);
+    page.closeSubpath();
+    painter.setPen(QPen(QColor(140, 116, 60), 1.5));
+    painter.setBrush(QColor(255, 254, 248));
+    painter.drawPath(page);
+    painter.setBrush(QColor(226, 210, 164));
+    painter.drawPolygon(QPolygonF{QPointF(60, 16), QPointF(60, 32), QPointF(76, 32)});
+    painter.setPen(QPen(QColor(120, 104, 70), 2.5, Qt::SolidLine, Qt::RoundCap));
+    constexpr int rows = 7;
+    for (int row = 0; row < rows; ++row) {
+        const qreal y = 40 + row * 8;
+        painter.drawLine(QPointF(30, y), QPointF(row == rows - 1 ? 50 : 68, y));
+    }
+    return picture;
+}
+
+QImage PressedExitButton()
+{
+    QImage picture = Canvas(QSize(32, 32), QColor(214, 214, 214));
+    SmoothPainter painter(picture);
+    DrawDoor(painter);
+    painter.setBrush(QColor(0, 128, 60));
+    painter.drawPolygon(QPolygonF{QPointF(19, 16), QPointF(23, 16), QPointF(23, 12), QPointF(29.5, 18), QPointF(23, 24),
+                                  QPointF(23, 20), QPointF(19, 20)});
+    // The edges make the button look pushed in and must stay crisp.
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.fillRect(0, 0, 32, 1, QColor(96, 96, 96));
+    painter.fillRect(0, 0, 1, 32, QColor(96, 96, 96));
+    painter.fillRect(1, 1, 30, 1, QColor(160, 160, 160));
+    painter.fillRect(1, 1, 1, 30, QColor(160, 160, 160));
+    painter.fillRect(0, 31, 32, 1, Qt::white);
+    painter.fillRect(31, 0, 1, 32, Qt::white);
+    return picture;
+}
+
+QImage ProgramIcon()
+{
+    QImage picture = Canvas(QSize(256, 256), Qt::transparent);
+    SmoothPainter painter(picture);
+    painter.setPen(QPen(QColor(176, 150, 100), 6));
+    painter.setBrush(QColor(252, 247, 232));
+    painter.drawRoundedRect(QRectF(9, 9, 238, 238), 36, 36);
+
+    painter.setPen(QPen(QColor(86, 66, 36), 9, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawLine(QPointF(128, 98), QPointF(128, 130));
+    painter.drawPolyline(QPolygonF{QPointF(75, 160), QPointF(75, 130), QPointF(181, 130), QPointF(181, 160)});
+    DrawBranchBox(painter, QRectF(80, 38, 96, 60), QColor(72, 122, 186));
+    DrawBranchBox(painter, QRectF(27, 160, 96, 60), QColor(200, 92, 98));
+    DrawBranchBox(painter, QRectF(133, 160, 96, 60), QColor(92, 152, 88));
+    return picture;
+}
+
+} // namespace lineforge::makehome

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QImage>
+
+namespace lineforge::makehome
+{
+
+// What the gallery shows in place of a thumbnail.
+QImage SoundClipIcon();
+QImage FilmClipIcon();
+QImage TextFileIcon();
+
+QImage PressedExitButton();
+QImage ProgramIcon();
+
+} // namespace lineforge::makehome
