@@ -147,7 +147,7 @@ void DrawRecordInBox(Program& p, const Recordset& row)
     if (IsPlacingSubject(p))
         FindBoxOfRecord(p);
     Surface& surface = CaptionSurface(p);
-    surface.PrintAt(CaptionPlace(p, numberInBox, 10), row.Text(u"File"));
+    PrintOnMap(surface, CaptionPlace(p, numberInBox, 10), row.Text(u"File"));
     surface.PrintAt(CaptionPlace(p, forenameInBox, 130), p.Record.sForeName);
     if (OnPaper(p))
         surface.PrintAt(CaptionPlace(p, forenameInBox, 260), u"B :"_s + row.Text(u"BirthDate").right(4));
@@ -162,7 +162,7 @@ void DrawBoxNumber(Program& p)
 {
     if (IsPlacingSubject(p))
         FindBoxOfRecord(p);
-    CaptionSurface(p).PrintAt(CaptionPlace(p, numberInBox, 40), FiledNumber(p, p.Scratch.IdxA));
+    PrintOnMap(CaptionSurface(p), CaptionPlace(p, numberInBox, 40), FiledNumber(p, p.Scratch.IdxA));
 }
 
 void DrawBoxCaptions(Program& p)
@@ -174,13 +174,16 @@ void DrawBoxCaptions(Program& p)
         if (letter.isEmpty() || letter == u"0")
             continue;
         const bool isOwn = SameText(letter, BranchLetter(p.Branch.WorkDir));
-        // The neighbours of an imported branch can't be reached.
-        if (isOwn || IsImported(p.Branch.WorkDir)) {
-            TakeBoxPosition(p, row);
-            DrawBoxNumber(p);
-        } else {
-            DrawForeignCaption(p, siblings, row);
-        }
+        // A box at no possible place costs its own caption, not those of the boxes behind it.
+        p.Errors.Ignoring([&] {
+            // The neighbours of an imported branch can't be reached.
+            if (isOwn || IsImported(p.Branch.WorkDir)) {
+                TakeBoxPosition(p, row);
+                DrawBoxNumber(p);
+            } else {
+                DrawForeignCaption(p, siblings, row);
+            }
+        });
     }
 }
 
@@ -196,8 +199,10 @@ void DrawRecordsInBoxes(Program& p)
         for (auto box = first; box != last; ++box) {
             if (!SameText(FiledNumber(p, *box), file))
                 continue;
-            TakeBoxPosition(p, *box);
-            DrawRecordInBox(p);
+            p.Errors.Ignoring([&] {
+                TakeBoxPosition(p, *box);
+                DrawRecordInBox(p);
+            });
         }
     }
 }
@@ -222,7 +227,7 @@ void EraseBoxCaption(Program& p)
     PictureBox& picture = p.Form1->Picture1;
     ResetMapFont(picture);
     picture.ForeColor = picture.BackColor;
-    picture.PrintAt(InBox(p, numberInBox), number);
+    PrintOnMap(picture, InBox(p, numberInBox), number);
     picture.PrintAt(InBox(p, forenameInBox), p.Record.sForeName);
     picture.ForeColor = Black;
 }

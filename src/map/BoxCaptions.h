@@ -24,7 +24,8 @@ void DrawRecordInBox(Program& p);
 // Prints the number that row `IdxA` of the boxes holds, at `BoxX`, `BoxY`.
 void DrawBoxNumber(Program& p);
 
-// Prints the number in each box that has one, and the forename too where the record is another branch's.
+// Prints the number in each box that has one, and the forename too where the record is another branch's. A box at an
+// impossible place is passed over, here and below.
 void DrawBoxCaptions(Program& p);
 
 // Walks the open branch's table once and prints each record in every box that holds it; ends at `Eof`.

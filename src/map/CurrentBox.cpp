@@ -22,8 +22,11 @@ Colour MarkerColour(const QString& gender)
 // The first filed row whose box holds that record, or the row behind the last.
 int RowOfRecord(const MapState& map, const FieldValue& file)
 {
+    // An empty number is no number: it would be found in the first box that holds nobody.
+    if (!file || file->isEmpty())
+        return LastFiledBox + 1;
     int row = 0;
-    while (row <= LastFiledBox && !(file && SameText(map.BoxArr[row][BoxColumn::File].Text(), *file)))
+    while (row <= LastFiledBox && !SameText(map.BoxArr[row][BoxColumn::File].Text(), *file))
         ++row;
     return row;
 }

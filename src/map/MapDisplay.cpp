@@ -26,11 +26,12 @@ void RedrawMap(Program& p)
     for (int row = 0; row <= p.Map.SLines; ++row)
         DrawLine(p, row);
 
-    if (Records(p).IsEmpty())
-        return;
+    Recordset& records = Records(p);
+    p.Record.SavedBookmark = records.HasRow() ? records.GetBookmark() : Bookmark();
     DrawRecordsInBoxes(p);
     DrawBoxCaptions(p);
-    Records(p).SetBookmark(p.Record.SavedBookmark);
+    if (p.Record.SavedBookmark)
+        records.SetBookmark(p.Record.SavedBookmark);
 }
 
 void ShowCoordinates(Program& p, double x, double y)

@@ -2,6 +2,10 @@
 
 #include "platform/Text.h"
 
+#include <algorithm>
+#include <functional>
+#include <utility>
+
 namespace lineforge
 {
 
@@ -11,6 +15,16 @@ namespace
 {
 constexpr int paperOffset = 1200; // twips to the right
 constexpr int paperPen = 2;
+
+// A spoilt file may tell any place and a text of any length. What lies this far out, in twips, can't be seen anyway,
+// nor can more characters than this, and neither overflows nor keeps the user waiting.
+constexpr int farOutside = 100'000'000;
+constexpr qsizetype longestText = 4096;
+
+int Within(int twips)
+{
+    return std::clamp(twips, -farOutside, farOutside);
+}
 
 // 1.8 times, without a detour over fractions.
 constexpr int Stretched(int twips)
@@ -45,15 +59,21 @@ void DrawWithPen(Program& p, Colour colour, Draw&& draw)
     surface.ForeColor = pen;
 }
 
+// How the steps of a drawing are run: a refused one ends it, or is passed over.
+using Attempt = std::function<void(const std::function<void()>& step)>;
+
 // On paper an Arial text comes out in the printer's own small Courier.
-void PickTextFont(Program& p, Surface& surface, const QString& name, double size)
+void PickTextFont(Program& p, Surface& surface, int row, const Attempt& attempt)
 {
+    const auto& text = p.Map.TextArr[row];
+    const QString name = text[TextColumn::FontName].Text();
     if (OnPaper(p) && SameText(name, u"Arial")) {
         Pick(surface, u"Courier"_s, 7);
         surface.Font.Bold = false;
-    } else {
-        Pick(surface, name, size);
+        return;
     }
+    surface.Font.Name = name;
+    attempt([&] { surface.Font.Size = text[TextColumn::FontSize].Fraction(); });
 }
 
 // After a text that isn't Arial the picture goes back to its font, on paper to Courier.
@@ -69,6 +89,19 @@ void DropTextFont(Program& p)
         ResetMapFont(p.Form1->Picture1);
     }
 }
+
+void DrawTextInSteps(Program& p, int row, const Attempt& attempt)
+{
+    const auto& text = p.Map.TextArr[row];
+    if (text[TextColumn::X].IsZero())
+        return;
+    Surface& surface = MapSurface(p);
+    const Point place = OnMapSurface(p, {text[TextColumn::X].Number(), text[TextColumn::Y].Number()});
+    PickTextFont(p, surface, row, attempt);
+    attempt([&] { surface.ForeColor = ColourOf(text[TextColumn::Colour]); });
+    PrintOnMap(surface, place, text[TextColumn::Text].Text());
+    DropTextFont(p);
+}
 } // namespace
 
 Surface& MapSurface(Program& p)
@@ -81,9 +114,15 @@ Surface& MapSurface(Program& p)
 
 Point OnMapSurface(const Program& p, Point place, int below)
 {
+    const Point seen{Within(place.X), Within(place.Y)};
     if (!OnPaper(p))
-        return {place.X, place.Y};
-    return {place.X + paperOffset, Stretched(place.Y) + below};
+        return seen;
+    return {seen.X + paperOffset, Stretched(seen.Y) + below};
+}
+
+void PrintOnMap(Surface& surface, Point place, const QString& text)
+{
+    surface.PrintAt(place, text.left(longestText));
 }
 
 void ResetMapFont(Surface& surface)
@@ -116,15 +155,12 @@ void DrawLine(Program& p, int row)
 
 void DrawText(Program& p, int row)
 {
-    const auto& text = p.Map.TextArr[row];
-    if (text[TextColumn::X].IsZero())
-        return;
-    Surface& surface = MapSurface(p);
-    const Point place = OnMapSurface(p, {text[TextColumn::X].Number(), text[TextColumn::Y].Number()});
-    PickTextFont(p, surface, text[TextColumn::FontName].Text(), text[TextColumn::FontSize].Fraction());
-    surface.ForeColor = ColourOf(text[TextColumn::Colour]);
-    surface.PrintAt(place, text[TextColumn::Text].Text());
-    DropTextFont(p);
+    DrawTextInSteps(p, row, [](const std::function<void()>& step) { step(); });
+}
+
+void DrawTextRegardless(Program& p, int row)
+{
+    DrawTextInSteps(p, row, [&p](const std::function<void()>& step) { p.Errors.Ignoring(step); });
 }
 
 } // namespace lineforge

@@ -19,6 +19,12 @@ void DrawBox(Program& p, int row);
 void DrawLine(Program& p, int row);
 void DrawText(Program& p, int row);
 
+// A text whose font, size or colour is spoilt, printed in what is in force instead.
+void DrawTextRegardless(Program& p, int row);
+
+// The text at that place of the surface, as much of it as can be seen there.
+void PrintOnMap(Surface& surface, Point place, const QString& text);
+
 // The drawing font between operations: Arial, 8 points, not bold.
 void ResetMapFont(Surface& surface);
 

@@ -39,6 +39,8 @@ int HighestRow(int rows)
 
 void DrawAllCaptions(Program& p)
 {
+    // With no current row there is none to come back to, least of all one saved in the branch before.
+    p.Record.SavedBookmark.reset();
     p.Errors.Ignoring([&] { p.Record.SavedBookmark = Records(p).GetBookmark(); });
     p.Errors.Ignoring([&] { DrawBoxCaptions(p); });
     p.Errors.Ignoring([&] { DrawRecordsInBoxes(p); });
@@ -64,9 +66,9 @@ void ParseBoxes(Program& p)
 
 void ParseLines(Program& p)
 {
+    MapSurface(p).ForeColor = Black;
     if (p.Map.sLinesText.size() < shortestList)
         return;
-    MapSurface(p).ForeColor = Black;
     const int rows = ForEachValue(p.Map.sLinesText, LineColumn::Count, [&](int row, int column, const QString& value) {
         p.Map.LineArr[row][column] = ToLong(value);
         if (column == LineColumn::Colour)
@@ -85,7 +87,7 @@ void ParseTexts(Program& p)
             return;
         p.Map.TextArr[row][column] = value;
         if (column == TextColumn::Colour)
-            p.Errors.Ignoring([&] { DrawText(p, row); });
+            p.Errors.Ignoring([&] { DrawTextRegardless(p, row); });
     });
     p.Map.STexts = HighestRow(rows);
     ResetMapFont(p.Form1->Picture1);

@@ -51,10 +51,8 @@ QChar TextReader::Next()
 bool TextReader::SkipPast(QStringView name)
 {
     qsizetype matched = 0;
-    while (matched < name.size() && !AtEnd()) {
-        const QChar character = Next();
-        matched = SameText(QStringView(&character, 1), name.sliced(matched, 1)) ? matched + 1 : 0;
-    }
+    while (matched < name.size() && !AtEnd())
+        matched = Next().toCaseFolded() == name[matched].toCaseFolded() ? matched + 1 : 0;
     return matched == name.size();
 }
 

@@ -4,7 +4,9 @@
 #include "platform/Text.h"
 #include "platform/TextFile.h"
 
+#include <algorithm>
 #include <functional>
+#include <utility>
 
 namespace lineforge
 {
@@ -109,7 +111,8 @@ void FillBranchList(Program& p)
     const QString open = p.Branch.WorkDir.right(directoryLength);
     for (int index = 0; !table[index].isEmpty(); ++index) {
         if (SameText(table[index].right(directoryLength), open)) {
-            list.SetText(table[index].chopped(directoryLength + 1));
+            // A directory that stands there alone has no name to select.
+            list.SetText(table[index].first(std::max<qsizetype>(0, table[index].size() - directoryLength - 1)));
             break;
         }
     }

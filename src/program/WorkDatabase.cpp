@@ -17,7 +17,8 @@ void PointAtDatabase(Program& p, const QString& path)
 
 void OpenWorkDatabase(Program& p)
 {
-    p.Branch.sDbaseName = DatabasePath(p.Branch.WorkDir);
+    // Spelt so since the first version; names are found without regard to case.
+    p.Branch.sDbaseName = p.Branch.WorkDir + PathSeparator + u"Lfgdat_" + BranchLetter(p.Branch.WorkDir) + u".mdb";
     PointAtDatabase(p, p.Branch.sDbaseName);
 }
 

@@ -70,6 +70,8 @@ void ShowNoSubject(Program& p)
                        {&forms::Form1::Label9, &forms::Form1::Label10, &forms::Form1::Label11, &forms::Form1::Label12,
                         &forms::Form1::Label14, &forms::Form1::Label17},
                        u"Ref  "_s);
+    // The picture of the branch before would stand for nobody here.
+    p.Form1->Image1.Picture = QImage();
 }
 
 void ShowFirstSubject(Program& p)

@@ -67,10 +67,12 @@ void LoadSplash(Program& p)
 
 void ChooseSplash(Program& p)
 {
+    // Taken before the list is read: should that be missing, the splash goes, and touching it would start all anew.
+    const int choice = p.form9->Check1.Value ? 1 : 0;
     // Ticked while the splash still stands alone: the list must be there before it is written again.
     if (!p.Form1.IsLoaded())
         ReadAliasList(p);
-    p.Alias.NoSplash = p.form9->Check1.Value ? 1 : 0;
+    p.Alias.NoSplash = choice;
     WriteAliasList(p);
 }
 

@@ -22,7 +22,13 @@ public:
             action->setObjectName(item->Name);
             // Where a system moves entries about by their captions, it would take ours for its own.
             action->setMenuRole(QAction::NoRole);
-            bindings_.Follow(item->Enabled, [action, item] { action->setEnabled(item->Enabled); });
+            // A menu takes its action along, but not the other way round.
+            QMenu* menu = action->menu();
+            bindings_.Follow(item->Enabled, [action, menu, item] {
+                if (menu)
+                    menu->setEnabled(item->Enabled);
+                action->setEnabled(item->Enabled);
+            });
         }
     }
 

@@ -106,6 +106,8 @@ struct QtWindows::Retired {
 QtWindows::QtWindows(const Scale& scale, QtMedia& media) : RunHandler(handlers_.Runner), scale_(scale), media_(media)
 {
     handlers_.Idle = [this] { SweepLater(); };
+    sweep_.setSingleShot(true);
+    connect(&sweep_, &QTimer::timeout, this, &QtWindows::Sweep);
 }
 
 QtWindows::~QtWindows()
@@ -134,16 +136,20 @@ void QtWindows::Retire(std::unique_ptr<Form> form)
 void QtWindows::SweepLater()
 {
     if (!retired_.empty())
-        QMetaObject::invokeMethod(this, &QtWindows::Sweep, Qt::QueuedConnection);
+        sweep_.start(0);
 }
 
 // Inside a box that waits for an answer, or where the program itself lets the event loop run, a handler is still to be
-// gone on with. The last handler to return asks again.
+// gone on with: the last one to return asks again. Any other inner loop is the toolkit's own, over in a moment.
 void QtWindows::Sweep()
 {
-    if (handlers_.IsRunning() || QThread::currentThread()->loopLevel() != 1)
+    constexpr int momentMilliseconds = 50;
+    if (handlers_.IsRunning())
         return;
-    retired_.clear();
+    if (QThread::currentThread()->loopLevel() == 1)
+        retired_.clear();
+    else
+        sweep_.start(momentMilliseconds);
 }
 
 void QtWindows::CloseAll()

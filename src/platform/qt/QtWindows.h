@@ -5,6 +5,7 @@
 #include "platform/qt/Scale.h"
 
 #include <QObject>
+#include <QTimer>
 
 #include <memory>
 #include <vector>
@@ -55,6 +56,7 @@ private:
     std::vector<std::unique_ptr<Host>> hosts_;
     struct Retired;
     std::vector<Retired> retired_;
+    QTimer sweep_;
 };
 
 } // namespace lineforge

@@ -14,11 +14,10 @@ constexpr int smallestFontPixels = 10;
 constexpr int coarsest = 15;
 constexpr std::array<int, 8> finestFirst{3, 4, 5, 6, 8, 10, 12, coarsest};
 
-// A menu bar isn't made yet when the scale is chosen; a line of text with half a line above and below it is what
-// the usual styles give it at most.
+// A menu bar isn't made yet when the scale is chosen; this is what the usual styles give it.
 int MenuBarPixels(const Scale& scale)
 {
-    return 2 * scale.FontPixels(8) + 2;
+    return scale.FontPixels(8) * 5 / 4 + 6;
 }
 } // namespace
 

@@ -1,0 +1,56 @@
+#include "platform/qt/AccessibleName.h"
+
+#include "gui/qt/WindowTest.h"
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+struct NamedForm : Form {
+    NamedForm() : Form(u"NamedForm", {}, {9000, 3000}) {}
+    Label Far{*this, u"Far", {0, 300, 300, 255}, u"Far"};
+    Label Near{*this, u"Near", {400, 300, 600, 255}, u"Near"};
+    Label Empty{*this, u"Empty", {1100, 300, 60, 255}};
+    TextBox Beside{*this, u"Beside", {1200, 290, 900, 315}};
+    Label Head{*this, u"Head", {3000, 1000, 900, 240}, u"Head"};
+    TextBox Below{*this, u"Below", {3000, 1260, 900, 315}};
+    TextBox Alone{*this, u"Alone", {6000, 2400, 900, 315}};
+};
+
+TEST(AccessibleNameTest, TheNearestLabelOnTheLeftThatSaysSomething)
+{
+    const NamedForm form;
+    EXPECT_EQ(BorrowedName(form.Beside, form), u"Near"_s);
+}
+
+TEST(AccessibleNameTest, ElseTheLabelRightAbove)
+{
+    const NamedForm form;
+    EXPECT_EQ(BorrowedName(form.Below, form), u"Head"_s);
+}
+
+TEST(AccessibleNameTest, ElseItsOwnName)
+{
+    const NamedForm form;
+    EXPECT_EQ(BorrowedName(form.Alone, form), u"Alone"_s);
+}
+
+TEST(AccessibleNameTest, AToolTipSaysMoreThanANeighbour)
+{
+    NamedForm form;
+    form.Beside.ToolTipText = u"Draw a box"_s;
+    EXPECT_EQ(BorrowedName(form.Beside, form), u"Draw a box"_s);
+}
+
+TEST(AccessibleNameTest, TheMarkOfAnAccessKeyIsNotSpoken)
+{
+    EXPECT_EQ(SpokenCaption(u"E&xit"_s), u"Exit"_s);
+    EXPECT_EQ(SpokenCaption(u"Births && deaths"_s), u"Births & deaths"_s);
+    EXPECT_EQ(SpokenCaption(u"Open"_s), u"Open"_s);
+}
+} // namespace
+
+} // namespace lineforge

@@ -1,0 +1,161 @@
+#include "gui/qt/Dialogs.h"
+#include "gui/qt/WindowTest.h"
+#include "platform/qt/QtPrompts.h"
+#include "support/TemporaryHome.h"
+
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+struct PromptsTest : WindowTest {
+    Prompts& Ask() { return Machine().Bundle().Prompts; }
+};
+
+struct BoxRow {
+    Buttons Set;
+    QMessageBox::Icon Icon;
+    std::vector<QMessageBox::StandardButton> Shown;
+    Answer ByEnter;
+    Answer ByEscape;
+};
+
+struct MessageBoxTest : PromptsTest, testing::WithParamInterface<BoxRow> {
+    Answer AskAndMeet(const std::function<void(QMessageBox&)>& meet)
+    {
+        const NextDialog dialog([&meet](QDialog& box) { meet(AsMessageBox(box)); });
+        return Ask().MsgBox(u"The title"_s, u"First <b>line</b>\nSecond & last"_s, GetParam().Set);
+    }
+};
+
+TEST_P(MessageBoxTest, ShowsTitle_PlainText_IconAndButtonsOfItsSet)
+{
+    const BoxRow& row = GetParam();
+    AskAndMeet([&row](QMessageBox& box) {
+        EXPECT_EQ(box.windowTitle(), u"The title"_s);
+        EXPECT_EQ(box.text(), u"First <b>line</b>\nSecond & last"_s);
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        EXPECT_EQ(box.icon(), row.Icon);
+        EXPECT_EQ(box.buttons().size(), static_cast<qsizetype>(row.Shown.size()));
+        for (const auto button : row.Shown)
+            EXPECT_NE(box.button(button), nullptr) << button;
+        EXPECT_TRUE(box.isModal());
+        box.reject();
+    });
+}
+
+TEST_P(MessageBoxTest, EnterPressesTheFirst)
+{
+    EXPECT_EQ(AskAndMeet([](QMessageBox& box) { PressKey(box, Qt::Key_Return); }), GetParam().ByEnter);
+}
+
+TEST_P(MessageBoxTest, EscapeAndTheFrameRefuse)
+{
+    EXPECT_EQ(AskAndMeet([](QMessageBox& box) { PressKey(box, Qt::Key_Escape); }), GetParam().ByEscape);
+    EXPECT_EQ(AskAndMeet([](QMessageBox& box) { box.close(); }), GetParam().ByEscape);
+}
+
+TEST_P(MessageBoxTest, TheLastButtonAnswersItself)
+{
+    const auto last = GetParam().Shown.back();
+    EXPECT_EQ(AskAndMeet([last](QMessageBox& box) { Press(box, last); }), GetParam().ByEscape);
+}
+
+constexpr auto ok = QMessageBox::Ok;
+constexpr auto cancel = QMessageBox::Cancel;
+constexpr auto yes = QMessageBox::Yes;
+constexpr auto no = QMessageBox::No;
+
+INSTANTIATE_TEST_SUITE_P(
+    Sets, MessageBoxTest,
+    testing::Values(
+        BoxRow{Buttons::Plain, QMessageBox::NoIcon, {ok}, Answer::Ok, Answer::Ok},
+        BoxRow{Buttons::Error, QMessageBox::Critical, {ok}, Answer::Ok, Answer::Ok},
+        BoxRow{Buttons::ErrorYesNo, QMessageBox::Critical, {yes, no}, Answer::Yes, Answer::No},
+        BoxRow{Buttons::QuestionOkCancel, QMessageBox::Question, {ok, cancel}, Answer::Ok, Answer::Cancel},
+        BoxRow{Buttons::QuestionYesNo, QMessageBox::Question, {yes, no}, Answer::Yes, Answer::No},
+        BoxRow{Buttons::Information, QMessageBox::Information, {ok}, Answer::Ok, Answer::Ok},
+        BoxRow{Buttons::InformationOkCancel, QMessageBox::Information, {ok, cancel}, Answer::Ok, Answer::Cancel},
+        BoxRow{Buttons::InformationYesNo, QMessageBox::Information, {yes, no}, Answer::Yes, Answer::No}),
+    [](const testing::TestParamInfo<BoxRow>& row) { return std::to_string(static_cast<int>(row.param.Set)); });
+
+TEST_F(PromptsTest, ABoxStandsAboveTheActiveWindow)
+{
+    struct Behind : Form {
+        Behind() : Form(u"Behind", u"Behind", {6000, 3000}) {}
+    };
+    Window<Behind> behind(System());
+    behind->Show();
+    Activate(*behind);
+    const QWidget* parent = nullptr;
+    const NextDialog dialog([&parent](QDialog& box) {
+        parent = box.parentWidget();
+        box.reject();
+    });
+    Ask().MsgBox(u"t"_s, u"x"_s, Buttons::Plain);
+    EXPECT_EQ(parent, &ViewOf(*behind));
+}
+
+TEST_F(PromptsTest, InputBoxGivesWhatWasEntered)
+{
+    const NextDialog next([](QDialog& dialog) {
+        auto& box = dynamic_cast<QInputDialog&>(dialog);
+        EXPECT_EQ(box.windowTitle(), u"The title"_s);
+        EXPECT_EQ(box.labelText(), u"<i>Which</i> name?"_s);
+        EXPECT_EQ(box.findChild<QLabel*>()->textFormat(), Qt::PlainText);
+        box.setTextValue(u" Smiths "_s);
+        box.accept();
+    });
+    EXPECT_EQ(Ask().InputBox(u"The title"_s, u"<i>Which</i> name?"_s), u" Smiths "_s);
+}
+
+TEST_F(PromptsTest, InputBoxCancelledGivesNothing)
+{
+    const NextDialog next([](QDialog& dialog) {
+        dynamic_cast<QInputDialog&>(dialog).setTextValue(u"typed"_s);
+        PressKey(dialog, Qt::Key_Escape);
+    });
+    EXPECT_EQ(Ask().InputBox(u"t"_s, u"p"_s), QString());
+}
+
+struct OpenFileTest : testing::Test {
+    TemporaryHome Home;
+    QtEventLoop Loop;
+    QtPrompts Ask{Loop, [this] { return Home.Path(); }};
+};
+
+TEST_F(OpenFileTest, AsksForAnExistingFile_StartingInTheCurrentDirectory)
+{
+    const QString path = Home.WriteFile(u"tree.mdb", "x");
+    const NextDialog next([&](QDialog& dialog) {
+        auto& box = dynamic_cast<QFileDialog&>(dialog);
+        EXPECT_EQ(box.windowTitle(), u"Select File"_s);
+        EXPECT_EQ(box.directory().canonicalPath(), QDir(Home.Path()).canonicalPath());
+        EXPECT_EQ(box.nameFilters(), QStringList({u"DataBase (*.mdb)"_s, u"All Files (*)"_s}));
+        EXPECT_EQ(box.fileMode(), QFileDialog::ExistingFile);
+        box.selectFile(path);
+        box.findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(u"tree.mdb"_s);
+        PressKey(dialog, Qt::Key_Return);
+    });
+    const auto chosen = Ask.OpenFile({u"Select File"_s, u"DataBase|*.mdb|All Files|*.*|"_s});
+    ASSERT_TRUE(chosen);
+    EXPECT_EQ(QFileInfo(*chosen).canonicalFilePath(), QFileInfo(path).canonicalFilePath());
+}
+
+TEST_F(OpenFileTest, CancelledGivesNothing)
+{
+    const NextDialog dialog([](QDialog& box) { PressKey(box, Qt::Key_Escape); });
+    EXPECT_FALSE(Ask.OpenFile({u"Select File"_s, {}}));
+}
+} // namespace
+
+} // namespace lineforge

@@ -1,0 +1,201 @@
+#include "gui/qt/WindowTest.h"
+#include "platform/PictureBox.h"
+
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QScreen>
+#include <QStyle>
+#include <QTest>
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+struct PlainForm : Form {
+    PlainForm() : Form(u"PlainForm", u"A plain window", {6000, 3000}) {}
+    Button Command1{*this, u"Command1", {150, 150, 1200, 375}, u"OK"};
+    MultimediaControl MMControl1{*this, u"MMControl1"};
+};
+
+struct FormWithMenus : Form {
+    FormWithMenus() : Form(u"FormWithMenus", u"A window with menus", {6000, 3000}) {}
+    MenuItem mnuFile{Menus, u"mnuFile", u"&File"};
+    MenuItem Open{mnuFile, u"Open", u"&Open"};
+};
+
+struct WindowViewTest : WindowTest {
+    Window<PlainForm> Plain{System()};
+    QMainWindow& View() { return static_cast<QMainWindow&>(ViewOf(*Plain)); }
+    static QRect Available() { return QGuiApplication::primaryScreen()->availableGeometry(); }
+    int TitleHeight() { return View().style()->pixelMetric(QStyle::PM_TitleBarHeight); }
+};
+
+TEST_F(WindowViewTest, HiddenItHasNoWidgetsAtAll)
+{
+    Plain.Load();
+    Plain->Caption = u"Changed"_s;
+    EXPECT_EQ(System().WidgetOf(*Plain), nullptr);
+    Plain->Visible = true;
+    EXPECT_EQ(View().windowTitle(), u"Changed"_s);
+}
+
+TEST_F(WindowViewTest, AWindowThatItsLoadHandlerShowsAppears)
+{
+    Plain.Install = [](PlainForm& form) { form.Load = [&form] { form.Show(); }; };
+    Plain.Load();
+    EXPECT_TRUE(View().isVisible());
+}
+
+TEST_F(WindowViewTest, HidesAndComesBack_TheSameWindow)
+{
+    Plain->Visible = true;
+    const QWidget* first = &View();
+    Plain->Hide();
+    EXPECT_FALSE(View().isVisible());
+    Plain->Show();
+    EXPECT_TRUE(View().isVisible());
+    EXPECT_EQ(&View(), first);
+}
+
+TEST_F(WindowViewTest, ShowBringsAWindowBeforeTheOthers_AlsoWhenItIsOnTheScreenAlready)
+{
+    Window<FormWithMenus> other(System());
+    Plain->Show();
+    other->Show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&ViewOf(*other)));
+    Plain->Show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&View()));
+}
+
+TEST_F(WindowViewTest, NameAndTitleFollow)
+{
+    Plain->Visible = true;
+    EXPECT_EQ(View().objectName(), u"PlainForm"_s);
+    EXPECT_EQ(View().windowTitle(), u"A plain window"_s);
+    EXPECT_EQ(View().accessibleName(), u"A plain window"_s);
+    Plain->Caption = u"Another"_s;
+    EXPECT_EQ(View().windowTitle(), u"Another"_s);
+    EXPECT_EQ(View().accessibleName(), u"Another"_s);
+}
+
+TEST_F(WindowViewTest, AMultimediaControlIsNotSeen)
+{
+    Plain->Visible = true;
+    EXPECT_EQ(View().findChild<QWidget*>(u"MMControl1"_s), nullptr);
+}
+
+TEST_F(WindowViewTest, TheClientAreaIsExactlyTheDesign_WithAndWithoutMenus)
+{
+    Window<FormWithMenus> menus(System());
+    Plain->Visible = true;
+    menus->Visible = true;
+    EXPECT_EQ(View().centralWidget()->size(), PixelScale().ToPixels(Size{6000, 3000}));
+    EXPECT_EQ(View().findChild<QMenuBar*>(), nullptr);
+    const auto& withMenus = static_cast<QMainWindow&>(ViewOf(*menus));
+    EXPECT_EQ(withMenus.centralWidget()->size(), PixelScale().ToPixels(Size{6000, 3000}));
+    EXPECT_TRUE(withMenus.menuBar()->isVisible());
+    EXPECT_EQ(withMenus.centralWidget()->y(), withMenus.menuBar()->height());
+}
+
+TEST_F(WindowViewTest, ASizeThatTheProgramGivesIsThatOfTheWholeWindow)
+{
+    Plain->Width = 4500;
+    Plain->Height = 3600;
+    Plain->Visible = true;
+    EXPECT_EQ(View().size(), PixelScale().ToPixels(Size{4500, 3600}) - QSize(0, TitleHeight()));
+    Plain->Height = 4500;
+    EXPECT_EQ(View().height(), PixelScale().ToPixels(4500) - TitleHeight());
+}
+
+TEST_F(WindowViewTest, AWindowAsLargeAsTheScreenStaysWithinWhatIsFree)
+{
+    const Screen& screen = Machine().Bundle().Screen;
+    Plain->Width = screen.Width;
+    Plain->Height = screen.Height;
+    Plain->Left = 3000;
+    Plain->Visible = true;
+    EXPECT_EQ(View().size(), Available().size() - QSize(0, TitleHeight()));
+    EXPECT_EQ(View().pos(), Available().topLeft());
+}
+
+TEST_F(WindowViewTest, StandsWhereTheProgramPutsIt)
+{
+    Plain->Left = 1500;
+    Plain->Top = 750;
+    Plain->Visible = true;
+    EXPECT_EQ(View().pos(), QPoint(PixelScale().ToPixels(1500), PixelScale().ToPixels(750)));
+    Plain->Left = 1800;
+    EXPECT_EQ(View().x(), PixelScale().ToPixels(1800));
+}
+
+TEST_F(WindowViewTest, UnplacedItStandsInTheMiddle)
+{
+    Plain->Visible = true;
+    const QRect whole(View().pos(), View().size() + QSize(0, TitleHeight()));
+    EXPECT_NEAR(whole.center().x(), Available().center().x(), 1);
+    EXPECT_NEAR(whole.center().y(), Available().center().y(), 1);
+}
+
+TEST_F(WindowViewTest, TopmostAndFramelessAreFlags)
+{
+    Plain->Topmost = true;
+    Plain->Frameless = true;
+    Plain->Width = 4500;
+    Plain->Height = 3600;
+    Plain->Visible = true;
+    EXPECT_TRUE(View().windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    EXPECT_TRUE(View().windowFlags().testFlag(Qt::FramelessWindowHint));
+    EXPECT_EQ(View().size(), PixelScale().ToPixels(Size{4500, 3600}));
+}
+
+TEST_F(WindowViewTest, OnlyAClickOnTheBareWindowIsItsOwn)
+{
+    int clicks = 0;
+    Plain->Click = [&clicks] { ++clicks; };
+    Plain->Visible = true;
+    QTest::mouseClick(View().windowHandle(), Qt::LeftButton, {}, {300, 150});
+    EXPECT_EQ(clicks, 1);
+    Plain->Command1.Enabled = false;
+    const QPoint onButton = Find<QWidget>(*Plain, u"Command1"_s).geometry().center();
+    QTest::mouseClick(View().windowHandle(), Qt::LeftButton, {}, onButton);
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(WindowViewTest, ADisabledWindowIsDead)
+{
+    int clicks = 0;
+    Plain->Command1.Click = [&clicks] { ++clicks; };
+    Plain->Visible = true;
+    Plain->Enabled = false;
+    QTest::mouseClick(&Find<QWidget>(*Plain, u"Command1"_s), Qt::LeftButton);
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(WindowViewTest, ClosingByTheFrameIsTheProgramsBusiness)
+{
+    int asked = 0;
+    Plain->CloseByFrame = [&asked] { ++asked; };
+    Plain->Visible = true;
+    EXPECT_FALSE(View().close());
+    EXPECT_EQ(asked, 1);
+    EXPECT_TRUE(View().isVisible());
+}
+
+TEST_F(WindowViewTest, ClosingByTheFrameUnloads_AndTheNextTouchMakesAFreshWindow)
+{
+    QStringList story;
+    Plain.Install = [&story](PlainForm& form) { form.Unloading = [&story] { story += u"unloading"_s; }; };
+    Plain->Visible = true;
+    View().close();
+    EXPECT_EQ(story, QStringList{u"unloading"_s});
+    EXPECT_FALSE(Plain.IsLoaded());
+    PassEventLoop();
+    Plain->Visible = true;
+    EXPECT_TRUE(View().isVisible());
+}
+} // namespace
+
+} // namespace lineforge

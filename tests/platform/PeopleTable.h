@@ -1,0 +1,57 @@
+#pragma once
+
+#include "platform/Recordset.h"
+#include "support/Refusal.h"
+#include "support/SqliteFile.h"
+#include "support/TemporaryHome.h"
+
+#include <gtest/gtest.h>
+
+namespace lineforge
+{
+
+// A database file `people.db` with a table `People` of the fields File and Name, for tests of cursors.
+class PeopleTable : public testing::Test
+{
+protected:
+    PeopleTable() { SqliteFile(FilePath()).Execute("CREATE TABLE People (File TEXT, Name TEXT)"); }
+
+    // Rows A001, A002 and so on with these names.
+    void GivenPeople(const QList<std::optional<QString>>& names)
+    {
+        SqliteFile file(FilePath());
+        int number = 0;
+        for (const std::optional<QString>& name : names)
+            file.Query("INSERT INTO People VALUES (?, ?)",
+                       {QStringLiteral("A%1").arg(++number, 3, 10, QLatin1Char('0')), name});
+    }
+
+    // A cursor of its own over the table.
+    Recordset Open() { return Recordset(databases.Open(files, QStringLiteral("people.db")), QStringLiteral("People")); }
+
+    QString FilePath() const { return home.Path(u"people.db"); }
+
+    // The names that a walk from the first row passes; "-" for Null.
+    static QStringList Walk(Recordset& people, QStringView field = u"Name")
+    {
+        QStringList names;
+        for (people.MoveFirst(); !people.Eof(); people.MoveNext())
+            names.push_back(people.Value(field).value_or(QStringLiteral("-")));
+        return names;
+    }
+
+    // What stands in the file, read by a connection of its own.
+    QStringList Stored() const
+    {
+        QStringList names;
+        for (const SqliteFile::Row& row : SqliteFile(FilePath()).Query("SELECT Name FROM People ORDER BY rowid"))
+            names.push_back(row.front().value_or(QStringLiteral("-")));
+        return names;
+    }
+
+    TemporaryHome home;
+    FileSystem files{home.Path()};
+    Databases databases;
+};
+
+} // namespace lineforge

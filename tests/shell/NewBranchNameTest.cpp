@@ -1,0 +1,90 @@
+#include "NewBranchTest.h"
+
+namespace lineforge
+{
+namespace
+{
+
+class DuplicateNameTest : public MadeBranchTest, public testing::WithParamInterface<const char16_t*>
+{
+};
+
+TEST_P(DuplicateNameTest, NameThatABranchHasInAnyCase_IsRefused_AndAskedForAgain)
+{
+    AnswerName(GetParam());
+    ExpectDuplicateBox();
+    AnswerName(GetParam());
+    ExpectDuplicateBox();
+
+    Make(u"Browns", u"LfgDat_C");
+
+    EXPECT_EQ(Registry(), RegistryWith("Browns=LfgDat_C"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Names, DuplicateNameTest, testing::Values(u"Smiths", u"smiths", u"SMITHS", u"jONES"),
+                         [](const auto& name) {
+                             return QString(QChar(name.param[0]) + QString::number(name.index)).toStdString();
+                         });
+
+TEST_F(MadeBranchTest, NameThatOnlyBeginsOrEndsLikeAnother_IsTaken)
+{
+    Make(u"Smith", u"LfgDat_C");
+    Make(u"ones", u"LfgDat_D");
+
+    EXPECT_EQ(P.Alias.AliasTable[3], u"ones=LfgDat_D"_s);
+}
+
+TEST_F(MadeBranchTest, CancelAfterADuplicateName_EndsTheCommand)
+{
+    AnswerName(u"smiths");
+    ExpectDuplicateBox();
+    AnswerName({});
+
+    P.Form1->New.Click();
+
+    EXPECT_EQ(Registry(), registryOfTwo);
+}
+
+TEST_F(MadeBranchTest, NameWithComma_HidesItselfAndLaterBranchesFromTheList)
+{
+    AnswerName(u"Browns, of Leeds");
+    Confirm(u"Browns, of Leeds", u"LfgDat_C");
+    ExpectEmptyBox();
+    P.Form1->New.Click();
+
+    EXPECT_EQ(Registry(), RegistryWith("Browns, of Leeds=LfgDat_C"));
+    EXPECT_EQ(P.Alias.AliasTable[2], u"Browns"_s);
+    EXPECT_EQ(P.Alias.AliasTable[3], u" of Leeds=LfgDat_C"_s);
+    EXPECT_EQ(P.Form8->List1.Items.value(), (QStringList{u"Smiths"_s, u"Jones"_s}));
+
+    Make(u"Greens", u"LfgDat_D");
+    EXPECT_EQ(P.Form8->List1.Items.value(), (QStringList{u"Smiths"_s, u"Jones"_s}));
+}
+
+TEST_F(MadeBranchTest, NameWithClosingBracket_IsLostFromMemory_AndFromTheFileAtTheNextWrite)
+{
+    AnswerName(u"Bro]wns");
+    Confirm(u"Bro]wns", u"LfgDat_C");
+    ExpectEmptyBox();
+    P.Form1->New.Click();
+
+    EXPECT_EQ(Registry(), RegistryWith("Bro]wns=LfgDat_C"));
+    EXPECT_EQ(P.Alias.sAliasList, u"Smiths=LfgDat_A,Jones=LfgDat_B,"_s);
+
+    Make(u"Greens", u"LfgDat_D");
+    EXPECT_EQ(Registry(), RegistryWith("Greens=LfgDat_D"));
+}
+
+TEST_F(MadeBranchTest, OpeningBracketInAName_VanishesAtTheNextRead)
+{
+    AnswerName(u"Bro[wns");
+    Confirm(u"Bro[wns", u"LfgDat_C");
+    ExpectEmptyBox();
+    P.Form1->New.Click();
+
+    EXPECT_EQ(P.Form8->List1.Items.value().last(), u"Browns"_s);
+    EXPECT_EQ(P.Branch.sBranchName, u"Bro[wns"_s);
+}
+
+} // namespace
+} // namespace lineforge

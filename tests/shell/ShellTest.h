@@ -1,0 +1,79 @@
+#pragma once
+
+#include "shell/FatalPath.h"
+#include "shell/StartUp.h"
+#include "support/BranchBuilder.h"
+#include "support/ProgramTest.h"
+
+#include <QColor>
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+// A program whose user has branches at hand and works with menus and buttons.
+class ShellTest : public ProgramTest
+{
+protected:
+    void GivenRegistry(const std::vector<Alias>& branches = {}) { WriteAliasList(Home, branches); }
+
+    // A branch of two records, each with its box and its picture.
+    BranchBuilder BranchOf(QChar letter)
+    {
+        const QString first = letter + u"001"_s;
+        const QString second = letter + u"002"_s;
+        return BranchBuilder(Home, letter)
+            .Row({{u"File", first},
+                  {u"Forename", u"John"},
+                  {u"Surname", u"Smith"},
+                  {u"BirthDate", u"1 May 1901"},
+                  {u"Deceased", u"1950"},
+                  {u"Spouse", u"Mary Jones"},
+                  {u"Maiden", u"none"},
+                  {u"Gender", u"Male"}})
+            .Row({{u"File", second}, {u"Forename", u"Mary"}, {u"Gender", u"Female"}})
+            .Boxes(u"1200,600,255,%1,John,2000,600,255,%2,Mary,"_s.arg(first, second))
+            .Lines(u"1507,817,2307,817,0,")
+            .Texts(u"300,150,The Smiths,Arial,8,0,")
+            .Picture(first, Qt::red)
+            .Picture(second, Qt::blue);
+    }
+
+    // Two branches, listed and on disk, and the main window before the user.
+    void GivenSmithsAndJones()
+    {
+        GivenRegistry({{u"Smiths", u"LfgDat_A"}, {u"Jones", u"LfgDat_B"}});
+        BranchOf(u'A').Build();
+        BranchOf(u'B').Build();
+        WriteTemplates(Home);
+        StartProgram(P);
+    }
+
+    void Choose(QStringView name)
+    {
+        P.Form1->Open.Click();
+        P.Form8->List1.SetText(name.toString());
+        P.Form8->Command1.Click();
+    }
+
+    // As the window does when the user has clicked: nothing leaves a handler.
+    void Click(const Event& handler) { RunHandler(P, handler); }
+
+    void MoveFirstBoxTo(int x) { P.Map.BoxArr[0][BoxColumn::X] = x; }
+
+    QByteArray MapOf(QChar letter) const { return Home.ReadFile(u"LfgDat_%1/LfgDat_%1.cfg"_s.arg(letter)); }
+
+    QByteArray Registry() const { return Home.ReadFile(u"AliasList.cfg"); }
+
+    void ExpectEmptyBox()
+    {
+        Prompts.Expect(u"Database Empty", u"This Database has no records to access", Buttons::Information);
+    }
+
+    void ExpectFatalBox(QStringView text) { Prompts.Expect(u"Lineforge", text, Buttons::Error); }
+
+    std::optional<int> ExitCode() const { return Machine.Loop.ExitCode; }
+};
+
+} // namespace lineforge

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "program/Program.h"
+#include "shell/handlers/Handlers.h"
+#include "support/TestPlatform.h"
+
+#include <gtest/gtest.h>
+
+namespace lineforge
+{
+
+// A program with all its handlers, in a home of its own, nothing loaded yet.
+class ProgramTest : public testing::Test
+{
+protected:
+    ProgramTest()
+    {
+        InstallHandlers(P);
+        P.Branch.HomeDir = P.ExecutableDirectory;
+    }
+
+    TestPlatform Machine;
+    Program P{Machine.Platform};
+    TemporaryHome& Home = Machine.Home;
+    ScriptedPrompts& Prompts = Machine.Prompts;
+};
+
+} // namespace lineforge

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/FileSystem.h"
+#include "platform/Platform.h"
+#include "support/FakeEventLoop.h"
+#include "support/FakeWindows.h"
+#include "support/Printing.h"
+#include "support/Refusal.h"
+#include "support/ScriptedPrompts.h"
+#include "support/TemporaryHome.h"
+
+namespace lineforge
+{
+
+// A whole machine for one test: every seam a double, the disk real. Declare it before the program that runs on it.
+struct TestPlatform {
+    TemporaryHome Home;
+    FakeWindows Windows;
+    ScriptedPrompts Prompts;
+    FakeEventLoop Loop;
+    lineforge::Screen Screen{12000, 9000};
+    lineforge::Platform Platform{Windows, Prompts, Loop, Screen, Home.Path() + PathSeparator};
+};
+
+} // namespace lineforge

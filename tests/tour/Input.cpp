@@ -1,0 +1,118 @@
+#include "Input.h"
+
+#include "Failure.h"
+#include "Reply.h"
+
+#include <QThread>
+
+#include <cstdlib>
+#include <xcb/xtest.h>
+
+namespace lineforge::tour
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr std::uint8_t leftButton = 1;
+} // namespace
+
+Input::Input(const Display& display) : display_(display), keyboard_(display.Connection())
+{
+    const auto asked = xcb_test_get_version(display_.Connection(), XCB_TEST_MAJOR_VERSION, XCB_TEST_MINOR_VERSION);
+    const Reply<xcb_test_get_version_reply_t> reply(xcb_test_get_version_reply(display_.Connection(), asked, nullptr));
+    Expect(reply != nullptr, u"an X server with the extension XTEST"_s);
+}
+
+// Two clicks on different things must not be taken for a double click, however close they are.
+void Input::Click(QPoint place)
+{
+    constexpr qint64 doubleClickMilliseconds = 500;
+    constexpr int near = 10;
+    const bool isNear = (place - lastClick_).manhattanLength() < near;
+    if (isNear && sinceClick_.isValid() && sinceClick_.elapsed() < doubleClickMilliseconds)
+        QThread::msleep(static_cast<unsigned long>(doubleClickMilliseconds - sinceClick_.elapsed()));
+    ClickOnce(place);
+    Arrive();
+}
+
+void Input::DoubleClick(QPoint place)
+{
+    ClickOnce(place);
+    ClickOnce(place);
+    Arrive();
+}
+
+void Input::ClickOnce(QPoint place)
+{
+    Send(XCB_MOTION_NOTIFY, 0, place);
+    Send(XCB_BUTTON_PRESS, leftButton);
+    Send(XCB_BUTTON_RELEASE, leftButton);
+    lastClick_ = place;
+    sinceClick_.start();
+}
+
+// In small moves, as a hand does it: some things begin to follow only after the first few.
+void Input::Drag(QPoint from, QPoint to)
+{
+    constexpr int moves = 10;
+    Send(XCB_MOTION_NOTIFY, 0, from);
+    Send(XCB_BUTTON_PRESS, leftButton);
+    for (int move = 1; move <= moves; ++move)
+        Send(XCB_MOTION_NOTIFY, 0, from + (to - from) * move / moves);
+    Send(XCB_BUTTON_RELEASE, leftButton);
+    Arrive();
+}
+
+void Input::Type(const QString& text)
+{
+    const xcb_keycode_t shift = keyboard_.CodeOf(Key::Shift);
+    for (const QChar character : text) {
+        const Keyboard::Stroke stroke = keyboard_.StrokeOf(character);
+        if (stroke.WithShift)
+            Send(XCB_KEY_PRESS, shift);
+        Tap(stroke.Code);
+        if (stroke.WithShift)
+            Send(XCB_KEY_RELEASE, shift);
+    }
+    Arrive();
+}
+
+void Input::Press(Key key)
+{
+    Tap(keyboard_.CodeOf(key));
+    Arrive();
+}
+
+void Input::Press(std::initializer_list<Key> held, QChar character)
+{
+    for (const Key key : held)
+        Send(XCB_KEY_PRESS, keyboard_.CodeOf(key));
+    Tap(keyboard_.StrokeOf(character).Code);
+    for (const Key key : held)
+        Send(XCB_KEY_RELEASE, keyboard_.CodeOf(key));
+    Arrive();
+}
+
+void Input::Tap(xcb_keycode_t code)
+{
+    Send(XCB_KEY_PRESS, code);
+    Send(XCB_KEY_RELEASE, code);
+}
+
+void Input::Send(std::uint8_t event, std::uint8_t detail, QPoint place)
+{
+    xcb_test_fake_input(display_.Connection(), event, detail, XCB_CURRENT_TIME, display_.Root(),
+                        static_cast<short>(place.x()), static_cast<short>(place.y()), 0);
+}
+
+// Any question that the server answers is answered after all that was sent before.
+void Input::Arrive()
+{
+    const auto asked = xcb_get_input_focus(display_.Connection());
+    const Reply<xcb_get_input_focus_reply_t> reply(xcb_get_input_focus_reply(display_.Connection(), asked, nullptr));
+    Expect(reply != nullptr, u"the X server to take the input"_s);
+}
+
+} // namespace lineforge::tour

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "MapOnDisk.h"
+#include "Tour.h"
+
+namespace lineforge::tour
+{
+
+// The part of the map that the main window shows.
+QRect MapArea(const Tour& tour);
+QImage MapPicture(const Tour& tour);
+
+// What of a box is seen there, while the map isn't scrolled.
+bool ShowsOutline(const Tour& tour, const FiledBox& box);
+bool ShowsNumber(const Tour& tour, const FiledBox& box);
+bool ShowsForename(const Tour& tour, const FiledBox& box);
+
+// A subject beside the map has a picture.
+bool ShowsSubjectPicture(const Tour& tour);
+
+} // namespace lineforge::tour

@@ -1,0 +1,86 @@
+#include "Menus.h"
+
+#include "Failure.h"
+#include "Ink.h"
+
+#include <algorithm>
+
+namespace lineforge::tour
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr int border = 3; // pixels around what a menu or its bar shows
+
+std::size_t IndexOf(const std::vector<MenuItem*>& items, const MenuItem& item)
+{
+    const auto found = std::ranges::find(items, &item);
+    Expect(found != items.end(), u"the entry "_s + item.Name + u" in its menu"_s);
+    return static_cast<std::size_t>(found - items.begin());
+}
+
+QString Plain(const MenuItem& item)
+{
+    return QString(item.Caption).remove(u'&');
+}
+
+QRect Inside(const QRect& place)
+{
+    return place.adjusted(border, border, -border, -border);
+}
+
+// One stretch of rows for each entry or separator.
+std::vector<Stretch> RowsOf(const Tour& tour, const ScreenWindow& popup)
+{
+    constexpr int lettersOfOneLine = 2;
+    return InkedRows(tour.PictureOf(Inside(popup.Place)), lettersOfOneLine);
+}
+} // namespace
+
+QRect PlaceInMenuBar(const Tour& tour, const MenuItem& menu)
+{
+    constexpr int blankBetweenWords = 7;
+    const std::vector<MenuItem*>& menus = tour.MainForm.Menus;
+    const QRect window = tour.MainWindow().Place;
+    const QRect bar = Inside(QRect(window.topLeft(), QSize(window.width(), tour.MenuBarHeight())));
+    const std::vector<Stretch> captions = InkedColumns(tour.PictureOf(bar), blankBetweenWords);
+    Expect(captions.size() == menus.size(), u"%1 menus in the menu bar"_s.arg(menus.size()));
+    const Stretch& caption = captions[IndexOf(menus, menu)];
+    return QRect(bar.x() + caption.First, bar.y(), caption.Length(), bar.height());
+}
+
+ScreenWindow AwaitMenu(Tour& tour, const MenuItem& menu)
+{
+    std::vector<ScreenWindow> popups;
+    tour.Await(u"the menu \"%1\""_s.arg(Plain(menu)), [&] {
+        popups = tour.Screen.Popups();
+        return popups.size() == 1 && RowsOf(tour, popups.front()).size() == menu.Items.size();
+    });
+    return popups.front();
+}
+
+ScreenWindow OpenMenu(Tour& tour, const MenuItem& menu)
+{
+    tour.Hands.Click(PlaceInMenuBar(tour, menu).center());
+    return AwaitMenu(tour, menu);
+}
+
+QRect PlaceInMenu(Tour& tour, const ScreenWindow& popup, const MenuItem& menu, const MenuItem& entry)
+{
+    const std::vector<Stretch> rows = RowsOf(tour, popup);
+    Expect(rows.size() == menu.Items.size(), u"%1 rows in the menu"_s.arg(menu.Items.size()));
+    const Stretch& row = rows[IndexOf(menu.Items, entry)];
+    const QRect inside = Inside(popup.Place);
+    return QRect(inside.x(), inside.y() + row.First, inside.width(), row.Length());
+}
+
+void Choose(Tour& tour, const MenuItem& menu, const MenuItem& entry)
+{
+    const ScreenWindow popup = OpenMenu(tour, menu);
+    tour.Hands.Click(PlaceInMenu(tour, popup, menu, entry).center());
+    tour.AwaitGone(popup);
+}
+
+} // namespace lineforge::tour

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "Tour.h"
+
+namespace lineforge::tour
+{
+
+// The main window's menus, by mouse: a menu in the bar, and an entry in a menu that lies open. Their places are seen on
+// the screen; nothing but their order is known beforehand.
+QRect PlaceInMenuBar(const Tour& tour, const MenuItem& menu);
+ScreenWindow OpenMenu(Tour& tour, const MenuItem& menu);
+QRect PlaceInMenu(Tour& tour, const ScreenWindow& popup, const MenuItem& menu, const MenuItem& entry);
+
+// Opens the menu and clicks the entry; the menu is gone afterwards.
+void Choose(Tour& tour, const MenuItem& menu, const MenuItem& entry);
+
+// Waits for a menu that something else has opened.
+ScreenWindow AwaitMenu(Tour& tour, const MenuItem& menu);
+
+} // namespace lineforge::tour

@@ -1,0 +1,130 @@
+#include "Tour.h"
+
+#include "Failure.h"
+
+#include <QElapsedTimer>
+
+#include <algorithm>
+
+namespace lineforge::tour
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr int patience = 30'000; // milliseconds
+constexpr int glance = 20;
+constexpr QRgb paper = 0xffffffff;
+
+// The first row from which on `picture`, one pixel wide, is nothing but paper for a while.
+int FirstRowOfPaper(const QImage& picture)
+{
+    constexpr int enough = 30;
+    int row = 0;
+    for (int y = 0; y < picture.height() && y - row < enough; ++y)
+        if (picture.pixel(0, y) != paper)
+            row = y + 1;
+    return row;
+}
+} // namespace
+
+Tour::Tour(const QString& installed) : Hands(Screen), Places(Screen.Size()), Home(installed) {}
+
+void Tour::Await(const QString& what, const std::function<bool()>& condition)
+{
+    QElapsedTimer waited;
+    waited.start();
+    while (!condition()) {
+        if (!Program.StillRunsAfter(glance))
+            throw Failure(u"The program ended before "_s + what + u"; "_s + Program.Ending());
+        if (waited.hasExpired(patience))
+            throw Failure(u"Waited in vain for "_s + what);
+    }
+}
+
+ScreenWindow Tour::AwaitWindow(const QString& title)
+{
+    std::optional<ScreenWindow> found;
+    Await(u"the window \"%1\""_s.arg(title), [&] { return (found = Screen.Find(title)).has_value(); });
+    Screen.GiveKeyboard(*found);
+    return *found;
+}
+
+void Tour::AwaitGone(const ScreenWindow& window)
+{
+    Await(u"the window \"%1\" to go"_s.arg(window.Title), [&] { return !Screen.Find(window.Id); });
+    Screen.GiveKeyboardToTopmost();
+}
+
+void Tour::AwaitEnd()
+{
+    QElapsedTimer waited;
+    waited.start();
+    while (Program.StillRunsAfter(glance))
+        if (waited.hasExpired(patience))
+            throw Failure(u"Waited in vain for the program to end"_s);
+    Expect(Program.EndedWell(), u"the program to end with exit code 0, but "_s + Program.Ending());
+}
+
+void Tour::Answer(const QString& title, Key key)
+{
+    const ScreenWindow box = AwaitWindow(title);
+    Hands.Press(key);
+    AwaitGone(box);
+}
+
+void Tour::StartProgram()
+{
+    Program.Start(Home);
+    mainWindow_ = AwaitWindow(MainForm.Caption).Id;
+}
+
+ScreenWindow Tour::MainWindow() const
+{
+    const std::optional<ScreenWindow> window = Screen.Find(mainWindow_);
+    Expect(window.has_value(), u"the main window on the screen"_s);
+    return *window;
+}
+
+// The picture of the map lies below the menus, white as paper at its left margin.
+void Tour::MeasureMenuBar()
+{
+    constexpr int leftMargin = 2;
+    const QRect window = MainWindow().Place;
+    const int highest = window.height() / 4;
+    Await(u"the map's paper below the menus"_s, [&] {
+        menuBarHeight_ = FirstRowOfPaper(PictureOf(QRect(window.x() + leftMargin, window.y(), 1, highest)));
+        return menuBarHeight_ > 0 && menuBarHeight_ < highest / 2;
+    });
+}
+
+QRect Tour::OnMain(const Control& control) const
+{
+    return PlaceOf(MainWindow(), MainForm, control);
+}
+
+QRect Tour::PlaceOf(const ScreenWindow& window, const Form& form, const Control& control) const
+{
+    const QPoint client = window.Place.topLeft() + QPoint(0, form.Menus.empty() ? 0 : menuBarHeight_);
+    return Places.PlaceOf(form, control).translated(client);
+}
+
+// A picture for somebody to look at; one that never rests, because a cursor blinks in it, will do as it is.
+QImage Tour::SettledPicture()
+{
+    constexpr int longest = 3'000;
+    constexpr int rest = 80;
+    QElapsedTimer waited;
+    waited.start();
+    QImage before;
+    QImage now = Screen.Picture();
+    do {
+        before = std::exchange(now, QImage());
+        Program.StillRunsAfter(rest);
+        now = Screen.Picture();
+    } while (now != before && !waited.hasExpired(longest));
+    return now;
+}
+
+} // namespace lineforge::tour

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "Story.h"
+
+namespace lineforge::tour
+{
+
+// A stop is a file of its own and a line in the story.
+Steps SplashStop();
+Steps EmptyWindowStop();
+Steps OpenStop();
+Steps ScrollStop();
+Steps CoordinatesStop();
+Steps NewBranchStop();
+Steps DuplicateNameStop();
+Steps OpenOtherStop();
+Steps HelpStop();
+Steps CloseBranchStop();
+Steps ChangeDirectoryStop();
+Steps ExitStop();
+Steps WithoutSplashStop();
+
+} // namespace lineforge::tour
