@@ -12,6 +12,9 @@ int main(int argc, char* argv[])
     RatioReporter reporter({
         {"a walk over 100,000 rows, by bare SQLite calls", "WalkRecordset", "WalkBare", 1.5},
         {"opening a branch with 10 siblings, by reading their files once", "OpenBranch", "ReadFilesBare", 3.0},
+        {"a double click on the last of 100,000 people, by a bare walk to her", "DoubleClickLast", "WalkBareToLast",
+         1.2},
+        {"a step of the scanner onto a 12-megapixel picture seen before", "ScannerStep", "", 2.0},
         {"start to a shown main window, by an empty window's", "StartLineforge", "StartEmpty", 1.5},
     });
     benchmark::RunSpecifiedBenchmarks(&reporter);

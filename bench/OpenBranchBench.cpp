@@ -1,7 +1,6 @@
 #include "BenchHome.h"
-#include "program/Program.h"
+#include "Machine.h"
 #include "shell/OpenBranch.h"
-#include "shell/handlers/Handlers.h"
 
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
@@ -13,36 +12,6 @@ namespace
 
 using namespace Qt::StringLiterals;
 
-class NoScreen : public WindowSystem
-{
-public:
-    void Made(Form&) override {}
-    void Retire(std::unique_ptr<Form> form) override { retired_.push_back(std::move(form)); }
-
-private:
-    std::vector<std::unique_ptr<Form>> retired_;
-};
-
-// Nothing may be asked while a sound branch is opened.
-class NoUser : public Prompts
-{
-public:
-    Answer MsgBox(const QString& title, const QString& text, Buttons) override
-    {
-        qFatal("unexpected box: %s / %s", qUtf8Printable(title), qUtf8Printable(text));
-    }
-    QString InputBox(const QString&, const QString&) override { return {}; }
-    std::optional<QString> OpenFile(const FileQuestion&) override { return {}; }
-    void ShowHelp(const QString&) override {}
-};
-
-class NoEvents : public EventLoop
-{
-public:
-    void DoEvents() override {}
-    void End(int) override { throw ProgramEnded(); }
-};
-
 const BenchHome& Home()
 {
     static const BenchHome home;
@@ -51,14 +20,8 @@ const BenchHome& Home()
 
 void OpenBranch(benchmark::State& state)
 {
-    NoScreen windows;
-    NoUser user;
-    NoEvents loop;
-    Screen screen{12000, 9000};
-    Program p(Platform{windows, user, loop, screen, Home().Path()});
-    InstallHandlers(p);
-    p.Branch.HomeDir = Home().Path();
-    p.Form1.Load();
+    Machine machine(Home().Path());
+    Program& p = machine.P;
     for (auto _ : state) {
         p.Form8->List1.ListIndex = 0;
         OpenSelectedBranch(p);

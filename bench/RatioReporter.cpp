@@ -9,6 +9,8 @@ namespace lineforge::bench
 
 namespace
 {
+constexpr double aMillisecond = 1e-3; // in seconds
+
 double Median(std::vector<double> times)
 {
     const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
@@ -40,13 +42,17 @@ void RatioReporter::Finalize()
     for (const Ratio& ratio : ratios_) {
         const auto ours = times_.find(ratio.Ours);
         const auto against = times_.find(ratio.Against);
-        if (ours == times_.end() || against == times_.end())
+        const bool isAlone = ratio.Against.empty();
+        if (ours == times_.end() || (!isAlone && against == times_.end()))
             continue;
-        const double measured = Median(ours->second) / Median(against->second);
+        const double measured = Median(ours->second) / (isAlone ? aMillisecond : Median(against->second));
         const bool isKept = measured <= ratio.Limit;
         allKept_ = allKept_ && isKept;
-        std::cout << "  " << ratio.What << ": " << measured << ", at most " << ratio.Limit << (isKept ? "" : "  BROKEN")
-                  << "  (noise " << Spread(ours->second) << " and " << Spread(against->second) << ")\n";
+        std::cout << "  " << ratio.What << ": " << measured << (isAlone ? " ms" : "") << ", at most " << ratio.Limit
+                  << (isKept ? "" : "  BROKEN") << "  (noise " << Spread(ours->second);
+        if (!isAlone)
+            std::cout << " and " << Spread(against->second);
+        std::cout << ")\n";
     }
 }
 

@@ -13,7 +13,7 @@ namespace lineforge::bench
 struct Ratio {
     std::string What;
     std::string Ours;
-    std::string Against;
+    std::string Against; // empty: the figure is Ours alone, in milliseconds
     double Limit;
 };
 

@@ -20,9 +20,11 @@ install_missing() {
         as_root="sudo"
     fi
     echo "Installing:$missing"
-    $as_root apt-get update -q >/dev/null
+    log=$(mktemp)
     # shellcheck disable=SC2086
-    $as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends $missing >/dev/null
+    { $as_root apt-get update -q && $as_root env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -q --no-install-recommends $missing; } >"$log" 2>&1 || { cat "$log" >&2; rm -f "$log"; exit 1; }
+    rm -f "$log"
 }
 
 # Configures a preset once and builds targets of it, quietly: the whole output comes only when something fails.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/ControlArray.h"
 #include "platform/Form.h"
 #include "platform/PictureBox.h"
 
@@ -63,6 +64,7 @@ struct Form1 : Form {
 
     PictureBox Picture1{*this, u"Picture1", {0, 0, 8415, 12750}};
     Shape Shape1{Picture1, u"Shape1", {0, 0, 135, 255}};
+    ControlArray<Shape> Shape2{Picture1, u"Shape2", LineageFrame};
     ScrollBar VScroll1{*this, u"VScroll1", {8400, 0, 255, 7455}, 8000, 100, 1500};
 
     Button Command5{*this, u"Command5", {8760, 120, 975, 375}, u"Compare"};
@@ -102,6 +104,9 @@ struct Form1 : Form {
     Frame Frame4{*this, u"Frame4", {8760, 7395, 3015, 600}};
 
     MultimediaControl MMControl1{*this, u"MMControl1"};
+
+    // A green frame over a box of a surname's line, hidden.
+    static std::unique_ptr<Shape> LineageFrame(Container& parent, const QString& name);
 };
 
 } // namespace lineforge::forms

@@ -8,6 +8,8 @@ namespace lineforge::forms
 // A picture on its own.
 struct Form2 : Form {
     Form2() : Form(u"Form2", {}, {7500, 6000}) {}
+
+    Image Image1{*this, u"Image1", {150, 150, 7200, 5700}};
 };
 
 } // namespace lineforge::forms

@@ -19,7 +19,8 @@ Colour MarkerColour(const QString& gender)
     return QbColor(13);
 }
 
-// The first filed row whose box holds that record, or the row behind the last.
+} // namespace
+
 int RowOfRecord(const MapState& map, const FieldValue& file)
 {
     // An empty number is no number: it would be found in the first box that holds nobody.
@@ -30,7 +31,6 @@ int RowOfRecord(const MapState& map, const FieldValue& file)
         ++row;
     return row;
 }
-} // namespace
 
 void TakeBoxPosition(Program& p, int row)
 {
@@ -53,14 +53,17 @@ void MarkCurrentBox(Program& p)
     form.Shape1.Visible = false;
     p.Gallery.FirstShow = 1;
 
-    const int row = RowOfRecord(p.Map, Records(p).Value(u"File"));
+    const Recordset& records = Records(p);
+    if (!records.HasRow())
+        return;
+    const int row = RowOfRecord(p.Map, records.Value(u"File"));
     if (row > LastFiledBox)
         return;
     TakeBoxPosition(p, row);
     p.Mouse.BoxX += BoxCentreX - markerOffset;
     p.Mouse.BoxY += BoxCentreY - markerOffset;
     form.Shape1.Move({p.Mouse.BoxX, p.Mouse.BoxY});
-    form.Shape1.BorderColor = MarkerColour(Records(p).Text(u"Gender"));
+    form.Shape1.BorderColor = MarkerColour(records.Text(u"Gender"));
     form.Shape1.Visible = true;
 }
 

@@ -9,9 +9,13 @@ namespace lineforge
 // `IdxA` is left at 100 and the position stays. Does nothing while a record of another branch is shown.
 void FindBoxOfRecord(Program& p);
 
-// Puts the marker on the box of the current record, coloured by the gender; hidden when no box shows it. Asks for a
-// new gallery page. Leaves `BoxX`, `BoxY` at the marker's place, not the box's: mapping reads them there.
+// Puts the marker on the box of the current record, coloured by the gender; hidden when no box shows it, or there is no
+// record. Asks for a new gallery page. Leaves `BoxX`, `BoxY` at the marker's place, not the box's: mapping reads them
+// there.
 void MarkCurrentBox(Program& p);
+
+// The first filed row whose box holds that record, or the row behind the last.
+int RowOfRecord(const MapState& map, const FieldValue& file);
 
 // `BoxX`, `BoxY` from a row of the boxes. Error 13 or 6 for a position that is no whole number of 16 bits.
 void TakeBoxPosition(Program& p, int row);

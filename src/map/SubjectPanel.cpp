@@ -1,6 +1,6 @@
 #include "map/SubjectPanel.h"
 
-#include "platform/Picture.h"
+#include "program/BranchUi.h"
 
 namespace lineforge
 {
@@ -48,7 +48,22 @@ void EmptySubjectLabels(Program& p, std::initializer_list<Label forms::Form1::*>
 
 void LoadSubjectPicture(Program& p, Image& target)
 {
-    target.Picture = LoadPicture(p.Files, p.Branch.WorkDir + PathSeparator + p.Record.sPicFile);
+    target.Picture = p.Pictures.Load(p.Files, p.Branch.WorkDir + PathSeparator + p.Record.sPicFile);
+}
+
+void ShowRecordOnMap(Program& p)
+{
+    SetPictureName(p);
+    bool hasPicture = false;
+    p.Errors.Ignoring([&] {
+        LoadSubjectPicture(p, p.Form1->Image1);
+        hasPicture = true;
+    });
+    FillSubjectLabels(p);
+    if (!hasPicture) {
+        p.Form1->Image1.Picture = QImage();
+        TellPictureMissing(p);
+    }
 }
 
 void TellPictureMissing(Program& p)

@@ -12,6 +12,7 @@ struct ListBox;
 struct Image;
 struct Shape;
 struct ScrollBar;
+struct Timer;
 struct MultimediaControl;
 class PictureBox;
 class DataControl;
@@ -30,6 +31,7 @@ public:
     virtual void Visit(Image& image) = 0;
     virtual void Visit(Shape& shape) = 0;
     virtual void Visit(ScrollBar& bar) = 0;
+    virtual void Visit(Timer& timer) = 0;
     virtual void Visit(MultimediaControl& player) = 0;
     virtual void Visit(PictureBox& picture) = 0;
     virtual void Visit(DataControl& data) = 0;

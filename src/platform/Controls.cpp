@@ -4,9 +4,15 @@ namespace lineforge
 {
 
 Control::Control(Container& parent, QStringView name, Rectangle place)
-    : Name(name.toString()), Left(place.Left), Top(place.Top), Width(place.Width), Height(place.Height)
+    : Name(name.toString()), Left(place.Left), Top(place.Top), Width(place.Width), Height(place.Height),
+      parent_(parent)
 {
     parent.controls_.push_back(this);
+}
+
+Control::~Control()
+{
+    std::erase(parent_.controls_, this);
 }
 
 Label::Label(Container& parent, QStringView name, Rectangle place, QStringView caption)
@@ -53,6 +59,12 @@ Shape::Shape(Container& parent, QStringView name, Rectangle place) : ControlKind
 ScrollBar::ScrollBar(Container& parent, QStringView name, Rectangle place, int max, int smallChange, int largeChange)
     : ControlKind(parent, name, place), Max(max), SmallChange(smallChange), LargeChange(largeChange)
 {
+}
+
+Timer::Timer(Container& parent, QStringView name, int milliseconds)
+    : ControlKind(parent, name, {}), Interval(milliseconds)
+{
+    Enabled = false;
 }
 
 MultimediaControl::MultimediaControl(Container& parent, QStringView name) : ControlKind(parent, name, {}) {}

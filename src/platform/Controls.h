@@ -91,7 +91,7 @@ private:
 
 struct Control {
     Control(Container& parent, QStringView name, Rectangle place);
-    virtual ~Control() = default;
+    virtual ~Control();
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
 
@@ -113,6 +113,9 @@ struct Control {
         Left = place.X;
         Top = place.Y;
     }
+
+private:
+    Container& parent_;
 };
 
 // Gives a kind of control its stop in every visitor.
@@ -129,6 +132,10 @@ public:
     virtual ~Container() = default;
     const std::vector<Control*>& Controls() const { return controls_; }
 
+    // Told of controls that come and go while the window is shown; set by whoever shows it.
+    std::function<void(Control& control)> Added;
+    std::function<void(Control& control)> Removed;
+
 private:
     friend struct Control;
     std::vector<Control*> controls_;
@@ -143,13 +150,17 @@ struct Label : ControlKind<Label> {
 struct TextBox : ControlKind<TextBox> {
     TextBox(Container& parent, QStringView name, Rectangle place, int maxLength = 0);
     ControlText Text;
-    int MaxLength; // characters, 0 for no limit
-    Event Click;
+    int MaxLength;          // characters, 0 for no limit
+    char16_t AccessKey = 0; // with Alt it brings the focus here; 0 for none
+    QString SelText;        // what is selected on the screen
+    Event Click;            // the selection stands by then
 };
 
 struct Button : ControlKind<Button> {
-    Button(Container& parent, QStringView name, Rectangle place, QStringView caption);
+    Button(Container& parent, QStringView name, Rectangle place, QStringView caption = {});
     QProperty<QString> Caption;
+    QProperty<QImage> Picture; // in the place of a caption
+    char16_t AccessKey = 0;    // with Alt it presses the button; 0 for none
     Event Click;
 };
 
@@ -187,6 +198,8 @@ struct Image : ControlKind<Image> {
 // An outline above its container, which lets the mouse through. Hidden until it is told to show.
 struct Shape : ControlKind<Shape> {
     Shape(Container& parent, QStringView name, Rectangle place);
+    enum class Outline { Oval, Rectangle };
+    Outline Kind = Outline::Oval;
     QProperty<Colour> BorderColor{Black};
     int BorderWidth = 1; // pixels
     bool Filled = false; // with the colour of its border
@@ -199,6 +212,13 @@ struct ScrollBar : ControlKind<ScrollBar> {
     int SmallChange;
     int LargeChange;
     Event Change;
+};
+
+// Ticks again and again while it is enabled, which it isn't at first.
+struct Timer : ControlKind<Timer> {
+    Timer(Container& parent, QStringView name, int milliseconds);
+    QProperty<int> Interval; // milliseconds
+    Event Tick;
 };
 
 // A player of sounds and videos. Its commands act at once; a file or device that isn't there is passed over.

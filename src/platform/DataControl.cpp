@@ -130,12 +130,20 @@ void DataControl::MarkStale()
 
 void DataControl::Settle()
 {
-    if (!std::exchange(stale_, false) || !records_)
+    if (!stale_)
         return;
-    records_->Rest();
-    const bool hasRow = records_->HasRow();
-    for (const Binding& binding : bindings_)
-        binding.Text->Show(hasRow ? records_->Text(binding.Field) : QString());
+    std::vector<QString> texts(bindings_.size());
+    if (records_) {
+        records_->Rest();
+        // Refused here, the next reading tries again.
+        if (records_->HasRow())
+            std::ranges::transform(bindings_, texts.begin(),
+                                   [this](const Binding& binding) { return records_->Text(binding.Field); });
+    }
+    stale_ = false;
+    if (records_)
+        for (std::size_t at = 0; at < bindings_.size(); ++at)
+            bindings_[at].Text->Show(texts[at]);
 }
 
 void DataControl::Release()

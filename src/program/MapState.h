@@ -89,6 +89,8 @@ struct MapState {
     QString sLinesText;
     QString sTextsText;
 
+    Integer16 MarkCount; // frames of the last lineage view
+
     // The branch directory whose map this is; empty when none has been read since the arrays were erased. A map is
     // written to no other branch.
     QString Owner;

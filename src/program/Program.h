@@ -13,6 +13,7 @@
 #include "forms/form9.h"
 #include "platform/Database.h"
 #include "platform/FileSystem.h"
+#include "platform/Picture.h"
 #include "platform/Platform.h"
 #include "platform/Recordset.h"
 #include "platform/RuntimeError.h"
@@ -70,9 +71,13 @@ struct MapMouseState {
 struct RecordState {
     QString sCurFile; // `File` of the record at hand
     QString sPicFile; // and its picture's name
+    QString sPicSuffix;
     QString sForeName;
-    QString sAltName; // forename of a record of another branch
-    QString sShownName;
+    QString sAltName;         // forename of a record of another branch
+    QString sShownName;       // forename when the map last opened the record form
+    QString sClipText;        // selected at the last click in a box of the record form
+    Integer16 ClipSource;     // that box's number, 0 for none
+    Integer16 RecordScanMode; // 1 fast forward, 2 forward, 3 stopped, 4 back, 5 fast back
     Bookmark SavedBookmark;
 };
 
@@ -112,6 +117,7 @@ struct Program {
     QString ExecutableDirectory;
     FileSystem Files;
     lineforge::Databases Databases;
+    PictureCache Pictures;
     ErrorState Errors;
 
     BranchState Branch;

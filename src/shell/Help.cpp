@@ -1,5 +1,7 @@
 #include "shell/Help.h"
 
+#include "program/BranchUi.h"
+
 namespace lineforge
 {
 
@@ -8,6 +10,12 @@ using namespace Qt::StringLiterals;
 void ShowHelpContents(Program& p)
 {
     p.Prompts.ShowHelp(p.Branch.HomeDir + u"LfgHelp.hlp");
+}
+
+void ShowRecordHelp(Program& p)
+{
+    ClearMapCursor(p);
+    ShowHelpContents(p);
 }
 
 void ShowAbout(Program& p)

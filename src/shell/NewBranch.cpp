@@ -75,8 +75,7 @@ bool IsNameInUse(const QString& aliasList, const QString& name)
 QString AskName(Program& p)
 {
     for (;;) {
-        const QString name =
-            p.Prompts.InputBox(u"New Tree Branch name"_s, u"Enter the name for this new Tree Branch Map"_s);
+        QString name = p.Prompts.InputBox(u"New Tree Branch name"_s, u"Enter the name for this new Tree Branch Map"_s);
         if (name.isEmpty() || !IsNameInUse(p.Alias.sAliasList, name))
             return name;
         p.Prompts.MsgBox(u"Duplicate Name entered."_s, u"Cannot have Tree Branch databases with same name"_s,

@@ -124,6 +124,7 @@ public:
     void Visit(Image&) override { Stops.push_back(u"Image"_s); }
     void Visit(Shape&) override { Stops.push_back(u"Shape"_s); }
     void Visit(ScrollBar&) override { Stops.push_back(u"ScrollBar"_s); }
+    void Visit(Timer&) override { Stops.push_back(u"Timer"_s); }
     void Visit(MultimediaControl&) override { Stops.push_back(u"MultimediaControl"_s); }
     void Visit(PictureBox&) override { Stops.push_back(u"PictureBox"_s); }
     void Visit(DataControl&) override { Stops.push_back(u"DataControl"_s); }
@@ -141,17 +142,18 @@ TEST_F(ControlsTest, EveryKindOfControl_HasItsStop)
     Image image(window, u"g", {});
     Shape shape(window, u"h", {});
     ScrollBar bar(window, u"i", {}, 100, 1, 10);
-    MultimediaControl player(window, u"j");
-    PictureBox picture(window, u"k", {});
-    DataControl data(window, u"l", {}, u"");
+    Timer timer(window, u"j", 100);
+    MultimediaControl player(window, u"k");
+    PictureBox picture(window, u"l", {});
+    DataControl data(window, u"m", {}, u"");
 
     Tour tour;
     for (Control* control : window.Controls())
         control->Accept(tour);
 
-    EXPECT_EQ(tour.Stops,
-              QStringList({u"Label"_s, u"TextBox"_s, u"Button"_s, u"CheckBox"_s, u"Frame"_s, u"ListBox"_s, u"Image"_s,
-                           u"Shape"_s, u"ScrollBar"_s, u"MultimediaControl"_s, u"PictureBox"_s, u"DataControl"_s}));
+    EXPECT_EQ(tour.Stops, QStringList({u"Label"_s, u"TextBox"_s, u"Button"_s, u"CheckBox"_s, u"Frame"_s, u"ListBox"_s,
+                                       u"Image"_s, u"Shape"_s, u"ScrollBar"_s, u"Timer"_s, u"MultimediaControl"_s,
+                                       u"PictureBox"_s, u"DataControl"_s}));
 }
 
 class ControlTextTest : public ControlsTest

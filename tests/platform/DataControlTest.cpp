@@ -108,6 +108,20 @@ TEST_F(DataControlTest, Stale_IsToldOnce_UntilTheControlsAreSettled)
     EXPECT_EQ(told, 2);
 }
 
+TEST_F(DataControlTest, RefusedReading_IsTriedAgainAtTheNext)
+{
+    GivenOpened({u"Ann"_s, u"Bob"_s});
+    data.Records().MoveNext();
+    data.Records().Rest();
+    SqliteFile other(home.Path(u"people.db"));
+    other.Execute("BEGIN EXCLUSIVE");
+
+    EXPECT_EQ(RefusalOf([&] { (void)label.Caption.value(); }), ErrorNumber::DatabaseBusy);
+
+    other.Execute("COMMIT");
+    EXPECT_EQ(label.Caption.value(), u"Bob");
+}
+
 TEST_F(DataControlTest, Settling_LetsTheWalkRest)
 {
     GivenOpened({u"Ann"_s, u"Bob"_s});

@@ -16,8 +16,7 @@ constexpr Stretch forenameOnly{165, 245};
 
 QRect PlaceOf(const Tour& tour, const FiledBox& box, Stretch rows)
 {
-    const Rectangle twips{box.Corner.x(), box.Corner.y() + rows.First, BoxWidth, rows.Last - rows.First};
-    return tour.Places.Pixels().ToPixels(twips).translated(tour.OnMain(tour.MainForm.Picture1).topLeft());
+    return PlaceOnMap(tour, {box.Corner.x(), box.Corner.y() + rows.First, BoxWidth, rows.Last - rows.First});
 }
 } // namespace
 
@@ -32,6 +31,11 @@ QRect MapArea(const Tour& tour)
 QImage MapPicture(const Tour& tour)
 {
     return tour.PictureOf(MapArea(tour));
+}
+
+QRect PlaceOnMap(const Tour& tour, const Rectangle& twips)
+{
+    return tour.Places.Pixels().ToPixels(twips).translated(tour.OnMain(tour.MainForm.Picture1).topLeft());
 }
 
 // Letters inside the box may come near its outline, but no more than here and there.

@@ -6,6 +6,7 @@
 #include "RunningProgram.h"
 #include "ScratchHome.h"
 #include "forms/Form1.h"
+#include "forms/Form3.h"
 #include "forms/Form8.h"
 #include "forms/form9.h"
 
@@ -28,6 +29,7 @@ public:
     RunningProgram Program;
 
     const forms::Form1 MainForm;
+    const forms::Form3 RecordForm;
     const forms::Form8 ListForm;
     const forms::form9 SplashForm;
 

@@ -2,15 +2,36 @@
 
 #include "platform/DataControl.h"
 #include "platform/qt/QtMedia.h"
+#include "platform/qt/Bindings.h"
 #include "platform/qt/WindowView.h"
 
 #include <QThread>
+#include <QTimer>
 
 #include <algorithm>
 #include <utility>
 
 namespace lineforge
 {
+
+namespace
+{
+// Keeps a timer of the toolkit in step with a control.
+class TimerService
+{
+public:
+    TimerService(Timer& control, std::shared_ptr<const Gate> gate)
+    {
+        QObject::connect(&timer_, &QTimer::timeout, &timer_, [gate, &control] { gate->Run(control.Tick); });
+        bindings_.Follow(control.Interval, [this, &control] { timer_.setInterval(control.Interval); });
+        bindings_.Follow(control.Enabled, [this, &control] { control.Enabled ? timer_.start() : timer_.stop(); });
+    }
+
+private:
+    QTimer timer_;
+    Bindings bindings_;
+};
+} // namespace
 
 // What stands behind one form: its services from the start, its widgets once it has been shown.
 class QtWindows::Host
@@ -62,6 +83,8 @@ private:
                     if (gate->IsOpen())
                         media_.Act(*player, command);
                 };
+            if (auto* timer = dynamic_cast<Timer*>(control))
+                timers_.push_back(std::make_unique<TimerService>(*timer, gate_));
             if (auto* data = dynamic_cast<DataControl*>(control))
                 data->Stale = [this, gate = gate_, data] {
                     if (gate->IsOpen())
@@ -93,6 +116,7 @@ private:
     QtMedia& media_;
     QObject queue_; // what waits for the event loop goes with it
     std::vector<DataControl*> settling_;
+    std::vector<std::unique_ptr<TimerService>> timers_;
     std::unique_ptr<WindowView> view_;
     QPropertyNotifier visible_;
 };

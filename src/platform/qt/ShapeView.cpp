@@ -5,8 +5,8 @@
 namespace lineforge
 {
 
-ShapeView::ShapeView(QWidget* parent, int penPixels, bool filled)
-    : QWidget(parent), penPixels_(penPixels), filled_(filled)
+ShapeView::ShapeView(QWidget* parent, Shape::Outline kind, int penPixels, bool filled)
+    : QWidget(parent), kind_(kind), penPixels_(penPixels), filled_(filled)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
@@ -25,7 +25,11 @@ void ShapeView::paintEvent(QPaintEvent*)
     if (filled_)
         painter.setBrush(colour_);
     const qreal inset = penPixels_ / 2.0;
-    painter.drawEllipse(QRectF(rect()).adjusted(inset, inset, -inset, -inset));
+    const QRectF outline = QRectF(rect()).adjusted(inset, inset, -inset, -inset);
+    if (kind_ == Shape::Outline::Oval)
+        painter.drawEllipse(outline);
+    else
+        painter.drawRect(outline);
 }
 
 } // namespace lineforge

@@ -1,16 +1,18 @@
 #pragma once
 
+#include "platform/Controls.h"
+
 #include <QColor>
 #include <QWidget>
 
 namespace lineforge
 {
 
-// The outline of an upright oval, which the mouse goes through.
+// The outline of an upright oval or a rectangle, which the mouse goes through.
 class ShapeView : public QWidget
 {
 public:
-    ShapeView(QWidget* parent, int penPixels, bool filled);
+    ShapeView(QWidget* parent, Shape::Outline kind, int penPixels, bool filled);
     void SetColour(const QColor& colour);
 
 protected:
@@ -18,6 +20,7 @@ protected:
 
 private:
     QColor colour_;
+    Shape::Outline kind_;
     int penPixels_;
     bool filled_;
 };

@@ -24,6 +24,12 @@ void TextView::Show(const QString& text)
         setPlainText(shown);
 }
 
+QString TextView::SelectedText() const
+{
+    QString text = textCursor().selectedText();
+    return text.replace(QChar::ParagraphSeparator, u'\n');
+}
+
 // The text is kept with the line ends that it came with.
 void TextView::TakeEdit()
 {

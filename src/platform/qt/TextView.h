@@ -17,6 +17,8 @@ public:
     // Shows a text without calling that an edit.
     void Show(const QString& text);
 
+    QString SelectedText() const;
+
     // The text as it stands, after the user has changed it.
     std::function<void(const QString& text)> Edited;
 

@@ -15,6 +15,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -62,6 +63,15 @@ void ShowInLine(QLineEdit& line, const QString& text)
     line.setText(text);
     line.setCursorPosition(cursor);
 }
+
+// A button that is a picture has no border of its own.
+void ShowOnButton(QPushButton& button, const QImage& picture)
+{
+    if (picture.isNull() && button.icon().isNull())
+        return;
+    button.setFlat(true);
+    button.setIcon(QPixmap::fromImage(picture));
+}
 } // namespace
 
 WidgetBuilder::WidgetBuilder(const Scale& scale, std::shared_ptr<const Gate> gate, Bindings& bindings)
@@ -80,6 +90,39 @@ void WidgetBuilder::Build(const Container& container, QWidget* parent)
     for (QObject* child : parent->children())
         if (auto* shape = dynamic_cast<ShapeView*>(child))
             shape->raise();
+}
+
+void WidgetBuilder::FollowChildren(Container& container, QWidget* parent)
+{
+    container.Added = [gate = gate_, scale = scale_, &container, parent](Control& control) {
+        if (!gate->IsOpen())
+            return;
+        // What follows the control goes with its widget, not with the window.
+        auto bindings = std::make_shared<Bindings>();
+        WidgetBuilder builder(scale, gate, *bindings);
+        builder.container_ = &container;
+        builder.parent_ = parent;
+        control.Accept(builder);
+        if (auto* widget = parent->findChild<QWidget*>(control.Name, Qt::FindDirectChildrenOnly)) {
+            QObject::connect(widget, &QObject::destroyed, widget, [bindings] {});
+            widget->raise();
+        }
+    };
+    container.Removed = [gate = gate_, parent](Control& control) {
+        if (gate->IsOpen())
+            delete parent->findChild<QWidget*>(control.Name, Qt::FindDirectChildrenOnly);
+    };
+}
+
+void WidgetBuilder::AddAccessKey(QWidget* widget, const TextBox& box)
+{
+    if (box.AccessKey == 0)
+        return;
+    const QKeySequence keys(Qt::ALT | static_cast<Qt::Key>(box.AccessKey));
+    QObject::connect(new QShortcut(keys, widget), &QShortcut::activated, widget,
+                     [widget] { widget->setFocus(Qt::ShortcutFocusReason); });
+    if (widget->toolTip().isEmpty())
+        widget->setToolTip(keys.toString(QKeySequence::NativeText));
 }
 
 void WidgetBuilder::Dress(QWidget* widget, Control& control)
@@ -142,8 +185,13 @@ void WidgetBuilder::VisitLine(TextBox& box)
     QObject::connect(line, &QLineEdit::textEdited, line,
                      [gate = gate_, &box](const QString& typed) { gate->Run([&box, typed] { box.Text = typed; }); });
     new ClickWatcher(line, [gate = gate_, &box] { gate->Run(box.Click); });
+    QObject::connect(line, &QLineEdit::selectionChanged, line, [gate = gate_, line, &box] {
+        if (gate->IsOpen())
+            box.SelText = line->selectedText();
+    });
     NameForReaders(line, box);
     Dress(line, box);
+    AddAccessKey(line, box);
 }
 
 void WidgetBuilder::VisitLines(TextBox& box)
@@ -152,8 +200,13 @@ void WidgetBuilder::VisitLines(TextBox& box)
     bindings_.Follow(box.Text, [lines, &box] { lines->Show(box.Text.Shown()); });
     lines->Edited = [gate = gate_, &box](const QString& typed) { gate->Run([&box, typed] { box.Text = typed; }); };
     new ClickWatcher(lines->viewport(), [gate = gate_, &box] { gate->Run(box.Click); });
+    QObject::connect(lines, &TextView::selectionChanged, lines, [gate = gate_, lines, &box] {
+        if (gate->IsOpen())
+            box.SelText = lines->SelectedText();
+    });
     NameForReaders(lines, box);
     Dress(lines, box);
+    AddAccessKey(lines, box);
 }
 
 void WidgetBuilder::Visit(Button& button)
@@ -161,7 +214,11 @@ void WidgetBuilder::Visit(Button& button)
     auto* view = new QPushButton(parent_);
     view->setAutoDefault(true); // so that Enter presses it, too
     bindings_.Follow(button.Caption, [view, &button] { view->setText(button.Caption); });
+    view->setIconSize(scale_.ToPixels(Size{button.Width, button.Height}));
+    bindings_.Follow(button.Picture, [view, &button] { ShowOnButton(*view, button.Picture); });
     QObject::connect(view, &QPushButton::clicked, view, [gate = gate_, &button] { gate->Run(button.Click); });
+    if (button.AccessKey != 0)
+        view->setShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(button.AccessKey)));
     FollowCaption(view, button, button.Caption);
     Dress(view, button);
 }
@@ -224,7 +281,7 @@ void WidgetBuilder::Visit(Image& image)
 void WidgetBuilder::Visit(Shape& shape)
 {
     const int pen = std::max(thinnestOutline, scale_.ToPixels(shape.BorderWidth * designTwipsAPixel));
-    auto* view = new ShapeView(parent_, pen, shape.Filled);
+    auto* view = new ShapeView(parent_, shape.Kind, pen, shape.Filled);
     bindings_.Follow(shape.BorderColor, [view, &shape] { view->SetColour(ToQColor(shape.BorderColor)); });
     view->setAccessibleName(shape.Name);
     Dress(view, shape);
@@ -249,6 +306,8 @@ void WidgetBuilder::Visit(ScrollBar& bar)
     Dress(view, bar);
 }
 
+void WidgetBuilder::Visit(Timer&) {}
+
 void WidgetBuilder::Visit(MultimediaControl&) {}
 
 void WidgetBuilder::Visit(PictureBox& picture)
@@ -257,6 +316,7 @@ void WidgetBuilder::Visit(PictureBox& picture)
     NameForReaders(view, picture);
     Dress(view, picture);
     Build(picture, view);
+    FollowChildren(picture, view);
 }
 
 void WidgetBuilder::Visit(DataControl& data)

@@ -32,10 +32,14 @@ private:
     void Visit(Image& image) override;
     void Visit(Shape& shape) override;
     void Visit(ScrollBar& bar) override;
+    void Visit(Timer& timer) override;
     void Visit(MultimediaControl& player) override;
     void Visit(PictureBox& picture) override;
     void Visit(DataControl& data) override;
 
+    // Controls that come and go while the window is shown.
+    void FollowChildren(Container& container, QWidget* parent);
+    void AddAccessKey(QWidget* widget, const TextBox& box);
     void VisitLine(TextBox& box);
     void VisitLines(TextBox& box);
     // What all kinds have in common: name, place, being visible and enabled.

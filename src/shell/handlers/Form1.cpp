@@ -1,5 +1,7 @@
-#include "map/MapDisplay.h"
+#include "map/LineageMarks.h"
+#include "map/MapInteraction.h"
 #include "program/BranchUi.h"
+#include "records/RecordForm.h"
 #include "shell/CloseBranch.h"
 #include "shell/Exit.h"
 #include "shell/Help.h"
@@ -18,12 +20,6 @@ void OpenFileOrHelpMenu(Program& p)
     p.form9.Unload();
     ClearMapCursor(p);
 }
-
-void ReleaseMouse(Program& p, double x, double y)
-{
-    if (p.Tools.MapCursorMode >= 0 && p.Tools.MapCursorMode <= 2)
-        ShowCoordinates(p, x, y);
-}
 } // namespace
 
 void InstallForm1(Program& p, forms::Form1& form)
@@ -40,6 +36,7 @@ void InstallForm1(Program& p, forms::Form1& form)
     form.mnuExit.Click = [&p] { ExitProgram(p); };
 
     form.mnuEdit.Click = [&p] { ClearMapCursor(p); };
+    form.mnuViewRecs.Click = [&p] { ShowRecordForm(p); };
     form.mnuTreeGraphics.Click = [&p] { ClearMapCursor(p); };
 
     form.mnuHelp.Click = [&p] { OpenFileOrHelpMenu(p); };
@@ -47,7 +44,13 @@ void InstallForm1(Program& p, forms::Form1& form)
     form.MnuAbout.Click = [&p] { ShowAbout(p); };
 
     form.VScroll1.Change = [&form] { form.Picture1.Top = -form.VScroll1.Value; };
-    form.Picture1.MouseUp = [&p](int, int, double x, double y) { ReleaseMouse(p, x, y); };
+    form.Picture1.MouseDown = [&p](int, int, double x, double y) { PressOnMap(p, x, y); };
+    form.Picture1.MouseUp = [&p](int, int, double x, double y) { ReleaseOnMap(p, x, y); };
+    form.Picture1.DblClick = [&p] { DoubleClickOnMap(p); };
+
+    form.Command1.Click = [&p] { ShowRecordForm(p); };
+    form.Command3.Click = [&p] { ViewLineage(p); };
+    form.Command4.Click = [&p] { ClearLineage(p); };
 }
 
 } // namespace lineforge

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "program/Program.h"
+
+#include <memory>
+#include <vector>
+
+namespace lineforge::bench
+{
+
+class NoScreen : public WindowSystem
+{
+public:
+    void Made(Form&) override {}
+    void Retire(std::unique_ptr<Form> form) override { retired_.push_back(std::move(form)); }
+
+private:
+    std::vector<std::unique_ptr<Form>> retired_;
+};
+
+// Nothing may be asked while a benchmark runs.
+class NoUser : public Prompts
+{
+public:
+    Answer MsgBox(const QString& title, const QString& text, Buttons) override;
+    QString InputBox(const QString&, const QString&) override { return {}; }
+    std::optional<QString> OpenFile(const FileQuestion&) override { return {}; }
+    void ShowHelp(const QString&) override {}
+};
+
+class NoEvents : public EventLoop
+{
+public:
+    void DoEvents() override {}
+    [[noreturn]] void End(int) override { throw ProgramEnded(); }
+};
+
+// A program in that home with its main window loaded, and nobody before it.
+class Machine
+{
+public:
+    explicit Machine(const QString& home);
+
+private:
+    NoScreen windows_;
+    NoUser user_;
+    NoEvents loop_;
+    Screen screen_{12000, 9000};
+
+public:
+    Program P;
+};
+
+} // namespace lineforge::bench

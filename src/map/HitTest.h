@@ -1,0 +1,16 @@
+#pragma once
+
+#include "program/Program.h"
+
+namespace lineforge
+{
+
+// Whether the last press lies inside the box of that row; its edges are outside. Error 13 for a position that is no
+// number.
+bool PressIsInBox(const Program& p, int row);
+
+// Looks for the first box under the last press, rows 0 to `SBoxes`. `BoxIdx` becomes its row, or the row behind
+// `SBoxes`, and `BoxMiss` tells which. With `SBoxes` 0 both stay as they were.
+void HitBox(Program& p);
+
+} // namespace lineforge

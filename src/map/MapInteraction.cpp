@@ -1,0 +1,192 @@
+#include "map/MapInteraction.h"
+
+#include "map/BoxCaptions.h"
+#include "map/CurrentBox.h"
+#include "map/HitTest.h"
+#include "map/MapDisplay.h"
+#include "map/MapFile.h"
+#include "map/SubjectPanel.h"
+#include "platform/Text.h"
+#include "program/AlternateBranch.h"
+#include "program/BranchPaths.h"
+#include "program/BranchUi.h"
+#include "program/WorkDatabase.h"
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr int normal = 0;
+constexpr int repositioning = 2;
+
+void Tell(Program& p, const QString& title, const QString& text)
+{
+    p.Prompts.MsgBox(title, text, Buttons::Information);
+}
+
+bool IsTransferPending(const Program& p)
+{
+    return p.Tools.MapCursorMode == repositioning && p.Screen.Pointer == MousePointer::Cross;
+}
+
+// Puts the current record's number into the box that was pressed, and takes it out of its old one.
+void MoveLinkToPressedBox(Program& p)
+{
+    EraseBoxCaption(p);
+    HitBox(p);
+    p.Map.BoxArr[p.Mouse.BoxIdx][BoxColumn::File] = Records(p).Text(u"File");
+}
+
+// Writes the boxes to the map's own branch although a record of another one is shown. Leaves the other branch opened
+// afresh, on its first record; so it is meant to be.
+void SaveBoxesOfOwnBranch(Program& p)
+{
+    SwapBranchDirs(p);
+    OpenWorkDatabase(p);
+    p.Branch.UsingAlternate = 0;
+    SaveBoxes(p);
+    SwapBranchDirs(p);
+    OpenWorkDatabase(p);
+    p.Branch.UsingAlternate = 1;
+}
+
+// False when there is no record to be transferred.
+bool FinishTransfer(Program& p)
+{
+    if (Records(p).IsEmpty()) {
+        Tell(p, u"Database Empty"_s, u"The Database has no records to access"_s);
+        ClearMapCursor(p);
+        return false;
+    }
+    if (p.Branch.UsingAlternate == 1) {
+        p.Record.sAltName = Records(p).Text(u"ForeName");
+        MoveLinkToPressedBox(p);
+        TakeBoxPosition(p, p.Mouse.BoxIdx);
+        DrawRecordInBox(p);
+        SaveBoxesOfOwnBranch(p);
+    } else {
+        MoveLinkToPressedBox(p);
+        DrawRecordInBox(p);
+        SaveBoxes(p);
+    }
+    ClearMapCursor(p);
+    return true;
+}
+
+// The number in the box that was pressed; empty off all boxes.
+QString PressedNumber(Program& p)
+{
+    p.Mouse.BoxX = p.Mouse.BoxLeft;
+    p.Mouse.BoxY = p.Mouse.BoxTop;
+    HitBox(p);
+    const bool isHit = p.Map.SBoxes != 0 && p.Mouse.BoxMiss == 0;
+    return isHit ? p.Map.BoxArr[p.Mouse.BoxIdx][BoxColumn::File].Text() : QString();
+}
+
+// Points the program at the branch that the number belongs to; false, and a box, when that isn't there.
+bool GoToBranchOf(Program& p, const QString& file)
+{
+    const QString letter = file.first(1);
+    if (SameText(letter, BranchLetter(p.Branch.WorkDir)))
+        return true;
+    if (!RequireSibling(p, letter))
+        return false;
+    SwitchToSibling(p, letter);
+    return true;
+}
+
+// Stands on the record of `sCurFile`; false, and a box, when there is none. The switch of branch stays.
+bool FindPressedRecord(Program& p)
+{
+    Recordset& records = Records(p);
+    if (records.IsEmpty()) {
+        Tell(p, u"Database Empty"_s, u"This Tree Branch has no records to access"_s);
+        return false;
+    }
+    // A search without a hit has left the cursor behind the last row, where there is nothing to come back to.
+    p.Record.SavedBookmark = records.HasRow() ? records.GetBookmark() : Bookmark();
+    if (records.Seek(u"File", p.Record.sCurFile))
+        return true;
+    Tell(p, u"Database Searched"_s, u"No File data found"_s);
+    if (p.Record.SavedBookmark)
+        records.SetBookmark(p.Record.SavedBookmark);
+    return false;
+}
+
+// A record without a gender leaves the marker where the last subject's was.
+void MarkSubject(Program& p)
+{
+    if (Records(p).Text(u"Gender").isEmpty())
+        return;
+    MarkCurrentBox(p);
+    // The first double click of a re-positioning has chosen the old place; the cross waits for the new one.
+    if (p.Tools.MapCursorMode == repositioning)
+        p.Screen.Pointer = MousePointer::Cross;
+}
+
+void LeaveOtherBranch(Program& p)
+{
+    ReturnFromSibling(p);
+    for (Button forms::Form3::*transport : forms::Form3::Transport)
+        ((*p.Form3).*transport).Enabled = true;
+}
+} // namespace
+
+void PressOnMap(Program& p, double x, double y)
+{
+    p.Mouse.DownX = static_cast<int>(x);
+    p.Mouse.DownY = static_cast<int>(y);
+    if (p.Map.SBoxes == 0)
+        return;
+    p.Mouse.BoxMiss = 0;
+    for (int row = 0; row <= p.Map.SBoxes; ++row) {
+        if (PressIsInBox(p, row)) {
+            p.Form1->MMControl1.Command(u"Sound");
+            p.Loop.DoEvents();
+            return;
+        }
+    }
+}
+
+void ReleaseOnMap(Program& p, double x, double y)
+{
+    if (p.Tools.MapCursorMode >= 0 && p.Tools.MapCursorMode <= repositioning)
+        ShowCoordinates(p, x, y);
+}
+
+bool TellIfNoBranch(Program& p)
+{
+    if (!p.Branch.sDbaseName.isEmpty())
+        return false;
+    Tell(p, u"Data not available"_s, u"Cannot View until database file is Opened"_s);
+    return true;
+}
+
+void DoubleClickOnMap(Program& p)
+{
+    constexpr int toolsOpen = 3;
+    if (p.Tools.ToolMode == toolsOpen)
+        return;
+    if (IsTransferPending(p)) {
+        if (FinishTransfer(p))
+            MarkSubject(p);
+        return;
+    }
+    if (p.Branch.UsingAlternate == 1)
+        LeaveOtherBranch(p);
+    if (TellIfNoBranch(p))
+        return;
+
+    p.Record.sCurFile = PressedNumber(p);
+    const bool isEmptyBox = p.Record.sCurFile == u"0" && p.Tools.MapCursorMode == normal;
+    if (p.Record.sCurFile.isEmpty() || isEmptyBox || !GoToBranchOf(p, p.Record.sCurFile) || !FindPressedRecord(p))
+        return;
+    ShowRecordOnMap(p);
+    p.Form1->Image1.Visible = true;
+    MarkSubject(p);
+}
+
+} // namespace lineforge

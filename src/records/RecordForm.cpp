@@ -1,0 +1,207 @@
+#include "records/RecordForm.h"
+
+#include "map/BoxCaptions.h"
+#include "map/CurrentBox.h"
+#include "map/MapFile.h"
+#include "map/MapInteraction.h"
+#include "map/MapItems.h"
+#include "map/SubjectPanel.h"
+#include "platform/Text.h"
+#include "program/BranchUi.h"
+#include "program/WorkDatabase.h"
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr int mapping = 1;
+constexpr Point forenameInBox{50, 100}; // from the corner of the box
+
+void PrintForename(Program& p, int row, Colour pen)
+{
+    PictureBox& picture = p.Form1->Picture1;
+    ResetMapFont(picture);
+    picture.Font.Italic = false;
+    picture.ForeColor = pen;
+    const auto& box = p.Map.BoxArr[row];
+    picture.PrintAt({box[BoxColumn::X].Number() + forenameInBox.X, box[BoxColumn::Y].Number() + forenameInBox.Y},
+                    FittedForename(box[BoxColumn::Forename].Text()));
+}
+
+// The name in the box was printed from the forename column, and is wiped by printing it again.
+void RewriteNameInBox(Program& p)
+{
+    const int row = RowOfRecord(p.Map, Records(p).Value(u"File"));
+    if (row > LastFiledBox)
+        return;
+    PrintForename(p, row, p.Form1->Picture1.BackColor);
+    p.Map.BoxArr[row][BoxColumn::Forename] = p.Form3->Text3.Text.value();
+    PrintForename(p, row, Black);
+}
+
+// A forename changed only in its letters' case counts as unchanged.
+void CarryForenameToMap(Program& p)
+{
+    if (SameText(p.Form3->Text3.Text.value(), p.Record.sShownName))
+        return;
+    p.Errors.Ignoring([&] { RewriteNameInBox(p); });
+    p.Errors.Ignoring([&] { p.Map.sBoxesText = ListOfBoxes(p.Map); });
+}
+
+// The boxes may still have to follow the last move. Where the database refuses that they show another record, whose
+// texts must be carried nowhere.
+bool BoxesAreCurrent(Program& p)
+{
+    bool areCurrent = false;
+    p.Errors.Ignoring([&] {
+        p.Form3->Data1.Settle();
+        areCurrent = true;
+    });
+    return areCurrent;
+}
+
+void FinishMapping(Program& p)
+{
+    if (p.Tools.MapCursorMode != mapping)
+        return;
+    p.Errors.Ignoring([&] { Records(p).Put(u"Forename", p.Form3->Text3.Text.value()); });
+    p.Record.SavedBookmark.reset();
+    p.Errors.Ignoring([&] { p.Record.SavedBookmark = Records(p).GetBookmark(); });
+    p.Errors.Ignoring([&] { Records(p).Update(); });
+    p.Errors.Ignoring([&] { Records(p).SetBookmark(p.Record.SavedBookmark); });
+    p.Errors.Ignoring([&] { DrawRecordInBox(p); });
+    p.Tools.MapCursorMode = 0;
+}
+
+void KeepGender(Program& p)
+{
+    const QString typed = p.Form3->Text23.Text;
+    bool isChanged = false;
+    p.Errors.Ignoring([&] { isChanged = !SameText(Records(p).Text(u"Gender"), typed); });
+    if (!isChanged)
+        return;
+    p.Errors.Ignoring([&] { Records(p).Edit(); });
+    p.Errors.Ignoring([&] { Records(p).Put(u"Gender", typed); });
+    p.Errors.Ignoring([&] { Records(p).Update(); });
+    p.Errors.Ignoring([&] { MarkCurrentBox(p); });
+}
+
+void TellSearchRefused(Program& p)
+{
+    p.Prompts.MsgBox(u"Search Alternate Tree Branch Records."_s,
+                     u"This Record is from another Tree Branch. You must open \n"
+                     u"that Tree Branch to Search the Records of the Database. "_s,
+                     Buttons::Information);
+}
+} // namespace
+
+void LoadRecordForm(Program& p)
+{
+    forms::Form3& form = *p.Form3;
+    form.Width = p.Screen.Width;
+    form.Height = p.Screen.Height - 400;
+    form.Centre(p.Screen.Area(), 200);
+    form.Caption = p.Form8->List1.Text() + u" Ancestral Records.";
+}
+
+void ShowRecordForm(Program& p)
+{
+    if (TellIfNoBranch(p))
+        return;
+    SetPictureName(p);
+    forms::Form3& form = *p.Form3;
+    // The record of another branch stands alone: the scanner can't walk that branch.
+    if (p.Branch.UsingAlternate == 1)
+        for (Button forms::Form3::*transport : forms::Form3::Transport)
+            (form.*transport).Enabled = false;
+    p.Errors.Ignoring([&] { LoadSubjectPicture(p, form.Image1); });
+    p.Record.sShownName = form.Text3.Text;
+    form.Show();
+    ClearMapCursor(p);
+    p.Screen.Pointer = MousePointer::Default;
+}
+
+void ReturnToTree(Program& p)
+{
+    const bool areCurrent = BoxesAreCurrent(p);
+    if (areCurrent)
+        CarryForenameToMap(p);
+    FinishMapping(p);
+    if (areCurrent)
+        KeepGender(p);
+    p.Errors.Ignoring([&] { ShowRecordOnMap(p); });
+    if (p.Gallery.FirstShow == 1)
+        p.Errors.Ignoring([&] { MarkCurrentBox(p); });
+    p.Form1->Show();
+    p.Form3->Hide();
+}
+
+void GoToGallery(Program& p)
+{
+    if (p.Tools.MapCursorMode == mapping)
+        return;
+    if (BoxesAreCurrent(p)) {
+        CarryForenameToMap(p);
+        KeepGender(p);
+    }
+    p.Errors.Ignoring([&] { Records(p).Update(); });
+    p.Errors.Ignoring([&] { ShowRecordOnMap(p); });
+    if (p.Gallery.FirstShow == 1) {
+        p.Screen.Pointer = MousePointer::Hourglass;
+        p.Errors.Ignoring([&] { MarkCurrentBox(p); });
+    }
+    p.Form5->Show();
+    p.Form3->Hide();
+    p.Screen.Pointer = MousePointer::Arrow;
+}
+
+void EnlargeSubjectPicture(Program& p)
+{
+    const forms::Form3& record = *p.Form3;
+    p.Form2->Caption =
+        record.Label25.Caption.value() + u"     " + record.Text3.Text.value() + u"  " + record.Text2.Text.value();
+    try {
+        LoadSubjectPicture(p, p.Form2->Image1);
+        p.Form2->Show();
+    } catch (const RuntimeError&) {
+        // The panel of the main window is emptied, not the window that was to show the picture; so it is meant to be.
+        p.Form1->Image1.Picture = QImage();
+        TellPictureMissing(p);
+    }
+}
+
+void OpenRecordMenu(Program& p)
+{
+    ClearMapCursor(p);
+    p.Form3->Data1.Enabled = false;
+}
+
+void OpenSearchMenu(Program& p)
+{
+    if (p.Branch.UsingAlternate == 1)
+        TellSearchRefused(p);
+    else
+        OpenRecordMenu(p);
+}
+
+void ExitFromRecords(Program& p)
+{
+    p.Errors.Ignoring([&] { Records(p).Update(); });
+    p.Errors.Ignoring([&] { SaveBoxes(p); });
+    p.Form5->MMControl1.Command(u"Close");
+    // The main window takes all others with it and ends the program, unless a text that can't be written holds this
+    // form back.
+    p.Errors.Ignoring([&] { p.Form1.Unload(); });
+    p.Loop.End(0);
+}
+
+void RememberSelection(Program& p, const TextBox& box, int number)
+{
+    p.Record.sClipText = box.SelText;
+    p.Record.ClipSource = number;
+}
+
+} // namespace lineforge

@@ -1,0 +1,167 @@
+#include "records/RecordScanner.h"
+
+#include "map/CurrentBox.h"
+#include "map/SubjectPanel.h"
+#include "program/WorkDatabase.h"
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+using forms::Form3;
+
+struct Face {
+    Button Form3::*Transport;
+    Image Form3::*Picture;
+};
+
+// Each button by its mode: its face when it is up and when it is down.
+struct ButtonFaces {
+    ScanMode Mode;
+    Button Form3::*Transport;
+    Image Form3::*Up;
+    Image Form3::*Down;
+};
+
+constexpr ButtonFaces faces[] = {
+    {ScanMode::FastForward, &Form3::Picture1, &Form3::Image2, &Form3::Image3},
+    {ScanMode::Forward, &Form3::Picture2, &Form3::Image4, &Form3::Image5},
+    {ScanMode::Stopped, &Form3::Picture3, &Form3::Image6, &Form3::Image7},
+    {ScanMode::Back, &Form3::Picture4, &Form3::Image8, &Form3::Image9},
+    {ScanMode::FastBack, &Form3::Picture5, &Form3::Image10, &Form3::Image11},
+};
+
+// What shows at the end of a scan beside the stop button going down. Not every button that is down comes up, and the
+// fast back button's face lands on its neighbour: this is the settled behaviour, not a slip.
+struct EndFaces {
+    ScanMode Mode;
+    Face BeforeMove; // the end was met before the step
+    Face AfterMove;
+};
+
+constexpr EndFaces endFaces[] = {
+    {ScanMode::FastForward, {&Form3::Picture2, &Form3::Image4}, {&Form3::Picture1, &Form3::Image2}},
+    {ScanMode::Forward, {&Form3::Picture2, &Form3::Image4}, {&Form3::Picture2, &Form3::Image4}},
+    {ScanMode::Back, {&Form3::Picture4, &Form3::Image8}, {&Form3::Picture4, &Form3::Image8}},
+    {ScanMode::FastBack, {&Form3::Picture4, &Form3::Image10}, {&Form3::Picture5, &Form3::Image10}},
+};
+
+enum class Step { Moved, EndBeforeMove, EndAfterMove };
+
+void Put(Form3& form, const Face& face)
+{
+    (form.*face.Transport).Picture = (form.*face.Picture).Picture.value();
+}
+
+void PressButton(Program& p, ScanMode mode)
+{
+    for (const ButtonFaces& button : faces)
+        Put(*p.Form3, {button.Transport, button.Mode == mode ? button.Down : button.Up});
+}
+
+ScanMode ModeOf(const Program& p)
+{
+    return static_cast<ScanMode>(static_cast<int>(p.Record.RecordScanMode));
+}
+
+bool IsForward(ScanMode mode)
+{
+    return mode == ScanMode::FastForward || mode == ScanMode::Forward;
+}
+
+bool IsFast(ScanMode mode)
+{
+    return mode == ScanMode::FastForward || mode == ScanMode::FastBack;
+}
+
+// The directory above the branch becomes the current one, and is left for the searches to find pictures in.
+void GoAboveBranch(Program& p)
+{
+    constexpr int directoryNameLength = 8;
+    p.Scratch.sNewDir = p.Branch.WorkDir.left(p.Branch.WorkDirLen - directoryNameLength);
+    p.Files.ChDir(p.Scratch.sNewDir);
+}
+
+void ShowOnMap(Program& p)
+{
+    ShowRecordOnMap(p);
+    MarkCurrentBox(p);
+}
+
+Step MoveOn(Recordset& records, bool forward)
+{
+    if (forward ? records.Eof() : records.Bof())
+        return Step::EndBeforeMove;
+    forward ? records.MoveNext() : records.MovePrevious();
+    if (!(forward ? records.Eof() : records.Bof()))
+        return Step::Moved;
+    forward ? records.MovePrevious() : records.MoveNext();
+    return Step::EndAfterMove;
+}
+
+void EndScan(Program& p, ScanMode mode, Step step)
+{
+    p.Record.RecordScanMode = static_cast<int>(ScanMode::Stopped);
+    p.Form3->Timer1.Enabled = false;
+    for (const EndFaces& end : endFaces)
+        if (end.Mode == mode)
+            Put(*p.Form3, step == Step::EndBeforeMove ? end.BeforeMove : end.AfterMove);
+    Put(*p.Form3, {&Form3::Picture3, &Form3::Image7});
+    p.Files.ChDir(p.Branch.WorkDir);
+    ShowOnMap(p);
+}
+
+// A picture that isn't there leaves none, and the scan goes on.
+void ShowPassingPicture(Program& p)
+{
+    p.Record.sCurFile = p.Form3->Label25.Caption;
+    p.Record.sPicSuffix = u"Sub.jpg"_s;
+    p.Record.sPicFile = p.Record.sCurFile + p.Record.sPicSuffix;
+    try {
+        LoadSubjectPicture(p, p.Form3->Image1);
+    } catch (const RuntimeError&) {
+        p.Form3->Image1.Picture = QImage();
+    }
+}
+} // namespace
+
+void StartScan(Program& p, ScanMode mode)
+{
+    p.Record.RecordScanMode = static_cast<int>(mode);
+    p.Form3->Timer1.Enabled = true;
+    GoAboveBranch(p);
+    PressButton(p, mode);
+}
+
+void StopScan(Program& p)
+{
+    p.Record.RecordScanMode = static_cast<int>(ScanMode::Stopped);
+    p.Form3->Timer1.Enabled = false;
+    GoAboveBranch(p);
+    PressButton(p, ScanMode::Stopped);
+    ShowOnMap(p);
+}
+
+void TickScan(Program& p)
+{
+    constexpr int fastMilliseconds = 250;
+    constexpr int slowMilliseconds = 1000;
+
+    p.Gallery.FirstShow = 1;
+    const ScanMode mode = ModeOf(p);
+    if (mode < ScanMode::FastForward || mode == ScanMode::Stopped || mode > ScanMode::FastBack)
+        return;
+    // Takes effect after this step: the first one came after the interval that the last scan left.
+    p.Form3->Timer1.Interval = IsFast(mode) ? fastMilliseconds : slowMilliseconds;
+
+    const Step step = MoveOn(Records(p), IsForward(mode));
+    if (step == Step::Moved)
+        ShowPassingPicture(p);
+    else
+        EndScan(p, mode, step);
+}
+
+} // namespace lineforge

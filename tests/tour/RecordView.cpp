@@ -1,0 +1,36 @@
+#include "RecordView.h"
+
+namespace lineforge::tour
+{
+
+using namespace Qt::StringLiterals;
+
+ScreenWindow OpenRecords(Tour& tour)
+{
+    tour.Hands.Click(tour.OnMain(tour.MainForm.Command1).center());
+    return AwaitRecords(tour);
+}
+
+ScreenWindow AwaitRecords(Tour& tour)
+{
+    return tour.AwaitWindow(u"Lineforge Victoria and Albert Records."_s);
+}
+
+void ReturnToMap(Tour& tour)
+{
+    const ScreenWindow records = AwaitRecords(tour);
+    tour.Hands.Click(OnRecords(tour, tour.RecordForm.Command2).center());
+    tour.AwaitGone(records);
+}
+
+QRect OnRecords(Tour& tour, const Control& control)
+{
+    return tour.PlaceOf(AwaitRecords(tour), tour.RecordForm, control);
+}
+
+QImage PictureOnRecords(Tour& tour, const Control& control)
+{
+    return tour.PictureOf(OnRecords(tour, control));
+}
+
+} // namespace lineforge::tour
