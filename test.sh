@@ -5,7 +5,7 @@ set -eu
 cd "$(dirname "$0")"
 . packaging/packages.sh
 
-preset=test
+preset=debug
 case ${1:-} in
 debug | test | asan) preset=$1; shift ;;
 esac
