@@ -21,12 +21,6 @@ using namespace Qt::StringLiterals;
 namespace
 {
 constexpr Point numberInBox{100, 0}; // from the box's corner
-constexpr Point forenameInBox{50, 100};
-
-bool OnPaper(const Program& p)
-{
-    return p.Output.PrintToPrinter == 1;
-}
 
 bool IsPlacingSubject(const Program& p)
 {
@@ -148,9 +142,9 @@ void DrawRecordInBox(Program& p, const Recordset& row)
         FindBoxOfRecord(p);
     Surface& surface = CaptionSurface(p);
     PrintOnMap(surface, CaptionPlace(p, numberInBox, 10), row.Text(u"File"));
-    surface.PrintAt(CaptionPlace(p, forenameInBox, 130), p.Record.sForeName);
+    surface.PrintAt(CaptionPlace(p, ForenameInBox, 130), p.Record.sForeName);
     if (OnPaper(p))
-        surface.PrintAt(CaptionPlace(p, forenameInBox, 260), u"B :"_s + row.Text(u"BirthDate").right(4));
+        surface.PrintAt(CaptionPlace(p, ForenameInBox, 260), u"B :"_s + row.Text(u"BirthDate").right(4));
 }
 
 void DrawRecordInBox(Program& p)
@@ -228,7 +222,7 @@ void EraseBoxCaption(Program& p)
     ResetMapFont(picture);
     picture.ForeColor = picture.BackColor;
     PrintOnMap(picture, InBox(p, numberInBox), number);
-    picture.PrintAt(InBox(p, forenameInBox), p.Record.sForeName);
+    picture.PrintAt(InBox(p, ForenameInBox), p.Record.sForeName);
     picture.ForeColor = Black;
 }
 

@@ -8,6 +8,9 @@ namespace lineforge
 
 // The number and the forename that stand in a box, always in black.
 
+// Where the forename stands, from the corner of its box.
+inline constexpr Point ForenameInBox{50, 100};
+
 // A forename as a box has room for it: fewer than 8 characters stay whole, blanks and all; a longer one is cut before
 // its first blank; what still has 8 or more becomes its first five, an apostrophe and its last.
 QString FittedForename(const QString& forename);

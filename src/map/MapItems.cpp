@@ -32,11 +32,6 @@ constexpr int Stretched(int twips)
     return twips * 9 / 5;
 }
 
-bool OnPaper(const Program& p)
-{
-    return p.Output.PrintToPrinter == 1;
-}
-
 Colour ColourOf(const Cell& cell)
 {
     return static_cast<Colour>(cell.Number());
@@ -103,6 +98,11 @@ void DrawTextInSteps(Program& p, int row, const Attempt& attempt)
     DropTextFont(p);
 }
 } // namespace
+
+bool OnPaper(const Program& p)
+{
+    return p.Output.PrintToPrinter == 1;
+}
 
 Surface& MapSurface(Program& p)
 {

@@ -6,6 +6,9 @@
 namespace lineforge
 {
 
+// Whether the draw routines write to the printer's page.
+bool OnPaper(const Program& p);
+
 // What the map is drawn on: the picture, or the printer's page while a branch is printed.
 Surface& MapSurface(Program& p);
 

@@ -18,7 +18,6 @@ using namespace Qt::StringLiterals;
 namespace
 {
 constexpr int mapping = 1;
-constexpr Point forenameInBox{50, 100}; // from the corner of the box
 
 void PrintForename(Program& p, int row, Colour pen)
 {
@@ -27,7 +26,7 @@ void PrintForename(Program& p, int row, Colour pen)
     picture.Font.Italic = false;
     picture.ForeColor = pen;
     const auto& box = p.Map.BoxArr[row];
-    picture.PrintAt({box[BoxColumn::X].Number() + forenameInBox.X, box[BoxColumn::Y].Number() + forenameInBox.Y},
+    picture.PrintAt({box[BoxColumn::X].Number() + ForenameInBox.X, box[BoxColumn::Y].Number() + ForenameInBox.Y},
                     FittedForename(box[BoxColumn::Forename].Text()));
 }
 
