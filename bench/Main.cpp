@@ -15,6 +15,9 @@ int main(int argc, char* argv[])
         {"a double click on the last of 100,000 people, by a bare walk to her", "DoubleClickLast", "WalkBareToLast",
          1.2},
         {"a step of the scanner onto a 12-megapixel picture seen before", "ScannerStep", "", 2.0},
+        {"a full map of 200 lines, 100 boxes and 200 texts drawn anew", "RedrawFullMap", "", 10.0},
+        {"one move of a zone that holds all of these", "DragFullZone", "", 4.0},
+        {"one move of a chain of 50 lines", "DragChain", "", 1.0},
         {"start to a shown main window, by an empty window's", "StartLineforge", "StartEmpty", 1.5},
     });
     benchmark::RunSpecifiedBenchmarks(&reporter);

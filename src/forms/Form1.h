@@ -1,14 +1,24 @@
 #pragma once
 
+#include "forms/ToolFaces.h"
 #include "platform/ControlArray.h"
 #include "platform/Form.h"
 #include "platform/PictureBox.h"
+
+#include <array>
 
 namespace lineforge::forms
 {
 
 // What the main window was laid out for, below its menus; how large all windows are shown goes by it.
 inline constexpr Size MainWindowClient{11880, 8190};
+
+// What the colour and the font dialog were last left with. The colour of all that is drawn lives here.
+struct CommonDialog {
+    Colour Color = Black;
+    QString FontName = QStringLiteral("Arial");
+    double FontSize = 8; // points
+};
 
 // The main window: the map, the subject beside it, and the menus.
 struct Form1 : Form {
@@ -65,6 +75,7 @@ struct Form1 : Form {
     PictureBox Picture1{*this, u"Picture1", {0, 0, 8415, 12750}};
     Shape Shape1{Picture1, u"Shape1", {0, 0, 135, 255}};
     ControlArray<Shape> Shape2{Picture1, u"Shape2", LineageFrame};
+    Shape Shape3{Picture1, u"Shape3", {0, 0, 0, 0}};
     ScrollBar VScroll1{*this, u"VScroll1", {8400, 0, 255, 7455}, 8000, 100, 1500};
 
     Button Command5{*this, u"Command5", {8760, 120, 975, 375}, u"Compare"};
@@ -101,9 +112,49 @@ struct Form1 : Form {
     Button Command3{Frame3, u"Command3", {1860, 300, 525, 315}, u"View"};
     Button Command4{Frame3, u"Command4", {2400, 300, 525, 315}, u"Clear"};
 
+    // The drawing tools. Each image has a raised and a sunken face, kept in two images that are never shown.
     Frame Frame4{*this, u"Frame4", {8760, 7395, 3015, 600}};
+    Image Image2{Frame4, u"Image2", ToolPlace(0)};
+    Image Image3{Frame4, u"Image3", ToolPlace(1)};
+    Image Image4{Frame4, u"Image4", ToolPlace(2)};
+    Image Image5{Frame4, u"Image5", ToolPlace(3)};
+    Image Image6{Frame4, u"Image6", ToolPlace(4)};
+    Image Image7{Frame4, u"Image7", ToolPlace(5)};
+    Image Image9{Frame4, u"Image9", ToolPlace(6)};
+    Image Image8{Frame4, u"Image8", ToolPlace(7)};
+    Image Image10{Frame4, u"Image10", {}};
+    Image Image11{Frame4, u"Image11", {}};
+    Image Image12{Frame4, u"Image12", {}};
+    Image Image13{Frame4, u"Image13", {}};
+    Image Image14{Frame4, u"Image14", {}};
+    Image Image15{Frame4, u"Image15", {}};
+    Image Image16{Frame4, u"Image16", {}};
+    Image Image17{Frame4, u"Image17", {}};
+    Image Image18{Frame4, u"Image18", {}};
+    Image Image19{Frame4, u"Image19", {}};
+    Image Image20{Frame4, u"Image20", {}};
+    Image Image21{Frame4, u"Image21", {}};
+    Image Image22{Frame4, u"Image22", {}};
+    Image Image23{Frame4, u"Image23", {}};
+    Image Image24{Frame4, u"Image24", {}};
+    Image Image25{Frame4, u"Image25", {}};
+
+    CommonDialog CommonDialog1;
 
     MultimediaControl MMControl1{*this, u"MMControl1"};
+
+    // The tool images in the order in which they stand.
+    struct ToolImage {
+        Image Form1::*Button;
+        Image Form1::*Raised;
+        Image Form1::*Sunken;
+        QStringView ToolTip;
+        ToolSymbol Symbol;
+    };
+    static const std::array<ToolImage, 8> Tools;
+    static Rectangle ToolPlace(int index);
+    // Fills the images that keep the faces. Not done before the tools are first wanted: the program must start at once.
+    void DrawToolFaces();
 
     // A green frame over a box of a surname's line, hidden.
     static std::unique_ptr<Shape> LineageFrame(Container& parent, const QString& name);

@@ -1,6 +1,7 @@
 #include "forms/TransportFaces.h"
 
-#include <QLinearGradient>
+#include "forms/ButtonFace.h"
+
 #include <QPainter>
 #include <QPainterPath>
 
@@ -9,7 +10,7 @@ namespace lineforge::forms
 
 namespace
 {
-constexpr int side = 96;
+constexpr int side = ButtonFaceSide;
 
 QPainterPath Triangle(qreal left, bool pointsRight)
 {
@@ -52,23 +53,8 @@ QPainterPath PathOf(TransportSymbol symbol)
 
 QImage DrawTransportFace(TransportSymbol symbol, bool pressed)
 {
-    QImage face(side, side, QImage::Format_ARGB32_Premultiplied);
-    face.fill(Qt::transparent);
-    QPainter painter(&face);
-    painter.setRenderHint(QPainter::Antialiasing);
-
-    QLinearGradient light(0, 0, 0, side);
-    light.setColorAt(0, pressed ? QColor(0x4a, 0x6c, 0x8c) : QColor(0xff, 0xff, 0xff));
-    light.setColorAt(1, pressed ? QColor(0x6f, 0x95, 0xb8) : QColor(0xd2, 0xd8, 0xde));
-    painter.setPen(QPen(QColor(0x5a, 0x6a, 0x78), 3));
-    painter.setBrush(light);
-    painter.drawRoundedRect(QRectF(4, 4, side - 8, side - 8), 12, 12);
-
-    // A pressed symbol goes down with its button.
-    if (pressed)
-        painter.translate(2, 2);
-    painter.fillPath(PathOf(symbol), pressed ? QColor(Qt::white) : QColor(0x2b, 0x3a, 0x48));
-    return face;
+    return DrawButtonFace(pressed,
+                          [symbol](QPainter& painter, const QColor& ink) { painter.fillPath(PathOf(symbol), ink); });
 }
 
 } // namespace lineforge::forms

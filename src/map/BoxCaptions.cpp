@@ -38,13 +38,38 @@ Point CaptionPlace(const Program& p, Point offset, int below)
     return OnPaper(p) ? OnMapSurface(p, InBox(p, {offset.X, 0}), below) : InBox(p, offset);
 }
 
-Surface& CaptionSurface(Program& p)
+Surface& CaptionSurface(Program& p, Colour pen)
 {
     Surface& surface = MapSurface(p);
     if (!OnPaper(p))
         ResetMapFont(surface);
-    surface.ForeColor = Black;
+    surface.ForeColor = pen;
     return surface;
+}
+
+// Whether the box of the record is looked for while a subject is being mapped or moved.
+enum class Search { WhilePlacing, Never };
+
+void DrawRecord(Program& p, const Recordset& row, Colour pen, Search search = Search::WhilePlacing)
+{
+    if (row.Eof())
+        return;
+    FitForename(p, row);
+    if (search == Search::WhilePlacing && IsPlacingSubject(p))
+        FindBoxOfRecord(p);
+    Surface& surface = CaptionSurface(p, pen);
+    PrintOnMap(surface, CaptionPlace(p, numberInBox, 10), row.Text(u"File"));
+    surface.PrintAt(CaptionPlace(p, ForenameInBox, 130), p.Record.sForeName);
+    if (OnPaper(p))
+        surface.PrintAt(CaptionPlace(p, ForenameInBox, 260), u"B :"_s + row.Text(u"BirthDate").right(4));
+}
+
+void DrawNumber(Program& p, Colour pen)
+{
+    if (IsPlacingSubject(p))
+        FindBoxOfRecord(p);
+    PrintOnMap(CaptionSurface(p, pen), CaptionPlace(p, numberInBox, 40),
+               p.Map.BoxArr[p.Scratch.IdxA][BoxColumn::File].Text());
 }
 
 QString FiledNumber(const Program& p, int row)
@@ -79,27 +104,43 @@ private:
 };
 
 // A record of another branch: the program points there for the time of the drawing.
-void DrawForeignCaption(Program& p, Siblings& siblings, int row)
+void DrawForeignCaption(Program& p, Siblings& siblings, int row, Colour pen)
 {
     const QString file = FiledNumber(p, row);
-    p.Branch.WorkDirSaved = p.Branch.WorkDir;
-    p.Branch.HomeDirSaved = p.Branch.HomeDir;
-    const auto pointBack = qScopeGuard([&p, ownDatabase = p.Branch.sDbaseName] {
-        p.Branch.WorkDir = p.Branch.WorkDirSaved;
-        p.Branch.HomeDir = p.Branch.HomeDirSaved;
-        p.Branch.sDbaseName = ownDatabase;
-        // Not what it was before: a pass over foreign boxes always ends on the own branch.
-        p.Branch.UsingAlternate = 0;
-    });
+    if (p.Branch.UsingAlternate != 1) {
+        p.Branch.WorkDirSaved = p.Branch.WorkDir;
+        p.Branch.HomeDirSaved = p.Branch.HomeDir;
+    }
+    const auto pointBack = qScopeGuard([&p, before = p.Branch] { p.Branch = before; });
     p.Branch.WorkDir = SiblingDirectory(p.Branch.WorkDir, file.first(1));
     p.Branch.sDbaseName = DatabasePath(p.Branch.WorkDir);
     p.Branch.UsingAlternate = 1;
 
     TakeBoxPosition(p, row);
     if (const Recordset* record = siblings.Find(file))
-        DrawRecordInBox(p, *record);
+        DrawRecord(p, *record, pen);
     else
-        DrawBoxNumber(p);
+        DrawNumber(p, pen);
+}
+
+// The caption of a box by its number alone: without a walk through the own branch's table.
+void DrawCaption(Program& p, Siblings& siblings, int row, Colour pen)
+{
+    p.Scratch.IdxA = row;
+    const QString letter = FiledNumber(p, row).left(1);
+    if (letter.isEmpty() || letter == u"0")
+        return;
+    const bool isOwn = SameText(letter, BranchLetter(p.Branch.WorkDir));
+    // A box at no possible place costs its own caption, not those of the boxes behind it.
+    p.Errors.Ignoring([&] {
+        // The neighbours of an imported branch can't be reached.
+        if (isOwn || IsImported(p.Branch.WorkDir)) {
+            TakeBoxPosition(p, row);
+            DrawNumber(p, pen);
+        } else {
+            DrawForeignCaption(p, siblings, row, pen);
+        }
+    });
 }
 
 // The boxes by the records that they hold.
@@ -135,16 +176,7 @@ void FitForename(Program& p)
 
 void DrawRecordInBox(Program& p, const Recordset& row)
 {
-    if (row.Eof())
-        return;
-    FitForename(p, row);
-    if (IsPlacingSubject(p))
-        FindBoxOfRecord(p);
-    Surface& surface = CaptionSurface(p);
-    PrintOnMap(surface, CaptionPlace(p, numberInBox, 10), row.Text(u"File"));
-    surface.PrintAt(CaptionPlace(p, ForenameInBox, 130), p.Record.sForeName);
-    if (OnPaper(p))
-        surface.PrintAt(CaptionPlace(p, ForenameInBox, 260), u"B :"_s + row.Text(u"BirthDate").right(4));
+    DrawRecord(p, row, Black);
 }
 
 void DrawRecordInBox(Program& p)
@@ -154,31 +186,27 @@ void DrawRecordInBox(Program& p)
 
 void DrawBoxNumber(Program& p)
 {
-    if (IsPlacingSubject(p))
-        FindBoxOfRecord(p);
-    PrintOnMap(CaptionSurface(p), CaptionPlace(p, numberInBox, 40), FiledNumber(p, p.Scratch.IdxA));
+    DrawNumber(p, Black);
 }
 
 void DrawBoxCaptions(Program& p)
 {
     Siblings siblings(p);
-    for (int row = 0; row <= LastFiledBox; ++row) {
-        p.Scratch.IdxA = row;
-        const QString letter = FiledNumber(p, row).left(1);
-        if (letter.isEmpty() || letter == u"0")
-            continue;
-        const bool isOwn = SameText(letter, BranchLetter(p.Branch.WorkDir));
-        // A box at no possible place costs its own caption, not those of the boxes behind it.
-        p.Errors.Ignoring([&] {
-            // The neighbours of an imported branch can't be reached.
-            if (isOwn || IsImported(p.Branch.WorkDir)) {
-                TakeBoxPosition(p, row);
-                DrawBoxNumber(p);
-            } else {
-                DrawForeignCaption(p, siblings, row);
-            }
-        });
+    for (int row = 0; row <= LastFiledBox; ++row)
+        DrawCaption(p, siblings, row, Black);
+}
+
+void WipeCaption(Program& p, int row)
+{
+    const Colour paper = p.Form1->Picture1.BackColor;
+    if (Records(p).HasRow()) {
+        // Another box may hold the same record, and come first.
+        TakeBoxPosition(p, row);
+        DrawRecord(p, Records(p), paper, Search::Never);
+        return;
     }
+    Siblings siblings(p);
+    DrawCaption(p, siblings, row, paper);
 }
 
 void DrawRecordsInBoxes(Program& p)

@@ -34,6 +34,10 @@ void DrawBoxCaptions(Program& p);
 // Walks the open branch's table once and prints each record in every box that holds it; ends at `Eof`.
 void DrawRecordsInBoxes(Program& p);
 
+// Wipes what stands in the box of that row, before the box is dragged or goes: number and forename of the current
+// record, or without one what `DrawBoxCaptions` has printed there. The row keeps its number.
+void WipeCaption(Program& p, int row);
+
 // Overprints the caption of the current record's box in the background colour and empties the box. While a record of
 // another branch is shown the box is the one that the mouse hit, and the forename is `sAltName`.
 void EraseBoxCaption(Program& p);

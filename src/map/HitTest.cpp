@@ -5,10 +5,13 @@ namespace lineforge
 
 bool PressIsInBox(const Program& p, int row)
 {
-    const int left = p.Map.BoxArr[row][BoxColumn::X].Number();
-    const int top = p.Map.BoxArr[row][BoxColumn::Y].Number();
-    return p.Mouse.DownX > left && p.Mouse.DownX < left + BoxWidth && p.Mouse.DownY > top &&
-           p.Mouse.DownY < top + BoxHeight;
+    const auto& box = p.Map.BoxArr[row];
+    if (box[BoxColumn::X].IsZero() || !box[BoxColumn::X].IsNumber() || !box[BoxColumn::Y].IsNumber())
+        return false;
+    const int left = box[BoxColumn::X].Number();
+    const int top = box[BoxColumn::Y].Number();
+    return p.Mouse.DownX > left && p.Mouse.DownX - BoxWidth < left && p.Mouse.DownY > top &&
+           p.Mouse.DownY - BoxHeight < top;
 }
 
 void HitBox(Program& p)

@@ -5,8 +5,8 @@
 namespace lineforge
 {
 
-// Whether the last press lies inside the box of that row; its edges are outside. Error 13 for a position that is no
-// number.
+// Whether the last press lies inside the box of that row; its edges are outside. A free row, or one whose position is
+// no number, has no inside.
 bool PressIsInBox(const Program& p, int row);
 
 // Looks for the first box under the last press, rows 0 to `SBoxes`. `BoxIdx` becomes its row, or the row behind

@@ -2,6 +2,7 @@
 
 #include "map/BoxCaptions.h"
 #include "map/MapItems.h"
+#include "map/Pointer.h"
 #include "platform/Text.h"
 #include "program/WorkDatabase.h"
 
@@ -12,12 +13,12 @@ void RedrawMap(Program& p)
 {
     PictureBox& picture = p.Form1->Picture1;
     for (int row = 0; row <= p.Map.SBoxes; ++row)
-        DrawBox(p, row);
+        p.Errors.Ignoring([&] { DrawBox(p, row); });
 
     const Colour pen = picture.ForeColor;
     const TextFont font = picture.Font;
     for (int row = 0; row <= p.Map.STexts; ++row) {
-        DrawText(p, row);
+        p.Errors.Ignoring([&] { DrawTextRegardless(p, row); });
         picture.ForeColor = pen;
         picture.Font = font;
         if (!SameText(picture.Font.Name, u"Arial"))
@@ -27,7 +28,9 @@ void RedrawMap(Program& p)
         DrawLine(p, row);
 
     Recordset& records = Records(p);
-    p.Record.SavedBookmark = records.HasRow() ? records.GetBookmark() : Bookmark();
+    // Behind the last row there is nothing to come back to but what was remembered before.
+    if (records.HasRow())
+        p.Record.SavedBookmark = records.GetBookmark();
     DrawRecordsInBoxes(p);
     DrawBoxCaptions(p);
     if (p.Record.SavedBookmark)
@@ -36,8 +39,9 @@ void RedrawMap(Program& p)
 
 void ShowCoordinates(Program& p, double x, double y)
 {
-    p.Mouse.BoxX = static_cast<int>(x);
-    p.Mouse.BoxY = static_cast<int>(y);
+    const Point pointer = PointerOnMap(x, y);
+    p.Mouse.BoxX = pointer.X;
+    p.Mouse.BoxY = pointer.Y;
     p.Mouse.BoxLeft = p.Mouse.BoxX - BoxCentreX;
     p.Mouse.BoxTop = p.Mouse.BoxY - BoxCentreY;
     p.Mouse.sCoords = QString::number(p.Mouse.BoxLeft) + u',' + QString::number(p.Mouse.BoxTop);

@@ -5,8 +5,8 @@
 namespace lineforge
 {
 
-// Repaints boxes, texts and lines from the arrays up to their counts, then all captions. The current record stays, its
-// position in `SavedBookmark`.
+// Repaints boxes, texts and lines from the arrays up to their counts, then all captions; a spoilt item costs its own
+// drawing. The current record stays, its position in `SavedBookmark`.
 void RedrawMap(Program& p);
 
 // Shows a point of the picture beside the map, and the corner that a box centred on it would have; both are kept for

@@ -37,6 +37,14 @@ void ReadToEnd(TextReader& reader, QString& list)
         Append(list, reader.Next());
 }
 
+// A comma would end the value too early and shift all that follow, and a bracket the whole list.
+QString FiledForename(QString forename)
+{
+    for (const QChar breaking : u",[\r\n")
+        forename.remove(breaking);
+    return forename;
+}
+
 // The "[" that ended the list before is the first letter of the name, and has been read.
 bool NextSectionIs(TextReader& reader, QStringView rest)
 {
@@ -94,6 +102,17 @@ void WriteLists(Program& p)
 }
 } // namespace
 
+void EraseMap(Program& p)
+{
+    p.Map.Erase();
+    p.Mouse.BoxIdx = 0;
+    p.Mouse.BoxMiss = 0;
+    p.Tools.TextIdx = 0;
+    p.Tools.TextMiss = 0;
+    p.Tools.LineMiss = 0;
+    p.Tools.ChainTop = 0;
+}
+
 void ReadMapFile(Program& p)
 {
     const QString file = MapFileToRead(p.Branch.WorkDir);
@@ -133,8 +152,9 @@ QString ListOfBoxes(const MapState& map)
     for (int row = 0; row <= LastFiledBox; ++row) {
         if (map.BoxArr[row][BoxColumn::X].IsZero())
             continue;
-        for (int column = 0; column < BoxColumn::Count; ++column)
+        for (int column = 0; column < BoxColumn::Forename; ++column)
             list += map.BoxArr[row][column].Text() + u',';
+        list += FiledForename(map.BoxArr[row][BoxColumn::Forename].Text()) + u',';
     }
     return list;
 }

@@ -7,6 +7,10 @@ namespace lineforge
 
 // The map file: eight lines, the last of each pair a list of values with a comma after every one.
 
+// Empties the map before another branch's is read; the counts keep their values. What the mouse has hit on it is
+// forgotten with it.
+void EraseMap(Program& p);
+
 // Fills the three lists of the branch in `WorkDir`, and says which of them came out empty. A file that isn't there
 // leaves the lists as they were. Error 62 when it ends inside the boxes or the lines.
 void ReadMapFile(Program& p);
@@ -20,7 +24,7 @@ void WriteMapFile(Program& p);
 // last read or saved.
 void SaveBoxes(Program& p);
 
-// The three lists from the arrays, free rows left out. Error 13 for a position that is no number.
+// The three lists from the arrays, free rows left out.
 QString ListOfBoxes(const MapState& map);
 QString ListOfLines(const MapState& map); // rows 0 to 199
 QString ListOfTexts(const MapState& map); // rows 0 to `STexts`

@@ -5,6 +5,8 @@
 #include "map/HitTest.h"
 #include "map/MapDisplay.h"
 #include "map/MapFile.h"
+#include "map/Pointer.h"
+#include "map/SubjectMapping.h"
 #include "map/SubjectPanel.h"
 #include "platform/Text.h"
 #include "program/AlternateBranch.h"
@@ -20,6 +22,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 constexpr int normal = 0;
+constexpr int mapping = 1;
 constexpr int repositioning = 2;
 
 void Tell(Program& p, const QString& title, const QString& text)
@@ -98,22 +101,40 @@ bool GoToBranchOf(Program& p, const QString& file)
     return true;
 }
 
-// Stands on the record of `sCurFile`; false, and a box, when there is none. The switch of branch stays.
-bool FindPressedRecord(Program& p)
+// Remembers where the cursor stands; false, and a box, when the branch has no records.
+bool KeepPosition(Program& p)
 {
-    Recordset& records = Records(p);
+    const Recordset& records = Records(p);
     if (records.IsEmpty()) {
         Tell(p, u"Database Empty"_s, u"This Tree Branch has no records to access"_s);
         return false;
     }
     // A search without a hit has left the cursor behind the last row, where there is nothing to come back to.
     p.Record.SavedBookmark = records.HasRow() ? records.GetBookmark() : Bookmark();
-    if (records.Seek(u"File", p.Record.sCurFile))
+    return true;
+}
+
+// Stands on the record of `sCurFile`; false, and a box, when there is none. The switch of branch stays.
+bool FindPressedRecord(Program& p)
+{
+    if (Records(p).Seek(u"File", p.Record.sCurFile))
         return true;
     Tell(p, u"Database Searched"_s, u"No File data found"_s);
     if (p.Record.SavedBookmark)
-        records.SetBookmark(p.Record.SavedBookmark);
+        Records(p).SetBookmark(p.Record.SavedBookmark);
     return false;
+}
+
+// Ties the pressed box to a record, or asks when it has one. An empty box belongs to no other branch.
+void MapPressedBox(Program& p)
+{
+    const bool isEmptyBox = p.Record.sCurFile.startsWith(u'0');
+    if (!isEmptyBox && (!GoToBranchOf(p, p.Record.sCurFile) || !KeepPosition(p)))
+        return;
+    if (Records(p).Seek(u"File", p.Record.sCurFile))
+        AskSubjectPicture(p);
+    else
+        MapNewSubject(p);
 }
 
 // A record without a gender leaves the marker where the last subject's was.
@@ -127,6 +148,16 @@ void MarkSubject(Program& p)
         p.Screen.Pointer = MousePointer::Cross;
 }
 
+void ShowPressedSubject(Program& p)
+{
+    const bool isEmptyBox = p.Record.sCurFile == u"0" && p.Tools.MapCursorMode == normal;
+    if (isEmptyBox || !GoToBranchOf(p, p.Record.sCurFile) || !KeepPosition(p) || !FindPressedRecord(p))
+        return;
+    ShowRecordOnMap(p);
+    p.Form1->Image1.Visible = true;
+    MarkSubject(p);
+}
+
 void LeaveOtherBranch(Program& p)
 {
     ReturnFromSibling(p);
@@ -137,8 +168,9 @@ void LeaveOtherBranch(Program& p)
 
 void PressOnMap(Program& p, double x, double y)
 {
-    p.Mouse.DownX = static_cast<int>(x);
-    p.Mouse.DownY = static_cast<int>(y);
+    const Point pointer = PointerOnMap(x, y);
+    p.Mouse.DownX = pointer.X;
+    p.Mouse.DownY = pointer.Y;
     if (p.Map.SBoxes == 0)
         return;
     p.Mouse.BoxMiss = 0;
@@ -180,13 +212,19 @@ void DoubleClickOnMap(Program& p)
     if (TellIfNoBranch(p))
         return;
 
-    p.Record.sCurFile = PressedNumber(p);
-    const bool isEmptyBox = p.Record.sCurFile == u"0" && p.Tools.MapCursorMode == normal;
-    if (p.Record.sCurFile.isEmpty() || isEmptyBox || !GoToBranchOf(p, p.Record.sCurFile) || !FindPressedRecord(p))
+    const bool isMapping = p.Tools.MapCursorMode == mapping;
+    if (isMapping && Records(p).IsEmpty()) {
+        // Wherever the click was.
+        MapNewSubject(p);
         return;
-    ShowRecordOnMap(p);
-    p.Form1->Image1.Visible = true;
-    MarkSubject(p);
+    }
+    p.Record.sCurFile = PressedNumber(p);
+    if (p.Record.sCurFile.isEmpty())
+        return;
+    if (isMapping)
+        MapPressedBox(p);
+    else
+        ShowPressedSubject(p);
 }
 
 } // namespace lineforge

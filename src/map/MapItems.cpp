@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <optional>
 #include <utility>
 
 namespace lineforge
@@ -85,17 +86,25 @@ void DropTextFont(Program& p)
     }
 }
 
-void DrawTextInSteps(Program& p, int row, const Attempt& attempt)
+void DrawTextInSteps(Program& p, int row, std::optional<Colour> pen, const Attempt& attempt)
 {
     const auto& text = p.Map.TextArr[row];
-    if (text[TextColumn::X].IsZero())
-        return;
     Surface& surface = MapSurface(p);
     const Point place = OnMapSurface(p, {text[TextColumn::X].Number(), text[TextColumn::Y].Number()});
     PickTextFont(p, surface, row, attempt);
-    attempt([&] { surface.ForeColor = ColourOf(text[TextColumn::Colour]); });
+    attempt([&] { surface.ForeColor = pen ? *pen : ColourOf(text[TextColumn::Colour]); });
     PrintOnMap(surface, place, text[TextColumn::Text].Text());
     DropTextFont(p);
+}
+
+void AtOnce(const std::function<void()>& step)
+{
+    step();
+}
+
+bool IsFreeText(const Program& p, int row)
+{
+    return p.Map.TextArr[row][TextColumn::X].IsZero();
 }
 } // namespace
 
@@ -134,33 +143,58 @@ void ResetMapFont(Surface& surface)
 void DrawBox(Program& p, int row)
 {
     const auto& box = p.Map.BoxArr[row];
-    if (box[BoxColumn::X].IsZero())
-        return;
+    if (!box[BoxColumn::X].IsZero())
+        DrawBoxIn(p, row, ColourOf(box[BoxColumn::Colour]));
+}
+
+void DrawBoxIn(Program& p, int row, Colour pen)
+{
+    const auto& box = p.Map.BoxArr[row];
     const Point corner = OnMapSurface(p, {box[BoxColumn::X].Number(), box[BoxColumn::Y].Number()});
     const int height = OnPaper(p) ? Stretched(BoxHeight) : BoxHeight;
-    DrawWithPen(p, ColourOf(box[BoxColumn::Colour]), [&](Surface& surface) {
-        surface.Box({corner.X, corner.Y, BoxWidth, height});
-    });
+    DrawWithPen(p, pen, [&](Surface& surface) { surface.Box({corner.X, corner.Y, BoxWidth, height}); });
 }
 
 void DrawLine(Program& p, int row)
 {
     const auto& line = p.Map.LineArr[row];
-    if (line[LineColumn::X1] == 0)
-        return;
+    if (line[LineColumn::X1] != 0)
+        DrawLineIn(p, row, static_cast<Colour>(line[LineColumn::Colour]));
+}
+
+void DrawLineIn(Program& p, int row, Colour pen)
+{
+    const auto& line = p.Map.LineArr[row];
     const Point start = OnMapSurface(p, {line[LineColumn::X1], line[LineColumn::Y1]});
     const Point end = OnMapSurface(p, {line[LineColumn::X2], line[LineColumn::Y2]});
-    DrawWithPen(p, static_cast<Colour>(line[LineColumn::Colour]), [&](Surface& surface) { surface.Line(start, end); });
+    DrawWithPen(p, pen, [&](Surface& surface) { surface.Line(start, end); });
 }
 
 void DrawText(Program& p, int row)
 {
-    DrawTextInSteps(p, row, [](const std::function<void()>& step) { step(); });
+    if (!IsFreeText(p, row))
+        DrawTextInSteps(p, row, {}, AtOnce);
+}
+
+TextFont FontOfText(const MapState& map, int row)
+{
+    const auto& text = map.TextArr[row];
+    TextFont font;
+    font.Name = text[TextColumn::FontName].Text();
+    if (text[TextColumn::FontSize].IsNumber())
+        font.Size = text[TextColumn::FontSize].Fraction();
+    return font;
 }
 
 void DrawTextRegardless(Program& p, int row)
 {
-    DrawTextInSteps(p, row, [&p](const std::function<void()>& step) { p.Errors.Ignoring(step); });
+    if (!IsFreeText(p, row))
+        DrawTextInSteps(p, row, {}, [&p](const std::function<void()>& step) { p.Errors.Ignoring(step); });
+}
+
+void DrawTextIn(Program& p, int row, Colour pen)
+{
+    DrawTextInSteps(p, row, pen, [&p](const std::function<void()>& step) { p.Errors.Ignoring(step); });
 }
 
 } // namespace lineforge

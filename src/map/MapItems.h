@@ -22,6 +22,14 @@ void DrawBox(Program& p, int row);
 void DrawLine(Program& p, int row);
 void DrawText(Program& p, int row);
 
+// The same in that colour instead of the item's own, and a free row as well.
+void DrawBoxIn(Program& p, int row, Colour pen);
+void DrawLineIn(Program& p, int row, Colour pen);
+void DrawTextIn(Program& p, int row, Colour pen);
+
+// The font that a row of the texts names; 8 points for a size that is no number.
+TextFont FontOfText(const MapState& map, int row);
+
 // A text whose font, size or colour is spoilt, printed in what is in force instead.
 void DrawTextRegardless(Program& p, int row);
 

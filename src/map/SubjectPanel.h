@@ -22,7 +22,8 @@ void EmptySubjectLabels(Program& p, std::initializer_list<Label forms::Form1::*>
 // it shows.
 void LoadSubjectPicture(Program& p, Image& target);
 
-// The current record beside the map: picture, labels, number. A picture that isn't there empties the panel's and is told.
+// The current record beside the map: picture, labels, number. A picture that isn't there empties the panel's and is
+// told.
 void ShowRecordOnMap(Program& p);
 
 // Tells that the picture of `sPicFile` isn't there.

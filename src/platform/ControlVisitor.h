@@ -7,6 +7,7 @@ struct Label;
 struct TextBox;
 struct Button;
 struct CheckBox;
+struct OptionButton;
 struct Frame;
 struct ListBox;
 struct Image;
@@ -26,6 +27,7 @@ public:
     virtual void Visit(TextBox& box) = 0;
     virtual void Visit(Button& button) = 0;
     virtual void Visit(CheckBox& box) = 0;
+    virtual void Visit(OptionButton& option) = 0;
     virtual void Visit(Frame& frame) = 0;
     virtual void Visit(ListBox& list) = 0;
     virtual void Visit(Image& image) = 0;

@@ -36,6 +36,11 @@ CheckBox::CheckBox(Container& parent, QStringView name, Rectangle place, QString
 {
 }
 
+OptionButton::OptionButton(Container& parent, QStringView name, Rectangle place, QStringView caption)
+    : ControlKind(parent, name, place), Caption(caption.toString())
+{
+}
+
 Frame::Frame(Container& parent, QStringView name, Rectangle place, QStringView caption)
     : ControlKind(parent, name, place), Caption(caption.toString())
 {

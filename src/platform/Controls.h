@@ -171,6 +171,15 @@ struct CheckBox : ControlKind<CheckBox> {
     Event Click;
 };
 
+// One of several choices in its container. On the screen a click switches it on and the others there off; a program that
+// sets `Value` sees to the others itself.
+struct OptionButton : ControlKind<OptionButton> {
+    OptionButton(Container& parent, QStringView name, Rectangle place, QStringView caption);
+    QProperty<QString> Caption;
+    QProperty<bool> Value{false};
+    Event Click; // the values stand by then
+};
+
 struct Frame : ControlKind<Frame>, Container {
     Frame(Container& parent, QStringView name, Rectangle place, QStringView caption = {});
     QProperty<QString> Caption;
@@ -203,6 +212,7 @@ struct Shape : ControlKind<Shape> {
     QProperty<Colour> BorderColor{Black};
     int BorderWidth = 1; // pixels
     bool Filled = false; // with the colour of its border
+    bool Dotted = false; // its outline
 };
 
 struct ScrollBar : ControlKind<ScrollBar> {

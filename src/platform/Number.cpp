@@ -42,6 +42,14 @@ std::int32_t ToLong(QStringView text)
     return ToWhole<std::int32_t>(text);
 }
 
+std::optional<double> NumberIn(QStringView text)
+{
+    bool isNumber = false;
+    const double number = text.trimmed().toDouble(&isNumber);
+    // "nan" and "inf" are words here, not numbers.
+    return isNumber && std::isfinite(number) ? std::optional(number) : std::nullopt;
+}
+
 std::int16_t Integer16::Narrowed(int value)
 {
     if (value < std::numeric_limits<std::int16_t>::min() || value > std::numeric_limits<std::int16_t>::max())

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <optional>
 
 namespace lineforge
 {
@@ -14,6 +15,9 @@ std::int32_t ToLong(QStringView text);
 
 // The number that a text holds; error 13 when it holds none, 6 when it is too large for any.
 double ToNumber(QStringView text);
+
+// The same, or nothing when it holds none.
+std::optional<double> NumberIn(QStringView text);
 
 // A 16-bit quantity: a value outside -32768 to 32767 is error 6 at the moment it is stored.
 class Integer16

@@ -2,10 +2,11 @@
 
 #include "platform/RuntimeError.h"
 
-#include <QFileInfo>
+#include <QFile>
 #include <QImageReader>
 
 #include <algorithm>
+#include <sys/stat.h>
 
 namespace lineforge
 {
@@ -36,18 +37,26 @@ QImage LoadPicture(const FileSystem& files, const QString& path)
     return ReadPicture(files, path, 0);
 }
 
+PictureCache::Identity PictureCache::IdentityOf(const QString& path)
+{
+    constexpr qint64 nanosecondsASecond = 1'000'000'000;
+    struct stat status = {};
+    if (stat(QFile::encodeName(path).constData(), &status) != 0)
+        return {path};
+    return {path, status.st_dev, status.st_ino, status.st_mtim.tv_sec * nanosecondsASecond + status.st_mtim.tv_nsec,
+            status.st_size};
+}
+
 QImage PictureCache::Load(const FileSystem& files, const QString& path)
 {
-    const QFileInfo file(files.Resolve(path));
-    const auto known = std::ranges::find_if(kept_, [&](const Kept& kept) {
-        return kept.Path == file.filePath() && kept.Modified == file.lastModified() && kept.Bytes == file.size();
-    });
-    if (known != kept_.end()) {
+    const Identity file = IdentityOf(files.Resolve(path));
+    const auto known = std::ranges::find(kept_, file, &Kept::File);
+    if (known != kept_.end() && file.File != 0) {
         std::rotate(kept_.begin(), known, known + 1);
         return kept_.front().Picture;
     }
     const QImage picture = ReadPicture(files, path, LongestSide);
-    kept_.push_front({file.filePath(), file.lastModified(), file.size(), picture});
+    kept_.push_front({file, picture});
     if (kept_.size() > room)
         kept_.pop_back();
     return picture;

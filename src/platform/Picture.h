@@ -2,10 +2,10 @@
 
 #include "platform/FileSystem.h"
 
-#include <QDateTime>
 #include <QImage>
 
 #include <deque>
+#include <sys/types.h>
 
 namespace lineforge
 {
@@ -24,12 +24,21 @@ public:
     QImage Load(const FileSystem& files, const QString& path);
 
 private:
-    struct Kept {
+    // What tells a file from the one that stood under its name before. A copy keeps the time of what it was copied
+    // from, but is never the same file.
+    struct Identity {
         QString Path;
-        QDateTime Modified;
-        qint64 Bytes;
+        dev_t Device = 0;
+        ino_t File = 0;
+        qint64 ModifiedNanoseconds = 0;
+        qint64 Bytes = 0;
+        friend bool operator==(const Identity&, const Identity&) = default;
+    };
+    struct Kept {
+        Identity File;
         QImage Picture;
     };
+    static Identity IdentityOf(const QString& path);
     static constexpr std::size_t room = 8;
 
     std::deque<Kept> kept_; // the last used first

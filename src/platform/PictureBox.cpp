@@ -1,8 +1,11 @@
 #include "platform/PictureBox.h"
 
-#include <QFont>
+#include "platform/LineStencil.h"
+#include "platform/RunPen.h"
+
 #include <QFontMetrics>
 #include <QPainter>
+#include <QRegion>
 
 #include <cmath>
 
@@ -11,22 +14,13 @@ namespace lineforge
 
 namespace
 {
-constexpr int twipsPerPoint = 20;
+// With an exclusive-or pen a painter shares out more rows than these among threads, and waiting for them takes tens of
+// times as long as the drawing.
+constexpr int fewRows = 90;
 
 int ToPixel(int twips)
 {
     return static_cast<int>(std::floor(static_cast<double>(twips) / PictureBox::TwipsPerPixel));
-}
-
-QFont ToQFont(const TextFont& font)
-{
-    QFont result(font.Name);
-    result.setPixelSize(std::max(1, qRound(font.Size * twipsPerPoint / PictureBox::TwipsPerPixel)));
-    result.setBold(font.Bold);
-    result.setItalic(font.Italic);
-    result.setStyleStrategy(QFont::NoAntialias);
-    result.setHintingPreference(QFont::PreferNoHinting);
-    return result;
 }
 
 QPainter::CompositionMode ToComposition(DrawMode mode)
@@ -51,32 +45,40 @@ QColor ToQColor(Colour colour)
 
 PictureBox::PictureBox(Container& parent, QStringView name, Rectangle place) : ControlKind(parent, name, place) {}
 
-// Draws within the given pixels. The image is made by the first drawing, so that an untouched picture costs nothing.
-template <class Draw>
-void PictureBox::Paint(const QRect& pixels, Draw&& draw)
+// What is drawn on. It is made by the first drawing, so that an untouched picture costs nothing.
+QImage& PictureBox::Ground()
 {
     if (drawing_.isNull()) {
         drawing_ = QImage(ToPixel(Width), ToPixel(Height), QImage::Format_RGB32);
         drawing_.fill(ToQColor(BackColor));
     }
-    {
-        QPainter painter(&drawing_);
-        painter.setCompositionMode(ToComposition(Mode));
-        draw(painter);
-    }
+    return drawing_;
+}
+
+void PictureBox::Tell(const QRect& pixels) const
+{
     if (Changed)
         Changed(pixels.intersected(drawing_.rect()));
 }
 
+// Always by a painter, even where the line is upright: how a painter rounds the ends of a line is its own.
 void PictureBox::Line(Point from, Point to)
 {
-    const QPoint start(ToPixel(from.X), ToPixel(from.Y));
-    const QPoint end(ToPixel(to.X), ToPixel(to.Y));
+    const QLine line(ToPixel(from.X), ToPixel(from.Y), ToPixel(to.X), ToPixel(to.Y));
     const int reach = PenPixels();
-    Paint(QRect(start, end).normalized().adjusted(-reach, -reach, reach, reach), [&](QPainter& painter) {
-        painter.setPen(QPen(ToQColor(ForeColor), PenPixels(), Qt::SolidLine, Qt::SquareCap));
-        painter.drawLine(start, end);
-    });
+    const QRect pixels = QRect(line.p1(), line.p2()).normalized().adjusted(-reach, -reach, reach, reach);
+    QImage& ground = Ground();
+    const auto paint = [&](DrawMode mode, const QColor& colour) {
+        QPainter painter(&ground);
+        painter.setCompositionMode(ToComposition(mode));
+        painter.setPen(QPen(colour, PenPixels(), Qt::SolidLine, Qt::SquareCap));
+        painter.drawLine(line);
+    };
+    if (Mode == DrawMode::Copy || pixels.height() <= fewRows)
+        paint(Mode, ToQColor(ForeColor));
+    else
+        TurnLine(ground, line, reach, PenBits(Mode, ForeColor), [&] { paint(DrawMode::Copy, Qt::white); });
+    Tell(pixels);
 }
 
 // Bars that don't overlap, however thin the box is: with an exclusive-or pen a corner drawn twice would be a hole.
@@ -86,34 +88,46 @@ void PictureBox::Box(Rectangle place)
     const QRect outer = QRect(QPoint(ToPixel(place.Left), ToPixel(place.Top)),
                               QPoint(ToPixel(place.Left + place.Width), ToPixel(place.Top + place.Height)))
                             .adjusted(-(pen / 2), -(pen / 2), pen / 2, pen / 2);
-    Paint(outer, [&](QPainter& painter) {
-        for (const QRect& bar : QRegion(outer).subtracted(outer.adjusted(pen, pen, -pen, -pen)))
-            painter.fillRect(bar, ToQColor(ForeColor));
-    });
+    const RunPen runs(Ground(), Mode, ForeColor);
+    for (const QRect& bar : QRegion(outer).subtracted(outer.adjusted(pen, pen, -pen, -pen)))
+        runs.Fill(bar);
+    Tell(outer);
 }
 
 void PictureBox::Print(const QString& text)
 {
-    const QFont font = ToQFont(Font);
-    const QFontMetrics metrics(font);
-    const QPoint baseline(ToPixel(CurrentX), ToPixel(CurrentY) + metrics.ascent());
-    Paint(metrics.boundingRect(text).translated(baseline).adjusted(-2, -2, 2, 2), [&](QPainter& painter) {
-        painter.setFont(font);
-        painter.setPen(ToQColor(ForeColor));
-        painter.drawText(baseline, text);
-    });
+    const TextMask& mask = texts_.Of(Font, text);
+    const QPoint baseline(ToPixel(CurrentX), ToPixel(CurrentY) + mask.Ascent);
     CurrentX = 0;
-    CurrentY += TextHeight(text);
+    CurrentY += mask.Height * TwipsPerPixel;
+    if (Mode == DrawMode::Copy && mask.IsKept) {
+        const RunPen pen(Ground(), Mode, ForeColor);
+        for (const TextMask::Run& run : mask.Runs)
+            pen.Fill(baseline.x() + run.X, baseline.y() + run.Y, run.Length);
+    } else {
+        PaintText(baseline, text);
+    }
+    Tell(mask.Reach.translated(baseline));
+}
+
+// With an exclusive-or pen letters that overlap undo each other, which the mask of a whole text doesn't know.
+void PictureBox::PaintText(QPoint baseline, const QString& text)
+{
+    QPainter painter(&Ground());
+    painter.setCompositionMode(ToComposition(Mode));
+    painter.setFont(ToPixelFont(Font));
+    painter.setPen(ToQColor(ForeColor));
+    painter.drawText(baseline, text);
 }
 
 int PictureBox::TextWidth(const QString& text) const
 {
-    return QFontMetrics(ToQFont(Font)).horizontalAdvance(text) * TwipsPerPixel;
+    return texts_.Of(Font, text).Width * TwipsPerPixel;
 }
 
 int PictureBox::TextHeight(const QString&) const
 {
-    return QFontMetrics(ToQFont(Font)).height() * TwipsPerPixel;
+    return QFontMetrics(ToPixelFont(Font)).height() * TwipsPerPixel;
 }
 
 void PictureBox::Cls()

@@ -2,9 +2,9 @@
 
 #include "platform/Controls.h"
 #include "platform/Surface.h"
+#include "platform/TextMask.h"
 
 #include <QImage>
-#include <QRegion>
 
 #include <functional>
 
@@ -55,11 +55,13 @@ public:
     std::function<void(const QRect& pixels)> Changed;
 
 private:
-    template <class Draw>
-    void Paint(const QRect& pixels, Draw&& draw);
+    QImage& Ground();
+    void PaintText(QPoint baseline, const QString& text);
+    void Tell(const QRect& pixels) const;
     int PenPixels() const { return 3 * DrawWidth; }
 
     QImage drawing_;
+    mutable TextMasks texts_;
 };
 
 // The colour for the toolkit's painters.

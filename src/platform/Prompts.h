@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Surface.h"
+
 #include <QString>
 
 #include <optional>
@@ -38,6 +40,10 @@ public:
     virtual QString InputBox(const QString& title, const QString& prompt) = 0;
     // The path of an existing file, nothing for Cancel.
     virtual std::optional<QString> OpenFile(const FileQuestion& question) = 0;
+    // The colour chosen, nothing for Cancel. The dialog opens on the present one.
+    virtual std::optional<Colour> PickColour(Colour present) = 0;
+    // The font chosen, nothing for Cancel. The dialog opens on the present one.
+    virtual std::optional<TextFont> PickFont(const TextFont& present) = 0;
     // Opens the help file on its contents page.
     virtual void ShowHelp(const QString& helpFile) = 0;
 };

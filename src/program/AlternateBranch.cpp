@@ -35,8 +35,11 @@ bool RequireSibling(Program& p, QStringView letter)
 
 void SwitchToSibling(Program& p, QStringView letter)
 {
-    p.Branch.WorkDirSaved = p.Branch.WorkDir;
-    p.Branch.HomeDirSaved = p.Branch.HomeDir;
+    // From one sibling to another the way back still leads to the open branch.
+    if (p.Branch.UsingAlternate != 1) {
+        p.Branch.WorkDirSaved = p.Branch.WorkDir;
+        p.Branch.HomeDirSaved = p.Branch.HomeDir;
+    }
     p.Branch.WorkDir = SiblingDirectory(p.Branch.WorkDir, letter);
     OpenWorkDatabase(p);
     p.Branch.UsingAlternate = 1;

@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <cmath>
+#include <limits>
 #include <optional>
 
 namespace lineforge
@@ -16,23 +18,35 @@ class Cell
 {
 public:
     Cell() = default;
-    Cell(QString text) : text_(std::move(text)) {}
-    Cell(int number) : text_(QString::number(number)) {}
+    Cell(QString text) : text_(std::move(text)), number_(NumberIn(text_)), holds_(Holding::Text) {}
+    Cell(int number) : number_(number), holds_(Holding::Number) {}
 
     // Error 13 for a stored text that is no number, 6 for one outside 32 bits.
-    int Number() const { return text_ ? ToLong(*text_) : 0; }
-    double Fraction() const { return text_ ? ToNumber(*text_) : 0; }
-    // Error 13 likewise; a fraction counts.
-    bool IsZero() const { return Fraction() == 0; }
-    QString Text() const { return text_.value_or(QString()); }
+    int Number() const { return IsNumber() ? static_cast<int>(std::nearbyint(*number_)) : ToLong(text_); }
+    double Fraction() const { return number_ ? *number_ : ToNumber(text_); }
+    // Whether there is a whole number of 32 bits to be had.
+    bool IsNumber() const
+    {
+        using Limits = std::numeric_limits<int>;
+        return number_ && *number_ > Limits::min() - 0.5 && *number_ < Limits::max() + 0.5;
+    }
+    int NumberOr(int otherwise) const { return IsNumber() ? Number() : otherwise; }
+    // A fraction counts; a text that is no number isn't zero.
+    bool IsZero() const { return number_ == 0; }
+    QString Text() const { return holds_ == Holding::Number ? QString::number(Number()) : text_; }
 
     friend bool operator==(const Cell& a, const Cell& b) { return a.Text() == b.Text(); }
 
 private:
-    std::optional<QString> text_;
+    enum class Holding { Nothing, Text, Number };
+
+    QString text_;
+    // Found out once: a drag asks for it at every step.
+    std::optional<double> number_ = 0;
+    Holding holds_ = Holding::Nothing;
 };
 
-// Columns of the three arrays. A row whose X is 0 is free: it is neither drawn nor written.
+// Columns of the three arrays. A row whose X is 0 is free: it is neither drawn nor written nor hit by the mouse.
 namespace BoxColumn
 {
 inline constexpr int X = 0; // top left corner, twips on the picture
@@ -79,7 +93,7 @@ struct MapState {
     FixedArray<FixedArray<Cell, 0, 4>, 0, LastMapRow> BoxArr;
     FixedArray<FixedArray<int, 0, 4>, 0, LastMapRow> LineArr;
     FixedArray<FixedArray<Cell, 0, 6>, 0, LastMapRow> TextArr;
-    FixedArray<Integer16, 0, 100> LineChain; // the lines that move with a box
+    FixedArray<Integer16, 0, 100> LineChain; // the lines that move or die together; 0 is the empty value
 
     int SBoxes = 0; // highest row in use, as of the last parse
     int SLines = 0;

@@ -18,6 +18,7 @@
 #include "platform/Recordset.h"
 #include "platform/RuntimeError.h"
 #include "program/MapState.h"
+#include "program/ToolState.h"
 
 #include <QString>
 
@@ -46,13 +47,6 @@ struct AliasState {
     FixedArray<QString, 0, 99> AliasTable; // the same entries without their commas; the first empty one ends them
     Integer16 AliasAttr;                   // attributes of the list's file at its last reading
     Integer16 NoSplash;                    // 1: the splash isn't shown
-};
-
-struct ToolState {
-    Integer16 ToolMode; // 0 normal, 1 lineage view on, 3 graphics tools open
-    Integer16 ToolSel;  // the tool in hand, 0 for none
-    Integer16 ToolStep;
-    Integer16 MapCursorMode; // 0 normal, 1 mapping, 2 re-positioning, 3 moving a subject
 };
 
 // What the mouse did on the map; twips on the picture.
@@ -125,6 +119,7 @@ struct Program {
     ToolState Tools;
     MapState Map;
     MapMouseState Mouse;
+    MappingState Mapping;
     RecordState Record;
     GalleryState Gallery;
     BookmarkState Bookmarks;

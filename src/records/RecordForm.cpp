@@ -6,6 +6,7 @@
 #include "map/MapInteraction.h"
 #include "map/MapItems.h"
 #include "map/SubjectPanel.h"
+#include "map/tools/LeaveTools.h"
 #include "platform/Text.h"
 #include "program/BranchUi.h"
 #include "program/WorkDatabase.h"
@@ -108,6 +109,7 @@ void LoadRecordForm(Program& p)
 
 void ShowRecordForm(Program& p)
 {
+    LeaveToolsIfOpen(p);
     if (TellIfNoBranch(p))
         return;
     SetPictureName(p);
@@ -190,6 +192,7 @@ void ExitFromRecords(Program& p)
 {
     p.Errors.Ignoring([&] { Records(p).Update(); });
     p.Errors.Ignoring([&] { SaveBoxes(p); });
+    p.Errors.Ignoring([&] { LeaveToolsIfOpen(p); });
     p.Form5->MMControl1.Command(u"Close");
     // The main window takes all others with it and ends the program, unless a text that can't be written holds this
     // form back.

@@ -2,6 +2,7 @@
 
 #include "map/MapFile.h"
 #include "map/SubjectPanel.h"
+#include "map/tools/LeaveTools.h"
 
 namespace lineforge
 {
@@ -10,9 +11,10 @@ using namespace Qt::StringLiterals;
 
 void CloseBranch(Program& p)
 {
+    LeaveToolsIfOpen(p);
     SaveBoxes(p);
     p.Form5->MMControl1.Command(u"Close");
-    p.Map.Erase();
+    EraseMap(p);
     p.Branch.UsingAlternate = 0;
 
     forms::Form1& form = *p.Form1;

@@ -1,6 +1,7 @@
 #include "shell/Exit.h"
 
 #include "map/MapFile.h"
+#include "map/tools/LeaveTools.h"
 
 namespace lineforge
 {
@@ -8,6 +9,7 @@ namespace lineforge
 void ExitProgram(Program& p)
 {
     SaveBoxes(p);
+    LeaveToolsIfOpen(p);
     p.Form5->MMControl1.Command(u"Close");
     // The main window takes all others with it and ends the program.
     p.Form1.Unload();
@@ -15,6 +17,7 @@ void ExitProgram(Program& p)
 
 void CloseMainWindow(Program& p)
 {
+    LeaveToolsIfOpen(p);
     p.Form1->MMControl1.Command(u"Close");
     p.Form5->MMControl1.Command(u"Close");
     p.Form2.Unload();

@@ -4,6 +4,7 @@
 #include "map/MapItems.h"
 #include "map/MapParse.h"
 #include "map/SubjectPanel.h"
+#include "map/tools/LeaveTools.h"
 #include "platform/Text.h"
 #include "program/AliasList.h"
 #include "program/BranchUi.h"
@@ -24,9 +25,10 @@ void PutOldMapAway(Program& p)
 {
     if (!p.Branch.WorkDir.isEmpty())
         SaveBoxes(p);
+    LeaveToolsIfOpen(p);
     p.Form1->Picture1.Cls();
     ResetMapFont(p.Form1->Picture1);
-    p.Map.Erase();
+    EraseMap(p);
     p.Branch.UsingAlternate = 0;
 }
 

@@ -5,6 +5,7 @@
 #include "map/MapItems.h"
 #include "map/MapParse.h"
 #include "map/SubjectPanel.h"
+#include "map/tools/LeaveTools.h"
 #include "program/AliasList.h"
 #include "program/BranchPaths.h"
 #include "program/BranchUi.h"
@@ -35,7 +36,7 @@ void ClearMap(Program& p)
     p.Form1->Shape1.Visible = false;
     p.Form1->Picture1.Cls();
     ResetMapFont(p.Form1->Picture1);
-    p.Map.Erase();
+    EraseMap(p);
     p.Branch.UsingAlternate = 0;
 }
 
@@ -99,6 +100,7 @@ void ChooseBranch(Program& p)
 {
     if (!p.Branch.WorkDir.isEmpty())
         SaveBoxes(p);
+    LeaveToolsIfOpen(p);
     p.Form8->Show();
 }
 
@@ -117,6 +119,9 @@ void OpenSelectedBranch(Program& p)
         return;
     }
     p.Form8->Hide();
+    // The list leaves the other windows free: tools may have been opened, or a mapping begun, since it was shown.
+    LeaveToolsIfOpen(p);
+    ClearMapCursor(p);
     p.Screen.Pointer = MousePointer::Hourglass;
     const auto pointerBack = qScopeGuard([&] { p.Screen.Pointer = MousePointer::Default; });
     const QString entry = EntryOf(p, name);

@@ -49,6 +49,16 @@ INSTANTIATE_TEST_SUITE_P(Points, BoxEdgeTest,
                                 PressedPoint{{1300, 500}, false}, PressedPoint{{1300, 501}, true},
                                 PressedPoint{{1300, 716}, true}, PressedPoint{{1300, 717}, false}));
 
+TEST_F(HitTestTest, FreeRow_AndOneAtNoPlace_AreNeverHit)
+{
+    GivenPress({100, 100});
+    EXPECT_FALSE(PressIsInBox(P, 0));
+
+    givenBox(0, {1, 1});
+    P.Map.BoxArr[0][BoxColumn::Y] = QStringLiteral("Ann");
+    EXPECT_FALSE(PressIsInBox(P, 0));
+}
+
 TEST_F(HitTestTest, Hit_GivesTheRow)
 {
     givenBox(0, {4000, 4000});

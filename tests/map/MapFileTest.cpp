@@ -361,15 +361,28 @@ TEST_F(MapFileTest, SaveBoxes_TakesBoxesFromTheArray_LinesAndTextsAsTheyWereRead
                            u"300,150,The Smiths,Arial,8,0,"));
 }
 
-TEST_F(MapFileTest, SaveBoxes_BoxWhosePositionIsNoNumber_FailsAndOldMapStays)
+TEST_F(MapFileTest, SaveBoxes_BoxWhosePositionIsNoNumber_IsWrittenAsItWasRead)
 {
     givenOpen(BranchA.Boxes(u"abc,600,255,A001,John,"));
     OpenMap();
-    const Tree before = Home.Snapshot();
+    const QByteArray before = Home.ReadFile(BranchA.MapFile());
 
-    EXPECT_EQ(RefusalOf([&] { SaveBoxes(P); }), ErrorNumber::TypeMismatch);
+    SaveBoxes(P);
 
-    EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
+    EXPECT_EQ(Home.ReadFile(BranchA.MapFile()), before);
+}
+
+TEST_F(MapFileTest, SaveBoxes_ForenameThatWouldBreakTheList_GoesOutWithoutWhatBreaksIt)
+{
+    givenOpen(BranchA.Boxes(u"1200,600,255,A001,John,2000,600,255,A002,Ann,"));
+    OpenMap();
+    P.Map.BoxArr[0][BoxColumn::Forename] = u"Mary, [Ann]\r\nJane"_s;
+
+    SaveBoxes(P);
+
+    EXPECT_EQ(P.Map.sBoxesText, u"1200,600,255,A001,Mary Ann]Jane,2000,600,255,A002,Ann,"_s);
+    OpenMap();
+    EXPECT_EQ(P.Map.BoxArr[1][BoxColumn::File].Text(), u"A002"_s);
 }
 
 TEST_F(MapFileTest, RoundTrip_FullMap_IsUnchanged)

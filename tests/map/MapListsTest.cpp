@@ -1,6 +1,5 @@
 #include "map/MapFile.h"
 #include "support/Printing.h"
-#include "support/Refusal.h"
 
 #include <gtest/gtest.h>
 
@@ -127,14 +126,14 @@ class WordAsPositionTest : public TestWithParam<QString>
 {
 };
 
-TEST_P(WordAsPositionTest, TextThatIsNoNumber_IsTypeMismatch)
+TEST_P(WordAsPositionTest, TextThatIsNoNumber_IsNotFree_AndGoesOutAsItIs)
 {
     MapState map;
     map.BoxArr[0][BoxColumn::X] = GetParam();
     map.TextArr[0][TextColumn::X] = GetParam();
 
-    EXPECT_EQ(RefusalOf([&] { ListOfBoxes(map); }), ErrorNumber::TypeMismatch);
-    EXPECT_EQ(RefusalOf([&] { ListOfTexts(map); }), ErrorNumber::TypeMismatch);
+    EXPECT_EQ(ListOfBoxes(map), QString(GetParam() + u",,,,,"));
+    EXPECT_EQ(ListOfTexts(map), QString(GetParam() + u",,,,,,"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Cells, WordAsPositionTest, Values(QString(), u" "_s, u"abc"_s, u"12x"_s, u"nan"_s, u"inf"_s));

@@ -119,6 +119,7 @@ public:
     void Visit(TextBox&) override { Stops.push_back(u"TextBox"_s); }
     void Visit(Button&) override { Stops.push_back(u"Button"_s); }
     void Visit(CheckBox&) override { Stops.push_back(u"CheckBox"_s); }
+    void Visit(OptionButton&) override { Stops.push_back(u"OptionButton"_s); }
     void Visit(Frame&) override { Stops.push_back(u"Frame"_s); }
     void Visit(ListBox&) override { Stops.push_back(u"ListBox"_s); }
     void Visit(Image&) override { Stops.push_back(u"Image"_s); }
@@ -137,6 +138,7 @@ TEST_F(ControlsTest, EveryKindOfControl_HasItsStop)
     TextBox text(window, u"b", {});
     Button button(window, u"c", {}, u"");
     CheckBox check(window, u"d", {}, u"");
+    OptionButton option(window, u"n", {}, u"");
     Frame frame(window, u"e", {});
     ListBox list(window, u"f", {});
     Image image(window, u"g", {});
@@ -151,9 +153,9 @@ TEST_F(ControlsTest, EveryKindOfControl_HasItsStop)
     for (Control* control : window.Controls())
         control->Accept(tour);
 
-    EXPECT_EQ(tour.Stops, QStringList({u"Label"_s, u"TextBox"_s, u"Button"_s, u"CheckBox"_s, u"Frame"_s, u"ListBox"_s,
-                                       u"Image"_s, u"Shape"_s, u"ScrollBar"_s, u"Timer"_s, u"MultimediaControl"_s,
-                                       u"PictureBox"_s, u"DataControl"_s}));
+    EXPECT_EQ(tour.Stops, QStringList({u"Label"_s, u"TextBox"_s, u"Button"_s, u"CheckBox"_s, u"OptionButton"_s,
+                                       u"Frame"_s, u"ListBox"_s, u"Image"_s, u"Shape"_s, u"ScrollBar"_s, u"Timer"_s,
+                                       u"MultimediaControl"_s, u"PictureBox"_s, u"DataControl"_s}));
 }
 
 class ControlTextTest : public ControlsTest

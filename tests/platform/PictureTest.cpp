@@ -5,6 +5,7 @@
 
 #include <QBuffer>
 
+#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace lineforge
@@ -80,6 +81,20 @@ TEST_F(PictureTest, ChangedFile_IsReadAgain)
     GivenPicture(u"one.png", {300, 200}, Qt::blue);
 
     EXPECT_EQ(cache.Load(files, u"one.png"_s).pixelColor(0, 0), QColor(Qt::blue));
+}
+
+TEST_F(PictureTest, CopyOfTheSameSizeAndTime_IsReadAgain)
+{
+    GivenPicture(u"red.bmp", {30, 20}, Qt::red, "bmp");
+    GivenPicture(u"blue.bmp", {30, 20}, Qt::blue, "bmp");
+    const auto time = std::filesystem::last_write_time(home.Path(u"red.bmp").toStdString());
+    std::filesystem::last_write_time(home.Path(u"blue.bmp").toStdString(), time);
+    files.FileCopy(u"red.bmp"_s, u"one.bmp"_s);
+    EXPECT_EQ(cache.Load(files, u"one.bmp"_s).pixelColor(0, 0), QColor(Qt::red));
+
+    files.FileCopy(u"blue.bmp"_s, u"one.bmp"_s);
+
+    EXPECT_EQ(cache.Load(files, u"one.bmp"_s).pixelColor(0, 0), QColor(Qt::blue));
 }
 
 TEST_F(PictureTest, OnlyTheLastFewAreKept)

@@ -43,9 +43,9 @@ TEST_P(CellTest, StoredValue_ReadsAsTextAndAsNumber)
     EXPECT_EQ(RefusalOf([&] { fraction = expected.Value.Fraction(); }), isNoNumber ? expected.Refusal : 0);
     EXPECT_EQ(fraction, expected.Fraction);
 
-    bool isZero = false;
-    EXPECT_EQ(RefusalOf([&] { isZero = expected.Value.IsZero(); }), isNoNumber ? expected.Refusal : 0);
-    EXPECT_EQ(isZero, !isNoNumber && expected.Fraction == 0);
+    EXPECT_EQ(expected.Value.IsZero(), !isNoNumber && expected.Fraction == 0);
+    EXPECT_EQ(expected.Value.IsNumber(), expected.Refusal == 0);
+    EXPECT_EQ(expected.Value.NumberOr(77), expected.Refusal == 0 ? expected.Number : 77);
 }
 
 INSTANTIATE_TEST_SUITE_P(

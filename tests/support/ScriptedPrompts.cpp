@@ -28,6 +28,17 @@ QString FileQuestionText(QStringView title, QStringView filter)
     return u"file to open, title \"%1\", filter \"%2\""_s.arg(title, filter);
 }
 
+QString ColourQuestion(Colour present)
+{
+    return u"colour, present %1"_s.arg(present, 6, 16, QChar(u'0'));
+}
+
+QString FontQuestion(const TextFont& present)
+{
+    const QString style = (present.Bold ? u" bold"_s : QString()) + (present.Italic ? u" italic"_s : QString());
+    return u"font, present \"%1\" %2%3"_s.arg(present.Name, QString::number(present.Size), style);
+}
+
 QString HelpQuestion(QStringView helpFile)
 {
     return u"help file \"%1\""_s.arg(helpFile);
@@ -60,6 +71,17 @@ void ScriptedPrompts::ExpectOpenFile(QStringView title, QStringView filter, std:
                                      WhileOpen whileOpen, ScriptPlace place)
 {
     Add({FileQuestionText(title, filter), Answer::Ok, std::move(path), std::move(whileOpen), place});
+}
+
+void ScriptedPrompts::ExpectColour(Colour present, std::optional<Colour> answer, WhileOpen whileOpen, ScriptPlace place)
+{
+    Add({ColourQuestion(present), Answer::Ok, {}, std::move(whileOpen), place, answer});
+}
+
+void ScriptedPrompts::ExpectFont(const TextFont& present, std::optional<TextFont> answer, WhileOpen whileOpen,
+                                 ScriptPlace place)
+{
+    Add({FontQuestion(present), Answer::Ok, {}, std::move(whileOpen), place, {}, std::move(answer)});
 }
 
 void ScriptedPrompts::ExpectHelp(QStringView helpFile, WhileOpen whileOpen, ScriptPlace place)
@@ -106,6 +128,16 @@ QString ScriptedPrompts::InputBox(const QString& title, const QString& prompt)
 std::optional<QString> ScriptedPrompts::OpenFile(const FileQuestion& question)
 {
     return Next(FileQuestionText(question.Title, question.Filter)).Text;
+}
+
+std::optional<Colour> ScriptedPrompts::PickColour(Colour present)
+{
+    return Next(ColourQuestion(present)).PickedColour;
+}
+
+std::optional<TextFont> ScriptedPrompts::PickFont(const TextFont& present)
+{
+    return Next(FontQuestion(present)).PickedFont;
 }
 
 void ScriptedPrompts::ShowHelp(const QString& helpFile)

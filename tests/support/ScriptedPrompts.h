@@ -44,6 +44,11 @@ public:
     // No path is Cancel.
     void ExpectOpenFile(QStringView title, QStringView filter, std::optional<QString> path = {},
                         WhileOpen whileOpen = {}, ScriptPlace place = ScriptPlace::Here());
+    // No answer is Cancel.
+    void ExpectColour(Colour present, std::optional<Colour> answer = {}, WhileOpen whileOpen = {},
+                      ScriptPlace place = ScriptPlace::Here());
+    void ExpectFont(const TextFont& present, std::optional<TextFont> answer = {}, WhileOpen whileOpen = {},
+                    ScriptPlace place = ScriptPlace::Here());
     void ExpectHelp(QStringView helpFile, WhileOpen whileOpen = {}, ScriptPlace place = ScriptPlace::Here());
 
     // Fails the test for every entry still unused, and forgets them. The destructor does it as well.
@@ -53,6 +58,8 @@ public:
     Answer MsgBox(const QString& title, const QString& text, Buttons buttons) override;
     QString InputBox(const QString& title, const QString& prompt) override;
     std::optional<QString> OpenFile(const FileQuestion& question) override;
+    std::optional<Colour> PickColour(Colour present) override;
+    std::optional<TextFont> PickFont(const TextFont& present) override;
     void ShowHelp(const QString& helpFile) override;
 
 private:
@@ -62,6 +69,8 @@ private:
         std::optional<QString> Text;
         WhileOpen Meanwhile;
         ScriptPlace Place;
+        std::optional<Colour> PickedColour = {};
+        std::optional<TextFont> PickedFont = {};
     };
 
     void Add(Entry entry);

@@ -36,6 +36,10 @@ TEST_F(ScriptedPromptsTest, ScriptedQuestions_GetTheirAnswers_InOrder)
     prompts.ExpectInput(u"Name", u"Enter a name", u"Smith");
     prompts.ExpectOpenFile(u"Select", u"Pictures|*.jpg|", u"/home/a.jpg"_s);
     prompts.ExpectOpenFile(u"Select", u"All|*.*|");
+    prompts.ExpectColour(Black, Rgb(255, 128, 0));
+    prompts.ExpectColour(White);
+    prompts.ExpectFont({u"Arial"_s, 8}, TextFont{u"Courier"_s, 10.5, true, true});
+    prompts.ExpectFont({u"Arial"_s, 8, true});
     prompts.ExpectHelp(u"LfgHelp.hlp");
     prompts.Expect(u"Done", u"", Buttons::Information);
 
@@ -43,6 +47,10 @@ TEST_F(ScriptedPromptsTest, ScriptedQuestions_GetTheirAnswers_InOrder)
     EXPECT_EQ(prompts.InputBox(u"Name"_s, u"Enter a name"_s), u"Smith");
     EXPECT_EQ(prompts.OpenFile({u"Select"_s, u"Pictures|*.jpg|"_s}), u"/home/a.jpg"_s);
     EXPECT_EQ(prompts.OpenFile({u"Select"_s, u"All|*.*|"_s}), std::nullopt);
+    EXPECT_EQ(prompts.PickColour(Black), Rgb(255, 128, 0));
+    EXPECT_EQ(prompts.PickColour(White), std::nullopt);
+    EXPECT_EQ(prompts.PickFont({u"Arial"_s, 8}), (TextFont{u"Courier"_s, 10.5, true, true}));
+    EXPECT_EQ(prompts.PickFont({u"Arial"_s, 8, true}), std::nullopt);
     prompts.ShowHelp(u"LfgHelp.hlp"_s);
     EXPECT_FALSE(prompts.IsUsedUp());
     EXPECT_EQ(prompts.MsgBox(u"Done"_s, QString(), Buttons::Information), Answer::Ok);
@@ -56,6 +64,10 @@ TEST_F(ScriptedPromptsTest, QuestionWithoutScript_FailsTheTest_AndLeavesTheRouti
     EXPECT_NONFATAL_FAILURE(AskInVain([&] { prompts.InputBox(u"Oh"_s, u"no"_s); }), "input box");
     EXPECT_TRUE(wasLeft);
     EXPECT_NONFATAL_FAILURE(AskInVain([&] { prompts.OpenFile({u"Oh"_s, u"no"_s}); }), "file to open");
+    EXPECT_TRUE(wasLeft);
+    EXPECT_NONFATAL_FAILURE(AskInVain([&] { prompts.PickColour(Rgb(0xab, 0, 0)); }), "colour, present 0000ab");
+    EXPECT_TRUE(wasLeft);
+    EXPECT_NONFATAL_FAILURE(AskInVain([&] { prompts.PickFont({u"Arial"_s, 8.5}); }), "font, present \"Arial\" 8.5");
     EXPECT_TRUE(wasLeft);
     EXPECT_NONFATAL_FAILURE(AskInVain([&] { prompts.ShowHelp(u"x.hlp"_s); }), "x.hlp");
     EXPECT_TRUE(wasLeft);
@@ -80,6 +92,33 @@ TEST_F(ScriptedPromptsTest, QuestionThatDiffers_FailsWithBothShown_AndLeavesTheR
     expect();
     EXPECT_NONFATAL_FAILURE(AskInVain([&] { prompts.InputBox(u"Title"_s, u"Text"_s); }), "input box");
     EXPECT_TRUE(wasLeft);
+}
+
+TEST_F(ScriptedPromptsTest, DialogThatOpensOnAnotherColourOrFont_Fails_AndLeavesTheRoutine)
+{
+    prompts.ExpectColour(White, Black);
+    EXPECT_NONFATAL_FAILURE(AskInVain([&] { prompts.PickColour(Black); }), "scripted: colour, present ffffff");
+    EXPECT_TRUE(wasLeft);
+    const TextFont scripted{u"Arial"_s, 8, false, true};
+    for (const TextFont& other : {TextFont{u"Ariel"_s, 8, false, true}, TextFont{u"Arial"_s, 9, false, true},
+                                  TextFont{u"Arial"_s, 8, true, true}, TextFont{u"Arial"_s, 8}}) {
+        prompts.ExpectFont(scripted, scripted);
+        EXPECT_NONFATAL_FAILURE(AskInVain([&] { prompts.PickFont(other); }),
+                                "scripted: font, present \"Arial\" 8 italic");
+        EXPECT_TRUE(wasLeft);
+    }
+}
+
+TEST_F(ScriptedPromptsTest, WhileAColourOrFontIsPicked_TheTestMayAct)
+{
+    int acts = 0;
+    prompts.ExpectColour(Black, {}, [&acts] { ++acts; });
+    prompts.ExpectFont({}, {}, [&acts] { ++acts; });
+
+    prompts.PickColour(Black);
+    prompts.PickFont({});
+
+    EXPECT_EQ(acts, 2);
 }
 
 TEST_F(ScriptedPromptsTest, UnusedEntry_FailsTheTest_AtTheLatestInTheEnd)

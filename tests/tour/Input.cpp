@@ -54,14 +54,18 @@ void Input::ClickOnce(QPoint place)
 }
 
 // In small moves, as a hand does it: some things begin to follow only after the first few.
-void Input::Drag(QPoint from, QPoint to)
+void Input::Drag(QPoint from, QPoint to, std::initializer_list<Key> held)
 {
     constexpr int moves = 10;
+    for (const Key key : held)
+        Send(XCB_KEY_PRESS, keyboard_.CodeOf(key));
     Send(XCB_MOTION_NOTIFY, 0, from);
     Send(XCB_BUTTON_PRESS, leftButton);
     for (int move = 1; move <= moves; ++move)
         Send(XCB_MOTION_NOTIFY, 0, from + (to - from) * move / moves);
     Send(XCB_BUTTON_RELEASE, leftButton);
+    for (const Key key : held)
+        Send(XCB_KEY_RELEASE, keyboard_.CodeOf(key));
     Arrive();
 }
 

@@ -20,7 +20,8 @@ public:
 
     void Click(QPoint place);
     void DoubleClick(QPoint place);
-    void Drag(QPoint from, QPoint to);
+    // Keys may be held meanwhile.
+    void Drag(QPoint from, QPoint to, std::initializer_list<Key> held = {});
 
     void Type(const QString& text);
     void Press(Key key);

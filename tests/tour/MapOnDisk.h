@@ -18,6 +18,7 @@ struct FiledBox {
 
 // Read without the program's help, as anybody with a text editor would.
 std::vector<FiledBox> BoxesOfMap(const QByteArray& mapFile);
+qsizetype LinesOfMap(const QByteArray& mapFile);
 FiledBox BoxOfRecord(const std::vector<FiledBox>& boxes, const QString& file);
 
 } // namespace lineforge::tour

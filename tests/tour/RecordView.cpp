@@ -1,5 +1,7 @@
 #include "RecordView.h"
 
+#include "Ink.h"
+
 namespace lineforge::tour
 {
 
@@ -8,7 +10,11 @@ using namespace Qt::StringLiterals;
 ScreenWindow OpenRecords(Tour& tour)
 {
     tour.Hands.Click(tour.OnMain(tour.MainForm.Command1).center());
-    return AwaitRecords(tour);
+    const ScreenWindow records = AwaitRecords(tour);
+    // On a busy machine a window is there before anything is seen in it.
+    tour.Await(u"the form to be painted"_s,
+               [&] { return HoldsBlackLetters(PictureOnRecords(tour, tour.RecordForm.Label12)); });
+    return records;
 }
 
 ScreenWindow AwaitRecords(Tour& tour)

@@ -54,9 +54,10 @@ void Report(Tour& tour, const QString& step, const char* failure)
 Steps WholeStory()
 {
     Steps story;
-    for (const auto& stop : {SplashStop, EmptyWindowStop, OpenStop, ScrollStop, CoordinatesStop, SubjectsStop,
-                             RecordsStop, ScannerStop, LineageStop, NewBranchStop, DuplicateNameStop, OpenOtherStop,
-                             HelpStop, CloseBranchStop, ChangeDirectoryStop, ExitStop, WithoutSplashStop})
+    for (const auto& stop :
+         {SplashStop, EmptyWindowStop, OpenStop, ScrollStop, CoordinatesStop, SubjectsStop, RecordsStop, ScannerStop,
+          LineageStop, NewBranchStop, DrawTreeStop, MapSubjectsStop, DuplicateNameStop, OpenOtherStop, HelpStop,
+          CloseBranchStop, ChangeDirectoryStop, ExitStop, WithoutSplashStop})
         for (Step& step : stop())
             story.push_back(std::move(step));
     return story;

@@ -7,6 +7,7 @@
 #include "ScratchHome.h"
 #include "forms/Form1.h"
 #include "forms/Form3.h"
+#include "forms/Form7.h"
 #include "forms/Form8.h"
 #include "forms/form9.h"
 
@@ -30,6 +31,7 @@ public:
 
     const forms::Form1 MainForm;
     const forms::Form3 RecordForm;
+    const forms::Form7 MappingForm;
     const forms::Form8 ListForm;
     const forms::form9 SplashForm;
 

@@ -1,6 +1,7 @@
 #include "Icons.h"
 
 #include "Paint.h"
+#include "forms/ToolFaces.h"
 
 #include <QPainterPath>
 
@@ -33,17 +34,6 @@ void DrawBranchBox(QPainter& painter, const QRectF& box, const QColor& colour)
     painter.setBrush(QColor(255, 255, 255, 215));
     painter.drawRoundedRect(QRectF(box.left() + 14, box.top() + 17, box.width() - 44, 8), 4, 4);
     painter.drawRoundedRect(QRectF(box.left() + 14, box.top() + 35, box.width() - 28, 8), 4, 4);
-}
-
-void DrawDoor(QPainter& painter)
-{
-    painter.fillRect(7, 5, 13, 23, QColor(92, 60, 30));
-    painter.fillRect(9, 7, 9, 21, QColor(64, 92, 128));
-    const QPolygonF leaf{QPointF(9, 7), QPointF(15, 10), QPointF(15, 29), QPointF(9, 28)};
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(196, 140, 74));
-    painter.drawPolygon(leaf);
-    painter.fillRect(13, 18, 1, 3, QColor(60, 40, 20));
 }
 
 } // namespace
@@ -114,20 +104,10 @@ QImage TextFileIcon()
 
 QImage PressedExitButton()
 {
-    QImage picture = Canvas(QSize(32, 32), QColor(214, 214, 214));
-    SmoothPainter painter(picture);
-    DrawDoor(painter);
-    painter.setBrush(QColor(0, 128, 60));
-    painter.drawPolygon(QPolygonF{QPointF(19, 16), QPointF(23, 16), QPointF(23, 12), QPointF(29.5, 18), QPointF(23, 24),
-                                  QPointF(23, 20), QPointF(19, 20)});
-    // The edges make the button look pushed in and must stay crisp.
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.fillRect(0, 0, 32, 1, QColor(96, 96, 96));
-    painter.fillRect(0, 0, 1, 32, QColor(96, 96, 96));
-    painter.fillRect(1, 1, 30, 1, QColor(160, 160, 160));
-    painter.fillRect(1, 1, 1, 30, QColor(160, 160, 160));
-    painter.fillRect(0, 31, 32, 1, Qt::white);
-    painter.fillRect(31, 0, 1, 32, Qt::white);
+    const QImage face = forms::DrawToolFace(forms::ToolSymbol::Exit, true);
+    // The file has no transparency: the corners get the colour that windows usually have.
+    QImage picture = Canvas(face.size(), QColor(239, 239, 239));
+    QPainter(&picture).drawImage(0, 0, face);
     return picture;
 }
 

@@ -10,6 +10,7 @@ QImage SoundClipIcon();
 QImage FilmClipIcon();
 QImage TextFileIcon();
 
+// What the tools' Exit shows while it works.
 QImage PressedExitButton();
 QImage ProgramIcon();
 

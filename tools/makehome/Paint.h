@@ -11,7 +11,7 @@ namespace lineforge::makehome
 
 QImage Canvas(const QSize& size, const QColor& ground);
 
-// A painter set up for smooth drawing; every picture but the smallest button is drawn with one.
+// A painter set up for smooth drawing.
 class SmoothPainter : public QPainter
 {
 public:

@@ -1,6 +1,8 @@
 #include "platform/qt/ClickableWidgets.h"
 
+#include <QAccessibleWidget>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
@@ -18,6 +20,42 @@ namespace
 bool IsClick(const QWidget& widget, const QMouseEvent& release)
 {
     return release.button() == Qt::LeftButton && widget.rect().contains(release.position().toPoint());
+}
+
+// An image as readers see it.
+class ImageForReaders : public QAccessibleWidget
+{
+public:
+    explicit ImageForReaders(ImageView& view) : QAccessibleWidget(&view), view_(view) {}
+
+    QAccessible::Role role() const override { return IsButton() ? QAccessible::Button : QAccessible::Graphic; }
+
+    QStringList actionNames() const override
+    {
+        QStringList names = QAccessibleWidget::actionNames();
+        if (IsButton())
+            names.prepend(pressAction());
+        return names;
+    }
+
+    void doAction(const QString& action) override
+    {
+        if (action == pressAction() && view_.isEnabled())
+            view_.Press();
+        else
+            QAccessibleWidget::doAction(action);
+    }
+
+private:
+    bool IsButton() const { return view_.focusPolicy() != Qt::NoFocus; }
+
+    ImageView& view_;
+};
+
+QAccessibleInterface* ReadableImage(const QString&, QObject* object)
+{
+    auto* view = dynamic_cast<ImageView*>(object);
+    return view ? new ImageForReaders(*view) : nullptr;
 }
 } // namespace
 
@@ -77,6 +115,17 @@ void FrameView::mouseReleaseEvent(QMouseEvent* event)
         Clicked();
 }
 
+ImageView::ImageView(QWidget* parent) : QWidget(parent)
+{
+    [[maybe_unused]] static const bool installed = (QAccessible::installFactory(ReadableImage), true);
+}
+
+void ImageView::Press() const
+{
+    if (TakesClicks && TakesClicks())
+        Clicked();
+}
+
 void ImageView::Show(const QImage& picture)
 {
     picture_ = picture;
@@ -86,14 +135,34 @@ void ImageView::Show(const QImage& picture)
 
 void ImageView::paintEvent(QPaintEvent*)
 {
-    if (picture_.isNull() || size().isEmpty())
+    if (size().isEmpty())
+        return;
+    QPainter painter(this);
+    DrawPicture(painter);
+    if (hasFocus())
+        DrawFocusMark(painter);
+}
+
+void ImageView::DrawPicture(QPainter& painter)
+{
+    if (picture_.isNull())
         return;
     const QSize wanted = (QSizeF(size()) * devicePixelRatioF()).toSize();
     if (scaled_.size() != wanted) {
         scaled_ = QPixmap::fromImage(picture_.scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
         scaled_.setDevicePixelRatio(devicePixelRatioF());
     }
-    QPainter(this).drawPixmap(rect(), scaled_);
+    painter.drawPixmap(rect(), scaled_);
+}
+
+// Light within dark, so that it shows on any picture.
+void ImageView::DrawFocusMark(QPainter& painter) const
+{
+    const QRect edge = rect().adjusted(0, 0, -1, -1);
+    painter.setPen(palette().color(QPalette::Highlight).darker());
+    painter.drawRect(edge);
+    painter.setPen(QColor(Qt::white));
+    painter.drawRect(edge.adjusted(1, 1, -1, -1));
 }
 
 void ImageView::mousePressEvent(QMouseEvent* event)
@@ -106,6 +175,15 @@ void ImageView::mouseReleaseEvent(QMouseEvent* event)
     event->setAccepted(TakesClicks && TakesClicks());
     if (event->isAccepted() && IsClick(*this, *event))
         Clicked();
+}
+
+void ImageView::keyPressEvent(QKeyEvent* event)
+{
+    const bool presses =
+        event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    event->setAccepted(presses);
+    if (presses && !event->isAutoRepeat())
+        Press();
 }
 
 ClickWatcher::ClickWatcher(QWidget* watched, std::function<void()> clicked)

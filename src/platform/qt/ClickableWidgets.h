@@ -38,13 +38,16 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 };
 
-// A picture stretched to the widget, scaled once for each picture and size.
+// A picture stretched to the widget, scaled once for each picture and size. One that takes the focus is a button for
+// the keyboard and for readers.
 class ImageView : public QWidget
 {
 public:
-    using QWidget::QWidget;
+    explicit ImageView(QWidget* parent);
     void Show(const QImage& picture);
     const QImage& Picture() const { return picture_; }
+    // What a click does.
+    void Press() const;
     std::function<bool()> TakesClicks;
     std::function<void()> Clicked;
 
@@ -52,8 +55,12 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void DrawPicture(QPainter& painter);
+    void DrawFocusMark(QPainter& painter) const;
+
     QImage picture_;
     QPixmap scaled_;
 };

@@ -1,12 +1,15 @@
 #include "platform/qt/QtPrompts.h"
 
+#include "platform/PictureBox.h"
 #include "platform/qt/FileFilters.h"
 #include "platform/qt/HelpWindow.h"
 #include "platform/qt/QtEventLoop.h"
 #include "platform/qt/ScreenPointer.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QFileDialog>
+#include <QFontDialog>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
@@ -67,6 +70,33 @@ Answer ToAnswer(int button)
         return Answer::Ok;
     }
 }
+
+Colour FromQColor(const QColor& colour)
+{
+    return Rgb(static_cast<unsigned>(colour.red()), static_cast<unsigned>(colour.green()),
+               static_cast<unsigned>(colour.blue()));
+}
+
+QFont ToQFont(const TextFont& font)
+{
+    QFont converted(font.Name);
+    converted.setPointSizeF(font.Size);
+    converted.setBold(font.Bold);
+    converted.setItalic(font.Italic);
+    return converted;
+}
+
+// The dialog shows a stand-in for a family that this machine lacks, and sizes without their fractions: what the user
+// has left as it was shown stays what it was.
+TextFont ChosenFont(const TextFont& present, const QFont& shown, const QFont& chosen)
+{
+    TextFont font{present.Name, present.Size, chosen.bold(), chosen.italic()};
+    if (chosen.family() != shown.family())
+        font.Name = chosen.family();
+    if (chosen.pointSizeF() != shown.pointSizeF())
+        font.Size = chosen.pointSizeF();
+    return font;
+}
 } // namespace
 
 QtPrompts::QtPrompts(const QtEventLoop& loop, std::function<QString()> currentDirectory)
@@ -120,6 +150,33 @@ std::optional<QString> QtPrompts::OpenFile(const FileQuestion& question)
     if (!chosen || files.isEmpty())
         return std::nullopt;
     return files.first();
+}
+
+std::optional<Colour> QtPrompts::PickColour(Colour present)
+{
+    loop_.ThrowIfEnded();
+    QColorDialog box(ToQColor(present), QApplication::activeWindow());
+    box.setOption(QColorDialog::DontUseNativeDialog);
+    const ArrowMeanwhile arrow;
+    const bool chosen = box.exec() == QDialog::Accepted;
+    loop_.ThrowIfEnded();
+    if (!chosen)
+        return std::nullopt;
+    return FromQColor(box.selectedColor());
+}
+
+std::optional<TextFont> QtPrompts::PickFont(const TextFont& present)
+{
+    loop_.ThrowIfEnded();
+    QFontDialog box(ToQFont(present), QApplication::activeWindow());
+    box.setOption(QFontDialog::DontUseNativeDialog);
+    const QFont shown = box.currentFont();
+    const ArrowMeanwhile arrow;
+    const bool chosen = box.exec() == QDialog::Accepted;
+    loop_.ThrowIfEnded();
+    if (!chosen)
+        return std::nullopt;
+    return ChosenFont(present, shown, box.selectedFont());
 }
 
 void QtPrompts::ShowHelp(const QString& helpFile)

@@ -22,6 +22,8 @@ public:
     Answer MsgBox(const QString& title, const QString& text, Buttons buttons) override;
     QString InputBox(const QString& title, const QString& prompt) override;
     std::optional<QString> OpenFile(const FileQuestion& question) override;
+    std::optional<Colour> PickColour(Colour present) override;
+    std::optional<TextFont> PickFont(const TextFont& present) override;
     void ShowHelp(const QString& helpFile) override;
 
 private:

@@ -15,14 +15,18 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QShortcut>
 #include <QSignalBlocker>
+#include <QStyle>
 
 #include <algorithm>
 #include <utility>
 
 namespace lineforge
 {
+
+using namespace Qt::StringLiterals;
 
 namespace
 {
@@ -62,6 +66,30 @@ void ShowInLine(QLineEdit& line, const QString& text)
     const int cursor = line.hasFocus() ? line.cursorPosition() : 0;
     line.setText(text);
     line.setCursorPosition(cursor);
+}
+
+// The toolkit's mark has one size for all sizes of text.
+void SizeMark(QAbstractButton& button)
+{
+    const int side = button.fontMetrics().height();
+    if (button.style()->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr, &button) < side)
+        button.setStyleSheet(u"::indicator { width: %1px; height: %1px; }"_s.arg(side));
+}
+
+// The toolkit itself would leave one of a set on, and would switch off others that the program means to be on.
+void Show(QRadioButton& button, bool on)
+{
+    button.setAutoExclusive(false);
+    button.setChecked(on);
+    button.setAutoExclusive(true);
+}
+
+void Choose(const OptionButton& chosen, const Container& container)
+{
+    for (Control* control : container.Controls())
+        if (auto* option = dynamic_cast<OptionButton*>(control))
+            option->Value = option == &chosen;
+    Fire(chosen.Click);
 }
 
 // A button that is a picture has no border of its own.
@@ -226,6 +254,7 @@ void WidgetBuilder::Visit(Button& button)
 void WidgetBuilder::Visit(CheckBox& box)
 {
     auto* view = new QCheckBox(parent_);
+    SizeMark(*view);
     bindings_.Follow(box.Caption, [view, &box] { view->setText(box.Caption); });
     bindings_.Follow(box.Value, [view, &box] { view->setChecked(box.Value); });
     QObject::connect(view, &QCheckBox::clicked, view, [gate = gate_, &box](bool checked) {
@@ -236,6 +265,20 @@ void WidgetBuilder::Visit(CheckBox& box)
     });
     FollowCaption(view, box, box.Caption);
     Dress(view, box);
+}
+
+void WidgetBuilder::Visit(OptionButton& option)
+{
+    auto* view = new QRadioButton(parent_);
+    SizeMark(*view);
+    bindings_.Follow(option.Caption, [view, &option] { view->setText(option.Caption); });
+    bindings_.Follow(option.Value, [view, &option] { Show(*view, option.Value); });
+    QObject::connect(view, &QRadioButton::clicked, view, [gate = gate_, view, &option, &container = *container_] {
+        Show(*view, true); // where the program has switched on two, the toolkit has just switched this one off
+        gate->Run([&option, &container] { Choose(option, container); });
+    });
+    FollowCaption(view, option, option.Caption);
+    Dress(view, option);
 }
 
 void WidgetBuilder::Visit(Frame& frame)
@@ -274,6 +317,9 @@ void WidgetBuilder::Visit(Image& image)
     bindings_.Follow(image.Picture, [view, &image] { view->Show(image.Picture); });
     view->TakesClicks = [gate = gate_, &image] { return gate->IsOpen() && image.Click; };
     view->Clicked = [gate = gate_, &image] { gate->Run(image.Click); };
+    // A click leaves the focus where the user works.
+    if (image.Click)
+        view->setFocusPolicy(Qt::TabFocus);
     NameForReaders(view, image);
     Dress(view, image);
 }
@@ -281,7 +327,7 @@ void WidgetBuilder::Visit(Image& image)
 void WidgetBuilder::Visit(Shape& shape)
 {
     const int pen = std::max(thinnestOutline, scale_.ToPixels(shape.BorderWidth * designTwipsAPixel));
-    auto* view = new ShapeView(parent_, shape.Kind, pen, shape.Filled);
+    auto* view = new ShapeView(parent_, shape, pen);
     bindings_.Follow(shape.BorderColor, [view, &shape] { view->SetColour(ToQColor(shape.BorderColor)); });
     view->setAccessibleName(shape.Name);
     Dress(view, shape);

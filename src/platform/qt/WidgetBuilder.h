@@ -27,6 +27,7 @@ private:
     void Visit(TextBox& box) override;
     void Visit(Button& button) override;
     void Visit(CheckBox& box) override;
+    void Visit(OptionButton& option) override;
     void Visit(Frame& frame) override;
     void Visit(ListBox& list) override;
     void Visit(Image& image) override;

@@ -1,5 +1,9 @@
 #include "map/LineageMarks.h"
 #include "map/MapInteraction.h"
+#include "map/SubjectMapping.h"
+#include "map/tools/LeaveTools.h"
+#include "map/tools/ToolButtons.h"
+#include "map/tools/ToolMouse.h"
 #include "program/BranchUi.h"
 #include "records/RecordForm.h"
 #include "shell/CloseBranch.h"
@@ -20,6 +24,18 @@ void OpenFileOrHelpMenu(Program& p)
     p.form9.Unload();
     ClearMapCursor(p);
 }
+
+void InstallTools(Program& p, forms::Form1& form)
+{
+    form.Image2.Click = [&p] { ChooseMove(p); };
+    form.Image3.Click = [&p] { ChooseColour(p); };
+    form.Image4.Click = [&p] { ChooseFont(p); };
+    form.Image5.Click = [&p] { ChooseDelete(p); };
+    form.Image6.Click = [&p] { ChooseLineTool(p); };
+    form.Image7.Click = [&p] { ChooseBoxTool(p); };
+    form.Image8.Click = [&p] { ChooseExit(p); };
+    form.Image9.Click = [&p] { ChooseTextTool(p); };
+}
 } // namespace
 
 void InstallForm1(Program& p, forms::Form1& form)
@@ -35,22 +51,29 @@ void InstallForm1(Program& p, forms::Form1& form)
     form.mnuCloseDB.Click = [&p] { CloseBranch(p); };
     form.mnuExit.Click = [&p] { ExitProgram(p); };
 
-    form.mnuEdit.Click = [&p] { ClearMapCursor(p); };
+    form.mnuEdit.Click = [&p] { OpenEditingMenu(p); };
     form.mnuViewRecs.Click = [&p] { ShowRecordForm(p); };
-    form.mnuTreeGraphics.Click = [&p] { ClearMapCursor(p); };
+    form.mnuTreeGraphics.Click = [&p] { OpenEditingMenu(p); };
+    form.mnuTreeTools.Click = [&p] { OpenTools(p); };
+    form.mnuMapSubject.Click = [&p] { ShowMappingOptions(p); };
+    form.mnuRemap.Click = [&p] { RemapSubject(p); };
 
     form.mnuHelp.Click = [&p] { OpenFileOrHelpMenu(p); };
     form.mnuConts.Click = [&p] { ShowHelpContents(p); };
     form.MnuAbout.Click = [&p] { ShowAbout(p); };
 
     form.VScroll1.Change = [&form] { form.Picture1.Top = -form.VScroll1.Value; };
-    form.Picture1.MouseDown = [&p](int, int, double x, double y) { PressOnMap(p, x, y); };
-    form.Picture1.MouseUp = [&p](int, int, double x, double y) { ReleaseOnMap(p, x, y); };
+    form.Picture1.MouseDown = [&p](int, int shift, double x, double y) { PressMap(p, shift, x, y); };
+    form.Picture1.MouseMove = [&p](int buttons, int shift, double x, double y) {
+        MoveOverMap(p, buttons, shift, x, y);
+    };
+    form.Picture1.MouseUp = [&p](int, int, double x, double y) { ReleaseMap(p, x, y); };
     form.Picture1.DblClick = [&p] { DoubleClickOnMap(p); };
 
     form.Command1.Click = [&p] { ShowRecordForm(p); };
     form.Command3.Click = [&p] { ViewLineage(p); };
     form.Command4.Click = [&p] { ClearLineage(p); };
+    InstallTools(p, form);
 }
 
 } // namespace lineforge

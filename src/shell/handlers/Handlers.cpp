@@ -7,6 +7,7 @@ void InstallHandlers(Program& p)
 {
     p.Form1.Install = [&p](forms::Form1& form) { InstallForm1(p, form); };
     p.Form3.Install = [&p](forms::Form3& form) { InstallForm3(p, form); };
+    p.Form7.Install = [&p](forms::Form7& form) { InstallForm7(p, form); };
     p.Form8.Install = [&p](forms::Form8& form) { InstallForm8(p, form); };
     p.form9.Install = [&p](forms::form9& form) { InstallForm9(p, form); };
 }

@@ -1,6 +1,8 @@
 #include "gui/qt/WindowTest.h"
 #include "platform/qt/ClickableWidgets.h"
 
+#include <QAccessible>
+#include <QKeyEvent>
 #include <QTest>
 
 namespace lineforge
@@ -14,6 +16,19 @@ struct ImageForm : Form {
     ImageForm() : Form(u"ImageForm", u"Images", {6000, 3000}) {}
     Image Image1{*this, u"Image1", {300, 300, 1500, 900}};
     Image Tile{*this, u"Image2(7)", {2100, 300, 600, 600}};
+};
+
+// Like a tool: it has a handler before it is shown.
+struct ToolForm : Form {
+    ToolForm() : Form(u"ToolForm", u"Tools", {6000, 3000})
+    {
+        Image2.ToolTipText = u"Line Tool"_s;
+        Image2.Click = [this] { ++Clicks; };
+    }
+    TextBox Text1{*this, u"Text1", {300, 1500, 1500, 315}};
+    Image Image1{*this, u"Image1", {300, 300, 345, 345}};
+    Image Image2{*this, u"Image2", {900, 300, 345, 345}};
+    int Clicks = 0;
 };
 
 struct ImageTest : WindowTest {
@@ -68,6 +83,82 @@ TEST_F(ImageTest, WithoutAPictureItStillTakesClicks)
 TEST_F(ImageTest, AnElementOfAControlArrayKeepsItsName)
 {
     EXPECT_EQ(Find<QWidget>(*Images, u"Image2(7)"_s).accessibleName(), u"Image2(7)"_s);
+}
+
+struct ToolImageTest : WindowTest {
+    Window<ToolForm> Tools{System()};
+    void SetUp() override
+    {
+        Tools->Visible = true;
+        Activate(*Tools);
+        Box().setFocus();
+    }
+    QWidget& Box() { return Find<QWidget>(*Tools, u"Text1"_s); }
+    QWidget& Plain() { return Find<QWidget>(*Tools, u"Image1"_s); }
+    QWidget& Tool() { return Find<QWidget>(*Tools, u"Image2"_s); }
+};
+
+TEST_F(ToolImageTest, TabReachesWhatCanBeClicked_AndNothingElse)
+{
+    QTest::keyClick(&Box(), Qt::Key_Tab);
+    EXPECT_TRUE(Tool().hasFocus());
+    QTest::keyClick(&Tool(), Qt::Key_Tab);
+    EXPECT_TRUE(Box().hasFocus());
+}
+
+TEST_F(ToolImageTest, SpaceAndEnterPressIt)
+{
+    Tool().setFocus(Qt::TabFocusReason);
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter})
+        QTest::keyClick(&Tool(), key);
+    EXPECT_EQ(Tools->Clicks, 3);
+    QTest::keyClick(&Tool(), Qt::Key_A);
+    EXPECT_EQ(Tools->Clicks, 3);
+}
+
+TEST_F(ToolImageTest, AKeyThatIsHeldDown_PressesItOnce)
+{
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, u" "_s, true);
+    QCoreApplication::sendEvent(&Tool(), &repeated);
+    EXPECT_EQ(Tools->Clicks, 0);
+}
+
+TEST_F(ToolImageTest, AClickLeavesTheFocusWhereItIs)
+{
+    QTest::mouseClick(&Tool(), Qt::LeftButton);
+    EXPECT_EQ(Tools->Clicks, 1);
+    EXPECT_TRUE(Box().hasFocus());
+}
+
+TEST_F(ToolImageTest, TheFocusIsSeen)
+{
+    Tools->Image2.Picture = Halves();
+    const QImage without = Tool().grab().toImage();
+    Tool().setFocus(Qt::TabFocusReason);
+    EXPECT_NE(Tool().grab().toImage(), without);
+    Box().setFocus();
+    EXPECT_EQ(Tool().grab().toImage(), without);
+}
+
+TEST_F(ToolImageTest, ForReadersItIsAButtonNamedByItsToolTip)
+{
+    EXPECT_EQ(Tool().toolTip(), u"Line Tool"_s);
+    QAccessibleInterface* tool = QAccessible::queryAccessibleInterface(&Tool());
+    EXPECT_EQ(tool->role(), QAccessible::Button);
+    EXPECT_EQ(tool->text(QAccessible::Name), u"Line Tool"_s);
+    EXPECT_TRUE(tool->state().focusable);
+    ASSERT_TRUE(tool->actionInterface());
+    EXPECT_TRUE(tool->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()));
+    tool->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(Tools->Clicks, 1);
+}
+
+TEST_F(ToolImageTest, ForReadersAnImageWithoutAHandlerIsAPicture)
+{
+    QAccessibleInterface* plain = QAccessible::queryAccessibleInterface(&Plain());
+    EXPECT_EQ(plain->role(), QAccessible::Graphic);
+    EXPECT_FALSE(plain->state().focusable);
+    EXPECT_FALSE(plain->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()));
 }
 } // namespace
 

@@ -3,7 +3,10 @@
 #include "platform/qt/QtPrompts.h"
 #include "support/TemporaryHome.h"
 
+#include <QColorDialog>
 #include <QFileDialog>
+#include <QFontDatabase>
+#include <QFontDialog>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -126,6 +129,103 @@ TEST_F(PromptsTest, InputBoxCancelledGivesNothing)
     });
     EXPECT_EQ(Ask().InputBox(u"t"_s, u"p"_s), QString());
 }
+
+TEST_F(PromptsTest, TheColourDialog_OpensOnThePresentColour_AndGivesTheChosenOne)
+{
+    const NextDialog next([](QDialog& dialog) {
+        auto& box = dynamic_cast<QColorDialog&>(dialog);
+        EXPECT_TRUE(box.isModal());
+        EXPECT_TRUE(box.testOption(QColorDialog::DontUseNativeDialog));
+        EXPECT_EQ(box.currentColor(), QColor(10, 20, 30));
+        box.setCurrentColor(QColor(200, 100, 50));
+        PressKey(dialog, Qt::Key_Return);
+    });
+    EXPECT_EQ(Ask().PickColour(Rgb(10, 20, 30)), Rgb(200, 100, 50));
+}
+
+TEST_F(PromptsTest, TheColourDialogCancelled_GivesNothing)
+{
+    const NextDialog next([](QDialog& dialog) {
+        dynamic_cast<QColorDialog&>(dialog).setCurrentColor(Qt::red);
+        PressKey(dialog, Qt::Key_Escape);
+    });
+    EXPECT_EQ(Ask().PickColour(Black), std::nullopt);
+}
+
+// A family that every machine of the tests has.
+QString SomeFamily()
+{
+    return QFontDatabase::families().constFirst();
+}
+
+TEST_F(PromptsTest, TheFontDialog_OpensOnThePresentFont_AndGivesTheChosenOne)
+{
+    const NextDialog next([](QDialog& dialog) {
+        auto& box = dynamic_cast<QFontDialog&>(dialog);
+        EXPECT_TRUE(box.isModal());
+        EXPECT_TRUE(box.testOption(QFontDialog::DontUseNativeDialog));
+        EXPECT_EQ(box.currentFont().family(), SomeFamily());
+        EXPECT_EQ(box.currentFont().pointSize(), 12);
+        QFont other = box.currentFont();
+        other.setPointSize(18);
+        box.setCurrentFont(other);
+        box.accept();
+    });
+    EXPECT_EQ(Ask().PickFont({SomeFamily(), 12}), (TextFont{SomeFamily(), 18}));
+}
+
+TEST_F(PromptsTest, TheFontDialogCancelled_GivesNothing)
+{
+    const NextDialog next([](QDialog& dialog) { PressKey(dialog, Qt::Key_Escape); });
+    EXPECT_EQ(Ask().PickFont({SomeFamily(), 12}), std::nullopt);
+}
+
+TEST_F(PromptsTest, WhatTheFontDialogCannotShow_StaysAsItWasWhereTheUserLeavesIt)
+{
+    const TextFont present{u"No Such Family"_s, 8.25};
+    {
+        const NextDialog next([](QDialog& dialog) { dialog.accept(); });
+        EXPECT_EQ(Ask().PickFont(present), present);
+    }
+    const NextDialog next([](QDialog& dialog) {
+        auto& box = dynamic_cast<QFontDialog&>(dialog);
+        QFont larger = box.currentFont();
+        larger.setPointSize(20);
+        box.setCurrentFont(larger);
+        dialog.accept();
+    });
+    EXPECT_EQ(Ask().PickFont(present), (TextFont{u"No Such Family"_s, 20}));
+}
+
+struct FontStyleTest : PromptsTest, testing::WithParamInterface<std::pair<bool, bool>> {
+    // A style of any family that is as bold and as slanted as the test wants.
+    std::optional<QFont> FindFont()
+    {
+        for (const QString& family : QFontDatabase::families())
+            for (const QString& style : QFontDatabase::styles(family))
+                if (const QFont font = QFontDatabase::font(family, style, 9);
+                    font.bold() == GetParam().first && font.italic() == GetParam().second)
+                    return font;
+        return std::nullopt;
+    }
+};
+
+TEST_P(FontStyleTest, BoldAndItalic_AreThoseChosen)
+{
+    const std::optional<QFont> wanted = FindFont();
+    if (!wanted)
+        GTEST_SKIP() << "no font of this style here";
+    const NextDialog next([&wanted](QDialog& dialog) {
+        dynamic_cast<QFontDialog&>(dialog).setCurrentFont(*wanted);
+        dialog.accept();
+    });
+    const auto [bold, italic] = GetParam();
+    EXPECT_EQ(Ask().PickFont({SomeFamily(), 20, !bold, !italic}), (TextFont{wanted->family(), 9, bold, italic}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Styles, FontStyleTest,
+                         testing::Values(std::pair(false, false), std::pair(true, false), std::pair(false, true),
+                                         std::pair(true, true)));
 
 struct OpenFileTest : testing::Test {
     TemporaryHome Home;

@@ -16,6 +16,8 @@ Steps RecordsStop();
 Steps ScannerStop();
 Steps LineageStop();
 Steps NewBranchStop();
+Steps DrawTreeStop();
+Steps MapSubjectsStop();
 Steps DuplicateNameStop();
 Steps OpenOtherStop();
 Steps HelpStop();

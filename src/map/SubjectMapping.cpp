@@ -1,0 +1,338 @@
+#include "map/SubjectMapping.h"
+
+#include "map/BoxCaptions.h"
+#include "map/HitTest.h"
+#include "map/MapFile.h"
+#include "platform/Text.h"
+#include "program/AlternateBranch.h"
+#include "program/BranchPaths.h"
+#include "program/BranchUi.h"
+#include "program/WorkDatabase.h"
+
+#include <QScopeGuard>
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+// Of `MapCursorMode`.
+constexpr int mapping = 1;
+constexpr int repositioning = 2;
+
+// Of `MapOption`.
+constexpr int newRecord = 0;
+constexpr int unmappedRecord = 1;
+constexpr int alternateRecord = 2;
+
+// Of `PictureOption`.
+constexpr int selectNow = 6;
+constexpr int leaveUntilLater = 7;
+
+constexpr qsizetype numberLength = 4;
+
+void ShowOption(Program& p, OptionButton forms::Form7::*chosen)
+{
+    forms::Form7& form = *p.Form7;
+    for (OptionButton forms::Form7::*option : {&forms::Form7::Option1, &forms::Form7::Option2, &forms::Form7::Option3})
+        (form.*option).Value = option == chosen;
+    const bool isNew = chosen == &forms::Form7::Option1;
+    form.Label1.Enabled = !isNew;
+    form.Text1.Enabled = !isNew;
+    form.Frame2.Enabled = isNew;
+    form.Frame3.Enabled = isNew;
+}
+
+void StopMapping(Program& p)
+{
+    p.Tools.MapCursorMode = 0;
+    p.Screen.Pointer = MousePointer::Default;
+}
+
+void TellNotPresent(Program& p, const QString& text)
+{
+    p.Prompts.MsgBox(u"Record not Present"_s, text + p.Record.sCurFile, Buttons::Information);
+    StopMapping(p);
+}
+
+// Beside all boxes the number goes into none.
+void LinkPressedBox(Program& p, const QString& file)
+{
+    if (p.Mouse.BoxMiss == 0)
+        p.Map.BoxArr[p.Mouse.BoxIdx][BoxColumn::File] = file;
+    p.Mapping.NewFile = file;
+}
+
+void FindPressedBox(Program& p)
+{
+    p.Mouse.BoxX = p.Mouse.BoxLeft;
+    p.Mouse.BoxY = p.Mouse.BoxTop;
+    HitBox(p);
+}
+
+void FillNewRecord(Program& p)
+{
+    Recordset& records = Records(p);
+    records.Put(u"File", p.Mapping.NewFile);
+    records.Put(u"Gender", p.Mapping.NewGender);
+    records.Update();
+    records.MoveLast();
+}
+
+// Whatever the options said.
+void MapFirstRecord(Program& p)
+{
+    p.Record.sCurFile = p.Mapping.sBranchLetter + u"001";
+    Records(p).AddNew();
+    FindPressedBox(p);
+    LinkPressedBox(p, p.Record.sCurFile);
+    SaveBoxes(p);
+    FillNewRecord(p);
+}
+
+// The first number that the records, in their stored order, run out of. It never starts over, so that numbers which
+// don't rise can be given twice; so it is meant to be.
+QString NextFreeNumber(Program& p)
+{
+    int counter = 1;
+    const auto candidate = [&]() -> QString {
+        return p.Mapping.sBranchLetter + QString::number(counter).rightJustified(3, u'0');
+    };
+    Recordset& records = Records(p);
+    for (records.MoveFirst(); !records.Eof(); records.MoveNext()) {
+        p.Record.sCurFile = records.Text(u"File");
+        while (SameText(p.Record.sCurFile, candidate()))
+            ++counter;
+    }
+    return candidate();
+}
+
+void MapNewRecord(Program& p)
+{
+    const QString file = NextFreeNumber(p);
+    FindPressedBox(p);
+    Records(p).AddNew();
+    LinkPressedBox(p, file);
+    FillNewRecord(p);
+    SaveBoxes(p);
+}
+
+// False, and a box, when no number of four characters was entered.
+bool TakeEnteredNumber(Program& p)
+{
+    p.Record.sCurFile = p.Form7->Text1.Text;
+    if (p.Record.sCurFile.size() == numberLength)
+        return true;
+    TellNotPresent(p, u"Incorrect Record Number "_s);
+    return false;
+}
+
+// False, and a box, when the open database has no such record.
+bool StandOnEnteredRecord(Program& p)
+{
+    if (Records(p).Seek(u"File", p.Record.sCurFile))
+        return true;
+    TellNotPresent(p, u"Record not Found: "_s);
+    return false;
+}
+
+bool MapUnmappedRecord(Program& p)
+{
+    if (!TakeEnteredNumber(p) || !StandOnEnteredRecord(p))
+        return false;
+    FindPressedBox(p);
+    LinkPressedBox(p, p.Record.sCurFile);
+    p.Map.BoxArr[p.Mouse.BoxIdx][BoxColumn::Forename] = Records(p).Text(u"Forename");
+    p.Mapping.MapOption = newRecord;
+    SaveBoxes(p);
+    return true;
+}
+
+bool MapAlternateRecord(Program& p)
+{
+    if (!TakeEnteredNumber(p))
+        return false;
+    Records(p).Seek(u"File", p.Record.sCurFile);
+    FindPressedBox(p);
+    p.Screen.Pointer = MousePointer::Hourglass;
+    LinkPressedBox(p, p.Record.sCurFile);
+    p.Mapping.PictureOption = leaveUntilLater;
+    DrawBoxCaptions(p);
+    SaveBoxes(p);
+    SwitchToSibling(p, p.Record.sCurFile.first(1));
+    for (Button forms::Form3::*transport : forms::Form3::Transport)
+        ((*p.Form3).*transport).Enabled = false;
+    return StandOnEnteredRecord(p);
+}
+
+bool MapByOption(Program& p)
+{
+    switch (p.Mapping.MapOption) {
+    case unmappedRecord:
+        return MapUnmappedRecord(p);
+    case alternateRecord:
+        return MapAlternateRecord(p);
+    default:
+        MapNewRecord(p);
+        return true;
+    }
+}
+
+void NamePictureFile(Program& p)
+{
+    p.Mapping.PictureFile = p.Branch.WorkDir + PathSeparator + p.Mapping.NewFile + u"Sub.jpg";
+}
+
+void CopyBlankPortrait(Program& p)
+{
+    p.Files.ChDir(p.Branch.WorkDir);
+    const auto changeBack = qScopeGuard([&] { p.Errors.Ignoring([&] { p.Files.ChDir(p.Branch.WorkDir); }); });
+    p.Files.ChDir(u".."_s);
+    p.Files.FileCopy(p.Files.CurDir() + PathSeparator + u"Tree99.jpg", p.Mapping.PictureFile);
+}
+
+// False when the user cancels.
+bool CopyChosenPicture(Program& p)
+{
+    const std::optional<QString> chosen =
+        p.Prompts.OpenFile({u"Select Picture Source File"_s, u"DataBase|*.jpg|All Files|*.*|"_s});
+    if (chosen)
+        p.Files.FileCopy(*chosen, p.Mapping.PictureFile);
+    return chosen.has_value();
+}
+
+// Without a mapping so far there is no file, and nothing to be seen.
+void ShowMappedPicture(Program& p)
+{
+    const QString& file = p.Mapping.PictureFile;
+    const QImage picture = file.isEmpty() ? QImage() : p.Pictures.Load(p.Files, file);
+    p.Form3->Image1.Picture = picture;
+    p.Form1->Image1.Picture = picture;
+    p.Form1->Image1.Visible = true;
+    p.Form1->Shape1.Visible = true;
+    p.Screen.Pointer = MousePointer::Default;
+}
+
+// The record is there already and stays, without its picture, when that can't be had: the pointer then stays, too.
+void GiveNewSubjectItsPicture(Program& p)
+{
+    NamePictureFile(p);
+    p.Errors.Ignoring([&] {
+        if (p.Mapping.PictureOption == selectNow) {
+            if (!CopyChosenPicture(p))
+                return;
+        } else if (p.Mapping.MapOption == alternateRecord) {
+            ClearMapCursor(p);
+            p.Mapping.MapOption = newRecord;
+        } else {
+            CopyBlankPortrait(p);
+        }
+        ShowMappedPicture(p);
+    });
+}
+} // namespace
+
+void ShowMappingOptions(Program& p)
+{
+    if (p.Branch.sDbaseName.isEmpty()) {
+        p.Prompts.MsgBox(u"Data not available"_s, u"Cannot Map until database file is Opened"_s, Buttons::Information);
+        return;
+    }
+    p.Form7->Show();
+}
+
+void ChooseBlankRecord(Program& p)
+{
+    ShowOption(p, &forms::Form7::Option1);
+    p.Form7->Text1.Text = QString();
+}
+
+void ChooseUnmappedRecord(Program& p)
+{
+    ShowOption(p, &forms::Form7::Option2);
+}
+
+void ChooseAlternateRecord(Program& p)
+{
+    ShowOption(p, &forms::Form7::Option3);
+}
+
+void TakeMappingOptions(Program& p)
+{
+    forms::Form7& form = *p.Form7;
+    p.Screen.Pointer = MousePointer::Cross;
+    p.Tools.MapCursorMode = mapping;
+    form.Hide();
+    if (form.Option1.Value)
+        p.Mapping.MapOption = newRecord;
+    else if (form.Option2.Value)
+        p.Mapping.MapOption = unmappedRecord;
+    else if (form.Option3.Value)
+        p.Mapping.MapOption = alternateRecord;
+    if (form.Option4.Value)
+        p.Mapping.NewGender = u"Male"_s;
+    else if (form.Option5.Value)
+        p.Mapping.NewGender = u"Female"_s;
+    if (form.Option6.Value)
+        p.Mapping.PictureOption = leaveUntilLater;
+    else if (form.Option7.Value)
+        p.Mapping.PictureOption = selectNow;
+}
+
+void MapNewSubject(Program& p)
+{
+    p.Form3->Image1.Picture = QImage();
+    p.Form3->Show();
+    p.Mapping.sBranchLetter = BranchLetter(p.Branch.WorkDir);
+    if (Records(p).IsEmpty())
+        MapFirstRecord(p);
+    else if (!MapByOption(p))
+        return;
+    // The record form stays in front: the new record is to be written now.
+    GiveNewSubjectItsPicture(p);
+}
+
+void AskSubjectPicture(Program& p)
+{
+    const Answer change = p.Prompts.MsgBox(u"New Subject Mapping"_s,
+                                           u"This Subject has already been Logged into the Database.\n"
+                                           u"Do you want to change the Subject Picture ? "_s,
+                                           Buttons::QuestionYesNo);
+    if (change != Answer::Yes) {
+        StopMapping(p);
+        return;
+    }
+    p.Record.sCurFile = p.Form3->Label25.Caption;
+    p.Errors.Ignoring([&] {
+        if (p.Mapping.PictureOption == selectNow) {
+            NamePictureFile(p);
+            if (!CopyChosenPicture(p))
+                return;
+        }
+        ShowMappedPicture(p);
+    });
+}
+
+void RemapSubject(Program& p)
+{
+    const Answer begin = p.Prompts.MsgBox(u"Subject re Position"_s,
+                                          u"You are about to move the position of a subject. \n"
+                                          u"Please ensure that an empty subject box position is \n"
+                                          u"available for substitution."_s,
+                                          Buttons::InformationOkCancel);
+    if (begin != Answer::Ok)
+        return;
+    p.Tools.MapCursorMode = repositioning;
+    // A cross that a mapping has left would make the first double click the second.
+    p.Screen.Pointer = MousePointer::Default;
+    const Answer select = p.Prompts.MsgBox(u"Data link Transfer"_s,
+                                           u"Select subject old map position then select \n"
+                                           u"subject new map position to transfer data link"_s,
+                                           Buttons::InformationOkCancel);
+    if (select == Answer::Cancel)
+        ClearMapCursor(p);
+}
+
+} // namespace lineforge

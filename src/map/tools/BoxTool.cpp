@@ -1,0 +1,165 @@
+#include "map/tools/BoxTool.h"
+
+#include "map/BoxCaptions.h"
+#include "map/CurrentBox.h"
+#include "map/HitTest.h"
+#include "map/MapItems.h"
+#include "program/WorkDatabase.h"
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr int movingSubject = 3; // of `MapCursorMode`
+
+Point NewCorner(const Program& p)
+{
+    return {p.Mouse.DownX - BoxCentreX, p.Mouse.DownY - BoxCentreY};
+}
+
+void DrawNewOutline(Program& p)
+{
+    const Point corner = NewCorner(p);
+    p.Form1->Picture1.Box({corner.X, corner.Y, BoxWidth, BoxHeight});
+}
+
+Colour ColourOfBox(const Program& p, int row)
+{
+    return static_cast<Colour>(p.Map.BoxArr[row][BoxColumn::Colour].NumberOr(0));
+}
+
+bool HitsBox(Program& p)
+{
+    HitBox(p);
+    // With the count at 0 the hit before stands, maybe on a box that is gone.
+    if (p.Mouse.BoxMiss == 0 && p.Map.BoxArr[p.Mouse.BoxIdx][BoxColumn::X].IsZero())
+        p.Mouse.BoxMiss = 1;
+    return p.Mouse.BoxMiss == 0;
+}
+
+QString NumberInHitBox(const Program& p)
+{
+    return p.Map.BoxArr[p.Mouse.BoxIdx][BoxColumn::File].Text();
+}
+
+bool StandOnRecordOfHitBox(Program& p)
+{
+    return !Records(p).IsEmpty() && Records(p).Seek(u"File", NumberInHitBox(p));
+}
+
+Pressed TakeHitBox(Program& p, const Pointing& pointing)
+{
+    PictureBox& picture = p.Form1->Picture1;
+    p.Tools.PenSave = picture.ForeColor;
+    WipeCaption(p, p.Mouse.BoxIdx);
+    picture.ForeColor = p.Tools.PenSave;
+    KeepLast(p, pointing.At);
+    return Pressed::Yes;
+}
+} // namespace
+
+Pressed BeginBox(Program& p, const Pointing& pointing)
+{
+    PictureBox& picture = p.Form1->Picture1;
+    p.Map.SBoxes += 1;
+    p.Tools.PenSave = picture.ForeColor;
+    picture.ForeColor = p.Form1->CommonDialog1.Color;
+    DrawNewOutline(p);
+    KeepLast(p, pointing.At);
+    return Pressed::Yes;
+}
+
+Released EndBox(Program& p)
+{
+    PictureBox& picture = p.Form1->Picture1;
+    DrawNewOutline(p);
+    auto& box = p.Map.BoxArr[p.Map.SBoxes];
+    box[BoxColumn::X] = NewCorner(p).X;
+    box[BoxColumn::Y] = NewCorner(p).Y;
+    box[BoxColumn::Colour] = static_cast<int>(picture.ForeColor);
+    box[BoxColumn::File] = 0;
+    picture.ForeColor = p.Tools.PenSave;
+    return Released::Repaint;
+}
+
+Pressed TakeBox(Program& p, const Pointing& pointing)
+{
+    if (!HitsBox(p))
+        return Pressed::No;
+    if (StandOnRecordOfHitBox(p)) {
+        p.Record.sCurFile = NumberInHitBox(p);
+        p.Record.SavedBookmark = Records(p).GetBookmark();
+        p.Tools.MapCursorMode = movingSubject;
+    }
+    return TakeHitBox(p, pointing);
+}
+
+Pressed TakeBoxToDelete(Program& p, const Pointing& pointing)
+{
+    // An empty box has no caption to be wiped; the release deletes it.
+    if (!HitsBox(p) || NumberInHitBox(p) == u"0")
+        return Pressed::No;
+    if (StandOnRecordOfHitBox(p)) {
+        p.Prompts.MsgBox(u"Tree Box deletion"_s,
+                         u"You must delete or transfer the Record for this subject \n"
+                         u"before deleting the subject box."_s,
+                         Buttons::Information);
+        p.Mouse.BoxMiss = 1;
+        return Pressed::No;
+    }
+    return TakeHitBox(p, pointing);
+}
+
+void DragBox(Program& p, const Pointing& pointing)
+{
+    KeepPointer(p, pointing);
+    if (p.Mouse.BoxMiss != 0)
+        return;
+    PictureBox& picture = p.Form1->Picture1;
+    const int row = p.Mouse.BoxIdx;
+    TakeDelta(p, pointing.At);
+    // The rubber pen takes off what it has drawn; before its first stroke the box is wiped.
+    DrawBoxIn(p, row, picture.Mode == DrawMode::NotXor ? ColourOfBox(p, row) : picture.BackColor);
+    CarryBox(p, row);
+    picture.Mode = DrawMode::NotXor;
+    DrawBoxIn(p, row, ColourOfBox(p, row));
+    KeepLast(p, pointing.At);
+}
+
+Released DropBox(Program& p)
+{
+    if (p.Mouse.BoxMiss != 0)
+        return Released::Repaint;
+    PictureBox& picture = p.Form1->Picture1;
+    picture.Mode = DrawMode::Copy;
+    DrawBoxIn(p, p.Mouse.BoxIdx, ColourOfBox(p, p.Mouse.BoxIdx));
+    if (p.Tools.MapCursorMode == movingSubject) {
+        Records(p).Edit();
+        Records(p).Update();
+        Records(p).SetBookmark(p.Record.SavedBookmark);
+        picture.ForeColor = Black;
+        TakeBoxPosition(p, p.Mouse.BoxIdx);
+        DrawRecordInBox(p);
+        p.Tools.MapCursorMode = 0;
+    }
+    return Released::Repaint;
+}
+
+Released DeleteBox(Program& p)
+{
+    if (p.Mouse.BoxMiss != 0)
+        return Released::Repaint;
+    DrawBoxIn(p, p.Mouse.BoxIdx, p.Form1->Picture1.BackColor);
+    // The forename stays in the free row.
+    auto& box = p.Map.BoxArr[p.Mouse.BoxIdx];
+    for (const int column : {BoxColumn::X, BoxColumn::Y, BoxColumn::Colour, BoxColumn::File})
+        box[column] = 0;
+    // The rows behind keep their places: the highest of them is out of the count until the tools are closed.
+    p.Map.SBoxes -= 1;
+    return Released::Repaint;
+}
+
+} // namespace lineforge

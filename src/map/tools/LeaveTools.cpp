@@ -1,0 +1,114 @@
+#include "map/tools/LeaveTools.h"
+
+#include "map/CurrentBox.h"
+#include "map/MapFile.h"
+#include "map/MapItems.h"
+#include "map/MapParse.h"
+#include "map/tools/ToolImages.h"
+#include "map/tools/ToolMouse.h"
+#include "map/tools/ToolSelection.h"
+#include "program/BranchUi.h"
+#include "program/WorkDatabase.h"
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+void PutToolsDown(Program& p)
+{
+    p.Form1->Picture1.Mode = DrawMode::Copy;
+    p.Tools.ToolSel = ToolSelection::None;
+    p.Tools.ToolMode = 0;
+    p.Tools.ToolStep = 0;
+    p.Tools.IsPressed = false;
+}
+
+void SaveMap(Program& p)
+{
+    p.Map.sLinesText = ListOfLines(p.Map);
+    p.Map.sBoxesText = ListOfBoxes(p.Map);
+    p.Map.sTextsText = ListOfTexts(p.Map);
+    WriteMapFile(p);
+    RaiseAllTools(p);
+}
+
+void ReadBackFromLists(Program& p)
+{
+    p.Form1->Picture1.Cls();
+    ResetMapFont(p.Form1->Picture1);
+    p.Map.BoxArr.Erase();
+    p.Map.LineArr.Erase();
+    p.Map.TextArr.Erase();
+    p.Map.LineChain.Erase();
+    p.Tools.ChainTop = 0;
+    // A spoilt list has been read as far as it goes once before.
+    p.Errors.Ignoring([&] { ParseBoxes(p); });
+    p.Errors.Ignoring([&] { ParseLines(p); });
+    p.Errors.Ignoring([&] { ParseTexts(p); });
+}
+
+void ReturnToRecord(Program& p)
+{
+    if (!Records(p).IsEmpty()) {
+        p.Errors.Ignoring([&] { Records(p).SetBookmark(p.Tools.ToolBookmark); });
+        MarkCurrentBox(p);
+        // Even where no box holds the record and the marker stands wherever it stood; so it is meant to be.
+        p.Form1->Shape1.Visible = true;
+    }
+    p.Tools.MapCursorMode = 0;
+    p.Screen.Pointer = MousePointer::Default;
+}
+} // namespace
+
+void LeaveTools(Program& p)
+{
+    FinishGesture(p);
+    p.Form1->Picture1.ForeColor = p.Tools.ToolColour;
+    HideTools(p);
+    if (p.Branch.sDbaseName.isEmpty()) {
+        // The branch has been closed behind the tools: there is nothing left to be saved.
+        PutToolsDown(p);
+        return;
+    }
+    const Answer save =
+        p.Prompts.MsgBox(u"Closing Graphics Tools"_s, u"Save the Tree Graphic changes ?"_s, Buttons::InformationYesNo);
+    p.Screen.Pointer = MousePointer::Hourglass;
+    if (save == Answer::Yes)
+        SaveMap(p);
+    PutToolsDown(p);
+    ReadBackFromLists(p);
+    ReturnToRecord(p);
+}
+
+void LeaveToolsIfOpen(Program& p)
+{
+    if (p.Tools.ToolMode == ToolsOpen)
+        LeaveTools(p);
+}
+
+void ChooseExit(Program& p)
+{
+    p.Screen.Pointer = MousePointer::Hourglass;
+    SinkTool(p, &forms::Form1::Image8);
+    // So that the sunken button is seen before the question.
+    p.Loop.DoEvents();
+    // Unless a second press that was waiting has closed them meanwhile.
+    if (AreToolsShown(p))
+        LeaveTools(p);
+}
+
+void OpenEditingMenu(Program& p)
+{
+    if (p.Tools.ToolSel > ToolSelection::None) {
+        // A home without the picture costs the look of the button, not the map.
+        p.Errors.Ignoring(
+            [&] { p.Form1->Image8.Picture = p.Pictures.Load(p.Files, p.Branch.HomeDir + u"Save-Dwn.bmp"); });
+        LeaveTools(p);
+    }
+    ClearMapCursor(p);
+}
+
+} // namespace lineforge

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "program/Program.h"
+
+namespace lineforge
+{
+
+// Closes the drawing tools and asks whether to save. Yes writes the map file; No brings the map back as it stood at the
+// last save. Either way the map is read from its lists and painted afresh, and the record that was current when the
+// tools were opened is so again. Errors of the disk; the old file then stays.
+void LeaveTools(Program& p);
+
+// The same, when they are open at all.
+void LeaveToolsIfOpen(Program& p);
+
+// The button beside the tools.
+void ChooseExit(Program& p);
+
+// The menus Edit and Tree Graphics close the tools when one is in hand, and end a mapping.
+void OpenEditingMenu(Program& p);
+
+} // namespace lineforge

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "map/tools/Gesture.h"
+
+namespace lineforge
+{
+
+// Asks for a text and puts it a little above the press, in the colour of the dialog and the font of the picture. A
+// cancelled question leaves an empty text there.
+Pressed PlaceText(Program& p, const Pointing& pointing);
+
+// The text under the press, to be moved or deleted. It travels as a grey rectangle.
+Pressed TakeText(Program& p, const Pointing& pointing);
+void DragText(Program& p, const Pointing& pointing);
+Released DropText(Program& p);
+Released DeleteText(Program& p);
+
+// Looks for the first text whose hit area the last press lies in, rows 0 to `STexts`. `TextIdx` becomes its row, or the
+// row behind the last, and `TextMiss` tells which. With `STexts` 0 both stay as they were.
+void HitText(Program& p);
+
+} // namespace lineforge

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "map/MapDisplay.h"
+#include "program/WorkDatabase.h"
+#include "shell/handlers/Handlers.h"
+#include "support/BranchBuilder.h"
+#include "support/Pixels.h"
+#include "support/TestPlatform.h"
+
+namespace lineforge
+{
+
+// Another run of the program, on the branch of the first: what it paints owes nothing to what the first has drawn.
+class SecondProgram
+{
+public:
+    SecondProgram()
+    {
+        WriteAliasList(Machine.Home, {});
+        InstallHandlers(P);
+        P.Form1->Picture1.Font = {};
+    }
+
+    void Open(const QString& workDir)
+    {
+        P.Branch.HomeDir = P.ExecutableDirectory;
+        P.Branch.WorkDir = workDir;
+        OpenWorkDatabase(P);
+    }
+
+    // These arrays painted on blank paper.
+    QImage Painted(const MapState& map)
+    {
+        P.Map = map;
+        P.Form1->Picture1.Cls();
+        RedrawMap(P);
+        return ShownBy(P.Form1->Picture1).copy();
+    }
+
+    TestPlatform Machine;
+    Program P{Machine.Platform};
+};
+
+} // namespace lineforge
