@@ -2,6 +2,8 @@
 
 #include "shell/handlers/Handlers.h"
 
+#include <QPagedPaintDevice>
+
 namespace lineforge::bench
 {
 
@@ -10,7 +12,12 @@ Answer NoUser::MsgBox(const QString& title, const QString& text, Buttons)
     qFatal("unexpected box: %s / %s", qUtf8Printable(title), qUtf8Printable(text));
 }
 
-Machine::Machine(const QString& home) : P(Platform{windows_, user_, loop_, screen_, home})
+std::unique_ptr<QPagedPaintDevice> NoPrinter::NewJob(bool)
+{
+    throw RuntimeError(ErrorNumber::PrinterError);
+}
+
+Machine::Machine(const QString& home) : P(Platform{windows_, user_, loop_, screen_, clipboard_, printer_, home})
 {
     InstallHandlers(P);
     P.Branch.HomeDir = home;

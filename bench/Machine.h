@@ -27,6 +27,7 @@ public:
     std::optional<QString> OpenFile(const FileQuestion&) override { return {}; }
     std::optional<Colour> PickColour(Colour) override { return {}; }
     std::optional<TextFont> PickFont(const TextFont&) override { return {}; }
+    void PickPrinter() override {}
     void ShowHelp(const QString&) override {}
 };
 
@@ -34,7 +35,26 @@ class NoEvents : public EventLoop
 {
 public:
     void DoEvents() override {}
+    void PaintWindows() override {}
     [[noreturn]] void End(int) override { throw ProgramEnded(); }
+};
+
+class NoClipboard : public Clipboard
+{
+public:
+    void Clear() override {}
+    void SetText(const QString&) override {}
+    bool HasText() const override { return false; }
+    QString GetText() const override { return {}; }
+    void SetPicture(const QImage&) override {}
+    bool HasPicture() const override { return false; }
+    QImage GetPicture() const override { return {}; }
+};
+
+class NoPrinter : public PrintSystem
+{
+public:
+    std::unique_ptr<QPagedPaintDevice> NewJob(bool landscape) override;
 };
 
 // A program in that home with its main window loaded, and nobody before it.
@@ -48,6 +68,8 @@ private:
     NoUser user_;
     NoEvents loop_;
     Screen screen_{12000, 9000};
+    NoClipboard clipboard_;
+    NoPrinter printer_;
 
 public:
     Program P;

@@ -18,6 +18,9 @@ int main(int argc, char* argv[])
         {"a full map of 200 lines, 100 boxes and 200 texts drawn anew", "RedrawFullMap", "", 10.0},
         {"one move of a zone that holds all of these", "DragFullZone", "", 4.0},
         {"one move of a chain of 50 lines", "DragChain", "", 1.0},
+        {"a word that is in none of 100,000 records, by the engine's own comparison", "SearchWordWithoutHit",
+         "SearchWordBare", 1.5},
+        {"the text file of 100,000 records, by bare SQLite calls and one file", "WriteTextFile", "WriteTextBare", 2.0},
         {"start to a shown main window, by an empty window's", "StartLineforge", "StartEmpty", 1.5},
     });
     benchmark::RunSpecifiedBenchmarks(&reporter);

@@ -234,8 +234,8 @@ void EraseBoxCaption(Program& p)
     const bool isAlternate = p.Branch.UsingAlternate == 1;
     if (!isAlternate) {
         FindBoxOfRecord(p);
-        // Stops at the last box too, which therefore can't be erased this way; so it is meant to be.
-        if (p.Scratch.IdxA == LastFiledBox)
+        // A record without a box has no caption. The last box can't be erased this way either; so it is meant to be.
+        if (p.Scratch.IdxA >= LastFiledBox)
             return;
         FitForename(p);
     } else {

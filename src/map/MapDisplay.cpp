@@ -28,9 +28,7 @@ void RedrawMap(Program& p)
         DrawLine(p, row);
 
     Recordset& records = Records(p);
-    // Behind the last row there is nothing to come back to but what was remembered before.
-    if (records.HasRow())
-        p.Record.SavedBookmark = records.GetBookmark();
+    p.Record.SavedBookmark = records.HasRow() ? records.GetBookmark() : Bookmark();
     DrawRecordsInBoxes(p);
     DrawBoxCaptions(p);
     if (p.Record.SavedBookmark)

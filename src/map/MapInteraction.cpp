@@ -157,13 +157,6 @@ void ShowPressedSubject(Program& p)
     p.Form1->Image1.Visible = true;
     MarkSubject(p);
 }
-
-void LeaveOtherBranch(Program& p)
-{
-    ReturnFromSibling(p);
-    for (Button forms::Form3::*transport : forms::Form3::Transport)
-        ((*p.Form3).*transport).Enabled = true;
-}
 } // namespace
 
 void PressOnMap(Program& p, double x, double y)
@@ -208,7 +201,7 @@ void DoubleClickOnMap(Program& p)
         return;
     }
     if (p.Branch.UsingAlternate == 1)
-        LeaveOtherBranch(p);
+        ReturnFromSibling(p);
     if (TellIfNoBranch(p))
         return;
 

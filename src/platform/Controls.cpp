@@ -1,11 +1,12 @@
 #include "platform/Controls.h"
 
+#include <algorithm>
+
 namespace lineforge
 {
 
 Control::Control(Container& parent, QStringView name, Rectangle place)
-    : Name(name.toString()), Left(place.Left), Top(place.Top), Width(place.Width), Height(place.Height),
-      parent_(parent)
+    : Name(name.toString()), Left(place.Left), Top(place.Top), Width(place.Width), Height(place.Height), parent_(parent)
 {
     parent.controls_.push_back(this);
 }
@@ -24,6 +25,20 @@ Label::Label(Container& parent, QStringView name, Rectangle place, QStringView c
 TextBox::TextBox(Container& parent, QStringView name, Rectangle place, int maxLength)
     : ControlKind(parent, name, place), MaxLength(maxLength)
 {
+}
+
+void TextBox::ReplaceSelection(const QString& text)
+{
+    const QString before = Text;
+    const qsizetype start = std::clamp<qsizetype>(SelStart, 0, before.size());
+    const qsizetype rest = std::min(start + SelText.size(), before.size());
+    const qsizetype room =
+        MaxLength > 0 ? std::max<qsizetype>(0, MaxLength - (start + before.size() - rest)) : text.size();
+    const QString taken = text.left(room);
+    Text = QString(before.first(start) + taken + before.sliced(rest));
+    SelStart = static_cast<int>(start + taken.size());
+    SelText.clear();
+    Fire(CaretMoved);
 }
 
 Button::Button(Container& parent, QStringView name, Rectangle place, QStringView caption)

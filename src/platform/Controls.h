@@ -152,8 +152,15 @@ struct TextBox : ControlKind<TextBox> {
     ControlText Text;
     int MaxLength;          // characters, 0 for no limit
     char16_t AccessKey = 0; // with Alt it brings the focus here; 0 for none
-    QString SelText;        // what is selected on the screen
-    Event Click;            // the selection stands by then
+    // What is selected on the screen; its start is the caret when that is nothing.
+    int SelStart = 0;
+    QString SelText;
+    Event Click; // the selection stands by then
+
+    // Puts a text in the place of the selection, as much of it as the box takes, with the caret behind it.
+    void ReplaceSelection(const QString& text);
+    // Told when the program has moved the caret; set by whoever shows the box.
+    Event CaretMoved;
 };
 
 struct Button : ControlKind<Button> {
@@ -171,8 +178,8 @@ struct CheckBox : ControlKind<CheckBox> {
     Event Click;
 };
 
-// One of several choices in its container. On the screen a click switches it on and the others there off; a program that
-// sets `Value` sees to the others itself.
+// One of several choices in its container. On the screen a click switches it on and the others there off; a program
+// that sets `Value` sees to the others itself.
 struct OptionButton : ControlKind<OptionButton> {
     OptionButton(Container& parent, QStringView name, Rectangle place, QStringView caption);
     QProperty<QString> Caption;

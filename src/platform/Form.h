@@ -2,6 +2,7 @@
 
 #include "platform/Controls.h"
 
+#include <QImage>
 #include <QProperty>
 #include <QString>
 
@@ -34,11 +35,15 @@ struct Form : Container {
     bool Frameless = false;
     std::vector<MenuItem*> Menus;
 
-    Event Load;         // once, when the window has been made
-    Event Unloading;    // it is about to go
-    Event Click;        // on the bare window
-    Event CloseByFrame; // unloads it; set by whoever owns the window
-    Event ToFront;      // brings it before the others; set by whoever shows the window
+    Event Load;                   // once, when the window has been made
+    Event Unloading;              // it is about to go
+    Event Click;                  // on the bare window
+    Event CloseByFrame;           // unloads it; set by whoever owns the window
+    Event ToFront;                // brings it before the others; set by whoever shows the window
+    std::function<QImage()> Grab; // what it shows below its menus; set by whoever shows the window
+
+    // What it shows below its menus; null while it isn't shown.
+    QImage Picture() const { return Grab ? Grab() : QImage(); }
 
     // On the screen and before the other windows, also when it has been on the screen already.
     void Show()

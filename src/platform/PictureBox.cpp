@@ -14,6 +14,11 @@ namespace lineforge
 
 namespace
 {
+constexpr double twipsAMeter = 1440 / 0.0254;
+constexpr int dotsAMeter = static_cast<int>(twipsAMeter / PictureBox::TwipsPerPixel);
+// Of a picture that doesn't tell.
+constexpr int screenDotsAMeter = static_cast<int>(twipsAMeter / 15);
+
 // With an exclusive-or pen a painter shares out more rows than these among threads, and waiting for them takes tens of
 // times as long as the drawing.
 constexpr int fewRows = 90;
@@ -128,6 +133,27 @@ int PictureBox::TextWidth(const QString& text) const
 int PictureBox::TextHeight(const QString&) const
 {
     return QFontMetrics(ToPixelFont(Font)).height() * TwipsPerPixel;
+}
+
+QImage PictureBox::Image() const
+{
+    QImage image = drawing_;
+    if (image.isNull()) {
+        image = QImage(ToPixel(Width), ToPixel(Height), QImage::Format_RGB32);
+        image.fill(ToQColor(BackColor));
+    }
+    image.setDotsPerMeterX(dotsAMeter);
+    image.setDotsPerMeterY(dotsAMeter);
+    return image;
+}
+
+void PictureBox::ShowPicture(const QImage& picture)
+{
+    Cls();
+    const double scale = 1.0 * dotsAMeter / (picture.dotsPerMeterX() > 0 ? picture.dotsPerMeterX() : screenDotsAMeter);
+    const QSizeF size = QSizeF(picture.size()) * scale;
+    QPainter(&Ground()).drawImage(QRectF(QPointF(), size), picture);
+    Tell(drawing_.rect());
 }
 
 void PictureBox::Cls()

@@ -39,6 +39,11 @@ public:
     // Wipes the drawing, and sets the current position to the top left.
     void Cls();
 
+    // What it shows, as an image of the size that its dots tell.
+    QImage Image() const;
+    // Wipes the drawing and puts a picture in its top left, in the size that its dots tell.
+    void ShowPicture(const QImage& picture);
+
     // The drawing; null while nothing has been drawn yet, which looks like an image of `BackColor` alone.
     const QImage& Drawing() const { return drawing_; }
 

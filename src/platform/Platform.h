@@ -1,6 +1,8 @@
 #pragma once
 
+#include "platform/Clipboard.h"
 #include "platform/Geometry.h"
+#include "platform/Printer.h"
 #include "platform/Prompts.h"
 #include "platform/Window.h"
 
@@ -34,6 +36,8 @@ public:
     virtual ~EventLoop() = default;
     // Serves the events that wait, and returns; ProgramEnded when one of them ended the program.
     virtual void DoEvents() = 0;
+    // Lets the windows paint themselves, and serves nothing else: no user, no timer.
+    virtual void PaintWindows() = 0;
     // Ends the program with that exit code: leaves by ProgramEnded.
     [[noreturn]] virtual void End(int exitCode) = 0;
 };
@@ -44,6 +48,8 @@ struct Platform {
     lineforge::Prompts& Prompts;
     lineforge::EventLoop& Loop;
     lineforge::Screen& Screen;
+    lineforge::Clipboard& Clipboard;
+    lineforge::PrintSystem& PrintSystem;
     QString ExecutableDirectory; // with a trailing separator
 };
 

@@ -44,6 +44,8 @@ public:
     virtual std::optional<Colour> PickColour(Colour present) = 0;
     // The font chosen, nothing for Cancel. The dialog opens on the present one.
     virtual std::optional<TextFont> PickFont(const TextFont& present) = 0;
+    // Which printer, or file, print jobs go to from now on.
+    virtual void PickPrinter() = 0;
     // Opens the help file on its contents page.
     virtual void ShowHelp(const QString& helpFile) = 0;
 };

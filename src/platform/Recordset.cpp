@@ -249,7 +249,11 @@ const std::vector<FieldValue>& Recordset::Row() const
 
 FieldValue Recordset::Value(QStringView field) const
 {
-    const int column = Column(field);
+    return ValueOf(Column(field));
+}
+
+FieldValue Recordset::ValueOf(int column) const
+{
     if (pending_ != Pending::None) {
         if (const auto edit = edits_.find(column); edit != edits_.end())
             return edit->second;
@@ -273,6 +277,19 @@ bool Recordset::FieldIs(QStringView field, const QString& value) const
     }
     const FieldValue current = Value(field);
     return current && SameText(*current, value);
+}
+
+bool Recordset::IsLike(int column, const LikePattern& pattern) const
+{
+    if (pending_ == Pending::None) {
+        RequireCurrentRow();
+        if (const int walked = WalkColumn(column); walked >= 0) {
+            const QByteArrayView text = walk_->Text(walked);
+            return !text.isNull() && pattern.Matches(text);
+        }
+    }
+    const FieldValue current = ValueOf(column);
+    return current && pattern.Matches(*current);
 }
 
 void Recordset::Edit()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Database.h"
+#include "platform/Like.h"
 
 #include <QHash>
 #include <QString>
@@ -56,6 +57,11 @@ public:
     // Whether the field holds that text, case ignored; false for Null. Cheaper than `Value` during a walk.
     bool FieldIs(QStringView field, const QString& value) const;
 
+    // The place of a field in the table, for walks that look at many fields of every row.
+    int Column(QStringView field) const;
+    // Whether the field at that place fits the pattern; false for Null.
+    bool IsLike(int column, const LikePattern& pattern) const;
+
     void Edit();
     void AddNew();
     void Put(QStringView field, const FieldValue& value);
@@ -85,11 +91,11 @@ private:
     enum class Pending { None, Edit, Addition };
     using ColumnSet = std::uint64_t;
 
-    int Column(QStringView field) const;
     bool InRowSet(std::int64_t row) const;
     void StandOn(std::int64_t row);
     void StandAtEnd(bool& end);
     void RequireCurrentRow() const;
+    FieldValue ValueOf(int column) const;
     bool FindRow(Statement& rows);
     bool StepWalk();
     void RestartWalk();

@@ -56,12 +56,25 @@ bool TextReader::SkipPast(QStringView name)
     return matched == name.size();
 }
 
+TextWriter::TextWriter(const FileSystem& files, const QString& path) : files_(files), path_(files.Resolve(path)) {}
+
+void TextWriter::Line(QStringView text)
+{
+    bytes_ += text.toUtf8();
+    bytes_ += "\r\n";
+}
+
+void TextWriter::Close()
+{
+    files_.Replace(path_, bytes_);
+}
+
 void WriteTextLines(const FileSystem& files, const QString& path, const QStringList& lines)
 {
-    QString text;
+    TextWriter file(files, path);
     for (const QString& line : lines)
-        text += line + u"\r\n"_s;
-    files.Replace(path, text.toUtf8());
+        file.Line(line);
+    file.Close();
 }
 
 } // namespace lineforge

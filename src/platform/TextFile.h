@@ -34,6 +34,23 @@ private:
 // The text that bytes of a file stand for, by the rule of TextReader.
 QString DecodeText(const QByteArray& bytes);
 
+// A text file that is written line by line, UTF-8, with carriage return and line feed after each. It takes its place
+// when it is closed, whole; without that there is no file.
+class TextWriter
+{
+public:
+    TextWriter(const FileSystem& files, const QString& path);
+
+    void Line(QStringView text);
+    // Errors of the disk; what stood there then stays.
+    void Close();
+
+private:
+    const FileSystem& files_;
+    QString path_;
+    QByteArray bytes_;
+};
+
 // Writes the lines with carriage return and line feed after each, UTF-8, in place of the file.
 void WriteTextLines(const FileSystem& files, const QString& path, const QStringList& lines);
 

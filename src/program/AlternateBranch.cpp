@@ -51,6 +51,13 @@ void ReturnFromSibling(Program& p)
     p.Branch.HomeDir = p.Branch.HomeDirSaved;
     OpenWorkDatabase(p);
     p.Branch.UsingAlternate = 0;
+    EnableScanner(p);
+}
+
+void EnableScanner(Program& p)
+{
+    for (Button forms::Form3::*transport : forms::Form3::Transport)
+        ((*p.Form3).*transport).Enabled = true;
 }
 
 } // namespace lineforge

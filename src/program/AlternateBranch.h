@@ -20,4 +20,7 @@ void SwitchToSibling(Program& p, QStringView letter);
 // Back to the branch whose map is shown.
 void ReturnFromSibling(Program& p);
 
+// The record scanner walks the open branch again.
+void EnableScanner(Program& p);
+
 } // namespace lineforge

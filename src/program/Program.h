@@ -17,6 +17,7 @@
 #include "platform/Platform.h"
 #include "platform/Recordset.h"
 #include "platform/RuntimeError.h"
+#include "platform/TextFile.h"
 #include "program/MapState.h"
 #include "program/ToolState.h"
 
@@ -80,13 +81,16 @@ struct GalleryState {
 };
 
 struct BookmarkState {
-    FixedArray<QString, 0, 100> BookmarkList;
+    static constexpr int Last = 100;
+    FixedArray<QString, 0, Last> BookmarkList; // numbers of records; the first empty one ends them
     Integer16 BookmarkCount;
 };
 
 struct OutputState {
-    Integer16 PrintToPrinter; // 1: the map's draw routines write to the page instead of the picture
-    Surface* Page = nullptr;  // the printer's page while that is so
+    Integer16 PrintToPrinter;             // 1: the map's draw routines write to the page instead of the picture
+    Surface* Page = nullptr;              // the printer's page while that is so
+    Integer16 OutputMode;                 // where records are being put out to, see output/OutputMode.h
+    std::unique_ptr<TextWriter> TextFile; // the one that is open for output
 };
 
 // Shared by all routines. They carry no state between commands, but some routines read what a called one left there.
@@ -108,6 +112,8 @@ struct Program {
     lineforge::Prompts& Prompts;
     EventLoop& Loop;
     lineforge::Screen& Screen;
+    lineforge::Clipboard& Clipboard;
+    lineforge::Printer Printer;
     QString ExecutableDirectory;
     FileSystem Files;
     lineforge::Databases Databases;

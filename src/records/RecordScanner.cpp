@@ -3,6 +3,7 @@
 #include "map/CurrentBox.h"
 #include "map/SubjectPanel.h"
 #include "program/WorkDatabase.h"
+#include "records/RecordPicture.h"
 
 namespace lineforge
 {
@@ -113,19 +114,6 @@ void EndScan(Program& p, ScanMode mode, Step step)
     p.Files.ChDir(p.Branch.WorkDir);
     ShowOnMap(p);
 }
-
-// A picture that isn't there leaves none, and the scan goes on.
-void ShowPassingPicture(Program& p)
-{
-    p.Record.sCurFile = p.Form3->Label25.Caption;
-    p.Record.sPicSuffix = u"Sub.jpg"_s;
-    p.Record.sPicFile = p.Record.sCurFile + p.Record.sPicSuffix;
-    try {
-        LoadSubjectPicture(p, p.Form3->Image1);
-    } catch (const RuntimeError&) {
-        p.Form3->Image1.Picture = QImage();
-    }
-}
 } // namespace
 
 void StartScan(Program& p, ScanMode mode)
@@ -159,7 +147,7 @@ void TickScan(Program& p)
 
     const Step step = MoveOn(Records(p), IsForward(mode));
     if (step == Step::Moved)
-        ShowPassingPicture(p);
+        ShowRecordPicture(p);
     else
         EndScan(p, mode, step);
 }

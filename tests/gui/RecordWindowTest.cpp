@@ -83,6 +83,7 @@ protected:
     TemporaryHome Home;
     ScriptedPrompts Prompts;
     Platform Bundle{Machine().Bundle().Windows, Prompts, Machine().Bundle().Loop, Machine().Bundle().Screen,
+                    Machine().Bundle().Clipboard, Machine().Bundle().PrintSystem,
                     Home.Path() + PathSeparator};
     Program P{Bundle};
 };

@@ -41,6 +41,7 @@ public:
         return fonts[random_() % 4];
     }
     std::optional<QString> OpenFile(const FileQuestion&) override { return {}; }
+    void PickPrinter() override { ADD_FAILURE() << "no printer is to be chosen"; }
     void ShowHelp(const QString&) override {}
 
     Answer SaveAnswer = Answer::No;
@@ -279,7 +280,9 @@ protected:
     FakeEventLoop loop_;
     lineforge::Screen screen_{12000, 9000};
     AnsweringPrompts prompts_{random_};
-    Platform platform_{windows_, prompts_, loop_, screen_, home_.Path() + PathSeparator};
+    FakeClipboard clipboard_;
+    PdfPrinter printer_;
+    Platform platform_{windows_, prompts_, loop_, screen_, clipboard_, printer_, home_.Path() + PathSeparator};
     Program P{platform_};
     Program Reader{platform_};
     QString workDir_;

@@ -18,9 +18,11 @@ public:
     void AtNextYield(std::function<void()> action);
 
     void DoEvents() override;
+    void PaintWindows() override { ++Paintings; }
     [[noreturn]] void End(int exitCode) override;
 
     int Yields = 0;
+    int Paintings = 0;
     std::optional<int> ExitCode; // once the program has ended
 
 private:

@@ -39,6 +39,8 @@ QString FontQuestion(const TextFont& present)
     return u"font, present \"%1\" %2%3"_s.arg(present.Name, QString::number(present.Size), style);
 }
 
+const QString printerQuestion = QStringLiteral("printer set-up");
+
 QString HelpQuestion(QStringView helpFile)
 {
     return u"help file \"%1\""_s.arg(helpFile);
@@ -87,6 +89,11 @@ void ScriptedPrompts::ExpectFont(const TextFont& present, std::optional<TextFont
 void ScriptedPrompts::ExpectHelp(QStringView helpFile, WhileOpen whileOpen, ScriptPlace place)
 {
     Add({HelpQuestion(helpFile), Answer::Ok, {}, std::move(whileOpen), place});
+}
+
+void ScriptedPrompts::ExpectPrinterSetup(WhileOpen whileOpen, ScriptPlace place)
+{
+    Add({printerQuestion, Answer::Ok, {}, std::move(whileOpen), place});
 }
 
 void ScriptedPrompts::Verify()
@@ -138,6 +145,11 @@ std::optional<Colour> ScriptedPrompts::PickColour(Colour present)
 std::optional<TextFont> ScriptedPrompts::PickFont(const TextFont& present)
 {
     return Next(FontQuestion(present)).PickedFont;
+}
+
+void ScriptedPrompts::PickPrinter()
+{
+    Next(printerQuestion);
 }
 
 void ScriptedPrompts::ShowHelp(const QString& helpFile)

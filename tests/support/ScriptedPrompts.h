@@ -49,6 +49,7 @@ public:
                       ScriptPlace place = ScriptPlace::Here());
     void ExpectFont(const TextFont& present, std::optional<TextFont> answer = {}, WhileOpen whileOpen = {},
                     ScriptPlace place = ScriptPlace::Here());
+    void ExpectPrinterSetup(WhileOpen whileOpen = {}, ScriptPlace place = ScriptPlace::Here());
     void ExpectHelp(QStringView helpFile, WhileOpen whileOpen = {}, ScriptPlace place = ScriptPlace::Here());
 
     // Fails the test for every entry still unused, and forgets them. The destructor does it as well.
@@ -60,6 +61,7 @@ public:
     std::optional<QString> OpenFile(const FileQuestion& question) override;
     std::optional<Colour> PickColour(Colour present) override;
     std::optional<TextFont> PickFont(const TextFont& present) override;
+    void PickPrinter() override;
     void ShowHelp(const QString& helpFile) override;
 
 private:

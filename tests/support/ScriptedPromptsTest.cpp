@@ -40,6 +40,7 @@ TEST_F(ScriptedPromptsTest, ScriptedQuestions_GetTheirAnswers_InOrder)
     prompts.ExpectColour(White);
     prompts.ExpectFont({u"Arial"_s, 8}, TextFont{u"Courier"_s, 10.5, true, true});
     prompts.ExpectFont({u"Arial"_s, 8, true});
+    prompts.ExpectPrinterSetup();
     prompts.ExpectHelp(u"LfgHelp.hlp");
     prompts.Expect(u"Done", u"", Buttons::Information);
 
@@ -51,6 +52,7 @@ TEST_F(ScriptedPromptsTest, ScriptedQuestions_GetTheirAnswers_InOrder)
     EXPECT_EQ(prompts.PickColour(White), std::nullopt);
     EXPECT_EQ(prompts.PickFont({u"Arial"_s, 8}), (TextFont{u"Courier"_s, 10.5, true, true}));
     EXPECT_EQ(prompts.PickFont({u"Arial"_s, 8, true}), std::nullopt);
+    prompts.PickPrinter();
     prompts.ShowHelp(u"LfgHelp.hlp"_s);
     EXPECT_FALSE(prompts.IsUsedUp());
     EXPECT_EQ(prompts.MsgBox(u"Done"_s, QString(), Buttons::Information), Answer::Ok);
@@ -68,6 +70,8 @@ TEST_F(ScriptedPromptsTest, QuestionWithoutScript_FailsTheTest_AndLeavesTheRouti
     EXPECT_NONFATAL_FAILURE(AskInVain([&] { prompts.PickColour(Rgb(0xab, 0, 0)); }), "colour, present 0000ab");
     EXPECT_TRUE(wasLeft);
     EXPECT_NONFATAL_FAILURE(AskInVain([&] { prompts.PickFont({u"Arial"_s, 8.5}); }), "font, present \"Arial\" 8.5");
+    EXPECT_TRUE(wasLeft);
+    EXPECT_NONFATAL_FAILURE(AskInVain([&] { prompts.PickPrinter(); }), "printer set-up");
     EXPECT_TRUE(wasLeft);
     EXPECT_NONFATAL_FAILURE(AskInVain([&] { prompts.ShowHelp(u"x.hlp"_s); }), "x.hlp");
     EXPECT_TRUE(wasLeft);
@@ -109,16 +113,18 @@ TEST_F(ScriptedPromptsTest, DialogThatOpensOnAnotherColourOrFont_Fails_AndLeaves
     }
 }
 
-TEST_F(ScriptedPromptsTest, WhileAColourOrFontIsPicked_TheTestMayAct)
+TEST_F(ScriptedPromptsTest, WhileAColourFontOrPrinterIsPicked_TheTestMayAct)
 {
     int acts = 0;
     prompts.ExpectColour(Black, {}, [&acts] { ++acts; });
     prompts.ExpectFont({}, {}, [&acts] { ++acts; });
+    prompts.ExpectPrinterSetup([&acts] { ++acts; });
 
     prompts.PickColour(Black);
     prompts.PickFont({});
+    prompts.PickPrinter();
 
-    EXPECT_EQ(acts, 2);
+    EXPECT_EQ(acts, 3);
 }
 
 TEST_F(ScriptedPromptsTest, UnusedEntry_FailsTheTest_AtTheLatestInTheEnd)

@@ -2,8 +2,10 @@
 
 #include "platform/FileSystem.h"
 #include "platform/Platform.h"
+#include "support/FakeClipboard.h"
 #include "support/FakeEventLoop.h"
 #include "support/FakeWindows.h"
+#include "support/PdfPrinter.h"
 #include "support/Printing.h"
 #include "support/Refusal.h"
 #include "support/ScriptedPrompts.h"
@@ -19,7 +21,9 @@ struct TestPlatform {
     ScriptedPrompts Prompts;
     FakeEventLoop Loop;
     lineforge::Screen Screen{12000, 9000};
-    lineforge::Platform Platform{Windows, Prompts, Loop, Screen, Home.Path() + PathSeparator};
+    FakeClipboard Clipboard;
+    PdfPrinter Printer;
+    lineforge::Platform Platform{Windows, Prompts, Loop, Screen, Clipboard, Printer, Home.Path() + PathSeparator};
 };
 
 } // namespace lineforge

@@ -76,6 +76,21 @@ QRect PlaceInMenu(Tour& tour, const ScreenWindow& popup, const MenuItem& menu, c
     return QRect(inside.x(), inside.y() + row.First, inside.width(), row.Length());
 }
 
+void Choose(Tour& tour, const MenuItem& menu, const MenuItem& submenu, const MenuItem& entry)
+{
+    const ScreenWindow popup = OpenMenu(tour, menu);
+    tour.Hands.Click(PlaceInMenu(tour, popup, menu, submenu).center());
+    std::optional<ScreenWindow> inner;
+    tour.Await(u"the menu \"%1\""_s.arg(Plain(submenu)), [&] {
+        for (const ScreenWindow& window : tour.Screen.Popups())
+            if (window.Id != popup.Id && RowsOf(tour, window).size() == submenu.Items.size())
+                inner = window;
+        return inner.has_value();
+    });
+    tour.Hands.Click(PlaceInMenu(tour, *inner, submenu, entry).center());
+    tour.AwaitGone(popup);
+}
+
 void Choose(Tour& tour, const MenuItem& menu, const MenuItem& entry)
 {
     const ScreenWindow popup = OpenMenu(tour, menu);

@@ -14,6 +14,9 @@ QRect PlaceInMenu(Tour& tour, const ScreenWindow& popup, const MenuItem& menu, c
 // Opens the menu and clicks the entry; the menu is gone afterwards.
 void Choose(Tour& tour, const MenuItem& menu, const MenuItem& entry);
 
+// The same for an entry of a menu that opens out of an entry.
+void Choose(Tour& tour, const MenuItem& menu, const MenuItem& submenu, const MenuItem& entry);
+
 // Waits for a menu that something else has opened.
 ScreenWindow AwaitMenu(Tour& tour, const MenuItem& menu);
 

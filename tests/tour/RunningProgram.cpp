@@ -2,6 +2,7 @@
 
 #include "Failure.h"
 
+#include <QDir>
 #include <QProcessEnvironment>
 
 namespace lineforge::tour
@@ -21,6 +22,10 @@ QProcessEnvironment Environment(const ScratchHome& home)
         environment.remove(name);
     environment.insert(u"QT_QPA_PLATFORM"_s, u"xcb"_s);
     environment.insert(u"XDG_CONFIG_HOME"_s, home.SettingsDirectory());
+    // What is printed to a file goes to the user's home; the fonts' cache stays where it is.
+    if (!environment.contains(u"XDG_CACHE_HOME"_s))
+        environment.insert(u"XDG_CACHE_HOME"_s, QDir::homePath() + u"/.cache");
+    environment.insert(u"HOME"_s, home.SettingsDirectory());
     return environment;
 }
 } // namespace

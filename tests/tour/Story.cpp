@@ -55,9 +55,10 @@ Steps WholeStory()
 {
     Steps story;
     for (const auto& stop :
-         {SplashStop, EmptyWindowStop, OpenStop, ScrollStop, CoordinatesStop, SubjectsStop, RecordsStop, ScannerStop,
-          LineageStop, NewBranchStop, DrawTreeStop, MapSubjectsStop, DuplicateNameStop, OpenOtherStop, HelpStop,
-          CloseBranchStop, ChangeDirectoryStop, ExitStop, WithoutSplashStop})
+         {SplashStop,      EmptyWindowStop,     OpenStop,        ScrollStop,        CoordinatesStop, SubjectsStop,
+          RecordsStop,     ScannerStop,         SearchStop,      AddRecordStop,     OutputStop,      LineageStop,
+          NewBranchStop,   DrawTreeStop,        MapSubjectsStop, DuplicateNameStop, OpenOtherStop,   HelpStop,
+          CloseBranchStop, ChangeDirectoryStop, ExitStop,        WithoutSplashStop})
         for (Step& step : stop())
             story.push_back(std::move(step));
     return story;

@@ -24,6 +24,15 @@ void QtEventLoop::DoEvents()
     ThrowIfEnded();
 }
 
+// What a window has shown before it paints again, whatever has covered it meanwhile; no event of the user or of a timer
+// is taken from its queue.
+void QtEventLoop::PaintWindows()
+{
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible())
+            window->repaint();
+}
+
 void QtEventLoop::End(int exitCode)
 {
     ended_ = true;

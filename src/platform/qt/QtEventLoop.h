@@ -9,6 +9,7 @@ class QtEventLoop : public EventLoop
 {
 public:
     void DoEvents() override;
+    void PaintWindows() override;
     // Takes all boxes that wait for an answer down, so that whoever opened them is come back to and unwinds as well.
     [[noreturn]] void End(int exitCode) override;
 

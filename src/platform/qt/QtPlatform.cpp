@@ -45,7 +45,7 @@ Screen MakeScreen(const Scale& scale)
 
 QtPlatform::QtPlatform(Size mainWindow, std::function<QString()> currentDirectory)
     : scale_(ScaleFor(mainWindow)), screen_(MakeScreen(scale_)), pointer_(screen_),
-      prompts_(loop_, std::move(currentDirectory)), windows_(scale_, media_)
+      prompts_(loop_, printers_, std::move(currentDirectory)), windows_(scale_, media_)
 {
     QApplication::setFont(UsualFont(scale_));
     QApplication::setQuitOnLastWindowClosed(false);
@@ -53,7 +53,13 @@ QtPlatform::QtPlatform(Size mainWindow, std::function<QString()> currentDirector
 
 Platform QtPlatform::Bundle()
 {
-    return {windows_, prompts_, loop_, screen_, QDir::cleanPath(QCoreApplication::applicationDirPath()) + u'/'};
+    return {windows_,
+            prompts_,
+            loop_,
+            screen_,
+            clipboard_,
+            printers_,
+            QDir::cleanPath(QCoreApplication::applicationDirPath()) + u'/'};
 }
 
 } // namespace lineforge

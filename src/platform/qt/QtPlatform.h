@@ -1,8 +1,10 @@
 #pragma once
 
 #include "platform/Platform.h"
+#include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtEventLoop.h"
 #include "platform/qt/QtMedia.h"
+#include "platform/qt/QtPrintSystem.h"
 #include "platform/qt/QtPrompts.h"
 #include "platform/qt/QtWindows.h"
 #include "platform/qt/ScreenPointer.h"
@@ -27,6 +29,7 @@ public:
 
     QtWindows& Windows() { return windows_; }
     QtEventLoop& Loop() { return loop_; }
+    QtPrintSystem& Printers() { return printers_; }
     const Scale& PixelScale() const { return scale_; }
 
 private:
@@ -35,6 +38,8 @@ private:
     ScreenPointer pointer_;
     QtMedia media_;
     QtEventLoop loop_;
+    QtClipboard clipboard_;
+    QtPrintSystem printers_;
     QtPrompts prompts_;
     QtWindows windows_;
 };

@@ -4,6 +4,7 @@
 #include "platform/qt/FileFilters.h"
 #include "platform/qt/HelpWindow.h"
 #include "platform/qt/QtEventLoop.h"
+#include "platform/qt/QtPrintSystem.h"
 #include "platform/qt/ScreenPointer.h"
 
 #include <QApplication>
@@ -99,8 +100,8 @@ TextFont ChosenFont(const TextFont& present, const QFont& shown, const QFont& ch
 }
 } // namespace
 
-QtPrompts::QtPrompts(const QtEventLoop& loop, std::function<QString()> currentDirectory)
-    : loop_(loop), currentDirectory_(std::move(currentDirectory))
+QtPrompts::QtPrompts(const QtEventLoop& loop, QtPrintSystem& printers, std::function<QString()> currentDirectory)
+    : loop_(loop), printers_(printers), currentDirectory_(std::move(currentDirectory))
 {
 }
 
@@ -177,6 +178,14 @@ std::optional<TextFont> QtPrompts::PickFont(const TextFont& present)
     if (!chosen)
         return std::nullopt;
     return ChosenFont(present, shown, box.selectedFont());
+}
+
+void QtPrompts::PickPrinter()
+{
+    loop_.ThrowIfEnded();
+    const ArrowMeanwhile arrow;
+    printers_.Choose(QApplication::activeWindow());
+    loop_.ThrowIfEnded();
 }
 
 void QtPrompts::ShowHelp(const QString& helpFile)

@@ -10,13 +10,14 @@ namespace lineforge
 
 class HelpWindow;
 class QtEventLoop;
+class QtPrintSystem;
 
 // Asks the user with boxes above the active window. Each throws ProgramEnded when the program has been told to end
 // while it was open, or before.
 class QtPrompts : public Prompts
 {
 public:
-    QtPrompts(const QtEventLoop& loop, std::function<QString()> currentDirectory);
+    QtPrompts(const QtEventLoop& loop, QtPrintSystem& printers, std::function<QString()> currentDirectory);
     ~QtPrompts() override;
 
     Answer MsgBox(const QString& title, const QString& text, Buttons buttons) override;
@@ -24,10 +25,12 @@ public:
     std::optional<QString> OpenFile(const FileQuestion& question) override;
     std::optional<Colour> PickColour(Colour present) override;
     std::optional<TextFont> PickFont(const TextFont& present) override;
+    void PickPrinter() override;
     void ShowHelp(const QString& helpFile) override;
 
 private:
     const QtEventLoop& loop_;
+    QtPrintSystem& printers_;
     std::function<QString()> currentDirectory_;
     std::unique_ptr<HelpWindow> help_;
 };

@@ -1,8 +1,8 @@
 #include "platform/qt/QtWindows.h"
 
 #include "platform/DataControl.h"
-#include "platform/qt/QtMedia.h"
 #include "platform/qt/Bindings.h"
+#include "platform/qt/QtMedia.h"
 #include "platform/qt/WindowView.h"
 
 #include <QThread>
@@ -42,6 +42,9 @@ public:
     {
         Serve(form);
         visible_ = form.Visible.addNotifier([this] { FollowVisible(); });
+        form_.Grab = [this, gate = gate_] {
+            return gate->IsOpen() && form_.Visible ? view_->centralWidget()->grab().toImage() : QImage();
+        };
         form_.ToFront = [this, gate = gate_] {
             if (gate->IsOpen() && view_)
                 view_->Appear();

@@ -27,7 +27,26 @@ void TextView::Show(const QString& text)
 QString TextView::SelectedText() const
 {
     QString text = textCursor().selectedText();
-    return text.replace(QChar::ParagraphSeparator, u'\n');
+    text.replace(QChar::LineSeparator, QChar::ParagraphSeparator);
+    return text.replace(QChar::ParagraphSeparator, hasCarriageReturns_ ? u"\r\n"_s : u"\n"_s);
+}
+
+int TextView::SelectionStart() const
+{
+    const int start = textCursor().selectionStart();
+    const qsizetype breaks = hasCarriageReturns_ ? toPlainText().left(start).count(u'\n') : 0;
+    return start + static_cast<int>(breaks);
+}
+
+void TextView::SetCaret(int position)
+{
+    int own = position;
+    if (hasCarriageReturns_)
+        while (own > 0 && own + toPlainText().left(own).count(u'\n') > position)
+            --own;
+    QTextCursor cursor = textCursor();
+    cursor.setPosition(std::min(own, static_cast<int>(toPlainText().size())));
+    setTextCursor(cursor);
 }
 
 // The text is kept with the line ends that it came with.

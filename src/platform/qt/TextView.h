@@ -17,7 +17,10 @@ public:
     // Shows a text without calling that an edit.
     void Show(const QString& text);
 
+    // In the text as it was shown, with its own line ends.
     QString SelectedText() const;
+    int SelectionStart() const;
+    void SetCaret(int position);
 
     // The text as it stands, after the user has changed it.
     std::function<void(const QString& text)> Edited;

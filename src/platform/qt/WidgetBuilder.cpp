@@ -213,10 +213,18 @@ void WidgetBuilder::VisitLine(TextBox& box)
     QObject::connect(line, &QLineEdit::textEdited, line,
                      [gate = gate_, &box](const QString& typed) { gate->Run([&box, typed] { box.Text = typed; }); });
     new ClickWatcher(line, [gate = gate_, &box] { gate->Run(box.Click); });
-    QObject::connect(line, &QLineEdit::selectionChanged, line, [gate = gate_, line, &box] {
+    const auto keepSelection = [gate = gate_, line, &box] {
+        if (!gate->IsOpen())
+            return;
+        box.SelText = line->selectedText();
+        box.SelStart = line->hasSelectedText() ? line->selectionStart() : line->cursorPosition();
+    };
+    QObject::connect(line, &QLineEdit::selectionChanged, line, keepSelection);
+    QObject::connect(line, &QLineEdit::cursorPositionChanged, line, keepSelection);
+    box.CaretMoved = [gate = gate_, line, &box] {
         if (gate->IsOpen())
-            box.SelText = line->selectedText();
-    });
+            line->setCursorPosition(box.SelStart);
+    };
     NameForReaders(line, box);
     Dress(line, box);
     AddAccessKey(line, box);
@@ -225,13 +233,25 @@ void WidgetBuilder::VisitLine(TextBox& box)
 void WidgetBuilder::VisitLines(TextBox& box)
 {
     auto* lines = new TextView(parent_, box.MaxLength);
-    bindings_.Follow(box.Text, [lines, &box] { lines->Show(box.Text.Shown()); });
     lines->Edited = [gate = gate_, &box](const QString& typed) { gate->Run([&box, typed] { box.Text = typed; }); };
     new ClickWatcher(lines->viewport(), [gate = gate_, &box] { gate->Run(box.Click); });
-    QObject::connect(lines, &TextView::selectionChanged, lines, [gate = gate_, lines, &box] {
-        if (gate->IsOpen())
-            box.SelText = lines->SelectedText();
+    const auto keepSelection = [gate = gate_, lines, &box] {
+        if (!gate->IsOpen())
+            return;
+        box.SelText = lines->SelectedText();
+        box.SelStart = lines->SelectionStart();
+    };
+    // Showing a text is no event of the widget's, but it moves the caret.
+    bindings_.Follow(box.Text, [lines, &box, keepSelection] {
+        lines->Show(box.Text.Shown());
+        keepSelection();
     });
+    QObject::connect(lines, &TextView::selectionChanged, lines, keepSelection);
+    QObject::connect(lines, &TextView::cursorPositionChanged, lines, keepSelection);
+    box.CaretMoved = [gate = gate_, lines, &box] {
+        if (gate->IsOpen())
+            lines->SetCaret(box.SelStart);
+    };
     NameForReaders(lines, box);
     Dress(lines, box);
     AddAccessKey(lines, box);

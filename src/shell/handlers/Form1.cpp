@@ -1,9 +1,13 @@
 #include "map/LineageMarks.h"
+#include "map/MapClipboard.h"
 #include "map/MapInteraction.h"
 #include "map/SubjectMapping.h"
 #include "map/tools/LeaveTools.h"
 #include "map/tools/ToolButtons.h"
 #include "map/tools/ToolMouse.h"
+#include "output/BookmarkList.h"
+#include "output/PrintBranch.h"
+#include "output/TextReport.h"
 #include "program/BranchUi.h"
 #include "records/RecordForm.h"
 #include "shell/CloseBranch.h"
@@ -23,6 +27,19 @@ void OpenFileOrHelpMenu(Program& p)
 {
     p.form9.Unload();
     ClearMapCursor(p);
+}
+
+void InstallOutput(Program& p, forms::Form1& form)
+{
+    form.mnuAddBkMark.Click = [&p] { AddBookmark(p); };
+    form.mnuClrList.Click = [&p] { ClearBookmarks(p); };
+    form.mnuPrinterSetUp.Click = [&p] { SetUpPrinter(p); };
+    form.mnuPrint.Click = [&p] { PrintMap(p); };
+    form.mnuPrintPage.Click = [&p] { PrintMainWindow(p); };
+    form.mnuPrintRecord.Click = [&p] { PrintCurrentRecord(p); };
+    form.mnuPrinList.Click = [&p] { PrintBookmarks(p); };
+    form.mnuTxtFileList.Click = [&p] { WriteBookmarksText(p); };
+    form.mnuTxtDBase.Click = [&p] { WriteDatabaseText(p); };
 }
 
 void InstallTools(Program& p, forms::Form1& form)
@@ -48,10 +65,14 @@ void InstallForm1(Program& p, forms::Form1& form)
     form.mnuFile.Click = [&p] { OpenFileOrHelpMenu(p); };
     form.New.Click = [&p] { NewBranch(p); };
     form.Open.Click = [&p] { ChooseBranch(p); };
+    InstallOutput(p, form);
     form.mnuCloseDB.Click = [&p] { CloseBranch(p); };
     form.mnuExit.Click = [&p] { ExitProgram(p); };
 
     form.mnuEdit.Click = [&p] { OpenEditingMenu(p); };
+    form.mnuCopy.Click = [&p] { CopyMapPicture(p); };
+    form.mnuPaste.Click = [&p] { PasteMapPicture(p); };
+    form.mnuDataBase.Click = [&p] { TellIfNoBranch(p); };
     form.mnuViewRecs.Click = [&p] { ShowRecordForm(p); };
     form.mnuTreeGraphics.Click = [&p] { OpenEditingMenu(p); };
     form.mnuTreeTools.Click = [&p] { OpenTools(p); };

@@ -1,6 +1,13 @@
 #include "map/SubjectPanel.h"
+#include "output/BookmarkList.h"
+#include "output/PrintBranch.h"
+#include "records/AddRecord.h"
+#include "records/DeleteRecord.h"
+#include "records/RecordClipboard.h"
 #include "records/RecordForm.h"
 #include "records/RecordScanner.h"
+#include "records/RecordSearch.h"
+#include "records/RecordTransfer.h"
 #include "shell/Exit.h"
 #include "shell/Help.h"
 #include "shell/handlers/Handlers.h"
@@ -38,11 +45,45 @@ void InstallScanner(Program& p, forms::Form3& form)
     form.Timer1.Tick = [&p] { TickScan(p); };
 }
 
+void InstallPrinting(Program& p, forms::Form3& form)
+{
+    form.mnuAddPMark.Click = [&p] { AddBookmark(p); };
+    form.mnuPrintSetup.Click = [&p] { SetUpPrinter(p); };
+    form.mnuPrinForm.Click = [&p] { PrintRecordWindow(p); };
+    form.mnuPrinRecord.Click = [&p] { PrintCurrentRecord(p); };
+    form.mnuPrList.Click = [&p] { PrintBookmarks(p); };
+    form.mnuClrList.Click = [&p] { ClearBookmarks(p); };
+    form.mnuPrinDatabase.Click = [&p] { PrintDatabase(p); };
+}
+
+void InstallEditing(Program& p, forms::Form3& form)
+{
+    form.mnuCut.Click = [&p] { CutSelection(p); };
+    form.mnuCopy.Click = [&p] { CopySelection(p); };
+    form.mnuCopyRecToClip.Click = [&p] { CopyRecord(p); };
+    form.mnuPaste.Click = [&p] { PasteOverSelection(p); };
+    form.mnuSubPicture.Click = [&p] { ChangeSubjectPicture(p); };
+    form.mnuAdd.Click = [&p] { AddRecord(p); };
+    form.mnuDelete.Click = [&p] { DeleteRecord(p); };
+    form.MnuRecTransfer.Click = [&p] { TransferRecord(p); };
+}
+
+void InstallSearches(Program& p, forms::Form3& form)
+{
+    form.mnuSearchDataRef.Click = [&p] { SearchByDataRef(p); };
+    form.mnuSearchSurName.Click = [&p] { SearchBySurname(p); };
+    form.mnuSearchBirthPlace.Click = [&p] { SearchByBirthPlace(p); };
+    form.mnuSearchWord.Click = [&p] { SearchByWord(p); };
+}
+
 void InstallMenus(Program& p, forms::Form3& form)
 {
     form.mnuPrint.Click = [&p] { OpenRecordMenu(p); };
     form.mnuEdit.Click = [&p] { OpenRecordMenu(p); };
     form.mnuSearch.Click = [&p] { OpenSearchMenu(p); };
+    InstallPrinting(p, form);
+    InstallEditing(p, form);
+    InstallSearches(p, form);
     form.mnuHelp.Click = [&p] { ShowRecordHelp(p); };
     form.mnuExit.Click = [&p] { ExitFromRecords(p); };
 }

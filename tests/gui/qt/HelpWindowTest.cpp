@@ -2,6 +2,7 @@
 
 #include "gui/qt/Dialogs.h"
 #include "platform/qt/QtEventLoop.h"
+#include "platform/qt/QtPrintSystem.h"
 #include "platform/qt/QtPrompts.h"
 #include "support/Printing.h"
 #include "support/TemporaryHome.h"
@@ -22,7 +23,8 @@ namespace
 struct HelpWindowTest : testing::Test {
     TemporaryHome Home;
     QtEventLoop Loop;
-    std::unique_ptr<QtPrompts> Ask = std::make_unique<QtPrompts>(Loop, [this] { return Home.Path(); });
+    QtPrintSystem Printers;
+    std::unique_ptr<QtPrompts> Ask = std::make_unique<QtPrompts>(Loop, Printers, [this] { return Home.Path(); });
 
     static QWidgetList HelpWindows()
     {

@@ -1,5 +1,6 @@
 #include "gui/qt/Dialogs.h"
 #include "gui/qt/WindowTest.h"
+#include "platform/qt/QtPrintSystem.h"
 #include "platform/qt/QtPrompts.h"
 #include "support/TemporaryHome.h"
 
@@ -230,7 +231,8 @@ INSTANTIATE_TEST_SUITE_P(Styles, FontStyleTest,
 struct OpenFileTest : testing::Test {
     TemporaryHome Home;
     QtEventLoop Loop;
-    QtPrompts Ask{Loop, [this] { return Home.Path(); }};
+    QtPrintSystem Printers;
+    QtPrompts Ask{Loop, Printers, [this] { return Home.Path(); }};
 };
 
 TEST_F(OpenFileTest, AsksForAnExistingFile_StartingInTheCurrentDirectory)

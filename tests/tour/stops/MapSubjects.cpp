@@ -1,5 +1,4 @@
 #include "BranchList.h"
-#include "Failure.h"
 #include "Ink.h"
 #include "MapView.h"
 #include "Menus.h"
@@ -67,7 +66,7 @@ void FirstSubjectIsWritten(Tour& tour)
 {
     TakeOptions(tour, tour.AwaitWindow(tour.MappingForm.Caption));
     MapBox(tour, 0, u"C001"_s);
-    Expect(tour.Home.Has(u"LfgDat_C/C001Sub.jpg"_s), u"the blank portrait of the new subject"_s);
+    tour.Await(u"the blank portrait of the new subject"_s, [&] { return tour.Home.Has(u"LfgDat_C/C001Sub.jpg"_s); });
     TypeInto(tour, tour.RecordForm.Text3, u"George"_s);
     TypeInto(tour, tour.RecordForm.Text2, u"Windsor"_s);
 }

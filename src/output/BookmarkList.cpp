@@ -1,0 +1,127 @@
+#include "output/BookmarkList.h"
+
+#include "map/MapInteraction.h"
+#include "output/OutputMode.h"
+#include "output/PrintErrors.h"
+#include "output/RecordReport.h"
+#include "output/TextReport.h"
+#include "platform/Text.h"
+#include "program/AlternateBranch.h"
+#include "program/BranchPaths.h"
+#include "program/Meanwhile.h"
+#include "program/Position.h"
+#include "program/WorkDatabase.h"
+
+#include <QScopeGuard>
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+// Two records go to one print job.
+class Pairs
+{
+public:
+    explicit Pairs(Printer& printer) : printer_(printer) {}
+
+    void Add()
+    {
+        if (isHalfFull_)
+            printer_.EndDoc();
+        isHalfFull_ = !isHalfFull_;
+    }
+    void Finish()
+    {
+        if (isHalfFull_)
+            printer_.EndDoc();
+    }
+
+private:
+    Printer& printer_;
+    bool isHalfFull_ = false;
+};
+
+void PutOutRecord(Program& p, Pairs& pairs)
+{
+    if (p.Output.OutputMode == OutputMode::ListToFile) {
+        WriteRecordToFile(p);
+        return;
+    }
+    p.Output.OutputMode = OutputMode::SingleToPrinter;
+    PrintRecord(p);
+    pairs.Add();
+}
+
+// A record of a branch that isn't there, or can't be opened, is passed over as one that is gone.
+void PutOutRecordOfSibling(Program& p, const QString& entry, Pairs& pairs)
+{
+    const QString letter = entry.left(1);
+    if (SameText(letter, BranchLetter(p.Branch.WorkDir)))
+        return;
+    const auto goBack = qScopeGuard([&p] { p.Errors.Ignoring([&p] { ReturnFromSibling(p); }); });
+    bool isThere = false;
+    p.Errors.Ignoring([&] {
+        SwitchToSibling(p, letter);
+        isThere = Records(p).Seek(u"File", entry);
+    });
+    if (isThere)
+        PutOutRecord(p, pairs);
+}
+
+void PutOutEntries(Program& p, Pairs& pairs)
+{
+    Meanwhile meanwhile(p);
+    for (int entry = 0; entry <= BookmarkState::Last && !p.Bookmarks.BookmarkList[entry].isEmpty(); ++entry) {
+        const QString file = p.Bookmarks.BookmarkList[entry];
+        if (Records(p).Seek(u"File", file))
+            PutOutRecord(p, pairs);
+        else
+            PutOutRecordOfSibling(p, file, pairs);
+        meanwhile.KeepPainted();
+    }
+}
+} // namespace
+
+void AddBookmark(Program& p)
+{
+    if (TellIfNoBranch(p) || !Records(p).HasRow())
+        return;
+    p.Bookmarks.BookmarkList[p.Bookmarks.BookmarkCount] = Records(p).Text(u"File");
+    p.Bookmarks.BookmarkCount += 1;
+}
+
+void ClearBookmarks(Program& p)
+{
+    p.Bookmarks.BookmarkList.Erase();
+    p.Bookmarks.BookmarkCount = 0;
+}
+
+void PutOutBookmarks(Program& p)
+{
+    if (p.Branch.UsingAlternate == 1)
+        ReturnFromSibling(p);
+    Pairs pairs(p.Printer);
+    PutOutEntries(p, pairs);
+    ClearBookmarks(p);
+    if (p.Output.OutputMode == OutputMode::ListToFile)
+        CloseTextFile(p);
+    else
+        pairs.Finish();
+    p.Output.OutputMode = OutputMode::None;
+    Records(p).MoveFirst();
+}
+
+void PrintBookmarks(Program& p)
+{
+    if (TellIfNoBranch(p))
+        return;
+    ComeBackAfterwards(p, [&] { ReportingErrors(p, [&] { PutOutBookmarks(p); }); });
+    // After a refusal; the list is still there then.
+    p.Printer.Abort();
+    p.Output.OutputMode = OutputMode::None;
+}
+
+} // namespace lineforge

@@ -1,0 +1,121 @@
+#include "output/PrintBranch.h"
+
+#include "map/MapDisplay.h"
+#include "map/MapInteraction.h"
+#include "output/OutputMode.h"
+#include "output/PrintErrors.h"
+#include "output/RecordReport.h"
+#include "program/Meanwhile.h"
+#include "program/WorkDatabase.h"
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr Rectangle frame{1000, 0, 8700, 14000};
+
+void SetUpPage(Program& p)
+{
+    p.Printer.Font = {u"Courier"_s, 7};
+    p.Printer.Landscape = true;
+}
+
+// An item that fails costs its own drawing; the last of the failures is told.
+void DrawOnPaper(Program& p)
+{
+    p.Errors.Clear();
+    RedrawMap(p);
+    if (p.Errors.Last)
+        throw RuntimeError(*p.Errors.Last);
+}
+
+// Two records to a page; a page is begun only for records that follow.
+void PrintAllRecords(Program& p)
+{
+    Meanwhile meanwhile(p);
+    Recordset& records = Records(p);
+    records.MoveFirst();
+    while (!records.Eof()) {
+        PrintRecord(p);
+        PrintRecord(p);
+        if (!records.Eof())
+            p.Printer.NewPage();
+        meanwhile.KeepPainted();
+    }
+}
+bool PrintWindow(Program& p, const Form& form)
+{
+    bool isPrinted = false;
+    p.Errors.Clear();
+    p.Errors.Ignoring([&] {
+        p.Printer.PrintPicture(form.Picture(), form.Width);
+        p.Printer.EndDoc();
+        isPrinted = true;
+    });
+    if (!isPrinted)
+        p.Printer.Abort();
+    return isPrinted;
+}
+} // namespace
+
+void PrintMap(Program& p)
+{
+    if (TellIfNoBranch(p))
+        return;
+    p.Screen.Pointer = MousePointer::Hourglass;
+    p.Output.PrintToPrinter = 1;
+    p.Output.Page = &p.Printer;
+    ReportingErrors(p, [&] { SetUpPage(p); });
+    ReportingErrors(p, [&] { DrawOnPaper(p); });
+    p.Printer.ForeColor = Black;
+    ReportingErrors(p, [&] { p.Printer.Box(frame); });
+    ReportingErrors(p, [&] { p.Printer.EndDoc(); });
+    p.Printer.Landscape = false;
+    p.Printer.DrawWidth = 1;
+    p.Output.PrintToPrinter = 0;
+    p.Output.Page = nullptr;
+    p.Screen.Pointer = MousePointer::Default;
+}
+
+void PrintMainWindow(Program& p)
+{
+    if (!PrintWindow(p, *p.Form1))
+        ReportError(p);
+}
+
+void PrintRecordWindow(Program& p)
+{
+    if (!PrintWindow(p, *p.Form3))
+        p.Prompts.MsgBox(u"Lineforge"_s, u"The form could not be printed."_s, Buttons::Plain);
+}
+
+void PrintCurrentRecord(Program& p)
+{
+    if (TellIfNoBranch(p))
+        return;
+    p.Output.OutputMode = OutputMode::SingleToPrinter;
+    ReportingErrors(p, [&] { PrintRecord(p); });
+    ReportingErrors(p, [&] { p.Printer.EndDoc(); });
+    p.Output.OutputMode = OutputMode::None;
+}
+
+void PrintDatabase(Program& p)
+{
+    if (p.Prompts.MsgBox(u"DataBase Print"_s, u"Ready to Print Complete DataBase ?"_s, Buttons::QuestionOkCancel) !=
+        Answer::Ok)
+        return;
+    p.Output.OutputMode = OutputMode::None;
+    ReportingErrors(p, [&] { PrintAllRecords(p); });
+    ReportingErrors(p, [&] { p.Printer.EndDoc(); });
+    ReportingErrors(p, [&] { Records(p).MoveFirst(); });
+}
+
+void SetUpPrinter(Program& p)
+{
+    p.Prompts.PickPrinter();
+}
+
+} // namespace lineforge

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "program/BranchUi.h"
+
+#include <utility>
+
+namespace lineforge
+{
+
+// Runs one statement of a printing command: what it refuses is shown by `ReportError`, and the command goes on.
+template <class Statement>
+void ReportingErrors(Program& p, Statement&& statement)
+{
+    try {
+        std::forward<Statement>(statement)();
+    } catch (const RuntimeError& error) {
+        p.Errors.Last = error;
+        ReportError(p);
+    }
+}
+
+} // namespace lineforge

@@ -1,0 +1,90 @@
+#include "output/TextReport.h"
+
+#include "map/MapInteraction.h"
+#include "output/BookmarkList.h"
+#include "output/OutputMode.h"
+#include "output/RecordReport.h"
+#include "program/AlternateBranch.h"
+#include "program/BranchPaths.h"
+#include "program/Meanwhile.h"
+#include "program/Position.h"
+#include "program/WorkDatabase.h"
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr int fileNameLength = 12; // of "LfgDat_A.txt"
+
+struct TextReport {
+    QStringView Announcement;
+    int Mode;
+    void (*Write)(Program& p);
+};
+
+// The second lacks its "to"; so it is meant to be.
+constexpr TextReport database{u"Database will be Copied to the Text File located at\n", OutputMode::DatabaseToFile,
+                              WriteAllRecords};
+constexpr TextReport bookmarks{u"The Bookmark list will be copied Text File located at\n", OutputMode::ListToFile,
+                               PutOutBookmarks};
+
+// The file that is written takes the old one's place only when it is complete.
+void OpenTextFile(Program& p, const QString& file, const QString& before)
+{
+    if (p.Files.LookUpGivesTail(file, fileNameLength))
+        p.Files.FileCopy(file, before);
+    p.Output.TextFile = std::make_unique<TextWriter>(p.Files, file);
+}
+
+void WriteReport(Program& p, const TextReport& report, const QString& stem)
+{
+    if (TellIfNoBranch(p))
+        return;
+    ComeBackAfterwards(p, [&] {
+        p.Scratch.sFileA = p.Branch.WorkDir + PathSeparator + stem + u".txt";
+        p.Scratch.sFileB = p.Branch.WorkDir + PathSeparator + stem + u".~tx";
+        p.Prompts.MsgBox(u"Make a Text File."_s, report.Announcement + p.Scratch.sFileA, Buttons::Information);
+        p.Output.OutputMode = report.Mode;
+        OpenTextFile(p, p.Scratch.sFileA, p.Scratch.sFileB);
+        report.Write(p);
+    });
+}
+} // namespace
+
+void WriteDatabaseText(Program& p)
+{
+    WriteReport(p, database, DirectoryName(p.Branch.WorkDir));
+}
+
+// The two names differ in an imported branch only.
+void WriteBookmarksText(Program& p)
+{
+    WriteReport(p, bookmarks, u"LfgDat_"_s + BranchLetter(p.Branch.WorkDir));
+}
+
+void WriteAllRecords(Program& p)
+{
+    if (p.Branch.UsingAlternate == 1)
+        ReturnFromSibling(p);
+    Meanwhile meanwhile(p);
+    Recordset& records = Records(p);
+    for (records.MoveFirst(); !records.Eof(); records.MoveNext()) {
+        if (p.Output.OutputMode == OutputMode::DatabaseToFile)
+            WriteRecordToFile(p);
+        meanwhile.KeepPainted();
+    }
+    CloseTextFile(p);
+    p.Output.OutputMode = OutputMode::None;
+    records.MoveFirst();
+}
+
+void CloseTextFile(Program& p)
+{
+    const std::unique_ptr<TextWriter> file = std::move(p.Output.TextFile);
+    file->Close();
+}
+
+} // namespace lineforge

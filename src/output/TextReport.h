@@ -1,0 +1,19 @@
+#pragma once
+
+#include "program/Program.h"
+
+namespace lineforge
+{
+
+// The open branch, or the list of bookmarks, as a plain text file in the branch directory. Both have the same name; the
+// file before is kept as the previous generation. Errors of the disk; the old file then stays.
+void WriteDatabaseText(Program& p);
+void WriteBookmarksText(Program& p);
+
+// Every record to the open text file, in storage order; ends on the first.
+void WriteAllRecords(Program& p);
+
+// Puts the text file in its place.
+void CloseTextFile(Program& p);
+
+} // namespace lineforge

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "program/WorkDatabase.h"
+
+#include <utility>
+
+namespace lineforge
+{
+
+// Does something that moves the cursor and makes the current record current again, by `SavedBookmark`. Begun on a
+// record of another branch it ends where the doing has left it, for that branch is left meanwhile.
+template <class Act>
+void ComeBackAfterwards(Program& p, Act&& act)
+{
+    const bool isOwn = p.Branch.UsingAlternate == 0;
+    const Recordset& records = Records(p);
+    p.Record.SavedBookmark = records.HasRow() ? records.GetBookmark() : Bookmark();
+    std::forward<Act>(act)();
+    if (isOwn && p.Branch.UsingAlternate == 0 && p.Record.SavedBookmark)
+        Records(p).SetBookmark(p.Record.SavedBookmark);
+}
+
+} // namespace lineforge

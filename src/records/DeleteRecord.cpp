@@ -1,0 +1,124 @@
+#include "records/DeleteRecord.h"
+
+#include "map/BoxCaptions.h"
+#include "map/CurrentBox.h"
+#include "map/MapFile.h"
+#include "platform/Like.h"
+#include "program/AlternateBranch.h"
+#include "program/BranchPaths.h"
+#include "program/BranchUi.h"
+#include "program/WorkDatabase.h"
+#include "records/RecordPicture.h"
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+bool ConfirmUnlinking(Program& p)
+{
+    return p.Prompts.MsgBox(u"Deletion of Subject Records"_s,
+                            u"This Record is from another Tree Branch. You must \n"
+                            u"open that Tree Branch to delete the full record. This\n"
+                            u"delete will remove access to it from this Tree Branch.\n\n"
+                            u"             Is this what you want ? "_s,
+                            Buttons::QuestionYesNo) == Answer::Yes;
+}
+
+bool ConfirmDeletion(Program& p)
+{
+    return p.Prompts.MsgBox(u"Delete Record"_s, u"Do you really want to delete this record?"_s,
+                            Buttons::QuestionYesNo) == Answer::Yes &&
+           p.Prompts.MsgBox(u"Deletion of Subject Records"_s,
+                            u"All information in this record will be deleted\n"
+                            u"including any Subject and Gallery graphic files.\n"
+                            u"Are you sure this is what you want ? "_s,
+                            Buttons::ErrorYesNo) == Answer::Yes;
+}
+
+// The gallery is listed by its path, but a file killed by its bare name: it goes only where the gallery is the current
+// directory. So it is meant to be.
+void KillFiles(Program& p, const QString& file)
+{
+    p.Errors.Ignoring([&] { p.Files.Kill(p.Branch.WorkDir + PathSeparator + file + u"Sub.jpg"); });
+    const QString gallery = p.Branch.WorkDir + PathSeparator + u"LfgGal_" + BranchLetter(p.Branch.WorkDir);
+    const LikePattern ofRecord(QString(file + u"_##.jpg"));
+    QStringList names;
+    p.Errors.Ignoring([&] { names = p.Files.Files(gallery + PathSeparator + u'*'); });
+    for (const QString& name : names)
+        if (ofRecord.Matches(name))
+            p.Errors.Ignoring([&] { p.Files.Kill(name); });
+}
+
+void Unlink(Program& p)
+{
+    p.Record.sAltName = Records(p).Text(u"ForeName");
+    p.Branch.WorkDir = p.Branch.WorkDirSaved;
+    p.Branch.HomeDir = p.Branch.HomeDirSaved;
+    OpenWorkDatabase(p);
+    EraseBoxCaption(p);
+    SaveBoxes(p);
+    p.Branch.UsingAlternate = 0;
+    EnableScanner(p);
+    Records(p).MoveFirst();
+}
+
+// Takes the record out of the table and its box; false, and all as it was, when the table refuses.
+bool TakeOut(Program& p)
+{
+    const auto boxes = p.Map.BoxArr;
+    p.Errors.Ignoring([&] { EraseBoxCaption(p); });
+    try {
+        Records(p).Delete();
+        return true;
+    } catch (const RuntimeError& error) {
+        p.Errors.Last = error;
+    }
+    p.Map.BoxArr = boxes;
+    p.Errors.Ignoring([&] {
+        FindBoxOfRecord(p);
+        if (p.Scratch.IdxA <= LastFiledBox)
+            DrawRecordInBox(p);
+    });
+    return false;
+}
+
+// The files go last, so that a record which can't be deleted keeps its own.
+void DeleteWithFiles(Program& p)
+{
+    const QString file = Records(p).Text(u"File");
+    if (!TakeOut(p))
+        return;
+    if (!file.isEmpty())
+        KillFiles(p, file);
+    p.Errors.Ignoring([&] { Records(p).MoveFirst(); });
+    p.Errors.Ignoring([&] { Records(p).Update(); });
+    p.Errors.Ignoring([&] { SaveBoxes(p); });
+}
+} // namespace
+
+void DeleteRecord(Program& p)
+{
+    if (p.Tools.MapCursorMode == 1)
+        ClearMapCursor(p);
+    if (!Records(p).HasRow())
+        return;
+    // A scan that runs on under the questions must not choose another record.
+    const Bookmark asked = Records(p).GetBookmark();
+    if (p.Branch.UsingAlternate == 1) {
+        if (!ConfirmUnlinking(p))
+            return;
+        Records(p).SetBookmark(asked);
+        Unlink(p);
+    } else {
+        if (!ConfirmDeletion(p))
+            return;
+        Records(p).SetBookmark(asked);
+        DeleteWithFiles(p);
+    }
+    ShowRecordPicture(p);
+}
+
+} // namespace lineforge

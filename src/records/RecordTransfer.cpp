@@ -1,0 +1,209 @@
+#include "records/RecordTransfer.h"
+
+#include "map/BoxCaptions.h"
+#include "map/CurrentBox.h"
+#include "map/MapFile.h"
+#include "map/MapItems.h"
+#include "map/MapParse.h"
+#include "map/SubjectPanel.h"
+#include "map/tools/LeaveTools.h"
+#include "platform/Text.h"
+#include "program/BranchPaths.h"
+#include "program/WorkDatabase.h"
+
+#include <array>
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr std::array<QStringView, 23> fields{u"FatherRec",        u"MotherRec",
+                                             u"Surname",          u"Forename",
+                                             u"Nationality",      u"BirthDate",
+                                             u"BirthPlace",       u"Spouse",
+                                             u"Children",         u"Education",
+                                             u"Profession",       u"Deceased",
+                                             u"BirthCertificate", u"MarriageCertificate",
+                                             u"DeathCertificate", u"Notes",
+                                             u"Medical",          u"Gender",
+                                             u"Maiden",           u"Partner",
+                                             u"PrevChildren",     u"Wedding",
+                                             u"WedDate"};
+using FieldTexts = std::array<QString, fields.size()>;
+
+constexpr qsizetype numberLength = 4;
+
+bool Confirm(Program& p)
+{
+    return p.Prompts.MsgBox(u"Record Set Copy"_s,
+                            u"This complete Recordset will be copied to an existing\n"
+                            u"pre mapped Data Record of your choice.\n"
+                            u"Tree Map name containers should be the same colour."_s,
+                            Buttons::InformationOkCancel) == Answer::Ok;
+}
+
+// Four characters, whatever they are; empty when the user gives up. A wrong length asks all over again.
+QString AskDestination(Program& p)
+{
+    while (Confirm(p)) {
+        QString number = p.Prompts.InputBox(u"Data Record Destination."_s, u"Enter Destination Data Ref Number."_s);
+        if (number.isEmpty() || number.size() == numberLength)
+            return number;
+        p.Prompts.MsgBox(u"Incorrect Character length."_s, u"Incorrect File Ref Input."_s, Buttons::Information);
+    }
+    return {};
+}
+
+// Null becomes empty text.
+FieldTexts ReadFields(const Recordset& source)
+{
+    FieldTexts texts;
+    for (std::size_t at = 0; at < fields.size(); ++at)
+        texts[at] = source.Text(fields[at]);
+    return texts;
+}
+
+QString PictureFile(const QString& workDir, const QString& file)
+{
+    return workDir + PathSeparator + file + u"sub.jpg";
+}
+
+// False when that branch isn't there, or can't be opened: the own one is then as it was.
+bool OpenBranchOf(Program& p, const QString& letter)
+{
+    const QString ownDirectory = p.Branch.WorkDir;
+    const QString ownDatabase = p.Form3->Data1.DatabaseName;
+    const QString database = DatabasePath(SiblingDirectory(ownDirectory, letter));
+    try {
+        PointAtDatabase(p, database);
+    } catch (const RuntimeError&) {
+        p.Form3->Data1.DatabaseName = ownDatabase;
+        return false;
+    }
+    p.Branch.WorkDir = SiblingDirectory(ownDirectory, letter);
+    p.Branch.sDbaseName = database;
+    return true;
+}
+
+void ShowItsMap(Program& p)
+{
+    PictureBox& picture = p.Form1->Picture1;
+    picture.Cls();
+    picture.Font = {};
+    EraseMap(p);
+    p.Errors.Ignoring([&] { ReadMapFile(p); });
+    p.Errors.Ignoring([&] { ParseBoxes(p); });
+    p.Errors.Ignoring([&] { ParseLines(p); });
+    p.Errors.Ignoring([&] { ParseTexts(p); });
+    p.Screen.Pointer = MousePointer::Default;
+}
+
+// False when the destination has no picture that can be shown.
+bool CopyPicture(Program& p, const QString& source, const QString& destination)
+{
+    p.Errors.Clear();
+    p.Errors.Ignoring([&] { p.Files.FileCopy(source, destination); });
+    if (p.Errors.Last)
+        p.Prompts.MsgBox(u"Subject File Copy Problem."_s, u"Subject Picture File Error."_s, Buttons::Information);
+    try {
+        p.Form1->Image1.Picture = p.Pictures.Load(p.Files, destination);
+        return true;
+    } catch (const RuntimeError&) {
+        p.Prompts.MsgBox(u"Subject File Loaad Problem."_s, u"Cannot Load Subject Picture File."_s,
+                         Buttons::Information);
+        return false;
+    }
+}
+
+// False, and a box, when there is no such record. The box doesn't name the number that was typed; so it is meant to be.
+bool FindDestination(Program& p, const QString& file)
+{
+    if (Records(p).Seek(u"File", file))
+        return true;
+    p.Form3->Image1.Picture = QImage();
+    p.Prompts.MsgBox(u"Database Result"_s, u"No Match Found for Data Ref: "_s + p.Record.sCurFile,
+                     Buttons::Information);
+    return false;
+}
+
+void PrintForename(Program& p, Colour pen)
+{
+    PictureBox& picture = p.Form1->Picture1;
+    FitForename(p);
+    picture.Font = {};
+    picture.ForeColor = pen;
+    picture.PrintAt({p.Mouse.BoxX + ForenameInBox.X, p.Mouse.BoxY + ForenameInBox.Y}, p.Record.sForeName);
+    picture.ForeColor = Black;
+}
+
+void WriteFields(Program& p, const FieldTexts& texts)
+{
+    Recordset& records = Records(p);
+    records.Edit();
+    for (std::size_t at = 0; at < fields.size(); ++at)
+        records.Put(fields[at], texts[at]);
+    records.Update();
+}
+
+void OverwriteRecord(Program& p, const FieldTexts& texts)
+{
+    FindBoxOfRecord(p);
+    const bool hasBox = p.Scratch.IdxA <= LastFiledBox;
+    const int boxX = p.Mouse.BoxX;
+    const int boxY = p.Mouse.BoxY;
+    if (hasBox)
+        PrintForename(p, p.Form1->Picture1.BackColor);
+    WriteFields(p, texts);
+    // The maiden name beside the map keeps its text.
+    const QString maiden = p.Form1->Label15.Caption;
+    FillSubjectLabels(p);
+    p.Form1->Label15.Caption = maiden;
+    p.Mouse.BoxX = boxX;
+    p.Mouse.BoxY = boxY;
+    if (hasBox)
+        PrintForename(p, Black);
+    MarkCurrentBox(p);
+}
+} // namespace
+
+void TransferRecord(Program& p)
+{
+    if (p.Branch.UsingAlternate == 1) {
+        p.Prompts.MsgBox(u"Search Alternate Tree Branch Records."_s,
+                         u"This Record is from another Tree Branch. You must open \n"
+                         u"that Tree Branch to Transfer this Record."_s,
+                         Buttons::Information);
+        return;
+    }
+    p.Errors.Ignoring([&] { Records(p).Update(); });
+    // Without a source the destination would be emptied.
+    if (!Records(p).HasRow())
+        return;
+    // A scan that runs on under the questions must not choose another one.
+    const Bookmark asked = Records(p).GetBookmark();
+    const QString destination = AskDestination(p);
+    if (destination.isEmpty())
+        return;
+
+    Records(p).SetBookmark(asked);
+    const QString source = Records(p).Text(u"File");
+    const FieldTexts texts = ReadFields(Records(p));
+    const QString picture = PictureFile(p.Branch.WorkDir, source);
+    QString directory = p.Branch.WorkDir;
+    if (const QString letter = destination.first(1); !SameText(letter, source.left(1))) {
+        directory = SiblingDirectory(directory, letter);
+        LeaveToolsIfOpen(p);
+        if (OpenBranchOf(p, letter)) {
+            ShowItsMap(p);
+            if (Records(p).IsEmpty())
+                return;
+        }
+    }
+    if (CopyPicture(p, picture, PictureFile(directory, destination)) && FindDestination(p, destination))
+        OverwriteRecord(p, texts);
+}
+
+} // namespace lineforge

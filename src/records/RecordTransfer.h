@@ -1,0 +1,13 @@
+#pragma once
+
+#include "program/Program.h"
+
+namespace lineforge
+{
+
+// Copies all fields of the current record but its number and its spouse's, and its subject picture, over another record
+// that has a box, of this branch or of another one. The program then stays in the destination's branch, with its map.
+// Errors of the record store while the destination is written; those of reading are passed over.
+void TransferRecord(Program& p);
+
+} // namespace lineforge

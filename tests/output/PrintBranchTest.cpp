@@ -1,0 +1,187 @@
+#include "output/OutputTest.h"
+#include "support/Pixels.h"
+
+#include <QPainter>
+
+namespace lineforge
+{
+namespace
+{
+
+// A window as it looks: red on the left, blue on the right.
+QImage RedAndBlue(QSize pixels)
+{
+    QImage image(pixels, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QPainter painter(&image);
+    painter.fillRect(pixels.width() / 2, 0, pixels.width(), pixels.height(), Qt::blue);
+    return image;
+}
+
+// The paper may hold the picture with less than all of its colours.
+QString ColourNear(const QImage& paper, Point place)
+{
+    const QColor colour = ToQColor(ColourAt(paper, place));
+    const auto isNear = [&](QColor other) {
+        return std::abs(colour.red() - other.red()) + std::abs(colour.green() - other.green()) +
+                   std::abs(colour.blue() - other.blue()) <
+               30;
+    };
+    if (isNear(Qt::red))
+        return u"red"_s;
+    if (isNear(Qt::blue))
+        return u"blue"_s;
+    return isNear(Qt::white) ? u"white"_s : colour.name();
+}
+
+class PrintWindowTest : public OutputTest
+{
+protected:
+    // A window's picture on the one page that has been printed, that wide and high.
+    void ExpectPictureOnPaper(int width, int height)
+    {
+        ASSERT_EQ(Jobs().size(), 1);
+        EXPECT_EQ(PagesOf(Jobs().first()), 1);
+        EXPECT_EQ(PaperOf(Jobs().first()), QSize(595, 842));
+        const QImage paper = PictureOf(Jobs().first());
+        constexpr int near = 30;
+        EXPECT_EQ(ColourNear(paper, {near, near}), u"red"_s);
+        EXPECT_EQ(ColourNear(paper, {width / 2 - near, height - near}), u"red"_s);
+        EXPECT_EQ(ColourNear(paper, {width / 2 + near, near}), u"blue"_s);
+        EXPECT_EQ(ColourNear(paper, {width - near, height - near}), u"blue"_s);
+        EXPECT_EQ(ColourNear(paper, {near, height + near}), u"white"_s);
+        EXPECT_EQ(ColourNear(paper, {width - near, height + near}), u"white"_s);
+    }
+};
+
+TEST_F(PrintWindowTest, MainWindow_IsPrintedInItsSize_WithoutABranchToo)
+{
+    P.Form1->Grab = [] { return RedAndBlue({1188, 819}); };
+
+    P.Form1->mnuPrintPage.Click();
+
+    ExpectPictureOnPaper(11'880, 8190);
+}
+
+TEST_F(PrintWindowTest, RecordForm_IsPrintedInItsSize)
+{
+    GivenPeople(1);
+    P.Form3->Grab = [] { return RedAndBlue({792, 500}); };
+
+    P.Form3->mnuPrinForm.Click();
+
+    ExpectPictureOnPaper(11'880, 7500);
+    EXPECT_EQ(Current(), u"A001"_s);
+}
+
+TEST_F(PrintWindowTest, WindowLargerThanThePage_IsMadeSmaller)
+{
+    P.Form1->Client.Width = 20'000;
+    P.Form1->Grab = [] { return RedAndBlue({1000, 500}); };
+
+    P.Form1->mnuPrintPage.Click();
+
+    ExpectPictureOnPaper(11'906, 5953);
+}
+
+TEST_F(PrintWindowTest, EachPrint_IsAJobOfItsOwn)
+{
+    P.Form1->Grab = [] { return RedAndBlue({100, 50}); };
+
+    P.Form1->mnuPrintPage.Click();
+    P.Form1->mnuPrintPage.Click();
+
+    EXPECT_EQ(Jobs().size(), 2);
+}
+
+TEST_F(PrintWindowTest, WindowPrintedAfterTheMap_IsUpright)
+{
+    GivenPeople(1);
+    P.Form1->mnuPrint.Click();
+    Machine.Printer.Jobs.clear();
+    P.Form1->Grab = [] { return RedAndBlue({1188, 819}); };
+
+    P.Form1->mnuPrintPage.Click();
+
+    ExpectPictureOnPaper(11'880, 8190);
+}
+
+TEST_F(PrintWindowTest, NoPrinter_MainWindow_ReportsTheError_AndTheNextPrintWorks)
+{
+    P.Form1->Grab = [] { return RedAndBlue({1188, 819}); };
+    Machine.Printer.IsThere = false;
+    ExpectPrinterErrorBox();
+    P.Form1->mnuPrintPage.Click();
+
+    Machine.Printer.IsThere = true;
+    P.Form1->mnuPrintPage.Click();
+
+    ExpectPictureOnPaper(11'880, 8190);
+}
+
+TEST_F(PrintWindowTest, NoPrinter_RecordForm_TellsItInWords_AndTheNextPrintWorks)
+{
+    GivenPeople(1);
+    P.Form3->Grab = [] { return RedAndBlue({1188, 750}); };
+    Machine.Printer.IsThere = false;
+    Prompts.Expect(u"Lineforge", u"The form could not be printed.", Buttons::Plain);
+    P.Form3->mnuPrinForm.Click();
+
+    Machine.Printer.IsThere = true;
+    P.Form3->mnuPrinForm.Click();
+
+    ExpectPictureOnPaper(11'880, 7500);
+}
+
+class PrinterSetupTest : public OutputTest
+{
+};
+
+// Cancel or not, nothing is said afterwards.
+TEST_F(PrinterSetupTest, BothMenus_OpenTheDialog_AndSayNothing)
+{
+    GivenPeople(1);
+    Prompts.ExpectPrinterSetup();
+    P.Form1->mnuPrinterSetUp.Click();
+    Prompts.ExpectPrinterSetup();
+    P.Form3->mnuPrintSetup.Click();
+
+    EXPECT_EQ(Machine.Printer.Asked, 0);
+}
+
+TEST_F(PrinterSetupTest, WithoutABranch_TheDialogOpensToo)
+{
+    Prompts.ExpectPrinterSetup();
+
+    P.Form1->mnuPrinterSetUp.Click();
+}
+
+class DataBaseMenuTest : public OutputTest
+{
+};
+
+TEST_F(DataBaseMenuTest, NoBranch_IsTold)
+{
+    ExpectNoBranchBox();
+
+    P.Form1->mnuDataBase.Click();
+}
+
+TEST_F(DataBaseMenuTest, ClosedBranch_IsTold)
+{
+    GivenPeople(1);
+    P.Form1->mnuCloseDB.Click();
+    ExpectNoBranchBox();
+
+    P.Form1->mnuDataBase.Click();
+}
+
+TEST_F(DataBaseMenuTest, OpenBranch_SaysNothing)
+{
+    GivenPeople(1);
+
+    P.Form1->mnuDataBase.Click();
+}
+
+} // namespace
+} // namespace lineforge
