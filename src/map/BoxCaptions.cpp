@@ -3,6 +3,7 @@
 #include "map/CurrentBox.h"
 #include "map/MapItems.h"
 #include "platform/Text.h"
+#include "program/AlternateBranch.h"
 #include "program/BranchPaths.h"
 #include "program/WorkDatabase.h"
 
@@ -20,11 +21,9 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-constexpr Point numberInBox{100, 0}; // from the box's corner
-
 bool IsPlacingSubject(const Program& p)
 {
-    return p.Tools.MapCursorMode >= 1 && p.Tools.MapCursorMode <= 3;
+    return p.Tools.MapCursorMode >= MapCursor::Mapping && p.Tools.MapCursorMode <= MapCursor::MovingSubject;
 }
 
 Point InBox(const Program& p, Point offset)
@@ -58,7 +57,7 @@ void DrawRecord(Program& p, const Recordset& row, Colour pen, Search search = Se
     if (search == Search::WhilePlacing && IsPlacingSubject(p))
         FindBoxOfRecord(p);
     Surface& surface = CaptionSurface(p, pen);
-    PrintOnMap(surface, CaptionPlace(p, numberInBox, 10), row.Text(u"File"));
+    PrintOnMap(surface, CaptionPlace(p, NumberInBox, 10), row.Text(u"File"));
     surface.PrintAt(CaptionPlace(p, ForenameInBox, 130), p.Record.sForeName);
     if (OnPaper(p))
         surface.PrintAt(CaptionPlace(p, ForenameInBox, 260), u"B :"_s + row.Text(u"BirthDate").right(4));
@@ -68,7 +67,7 @@ void DrawNumber(Program& p, Colour pen)
 {
     if (IsPlacingSubject(p))
         FindBoxOfRecord(p);
-    PrintOnMap(CaptionSurface(p, pen), CaptionPlace(p, numberInBox, 40),
+    PrintOnMap(CaptionSurface(p, pen), CaptionPlace(p, NumberInBox, 40),
                p.Map.BoxArr[p.Scratch.IdxA][BoxColumn::File].Text());
 }
 
@@ -107,10 +106,7 @@ private:
 void DrawForeignCaption(Program& p, Siblings& siblings, int row, Colour pen)
 {
     const QString file = FiledNumber(p, row);
-    if (p.Branch.UsingAlternate != 1) {
-        p.Branch.WorkDirSaved = p.Branch.WorkDir;
-        p.Branch.HomeDirSaved = p.Branch.HomeDir;
-    }
+    KeepOwnDirectories(p);
     const auto pointBack = qScopeGuard([&p, before = p.Branch] { p.Branch = before; });
     p.Branch.WorkDir = SiblingDirectory(p.Branch.WorkDir, file.first(1));
     p.Branch.sDbaseName = DatabasePath(p.Branch.WorkDir);
@@ -172,6 +168,15 @@ void FitForename(Program& p, const Recordset& row)
 void FitForename(Program& p)
 {
     FitForename(p, Records(p));
+}
+
+void PrintForename(Program& p, Point corner, const QString& forename, Colour pen)
+{
+    PictureBox& picture = p.Form1->Picture1;
+    picture.Font = {};
+    picture.ForeColor = pen;
+    picture.PrintAt({corner.X + ForenameInBox.X, corner.Y + ForenameInBox.Y}, forename);
+    picture.ForeColor = Black;
 }
 
 void DrawRecordInBox(Program& p, const Recordset& row)
@@ -249,7 +254,7 @@ void EraseBoxCaption(Program& p)
     PictureBox& picture = p.Form1->Picture1;
     ResetMapFont(picture);
     picture.ForeColor = picture.BackColor;
-    PrintOnMap(picture, InBox(p, numberInBox), number);
+    PrintOnMap(picture, InBox(p, NumberInBox), number);
     picture.PrintAt(InBox(p, ForenameInBox), p.Record.sForeName);
     picture.ForeColor = Black;
 }

@@ -8,7 +8,8 @@ namespace lineforge
 
 // The number and the forename that stand in a box, always in black.
 
-// Where the forename stands, from the corner of its box.
+// Where the two stand, from the corner of their box.
+inline constexpr Point NumberInBox{100, 0};
 inline constexpr Point ForenameInBox{50, 100};
 
 // A forename as a box has room for it: fewer than 8 characters stay whole, blanks and all; a longer one is cut before
@@ -18,6 +19,9 @@ QString FittedForename(const QString& forename);
 // `sForeName` from the current row; Null gives empty text.
 void FitForename(Program& p, const Recordset& row);
 void FitForename(Program& p);
+
+// A fitted forename alone, in that colour, in the box at that corner. The pen is black afterwards.
+void PrintForename(Program& p, Point corner, const QString& forename, Colour pen);
 
 // Prints number and forename of that cursor's row in the box at `BoxX`, `BoxY`; nothing at `Eof`. While a subject is
 // being mapped or moved the box is looked for first. On paper the year of birth follows.

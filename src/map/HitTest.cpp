@@ -3,15 +3,20 @@
 namespace lineforge
 {
 
+bool IsPressInside(const Program& p, const Cell& x, const Cell& y, Size size)
+{
+    if (x.IsZero() || !x.IsNumber() || !y.IsNumber())
+        return false;
+    const int left = x.Number();
+    const int top = y.Number();
+    return p.Mouse.DownX > left && p.Mouse.DownX - size.Width < left && p.Mouse.DownY > top &&
+           p.Mouse.DownY - size.Height < top;
+}
+
 bool PressIsInBox(const Program& p, int row)
 {
     const auto& box = p.Map.BoxArr[row];
-    if (box[BoxColumn::X].IsZero() || !box[BoxColumn::X].IsNumber() || !box[BoxColumn::Y].IsNumber())
-        return false;
-    const int left = box[BoxColumn::X].Number();
-    const int top = box[BoxColumn::Y].Number();
-    return p.Mouse.DownX > left && p.Mouse.DownX - BoxWidth < left && p.Mouse.DownY > top &&
-           p.Mouse.DownY - BoxHeight < top;
+    return IsPressInside(p, box[BoxColumn::X], box[BoxColumn::Y], {BoxWidth, BoxHeight});
 }
 
 void HitBox(Program& p)

@@ -5,8 +5,11 @@
 namespace lineforge
 {
 
-// Whether the last press lies inside the box of that row; its edges are outside. A free row, or one whose position is
-// no number, has no inside.
+// Whether the last press lies inside an area of that size, of which the two cells tell the top left; its edges are
+// outside. A free row, or one whose position is no number, has no inside.
+bool IsPressInside(const Program& p, const Cell& x, const Cell& y, Size size);
+
+// Whether the last press lies inside the box of that row.
 bool PressIsInBox(const Program& p, int row);
 
 // Looks for the first box under the last press, rows 0 to `SBoxes`. `BoxIdx` becomes its row, or the row behind

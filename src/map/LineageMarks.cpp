@@ -1,6 +1,7 @@
 #include "map/LineageMarks.h"
 
 #include "map/CurrentBox.h"
+#include "program/BranchUi.h"
 #include "program/WorkDatabase.h"
 
 namespace lineforge
@@ -67,7 +68,7 @@ void LineageView(Program& p)
     }
     p.Map.MarkCount = 0;
     if (Records(p).IsEmpty()) {
-        p.Prompts.MsgBox(u"Database Empty"_s, u"The Database has no records to access"_s, Buttons::Information);
+        TellNoRecords(p);
         return;
     }
     p.Record.SavedBookmark = Records(p).HasRow() ? Records(p).GetBookmark() : Bookmark();

@@ -18,7 +18,7 @@ void RedrawMap(Program& p)
     const Colour pen = picture.ForeColor;
     const TextFont font = picture.Font;
     for (int row = 0; row <= p.Map.STexts; ++row) {
-        p.Errors.Ignoring([&] { DrawTextRegardless(p, row); });
+        p.Errors.Ignoring([&] { DrawText(p, row); });
         picture.ForeColor = pen;
         picture.Font = font;
         if (!SameText(picture.Font.Name, u"Arial"))

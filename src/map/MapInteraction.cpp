@@ -21,10 +21,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-constexpr int normal = 0;
-constexpr int mapping = 1;
-constexpr int repositioning = 2;
-
 void Tell(Program& p, const QString& title, const QString& text)
 {
     p.Prompts.MsgBox(title, text, Buttons::Information);
@@ -32,7 +28,7 @@ void Tell(Program& p, const QString& title, const QString& text)
 
 bool IsTransferPending(const Program& p)
 {
-    return p.Tools.MapCursorMode == repositioning && p.Screen.Pointer == MousePointer::Cross;
+    return p.Tools.MapCursorMode == MapCursor::Repositioning && p.Screen.Pointer == MousePointer::Cross;
 }
 
 // Puts the current record's number into the box that was pressed, and takes it out of its old one.
@@ -60,7 +56,7 @@ void SaveBoxesOfOwnBranch(Program& p)
 bool FinishTransfer(Program& p)
 {
     if (Records(p).IsEmpty()) {
-        Tell(p, u"Database Empty"_s, u"The Database has no records to access"_s);
+        TellNoRecords(p);
         ClearMapCursor(p);
         return false;
     }
@@ -144,13 +140,13 @@ void MarkSubject(Program& p)
         return;
     MarkCurrentBox(p);
     // The first double click of a re-positioning has chosen the old place; the cross waits for the new one.
-    if (p.Tools.MapCursorMode == repositioning)
+    if (p.Tools.MapCursorMode == MapCursor::Repositioning)
         p.Screen.Pointer = MousePointer::Cross;
 }
 
 void ShowPressedSubject(Program& p)
 {
-    const bool isEmptyBox = p.Record.sCurFile == u"0" && p.Tools.MapCursorMode == normal;
+    const bool isEmptyBox = p.Record.sCurFile == u"0" && p.Tools.MapCursorMode == MapCursor::Normal;
     if (isEmptyBox || !GoToBranchOf(p, p.Record.sCurFile) || !KeepPosition(p) || !FindPressedRecord(p))
         return;
     ShowRecordOnMap(p);
@@ -178,7 +174,7 @@ void PressOnMap(Program& p, double x, double y)
 
 void ReleaseOnMap(Program& p, double x, double y)
 {
-    if (p.Tools.MapCursorMode >= 0 && p.Tools.MapCursorMode <= repositioning)
+    if (p.Tools.MapCursorMode >= MapCursor::Normal && p.Tools.MapCursorMode <= MapCursor::Repositioning)
         ShowCoordinates(p, x, y);
 }
 
@@ -192,8 +188,7 @@ bool TellIfNoBranch(Program& p)
 
 void DoubleClickOnMap(Program& p)
 {
-    constexpr int toolsOpen = 3;
-    if (p.Tools.ToolMode == toolsOpen)
+    if (p.Tools.ToolMode == ToolsOpen)
         return;
     if (IsTransferPending(p)) {
         if (FinishTransfer(p))
@@ -205,7 +200,7 @@ void DoubleClickOnMap(Program& p)
     if (TellIfNoBranch(p))
         return;
 
-    const bool isMapping = p.Tools.MapCursorMode == mapping;
+    const bool isMapping = p.Tools.MapCursorMode == MapCursor::Mapping;
     if (isMapping && Records(p).IsEmpty()) {
         // Wherever the click was.
         MapNewSubject(p);

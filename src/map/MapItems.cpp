@@ -3,7 +3,6 @@
 #include "platform/Text.h"
 
 #include <algorithm>
-#include <functional>
 #include <optional>
 #include <utility>
 
@@ -55,11 +54,8 @@ void DrawWithPen(Program& p, Colour colour, Draw&& draw)
     surface.ForeColor = pen;
 }
 
-// How the steps of a drawing are run: a refused one ends it, or is passed over.
-using Attempt = std::function<void(const std::function<void()>& step)>;
-
 // On paper an Arial text comes out in the printer's own small Courier.
-void PickTextFont(Program& p, Surface& surface, int row, const Attempt& attempt)
+void PickTextFont(Program& p, Surface& surface, int row)
 {
     const auto& text = p.Map.TextArr[row];
     const QString name = text[TextColumn::FontName].Text();
@@ -69,7 +65,7 @@ void PickTextFont(Program& p, Surface& surface, int row, const Attempt& attempt)
         return;
     }
     surface.Font.Name = name;
-    attempt([&] { surface.Font.Size = text[TextColumn::FontSize].Fraction(); });
+    p.Errors.Ignoring([&] { surface.Font.Size = text[TextColumn::FontSize].Fraction(); });
 }
 
 // After a text that isn't Arial the picture goes back to its font, on paper to Courier.
@@ -86,25 +82,16 @@ void DropTextFont(Program& p)
     }
 }
 
-void DrawTextInSteps(Program& p, int row, std::optional<Colour> pen, const Attempt& attempt)
+// A size or colour that is spoilt leaves what is in force.
+void DrawTextWith(Program& p, int row, std::optional<Colour> pen)
 {
     const auto& text = p.Map.TextArr[row];
     Surface& surface = MapSurface(p);
     const Point place = OnMapSurface(p, {text[TextColumn::X].Number(), text[TextColumn::Y].Number()});
-    PickTextFont(p, surface, row, attempt);
-    attempt([&] { surface.ForeColor = pen ? *pen : ColourOf(text[TextColumn::Colour]); });
+    PickTextFont(p, surface, row);
+    p.Errors.Ignoring([&] { surface.ForeColor = pen ? *pen : ColourOf(text[TextColumn::Colour]); });
     PrintOnMap(surface, place, text[TextColumn::Text].Text());
     DropTextFont(p);
-}
-
-void AtOnce(const std::function<void()>& step)
-{
-    step();
-}
-
-bool IsFreeText(const Program& p, int row)
-{
-    return p.Map.TextArr[row][TextColumn::X].IsZero();
 }
 } // namespace
 
@@ -172,8 +159,18 @@ void DrawLineIn(Program& p, int row, Colour pen)
 
 void DrawText(Program& p, int row)
 {
-    if (!IsFreeText(p, row))
-        DrawTextInSteps(p, row, {}, AtOnce);
+    if (!p.Map.TextArr[row][TextColumn::X].IsZero())
+        DrawTextWith(p, row, {});
+}
+
+void DrawTextIn(Program& p, int row, Colour pen)
+{
+    DrawTextWith(p, row, pen);
+}
+
+Colour ColourOfBox(const MapState& map, int row)
+{
+    return static_cast<Colour>(map.BoxArr[row][BoxColumn::Colour].NumberOr(0));
 }
 
 TextFont FontOfText(const MapState& map, int row)
@@ -184,17 +181,6 @@ TextFont FontOfText(const MapState& map, int row)
     if (text[TextColumn::FontSize].IsNumber())
         font.Size = text[TextColumn::FontSize].Fraction();
     return font;
-}
-
-void DrawTextRegardless(Program& p, int row)
-{
-    if (!IsFreeText(p, row))
-        DrawTextInSteps(p, row, {}, [&p](const std::function<void()>& step) { p.Errors.Ignoring(step); });
-}
-
-void DrawTextIn(Program& p, int row, Colour pen)
-{
-    DrawTextInSteps(p, row, pen, [&p](const std::function<void()>& step) { p.Errors.Ignoring(step); });
 }
 
 } // namespace lineforge

@@ -27,11 +27,11 @@ void DrawBoxIn(Program& p, int row, Colour pen);
 void DrawLineIn(Program& p, int row, Colour pen);
 void DrawTextIn(Program& p, int row, Colour pen);
 
+// The outline of a box in its row's colour; black for one that is no number.
+Colour ColourOfBox(const MapState& map, int row);
+
 // The font that a row of the texts names; 8 points for a size that is no number.
 TextFont FontOfText(const MapState& map, int row);
-
-// A text whose font, size or colour is spoilt, printed in what is in force instead.
-void DrawTextRegardless(Program& p, int row);
 
 // The text at that place of the surface, as much of it as can be seen there.
 void PrintOnMap(Surface& surface, Point place, const QString& text);

@@ -87,7 +87,7 @@ void ParseTexts(Program& p)
             return;
         p.Map.TextArr[row][column] = value;
         if (column == TextColumn::Colour)
-            p.Errors.Ignoring([&] { DrawTextRegardless(p, row); });
+            p.Errors.Ignoring([&] { DrawText(p, row); });
     });
     p.Map.STexts = HighestRow(rows);
     ResetMapFont(p.Form1->Picture1);

@@ -18,10 +18,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-// Of `MapCursorMode`.
-constexpr int mapping = 1;
-constexpr int repositioning = 2;
-
 // Of `MapOption`.
 constexpr int newRecord = 0;
 constexpr int unmappedRecord = 1;
@@ -47,7 +43,7 @@ void ShowOption(Program& p, OptionButton forms::Form7::*chosen)
 
 void StopMapping(Program& p)
 {
-    p.Tools.MapCursorMode = 0;
+    p.Tools.MapCursorMode = MapCursor::Normal;
     p.Screen.Pointer = MousePointer::Default;
 }
 
@@ -182,7 +178,7 @@ bool MapByOption(Program& p)
 
 void NamePictureFile(Program& p)
 {
-    p.Mapping.PictureFile = p.Branch.WorkDir + PathSeparator + p.Mapping.NewFile + u"Sub.jpg";
+    p.Mapping.PictureFile = SubjectPictureFile(p.Branch.WorkDir, p.Mapping.NewFile);
 }
 
 void CopyBlankPortrait(Program& p)
@@ -263,7 +259,7 @@ void TakeMappingOptions(Program& p)
 {
     forms::Form7& form = *p.Form7;
     p.Screen.Pointer = MousePointer::Cross;
-    p.Tools.MapCursorMode = mapping;
+    p.Tools.MapCursorMode = MapCursor::Mapping;
     form.Hide();
     if (form.Option1.Value)
         p.Mapping.MapOption = newRecord;
@@ -324,7 +320,7 @@ void RemapSubject(Program& p)
                                           Buttons::InformationOkCancel);
     if (begin != Answer::Ok)
         return;
-    p.Tools.MapCursorMode = repositioning;
+    p.Tools.MapCursorMode = MapCursor::Repositioning;
     // A cross that a mapping has left would make the first double click the second.
     p.Screen.Pointer = MousePointer::Default;
     const Answer select = p.Prompts.MsgBox(u"Data link Transfer"_s,

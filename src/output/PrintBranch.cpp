@@ -68,7 +68,7 @@ void PrintMap(Program& p)
     p.Screen.Pointer = MousePointer::Hourglass;
     p.Output.PrintToPrinter = 1;
     p.Output.Page = &p.Printer;
-    ReportingErrors(p, [&] { SetUpPage(p); });
+    SetUpPage(p);
     ReportingErrors(p, [&] { DrawOnPaper(p); });
     p.Printer.ForeColor = Black;
     ReportingErrors(p, [&] { p.Printer.Box(frame); });

@@ -33,31 +33,48 @@ bool RequireSibling(Program& p, QStringView letter)
     return false;
 }
 
+void KeepOwnDirectories(Program& p)
+{
+    if (p.Branch.UsingAlternate == 1)
+        return;
+    p.Branch.WorkDirSaved = p.Branch.WorkDir;
+    p.Branch.HomeDirSaved = p.Branch.HomeDir;
+}
+
 void SwitchToSibling(Program& p, QStringView letter)
 {
-    // From one sibling to another the way back still leads to the open branch.
-    if (p.Branch.UsingAlternate != 1) {
-        p.Branch.WorkDirSaved = p.Branch.WorkDir;
-        p.Branch.HomeDirSaved = p.Branch.HomeDir;
-    }
+    KeepOwnDirectories(p);
     p.Branch.WorkDir = SiblingDirectory(p.Branch.WorkDir, letter);
     OpenWorkDatabase(p);
     p.Branch.UsingAlternate = 1;
 }
 
-void ReturnFromSibling(Program& p)
+void OpenOwnBranch(Program& p)
 {
     p.Branch.WorkDir = p.Branch.WorkDirSaved;
     p.Branch.HomeDir = p.Branch.HomeDirSaved;
     OpenWorkDatabase(p);
-    p.Branch.UsingAlternate = 0;
-    EnableScanner(p);
 }
 
-void EnableScanner(Program& p)
+void EndAlternate(Program& p)
 {
+    p.Branch.UsingAlternate = 0;
     for (Button forms::Form3::*transport : forms::Form3::Transport)
         ((*p.Form3).*transport).Enabled = true;
+}
+
+void ReturnFromSibling(Program& p)
+{
+    OpenOwnBranch(p);
+    EndAlternate(p);
+}
+
+bool TellIfAlternate(Program& p, const QString& title, const QString& text)
+{
+    if (p.Branch.UsingAlternate != 1)
+        return false;
+    p.Prompts.MsgBox(title, text, Buttons::Information);
+    return true;
 }
 
 } // namespace lineforge

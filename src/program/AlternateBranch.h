@@ -14,13 +14,23 @@ void SwapBranchDirs(Program& p);
 // Whether the database of the sibling branch of that letter is there; shows a box with its path when it isn't.
 bool RequireSibling(Program& p, QStringView letter);
 
+// Keeps the open branch's directories as the saved ones, before the program points elsewhere. From one sibling to
+// another the way back still leads to the open branch.
+void KeepOwnDirectories(Program& p);
+
 // Points the whole program at the sibling branch of that letter; the map stays.
 void SwitchToSibling(Program& p, QStringView letter);
+
+// The directories and the database of the branch whose map is shown; `UsingAlternate` stays.
+void OpenOwnBranch(Program& p);
+
+// `UsingAlternate` back to 0: the record scanner walks the open branch again.
+void EndAlternate(Program& p);
 
 // Back to the branch whose map is shown.
 void ReturnFromSibling(Program& p);
 
-// The record scanner walks the open branch again.
-void EnableScanner(Program& p);
+// Tells, while a record of another branch is shown, why a command refuses it; false when none is.
+bool TellIfAlternate(Program& p, const QString& title, const QString& text);
 
 } // namespace lineforge

@@ -36,6 +36,11 @@ QString DatabasePath(const QString& workDir)
     return workDir + PathSeparator + u"LfgDat_" + BranchLetter(workDir) + u".mdb";
 }
 
+QString SubjectPictureFile(const QString& workDir, const QString& file)
+{
+    return workDir + PathSeparator + file + u"Sub.jpg";
+}
+
 QString MapFileToRead(const QString& workDir)
 {
     return workDir + PathSeparator + u"LfgDat_" + BranchLetter(workDir) + u".cfg";

@@ -21,6 +21,9 @@ bool IsImported(const QString& workDir);
 // The record database. Its name keeps the ordinary prefix in an imported branch.
 QString DatabasePath(const QString& workDir);
 
+// The subject picture of a record of the branch.
+QString SubjectPictureFile(const QString& workDir, const QString& file);
+
 // Where a map is read. In an imported branch that is the file which came with it, never the one that is written
 // there, so that changes to an imported map don't come back; that is the settled behaviour.
 QString MapFileToRead(const QString& workDir);

@@ -32,16 +32,21 @@ void EnableBranchUI(Program& p)
 
 void ClearMapCursor(Program& p)
 {
-    if (p.Tools.MapCursorMode != 1 && p.Tools.MapCursorMode != 2)
+    if (p.Tools.MapCursorMode != MapCursor::Mapping && p.Tools.MapCursorMode != MapCursor::Repositioning)
         return;
     p.Screen.Pointer = MousePointer::Default;
-    p.Tools.MapCursorMode = 0;
+    p.Tools.MapCursorMode = MapCursor::Normal;
 }
 
 void SetPictureName(Program& p)
 {
     p.Record.sCurFile = p.Form3->Label25.Caption;
     p.Record.sPicFile = p.Record.sCurFile + u"Sub.Jpg";
+}
+
+void TellNoRecords(Program& p)
+{
+    p.Prompts.MsgBox(u"Database Empty"_s, u"The Database has no records to access"_s, Buttons::Information);
 }
 
 void ReportError(Program& p)

@@ -15,6 +15,9 @@ void ClearMapCursor(Program& p);
 // `sCurFile` and `sPicFile` from the record form.
 void SetPictureName(Program& p);
 
+// Tells that the open database has no records.
+void TellNoRecords(Program& p);
+
 // Shows the last run-time error, if there is one, in a plain box.
 void ReportError(Program& p);
 

@@ -10,12 +10,24 @@
 namespace lineforge
 {
 
+// The values of `MapCursorMode`: what the next double click on the map is for.
+namespace MapCursor
+{
+inline constexpr int Normal = 0;
+inline constexpr int Mapping = 1;
+inline constexpr int Repositioning = 2;
+inline constexpr int MovingSubject = 3; // in the drawing tools
+} // namespace MapCursor
+
+// `ToolMode` while the drawing tools are open.
+inline constexpr int ToolsOpen = 3;
+
 // The drawing tools of the map: which one is in hand, and the gesture that is going on. Twips on the picture.
 struct ToolState {
     Integer16 ToolMode;      // 0 normal, 1 lineage view on, 3 graphics tools open
     Integer16 ToolSel;       // the tool in hand, see `ToolSelection`
     Integer16 ToolStep;      // -1 from a completed press to its release, else 0
-    Integer16 MapCursorMode; // 0 normal, 1 mapping, 2 re-positioning, 3 moving a subject
+    Integer16 MapCursorMode; // see `MapCursor`
 
     // A press has been met whose release is still to come: the second press of a double click isn't told as one.
     bool IsPressed = false;

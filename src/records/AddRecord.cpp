@@ -1,5 +1,8 @@
 #include "records/AddRecord.h"
 
+#include "program/AlternateBranch.h"
+#include "program/BranchPaths.h"
+#include "program/BranchUi.h"
 #include "program/WorkDatabase.h"
 
 namespace lineforge
@@ -18,24 +21,12 @@ QString NumberAfter(const QString& last)
     return last.left(1) + QString::number(number).rightJustified(digits, u'0');
 }
 
-QString PictureFileOf(const Program& p, const QString& file)
-{
-    return p.Branch.WorkDir + PathSeparator + file + u"Sub.jpg";
-}
-
-bool IsRefusedForAlternate(Program& p, const QString& title, const QString& text)
-{
-    if (p.Branch.UsingAlternate == 1)
-        p.Prompts.MsgBox(title, text, Buttons::Information);
-    return p.Branch.UsingAlternate == 1;
-}
-
 // There is no last row to number on from.
 bool IsTableEmpty(Program& p)
 {
     if (!Records(p).IsEmpty())
         return false;
-    p.Prompts.MsgBox(u"Database Empty"_s, u"The Database has no records to access"_s, Buttons::Information);
+    TellNoRecords(p);
     return true;
 }
 
@@ -55,9 +46,9 @@ QString AppendRow(Program& p)
 
 void AddRecord(Program& p)
 {
-    if (IsRefusedForAlternate(p, u"Addition of Subject Records"_s,
-                              u"This Record is from another Tree Branch. You must open\n"
-                              u" that Tree Branch first to Add a new unmapped record. "_s))
+    if (TellIfAlternate(p, u"Addition of Subject Records"_s,
+                        u"This Record is from another Tree Branch. You must open\n"
+                        u" that Tree Branch first to Add a new unmapped record. "_s))
         return;
     const Answer add = p.Prompts.MsgBox(u"New Database Record"_s,
                                         u"Adding a new Record here will not \nbe mapped into the Tree system."_s,
@@ -65,7 +56,7 @@ void AddRecord(Program& p)
     if (add != Answer::Ok || IsTableEmpty(p))
         return;
     const QString file = AppendRow(p);
-    const QString picture = PictureFileOf(p, file);
+    const QString picture = SubjectPictureFile(p.Branch.WorkDir, file);
     p.Files.FileCopy(p.Branch.HomeDir + u"Tree99.jpg", picture);
     p.Form3->Image1.Picture = p.Pictures.Load(p.Files, picture);
     p.Prompts.MsgBox(u"New Blank Record Created"_s, u"New Record "_s + file + u" created.", Buttons::Information);
@@ -73,15 +64,15 @@ void AddRecord(Program& p)
 
 void ChangeSubjectPicture(Program& p)
 {
-    if (IsRefusedForAlternate(p, u"Change to Subject Picture."_s,
-                              u"This Record is from another Tree Branch. You must \n"
-                              u"open that Tree Branch to change the Subject Picture. "_s))
+    if (TellIfAlternate(p, u"Change to Subject Picture."_s,
+                        u"This Record is from another Tree Branch. You must \n"
+                        u"open that Tree Branch to change the Subject Picture. "_s))
         return;
     const Answer change = p.Prompts.MsgBox(u"Subject Picture Change."_s, u"Change or add the Subject Picture ?"_s,
                                            Buttons::QuestionOkCancel);
     if (change != Answer::Ok || !Records(p).HasRow())
         return;
-    const QString picture = PictureFileOf(p, p.Form3->Label25.Caption);
+    const QString picture = SubjectPictureFile(p.Branch.WorkDir, p.Form3->Label25.Caption);
     const std::optional<QString> chosen =
         p.Prompts.OpenFile({u"Select Picture Source File"_s, u"Graphics|*.jpg|All Files|*.*|"_s});
     if (!chosen)

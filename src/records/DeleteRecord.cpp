@@ -42,7 +42,7 @@ bool ConfirmDeletion(Program& p)
 // directory. So it is meant to be.
 void KillFiles(Program& p, const QString& file)
 {
-    p.Errors.Ignoring([&] { p.Files.Kill(p.Branch.WorkDir + PathSeparator + file + u"Sub.jpg"); });
+    p.Errors.Ignoring([&] { p.Files.Kill(SubjectPictureFile(p.Branch.WorkDir, file)); });
     const QString gallery = p.Branch.WorkDir + PathSeparator + u"LfgGal_" + BranchLetter(p.Branch.WorkDir);
     const LikePattern ofRecord(QString(file + u"_##.jpg"));
     QStringList names;
@@ -55,13 +55,10 @@ void KillFiles(Program& p, const QString& file)
 void Unlink(Program& p)
 {
     p.Record.sAltName = Records(p).Text(u"ForeName");
-    p.Branch.WorkDir = p.Branch.WorkDirSaved;
-    p.Branch.HomeDir = p.Branch.HomeDirSaved;
-    OpenWorkDatabase(p);
+    OpenOwnBranch(p);
     EraseBoxCaption(p);
     SaveBoxes(p);
-    p.Branch.UsingAlternate = 0;
-    EnableScanner(p);
+    EndAlternate(p);
     Records(p).MoveFirst();
 }
 
@@ -101,7 +98,7 @@ void DeleteWithFiles(Program& p)
 
 void DeleteRecord(Program& p)
 {
-    if (p.Tools.MapCursorMode == 1)
+    if (p.Tools.MapCursorMode == MapCursor::Mapping)
         ClearMapCursor(p);
     if (!Records(p).HasRow())
         return;

@@ -8,6 +8,7 @@
 #include "map/SubjectPanel.h"
 #include "map/tools/LeaveTools.h"
 #include "platform/Text.h"
+#include "program/AlternateBranch.h"
 #include "program/BranchUi.h"
 #include "program/WorkDatabase.h"
 
@@ -18,17 +19,11 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-constexpr int mapping = 1;
-
-void PrintForename(Program& p, int row, Colour pen)
+void PrintFiledForename(Program& p, int row, Colour pen)
 {
-    PictureBox& picture = p.Form1->Picture1;
-    ResetMapFont(picture);
-    picture.Font.Italic = false;
-    picture.ForeColor = pen;
     const auto& box = p.Map.BoxArr[row];
-    picture.PrintAt({box[BoxColumn::X].Number() + ForenameInBox.X, box[BoxColumn::Y].Number() + ForenameInBox.Y},
-                    FittedForename(box[BoxColumn::Forename].Text()));
+    PrintForename(p, {box[BoxColumn::X].Number(), box[BoxColumn::Y].Number()},
+                  FittedForename(box[BoxColumn::Forename].Text()), pen);
 }
 
 // The name in the box was printed from the forename column, and is wiped by printing it again.
@@ -37,9 +32,9 @@ void RewriteNameInBox(Program& p)
     const int row = RowOfRecord(p.Map, Records(p).Value(u"File"));
     if (row > LastFiledBox)
         return;
-    PrintForename(p, row, p.Form1->Picture1.BackColor);
+    PrintFiledForename(p, row, p.Form1->Picture1.BackColor);
     p.Map.BoxArr[row][BoxColumn::Forename] = p.Form3->Text3.Text.value();
-    PrintForename(p, row, Black);
+    PrintFiledForename(p, row, Black);
 }
 
 // A forename changed only in its letters' case counts as unchanged.
@@ -65,7 +60,7 @@ bool BoxesAreCurrent(Program& p)
 
 void FinishMapping(Program& p)
 {
-    if (p.Tools.MapCursorMode != mapping)
+    if (p.Tools.MapCursorMode != MapCursor::Mapping)
         return;
     p.Errors.Ignoring([&] { Records(p).Put(u"Forename", p.Form3->Text3.Text.value()); });
     p.Record.SavedBookmark.reset();
@@ -73,7 +68,7 @@ void FinishMapping(Program& p)
     p.Errors.Ignoring([&] { Records(p).Update(); });
     p.Errors.Ignoring([&] { Records(p).SetBookmark(p.Record.SavedBookmark); });
     p.Errors.Ignoring([&] { DrawRecordInBox(p); });
-    p.Tools.MapCursorMode = 0;
+    p.Tools.MapCursorMode = MapCursor::Normal;
 }
 
 void KeepGender(Program& p)
@@ -87,14 +82,6 @@ void KeepGender(Program& p)
     p.Errors.Ignoring([&] { Records(p).Put(u"Gender", typed); });
     p.Errors.Ignoring([&] { Records(p).Update(); });
     p.Errors.Ignoring([&] { MarkCurrentBox(p); });
-}
-
-void TellSearchRefused(Program& p)
-{
-    p.Prompts.MsgBox(u"Search Alternate Tree Branch Records."_s,
-                     u"This Record is from another Tree Branch. You must open \n"
-                     u"that Tree Branch to Search the Records of the Database. "_s,
-                     Buttons::Information);
 }
 } // namespace
 
@@ -142,7 +129,7 @@ void ReturnToTree(Program& p)
 
 void GoToGallery(Program& p)
 {
-    if (p.Tools.MapCursorMode == mapping)
+    if (p.Tools.MapCursorMode == MapCursor::Mapping)
         return;
     if (BoxesAreCurrent(p)) {
         CarryForenameToMap(p);
@@ -182,9 +169,9 @@ void OpenRecordMenu(Program& p)
 
 void OpenSearchMenu(Program& p)
 {
-    if (p.Branch.UsingAlternate == 1)
-        TellSearchRefused(p);
-    else
+    if (!TellIfAlternate(p, u"Search Alternate Tree Branch Records."_s,
+                         u"This Record is from another Tree Branch. You must open \n"
+                         u"that Tree Branch to Search the Records of the Database. "_s))
         OpenRecordMenu(p);
 }
 

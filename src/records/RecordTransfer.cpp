@@ -8,6 +8,7 @@
 #include "map/SubjectPanel.h"
 #include "map/tools/LeaveTools.h"
 #include "platform/Text.h"
+#include "program/AlternateBranch.h"
 #include "program/BranchPaths.h"
 #include "program/WorkDatabase.h"
 
@@ -129,14 +130,10 @@ bool FindDestination(Program& p, const QString& file)
     return false;
 }
 
-void PrintForename(Program& p, Colour pen)
+void PrintForenameInBox(Program& p, Colour pen)
 {
-    PictureBox& picture = p.Form1->Picture1;
     FitForename(p);
-    picture.Font = {};
-    picture.ForeColor = pen;
-    picture.PrintAt({p.Mouse.BoxX + ForenameInBox.X, p.Mouse.BoxY + ForenameInBox.Y}, p.Record.sForeName);
-    picture.ForeColor = Black;
+    PrintForename(p, {p.Mouse.BoxX, p.Mouse.BoxY}, p.Record.sForeName, pen);
 }
 
 void WriteFields(Program& p, const FieldTexts& texts)
@@ -152,32 +149,22 @@ void OverwriteRecord(Program& p, const FieldTexts& texts)
 {
     FindBoxOfRecord(p);
     const bool hasBox = p.Scratch.IdxA <= LastFiledBox;
-    const int boxX = p.Mouse.BoxX;
-    const int boxY = p.Mouse.BoxY;
     if (hasBox)
-        PrintForename(p, p.Form1->Picture1.BackColor);
+        PrintForenameInBox(p, p.Form1->Picture1.BackColor);
     WriteFields(p, texts);
-    // The maiden name beside the map keeps its text.
-    const QString maiden = p.Form1->Label15.Caption;
     FillSubjectLabels(p);
-    p.Form1->Label15.Caption = maiden;
-    p.Mouse.BoxX = boxX;
-    p.Mouse.BoxY = boxY;
     if (hasBox)
-        PrintForename(p, Black);
+        PrintForenameInBox(p, Black);
     MarkCurrentBox(p);
 }
 } // namespace
 
 void TransferRecord(Program& p)
 {
-    if (p.Branch.UsingAlternate == 1) {
-        p.Prompts.MsgBox(u"Search Alternate Tree Branch Records."_s,
-                         u"This Record is from another Tree Branch. You must open \n"
-                         u"that Tree Branch to Transfer this Record."_s,
-                         Buttons::Information);
+    if (TellIfAlternate(p, u"Search Alternate Tree Branch Records."_s,
+                        u"This Record is from another Tree Branch. You must open \n"
+                        u"that Tree Branch to Transfer this Record."_s))
         return;
-    }
     p.Errors.Ignoring([&] { Records(p).Update(); });
     // Without a source the destination would be emptied.
     if (!Records(p).HasRow())

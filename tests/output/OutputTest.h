@@ -45,6 +45,36 @@ protected:
         GivenOpen(branch, records.empty() ? QString() : FileOf(records.front()));
     }
 
+    // One that has a text in every field.
+    static Fields FullRecord()
+    {
+        return {{u"File", u"A001"},
+                {u"Surname", u"Smith"},
+                {u"Forename", u"John Paul"},
+                {u"Maiden", u"none"},
+                {u"Gender", u"Male"},
+                {u"Nationality", u"British"},
+                {u"FatherRec", u"A002"},
+                {u"MotherRec", u"A003"},
+                {u"BirthDate", u"1 May 1901"},
+                {u"BirthPlace", u"Leeds"},
+                {u"Spouse", u"Mary Jones"},
+                {u"SpouseRec", u"A004"},
+                {u"Children", u"Ann, Bob"},
+                {u"Partner", u"Eve"},
+                {u"Wedding", u"York"},
+                {u"WedDate", u"2 June 1925"},
+                {u"PrevChildren", u"Carl"},
+                {u"Education", u"School"},
+                {u"Profession", u"Baker"},
+                {u"Deceased", u"1950"},
+                {u"BirthCertificate", u"BC 1"},
+                {u"MarriageCertificate", u"MC 2"},
+                {u"DeathCertificate", u"DC 3"},
+                {u"Medical", u"Weak heart"},
+                {u"Notes", u"Liked cats"}};
+    }
+
     // A001, A002 and so on.
     void GivenPeople(int count)
     {

@@ -31,59 +31,34 @@ protected:
 
 TEST_F(RecordReportFileTest, FullRecord_HasEveryFieldOnItsLine)
 {
-    EXPECT_EQ(ReportOf({{u"File", u"A001"},
-                        {u"Surname", u"Smith"},
-                        {u"Forename", u"John Paul"},
-                        {u"Maiden", u"none"},
-                        {u"Gender", u"Male"},
-                        {u"Nationality", u"British"},
-                        {u"FatherRec", u"A002"},
-                        {u"MotherRec", u"A003"},
-                        {u"BirthDate", u"1 May 1901"},
-                        {u"BirthPlace", u"Leeds"},
-                        {u"Spouse", u"Mary Jones"},
-                        {u"SpouseRec", u"A004"},
-                        {u"Children", u"Ann, Bob"},
-                        {u"Partner", u"Eve"},
-                        {u"Wedding", u"York"},
-                        {u"WedDate", u"2 June 1925"},
-                        {u"PrevChildren", u"Carl"},
-                        {u"Education", u"School"},
-                        {u"Profession", u"Baker"},
-                        {u"Deceased", u"1950"},
-                        {u"BirthCertificate", u"BC 1"},
-                        {u"MarriageCertificate", u"MC 2"},
-                        {u"DeathCertificate", u"DC 3"},
-                        {u"Medical", u"Weak heart"},
-                        {u"Notes", u"Liked cats"}}),
-              "     ANCESTRAL RECORD A001\r\n"
-              "\r\n"
-              "Surname:        Smith\r\n"
-              "ForeNames:      John Paul\r\n"
-              "Maiden Name:    none\r\n"
-              "Gender:         Male\r\n"
-              "Nationality:    British\r\n"
-              "Fathers Record: A002\r\n"
-              "Mothers Record: A003\r\n"
-              "Birth date:     1 May 1901\r\n"
-              "Birth Place:    Leeds\r\n"
-              "Spouse:         Mary Jones\r\n"
-              "Children:       Ann, Bob\r\n"
-              "Partner:        Eve\r\n"
-              "Wedding Place:  York\r\n"
-              "Wedding Date:   2 June 1925\r\n"
-              "Prev.Children:  Carl\r\n"
-              "Education:      School\r\n"
-              "Profession:     Baker\r\n"
-              "Deceased:       1950\r\n"
-              "Birth Cert.     BC 1\r\n"
-              "Marriage Cert:  MC 2\r\n"
-              "Death Cert:     DC 3\r\n"
-              "Notes(1):       \r\n"
-              "        Weak heart \r\n"
-              "Notes(2):      \r\n"
-              "        Liked cats \r\n"
-              "\r\n");
+    EXPECT_EQ(ReportOf(FullRecord()), "     ANCESTRAL RECORD A001\r\n"
+                                      "\r\n"
+                                      "Surname:        Smith\r\n"
+                                      "ForeNames:      John Paul\r\n"
+                                      "Maiden Name:    none\r\n"
+                                      "Gender:         Male\r\n"
+                                      "Nationality:    British\r\n"
+                                      "Fathers Record: A002\r\n"
+                                      "Mothers Record: A003\r\n"
+                                      "Birth date:     1 May 1901\r\n"
+                                      "Birth Place:    Leeds\r\n"
+                                      "Spouse:         Mary Jones\r\n"
+                                      "Children:       Ann, Bob\r\n"
+                                      "Partner:        Eve\r\n"
+                                      "Wedding Place:  York\r\n"
+                                      "Wedding Date:   2 June 1925\r\n"
+                                      "Prev.Children:  Carl\r\n"
+                                      "Education:      School\r\n"
+                                      "Profession:     Baker\r\n"
+                                      "Deceased:       1950\r\n"
+                                      "Birth Cert.     BC 1\r\n"
+                                      "Marriage Cert:  MC 2\r\n"
+                                      "Death Cert:     DC 3\r\n"
+                                      "Notes(1):       \r\n"
+                                      "        Weak heart \r\n"
+                                      "Notes(2):      \r\n"
+                                      "        Liked cats \r\n"
+                                      "\r\n");
 }
 
 const QByteArray EmptyReport = "     ANCESTRAL RECORD A001\r\n"

@@ -39,31 +39,7 @@ protected:
 
 TEST_F(RecordReportPaperTest, FullRecord_HasItsLinesInOrder_TheDateOfTheWeddingBeforeItsPlace)
 {
-    const QString paper = PaperWith({{u"File", u"A001"},
-                                     {u"Surname", u"Smith"},
-                                     {u"Forename", u"John Paul"},
-                                     {u"Maiden", u"none"},
-                                     {u"Gender", u"Male"},
-                                     {u"Nationality", u"British"},
-                                     {u"FatherRec", u"A002"},
-                                     {u"MotherRec", u"A003"},
-                                     {u"BirthDate", u"1 May 1901"},
-                                     {u"BirthPlace", u"Leeds"},
-                                     {u"Spouse", u"Mary Jones"},
-                                     {u"SpouseRec", u"A004"},
-                                     {u"Children", u"Ann, Bob"},
-                                     {u"Partner", u"Eve"},
-                                     {u"Wedding", u"York"},
-                                     {u"WedDate", u"2 June 1925"},
-                                     {u"PrevChildren", u"Carl"},
-                                     {u"Education", u"School"},
-                                     {u"Profession", u"Baker"},
-                                     {u"Deceased", u"1950"},
-                                     {u"BirthCertificate", u"BC 1"},
-                                     {u"MarriageCertificate", u"MC 2"},
-                                     {u"DeathCertificate", u"DC 3"},
-                                     {u"Medical", u"Weak heart"},
-                                     {u"Notes", u"Liked cats"}});
+    const QString paper = PaperWith(FullRecord());
 
     EXPECT_EQ(LinesOn(paper),
               QStringList({u"ANCESTRAL RECORD A001"_s,

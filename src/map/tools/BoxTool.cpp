@@ -13,8 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-constexpr int movingSubject = 3; // of `MapCursorMode`
-
 Point NewCorner(const Program& p)
 {
     return {p.Mouse.DownX - BoxCentreX, p.Mouse.DownY - BoxCentreY};
@@ -24,11 +22,6 @@ void DrawNewOutline(Program& p)
 {
     const Point corner = NewCorner(p);
     p.Form1->Picture1.Box({corner.X, corner.Y, BoxWidth, BoxHeight});
-}
-
-Colour ColourOfBox(const Program& p, int row)
-{
-    return static_cast<Colour>(p.Map.BoxArr[row][BoxColumn::Colour].NumberOr(0));
 }
 
 bool HitsBox(Program& p)
@@ -92,7 +85,7 @@ Pressed TakeBox(Program& p, const Pointing& pointing)
     if (StandOnRecordOfHitBox(p)) {
         p.Record.sCurFile = NumberInHitBox(p);
         p.Record.SavedBookmark = Records(p).GetBookmark();
-        p.Tools.MapCursorMode = movingSubject;
+        p.Tools.MapCursorMode = MapCursor::MovingSubject;
     }
     return TakeHitBox(p, pointing);
 }
@@ -122,10 +115,10 @@ void DragBox(Program& p, const Pointing& pointing)
     const int row = p.Mouse.BoxIdx;
     TakeDelta(p, pointing.At);
     // The rubber pen takes off what it has drawn; before its first stroke the box is wiped.
-    DrawBoxIn(p, row, picture.Mode == DrawMode::NotXor ? ColourOfBox(p, row) : picture.BackColor);
+    DrawBoxIn(p, row, picture.Mode == DrawMode::NotXor ? ColourOfBox(p.Map, row) : picture.BackColor);
     CarryBox(p, row);
     picture.Mode = DrawMode::NotXor;
-    DrawBoxIn(p, row, ColourOfBox(p, row));
+    DrawBoxIn(p, row, ColourOfBox(p.Map, row));
     KeepLast(p, pointing.At);
 }
 
@@ -135,15 +128,15 @@ Released DropBox(Program& p)
         return Released::Repaint;
     PictureBox& picture = p.Form1->Picture1;
     picture.Mode = DrawMode::Copy;
-    DrawBoxIn(p, p.Mouse.BoxIdx, ColourOfBox(p, p.Mouse.BoxIdx));
-    if (p.Tools.MapCursorMode == movingSubject) {
+    DrawBoxIn(p, p.Mouse.BoxIdx, ColourOfBox(p.Map, p.Mouse.BoxIdx));
+    if (p.Tools.MapCursorMode == MapCursor::MovingSubject) {
         Records(p).Edit();
         Records(p).Update();
         Records(p).SetBookmark(p.Record.SavedBookmark);
         picture.ForeColor = Black;
         TakeBoxPosition(p, p.Mouse.BoxIdx);
         DrawRecordInBox(p);
-        p.Tools.MapCursorMode = 0;
+        p.Tools.MapCursorMode = MapCursor::Normal;
     }
     return Released::Repaint;
 }

@@ -58,7 +58,7 @@ void ReturnToRecord(Program& p)
         // Even where no box holds the record and the marker stands wherever it stood; so it is meant to be.
         p.Form1->Shape1.Visible = true;
     }
-    p.Tools.MapCursorMode = 0;
+    p.Tools.MapCursorMode = MapCursor::Normal;
     p.Screen.Pointer = MousePointer::Default;
 }
 } // namespace

@@ -1,5 +1,6 @@
 #include "map/tools/TextTool.h"
 
+#include "map/HitTest.h"
 #include "map/MapItems.h"
 
 #include <utility>
@@ -12,19 +13,12 @@ using namespace Qt::StringLiterals;
 namespace
 {
 constexpr int abovePress = 50;
-// Whatever the real size of the text is.
-constexpr int hitWidth = 600;
-constexpr int hitHeight = 100;
+constexpr Size hitArea{600, 100}; // whatever the real size of the text is
 
 bool IsPressInText(const Program& p, int row)
 {
     const auto& text = p.Map.TextArr[row];
-    if (text[TextColumn::X].IsZero() || !text[TextColumn::X].IsNumber() || !text[TextColumn::Y].IsNumber())
-        return false;
-    const int left = text[TextColumn::X].Number();
-    const int top = text[TextColumn::Y].Number();
-    return p.Mouse.DownX > left && p.Mouse.DownX - hitWidth < left && p.Mouse.DownY > top &&
-           p.Mouse.DownY - hitHeight < top;
+    return IsPressInside(p, text[TextColumn::X], text[TextColumn::Y], hitArea);
 }
 
 void KeepPenAndFont(Program& p)
@@ -131,7 +125,7 @@ Released DropText(Program& p)
     if (picture.Mode == DrawMode::Xor)
         DrawRubberRectangle(p);
     picture.Mode = DrawMode::Copy;
-    DrawTextRegardless(p, p.Tools.TextIdx);
+    DrawText(p, p.Tools.TextIdx);
     p.Scratch.sInput.clear();
     GiveBackPenAndFont(p);
     return Released::Repaint;

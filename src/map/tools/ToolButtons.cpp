@@ -3,6 +3,7 @@
 #include "map/tools/ToolImages.h"
 #include "map/tools/ToolMouse.h"
 #include "map/tools/ToolSelection.h"
+#include "program/AlternateBranch.h"
 
 #include <algorithm>
 
@@ -76,12 +77,9 @@ void LeaveZone(Program& p)
 
 void OpenTools(Program& p)
 {
-    if (p.Branch.UsingAlternate == 1) {
-        p.Prompts.MsgBox(u"Using Alternate Tree Branch."_s,
-                         u"Cannot Change Tree Map until local Tree Branch\nRecord is Selected."_s,
-                         Buttons::Information);
+    if (TellIfAlternate(p, u"Using Alternate Tree Branch."_s,
+                        u"Cannot Change Tree Map until local Tree Branch\nRecord is Selected."_s))
         return;
-    }
     // Neither can the map of no branch: after a New that was given up none is in memory, though one is open.
     if (p.Branch.sDbaseName.isEmpty() || p.Map.Owner != p.Branch.WorkDir) {
         p.Prompts.MsgBox(u"DataBase not Opened"_s,

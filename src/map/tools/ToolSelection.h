@@ -3,9 +3,6 @@
 namespace lineforge
 {
 
-// `ToolMode` while the drawing tools are open.
-inline constexpr int ToolsOpen = 3;
-
 // The values of `ToolSel`: what the tools are about to do. Those of one kind of item lie 10 apart.
 namespace ToolSelection
 {

@@ -13,8 +13,6 @@ namespace lineforge
 
 namespace
 {
-constexpr Point numberInBox{100, 0};
-
 // Free rows stay out, and so do items at no possible place.
 bool IsInZone(const Program& p, int x, int y)
 {
@@ -43,7 +41,7 @@ void PrintBoxTexts(Program& p, int row, Colour pen)
     ResetMapFont(picture);
     picture.ForeColor = pen;
     // An empty box shows its "0" while it travels; so it is meant to be.
-    PrintOnMap(picture, {x + numberInBox.X, y + numberInBox.Y}, box[BoxColumn::File].Text());
+    PrintOnMap(picture, {x + NumberInBox.X, y + NumberInBox.Y}, box[BoxColumn::File].Text());
     PrintOnMap(picture, {x + ForenameInBox.X, y + ForenameInBox.Y}, FittedForename(box[BoxColumn::Forename].Text()));
 }
 
@@ -51,7 +49,7 @@ void CarryTextAlong(Program& p, int row)
 {
     DrawTextIn(p, row, p.Form1->Picture1.BackColor);
     CarryText(p, row);
-    DrawTextRegardless(p, row);
+    DrawText(p, row);
 }
 
 void CarryBoxAlong(Program& p, int row)
@@ -60,7 +58,7 @@ void CarryBoxAlong(Program& p, int row)
     DrawBoxIn(p, row, paper);
     PrintBoxTexts(p, row, paper);
     CarryBox(p, row);
-    DrawBoxIn(p, row, static_cast<Colour>(p.Map.BoxArr[row][BoxColumn::Colour].NumberOr(0)));
+    DrawBoxIn(p, row, ColourOfBox(p.Map, row));
     PrintBoxTexts(p, row, Black);
 }
 
@@ -151,7 +149,7 @@ Released DropZone(Program& p)
     RaiseTool(p, &forms::Form1::Image2);
     p.Form1->Picture1.Cls();
     RedrawMap(p);
-    p.Tools.MapCursorMode = 0;
+    p.Tools.MapCursorMode = MapCursor::Normal;
     p.Screen.Pointer = MousePointer::Default;
     return Released::AsItStands;
 }

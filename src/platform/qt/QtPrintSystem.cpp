@@ -26,9 +26,11 @@ void CopySettings(const QPrinter& from, QPrinter& to)
     to.setColorMode(from.colorMode());
     to.setDuplex(from.duplex());
 }
+} // namespace
 
-// The default printer, or where none is named so the first; error 482 where there is none.
-QString UsualPrinter()
+QtPrintSystem::QtPrintSystem(UsualPrinter usual) : usual_(std::move(usual)) {}
+
+QString QtPrintSystem::UsualPrinterOfDesktop()
 {
     const QString named = QPrinterInfo::defaultPrinterName();
     if (!named.isEmpty())
@@ -38,7 +40,6 @@ QString UsualPrinter()
         throw RuntimeError(ErrorNumber::PrinterError);
     return all.first();
 }
-} // namespace
 
 std::unique_ptr<QPagedPaintDevice> QtPrintSystem::NewJob(bool landscape)
 {
@@ -46,7 +47,7 @@ std::unique_ptr<QPagedPaintDevice> QtPrintSystem::NewJob(bool landscape)
     if (chosen_)
         CopySettings(*chosen_, *printer);
     else
-        printer->setPrinterName(UsualPrinter());
+        printer->setPrinterName(usual_());
     if (printer->outputFormat() == QPrinter::PdfFormat)
         printer->setOutputFileName(NextFile());
     printer->setDocName(u"Lineforge"_s);

@@ -4,6 +4,7 @@
 
 #include <QPrinter>
 
+#include <functional>
 #include <memory>
 
 class QWidget;
@@ -15,6 +16,13 @@ namespace lineforge
 class QtPrintSystem : public PrintSystem
 {
 public:
+    // What tells the name of the printer that is used until one is chosen; error 482 when there is none.
+    using UsualPrinter = std::function<QString()>;
+    explicit QtPrintSystem(UsualPrinter usual = UsualPrinterOfDesktop);
+
+    // The default printer, or where none is named so the first.
+    static QString UsualPrinterOfDesktop();
+
     std::unique_ptr<QPagedPaintDevice> NewJob(bool landscape) override;
 
     // Asks for a printer, or for a file to print to; a cancelled question leaves the one before.
@@ -26,6 +34,7 @@ public:
 private:
     QString NextFile();
 
+    UsualPrinter usual_;
     std::unique_ptr<QPrinter> chosen_;
     int jobsToFile_ = 0;
 };

@@ -28,9 +28,14 @@ struct PrintSystemTest : WindowTest {
         return printer;
     }
 
-    void PrintPage(bool landscape = false)
+    // A desktop that knows no printer.
+    static QString NoPrinter() { throw RuntimeError(ErrorNumber::PrinterError); }
+
+    void PrintPage(bool landscape = false) { PrintPageOn(Printers(), landscape); }
+
+    static void PrintPageOn(PrintSystem& printers, bool landscape = false)
     {
-        Printer paper(Printers());
+        Printer paper(printers);
         paper.Landscape = landscape;
         paper.Print(u"text"_s);
         paper.EndDoc();
@@ -67,10 +72,17 @@ struct PrintSystemTest : WindowTest {
 
 TEST_F(PrintSystemTest, WithoutAnyPrinter_AJobIsRefused)
 {
-    if (!QPrinterInfo::defaultPrinter().isNull())
-        GTEST_SKIP() << "this desk has a printer";
-    EXPECT_EQ(RefusalOf([this] { Printers().NewJob(false); }), ErrorNumber::PrinterError);
-    EXPECT_EQ(RefusalOf([this] { PrintPage(); }), ErrorNumber::PrinterError);
+    QtPrintSystem printers(NoPrinter);
+    EXPECT_EQ(RefusalOf([&] { printers.NewJob(false); }), ErrorNumber::PrinterError);
+    EXPECT_EQ(RefusalOf([&] { PrintPageOn(printers); }), ErrorNumber::PrinterError);
+}
+
+TEST_F(PrintSystemTest, TheDesktopsPrinter_IsItsDefault_OrNone)
+{
+    if (QPrinterInfo::availablePrinterNames().isEmpty())
+        EXPECT_EQ(RefusalOf([] { QtPrintSystem::UsualPrinterOfDesktop(); }), ErrorNumber::PrinterError);
+    else
+        EXPECT_TRUE(QPrinterInfo::availablePrinterNames().contains(QtPrintSystem::UsualPrinterOfDesktop()));
 }
 
 TEST_F(PrintSystemTest, ChosenFile_TakesTheFirstJob_AndTheNextOnesStandBesideIt)
@@ -150,10 +162,10 @@ TEST_F(PrintSystemTest, DialogCancelled_LeavesWhatWasChosenBefore)
 
 TEST_F(PrintSystemTest, DialogCancelledAtFirst_ChoosesNothing)
 {
-    if (!QPrinterInfo::defaultPrinter().isNull())
-        GTEST_SKIP() << "this desk has a printer";
-    Cancel();
-    EXPECT_EQ(RefusalOf([this] { PrintPage(); }), ErrorNumber::PrinterError);
+    QtPrintSystem printers(NoPrinter);
+    const NextDialog next([](QDialog& dialog) { PressKey(dialog, Qt::Key_Escape); });
+    printers.Choose(nullptr);
+    EXPECT_EQ(RefusalOf([&] { PrintPageOn(printers); }), ErrorNumber::PrinterError);
 }
 
 TEST_F(PrintSystemTest, TheDialogStandsAboveTheActiveWindow)

@@ -214,8 +214,7 @@ struct FontStyleTest : PromptsTest, testing::WithParamInterface<std::pair<bool, 
 TEST_P(FontStyleTest, BoldAndItalic_AreThoseChosen)
 {
     const std::optional<QFont> wanted = FindFont();
-    if (!wanted)
-        GTEST_SKIP() << "no font of this style here";
+    ASSERT_TRUE(wanted);
     const NextDialog next([&wanted](QDialog& dialog) {
         dynamic_cast<QFontDialog&>(dialog).setCurrentFont(*wanted);
         dialog.accept();
