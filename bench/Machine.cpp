@@ -17,7 +17,14 @@ std::unique_ptr<QPagedPaintDevice> NoPrinter::NewJob(bool)
     throw RuntimeError(ErrorNumber::PrinterError);
 }
 
-Machine::Machine(const QString& home) : P(Platform{windows_, user_, loop_, screen_, clipboard_, printer_, home})
+Machine::Machine(const QString& home) : Machine(home, loop_, user_) {}
+
+Machine::Machine(const QString& home, EventLoop& loop) : Machine(home, loop, user_) {}
+
+Machine::Machine(const QString& home, Prompts& user) : Machine(home, loop_, user) {}
+
+Machine::Machine(const QString& home, EventLoop& loop, Prompts& user)
+    : P(Platform{windows_, user, loop, screen_, clipboard_, printer_, processes_, home})
 {
     InstallHandlers(P);
     P.Branch.HomeDir = home;

@@ -57,19 +57,30 @@ public:
     std::unique_ptr<QPagedPaintDevice> NewJob(bool landscape) override;
 };
 
+class NoProcesses : public Processes
+{
+public:
+    qint64 Shell(const QString&, const QString&) override { return 0; }
+};
+
 // A program in that home with its main window loaded, and nobody before it.
 class Machine
 {
 public:
     explicit Machine(const QString& home);
+    Machine(const QString& home, EventLoop& loop);
+    Machine(const QString& home, Prompts& user);
 
 private:
+    Machine(const QString& home, EventLoop& loop, Prompts& user);
+
     NoScreen windows_;
     NoUser user_;
     NoEvents loop_;
     Screen screen_{12000, 9000};
     NoClipboard clipboard_;
     NoPrinter printer_;
+    NoProcesses processes_;
 
 public:
     Program P;

@@ -21,6 +21,16 @@ int main(int argc, char* argv[])
         {"a word that is in none of 100,000 records, by the engine's own comparison", "SearchWordWithoutHit",
          "SearchWordBare", 1.5},
         {"the text file of 100,000 records, by bare SQLite calls and one file", "WriteTextFile", "WriteTextBare", 2.0},
+        {"where-same by surname over 2,500 x 2,500 without a match, by the double loop", "WhereSame2500",
+         "DoubleLoop2500", 0.05},
+        {"over twice as many", "WhereSame5000", "WhereSame2500", 2.6},
+        {"over four times as many", "WhereSame10000", "WhereSame2500", 5.2},
+        {"where-same by surname over 10,000 x 10,000 without a match", "WhereSame10000", "", 500.0},
+        {"field differences over 10,000 equal pairs", "EqualPairs10000", "", 1000.0},
+        {"the first picture of a page of 98 photographs of 12 megapixels", "GalleryFirstPicture", "", 150.0},
+        {"all of them", "GalleryPage", "", 6000.0},
+        {"the longest time between two of them in which nobody is served", "GalleryLongestPause", "", 250.0},
+        {"the same page again", "GalleryPageAgain", "", 50.0},
         {"start to a shown main window, by an empty window's", "StartLineforge", "StartEmpty", 1.5},
     });
     benchmark::RunSpecifiedBenchmarks(&reporter);

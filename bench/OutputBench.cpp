@@ -82,9 +82,10 @@ private:
     Screen screen_{12000, 9000};
     NoClipboard clipboard_;
     NoPrinter printer_;
+    NoProcesses processes_;
 
 public:
-    Program P{Platform{windows_, user_, loop_, screen_, clipboard_, printer_, Home().Path()}};
+    Program P{Platform{windows_, user_, loop_, screen_, clipboard_, printer_, processes_, Home().Path()}};
 };
 
 void SearchWordWithoutHit(benchmark::State& state)

@@ -2,8 +2,8 @@
 
 build_packages="g++ cmake ninja-build ccache qt6-base-dev qt6-multimedia-dev libgl1-mesa-dev libsqlite3-dev"
 run_packages="fonts-liberation qt6-qpa-plugins libqt6multimedia6 gstreamer1.0-plugins-good"
-screen_packages="xvfb xauth libxcb1-dev libxcb-xtest0-dev"
-test_packages="libgtest-dev libgmock-dev poppler-utils $screen_packages"
+screen_packages="xvfb xauth libxcb1-dev libxcb-xtest0-dev poppler-utils"
+test_packages="libgtest-dev libgmock-dev $screen_packages"
 
 # Installs those of the named packages that are missing; says nothing when none is.
 install_missing() {

@@ -7,6 +7,7 @@ Form1::Form1() : Form(u"Form1", u"Lineforge", MainWindowClient)
 {
     Picture1.Font = {QStringLiteral("Arial"), 8.25};
     Label9.Font.Bold = Label10.Font.Bold = true;
+    Command5.Visible = false; // until a comparison has begun
     Shape3.Kind = Shape::Outline::Rectangle;
     Shape3.Dotted = true;
     for (const ToolImage& tool : Tools) {

@@ -1,6 +1,6 @@
 #include "forms/Form3.h"
 
-#include "forms/TransportFaces.h"
+#include "platform/TransportFaces.h"
 
 namespace lineforge::forms
 {

@@ -1,6 +1,6 @@
 #include "forms/ToolFaces.h"
 
-#include "forms/ButtonFace.h"
+#include "platform/ButtonFace.h"
 
 #include <QPainter>
 #include <QPainterPath>

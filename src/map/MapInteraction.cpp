@@ -178,14 +178,6 @@ void ReleaseOnMap(Program& p, double x, double y)
         ShowCoordinates(p, x, y);
 }
 
-bool TellIfNoBranch(Program& p)
-{
-    if (!p.Branch.sDbaseName.isEmpty())
-        return false;
-    Tell(p, u"Data not available"_s, u"Cannot View until database file is Opened"_s);
-    return true;
-}
-
 void DoubleClickOnMap(Program& p)
 {
     if (p.Tools.ToolMode == ToolsOpen)

@@ -18,7 +18,4 @@ void ReleaseOnMap(Program& p, double x, double y);
 // Errors of the record store when a branch's database is there but can't be opened.
 void DoubleClickOnMap(Program& p);
 
-// Tells that no branch is open; false when one is.
-bool TellIfNoBranch(Program& p);
-
 } // namespace lineforge

@@ -1,6 +1,5 @@
 #include "output/BookmarkList.h"
 
-#include "map/MapInteraction.h"
 #include "output/OutputMode.h"
 #include "output/PrintErrors.h"
 #include "output/RecordReport.h"
@@ -8,6 +7,7 @@
 #include "platform/Text.h"
 #include "program/AlternateBranch.h"
 #include "program/BranchPaths.h"
+#include "program/BranchUi.h"
 #include "program/Meanwhile.h"
 #include "program/Position.h"
 #include "program/WorkDatabase.h"

@@ -1,10 +1,10 @@
 #include "output/PrintBranch.h"
 
 #include "map/MapDisplay.h"
-#include "map/MapInteraction.h"
 #include "output/OutputMode.h"
 #include "output/PrintErrors.h"
 #include "output/RecordReport.h"
+#include "program/BranchUi.h"
 #include "program/Meanwhile.h"
 #include "program/WorkDatabase.h"
 
@@ -59,6 +59,11 @@ bool PrintWindow(Program& p, const Form& form)
         p.Printer.Abort();
     return isPrinted;
 }
+
+void TellNotPrinted(Program& p)
+{
+    p.Prompts.MsgBox(u"Lineforge"_s, u"The form could not be printed."_s, Buttons::Plain);
+}
 } // namespace
 
 void PrintMap(Program& p)
@@ -86,10 +91,27 @@ void PrintMainWindow(Program& p)
         ReportError(p);
 }
 
+void PrintComparisonWindow(Program& p)
+{
+    if (!PrintWindow(p, *p.Form6))
+        ReportError(p);
+}
+
 void PrintRecordWindow(Program& p)
 {
     if (!PrintWindow(p, *p.Form3))
-        p.Prompts.MsgBox(u"Lineforge"_s, u"The form could not be printed."_s, Buttons::Plain);
+        TellNotPrinted(p);
+}
+
+void PrintGalleryWindow(Program& p)
+{
+    PrintWindow(p, *p.Form5);
+}
+
+void PrintFromPictureWindow(Program& p)
+{
+    if (!PrintWindow(p, *p.Form1))
+        TellNotPrinted(p);
 }
 
 void PrintCurrentRecord(Program& p)

@@ -8,10 +8,16 @@ namespace lineforge
 // The whole map on one page, on its side, in a frame; what is larger than the page is cut off. Errors are shown.
 void PrintMap(Program& p);
 
-// A picture of a window. What the printer refuses is shown for the main window as an error, for the record form in
-// words.
+// A picture of a window. What the printer refuses is shown for the main window and the comparison as an error, for the
+// record form in words, for the gallery not at all.
 void PrintMainWindow(Program& p);
+void PrintComparisonWindow(Program& p);
 void PrintRecordWindow(Program& p);
+void PrintGalleryWindow(Program& p);
+
+// The command of the window that shows a picture by itself. It prints the main window, and is meant to; what the
+// printer refuses is shown in words.
+void PrintFromPictureWindow(Program& p);
 
 // One record on a page of its own. Errors are shown.
 void PrintCurrentRecord(Program& p);

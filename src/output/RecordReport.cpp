@@ -81,7 +81,7 @@ constexpr ClipboardLine clipboardLines[] = {
     {u"           Notes(2):      ", u"Notes", true},
 };
 
-constexpr qsizetype fileIndent = 8;
+constexpr QStringView fileIndent = u"        ";
 constexpr qsizetype paperIndent = 23;
 constexpr qsizetype clipboardIndent = 33;
 
@@ -93,7 +93,7 @@ QString LineOf(const Recordset& record, const ReportLine& line)
 void WriteWrapped(TextWriter& file, const QString& value)
 {
     for (const QString& line : Wrapped(value))
-        file.Line(QString(QString(fileIndent, u' ') + line));
+        file.Line(fileIndent, line);
 }
 
 void PrintWrapped(Printer& printer, const QString& value)
@@ -124,14 +124,14 @@ void WriteRecordToFile(Program& p)
     if (record.Eof())
         return;
     TextWriter& file = *p.Output.TextFile;
-    file.Line(QString(u"     ANCESTRAL RECORD " + record.Text(u"File")));
+    file.Line(u"     ANCESTRAL RECORD ", record.Text(u"File"));
     file.Line({});
     for (const ReportLine& line : fileLines)
-        file.Line(LineOf(record, line));
-    file.Line(u"Notes(1):       "_s);
+        file.Line(line.Label, record.Text(line.Field));
+    file.Line(u"Notes(1):       ");
     WriteWrapped(file, record.Text(u"Medical"));
     // One blank fewer than its sister; so it is meant to be.
-    file.Line(u"Notes(2):      "_s);
+    file.Line(u"Notes(2):      ");
     WriteWrapped(file, record.Text(u"Notes"));
     file.Line({});
 }

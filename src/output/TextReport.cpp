@@ -1,11 +1,11 @@
 #include "output/TextReport.h"
 
-#include "map/MapInteraction.h"
 #include "output/BookmarkList.h"
 #include "output/OutputMode.h"
 #include "output/RecordReport.h"
 #include "program/AlternateBranch.h"
 #include "program/BranchPaths.h"
+#include "program/BranchUi.h"
 #include "program/Meanwhile.h"
 #include "program/Position.h"
 #include "program/WorkDatabase.h"

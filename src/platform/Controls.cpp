@@ -87,7 +87,10 @@ Timer::Timer(Container& parent, QStringView name, int milliseconds)
     Enabled = false;
 }
 
-MultimediaControl::MultimediaControl(Container& parent, QStringView name) : ControlKind(parent, name, {}) {}
+MultimediaControl::MultimediaControl(Container& parent, QStringView name, Rectangle place)
+    : ControlKind(parent, name, place)
+{
+}
 
 MenuItem::MenuItem(std::vector<MenuItem*>& level, QStringView name, QStringView caption)
     : Name(name.toString()), Caption(caption.toString())

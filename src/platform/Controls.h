@@ -10,6 +10,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 // The controls of a window as data: their state in observable properties, their events as functions that the window's
@@ -145,6 +146,14 @@ struct Label : ControlKind<Label> {
     Label(Container& parent, QStringView name, Rectangle place, QStringView caption = {});
     ControlText Caption;
     TextFont Font;
+    bool Centred = false;
+};
+
+// A stretch of a text, in characters.
+struct TextRange {
+    int Start = 0;
+    int Length = 0;
+    friend bool operator==(const TextRange&, const TextRange&) = default;
 };
 
 struct TextBox : ControlKind<TextBox> {
@@ -156,6 +165,8 @@ struct TextBox : ControlKind<TextBox> {
     int SelStart = 0;
     QString SelText;
     Event Click; // the selection stands by then
+    // Stands out in a box of several lines.
+    QProperty<TextRange> Marked;
 
     // Puts a text in the place of the selection, as much of it as the box takes, with the caret behind it.
     void ReplaceSelection(const QString& text);
@@ -166,8 +177,9 @@ struct TextBox : ControlKind<TextBox> {
 struct Button : ControlKind<Button> {
     Button(Container& parent, QStringView name, Rectangle place, QStringView caption = {});
     QProperty<QString> Caption;
-    QProperty<QImage> Picture; // in the place of a caption
-    char16_t AccessKey = 0;    // with Alt it presses the button; 0 for none
+    QProperty<QImage> Picture;                  // in the place of a caption
+    QProperty<std::optional<Colour>> BackColor; // none: as buttons usually look
+    char16_t AccessKey = 0;                     // with Alt it presses the button; 0 for none
     Event Click;
 };
 
@@ -208,7 +220,14 @@ struct ListBox : ControlKind<ListBox> {
 struct Image : ControlKind<Image> {
     using ControlKind::ControlKind;
     QProperty<QImage> Picture;
+    // Off: whoever puts a picture in gives the control its size, too.
+    bool Stretch = true;
+    // What the program keeps with the picture.
+    QProperty<QString> Tag;
+    // The mouse takes it and drops it on another, or on itself, which is a plain click then.
+    bool Draggable = false;
     Event Click;
+    std::function<void(Image& source)> DragDrop; // another was dropped on this one, or this one itself
 };
 
 // An outline above its container, which lets the mouse through. Hidden until it is told to show.
@@ -238,12 +257,20 @@ struct Timer : ControlKind<Timer> {
     Event Tick;
 };
 
-// A player of sounds and videos. Its commands act at once; a file or device that isn't there is passed over.
+// A player of sounds and videos. Without a place it isn't seen and plays short sounds: its commands act at once, and a
+// file or device that isn't there is passed over. With a place it shows five buttons of equal width, in the order
+// rewind, play, pause, step, stop, which serve the file that is open.
 struct MultimediaControl : ControlKind<MultimediaControl> {
-    MultimediaControl(Container& parent, QStringView name);
+    MultimediaControl(Container& parent, QStringView name, Rectangle place = {});
     void Release() override { Command(u"Close"); }
+    bool HasPlace() const { return Width > 0 && Height > 0; }
 
     // "Open", "Sound", "Close".
+    // With a place "Open" reads the named file and returns when it can be played. It raises FileNotFound when the file
+    // isn't there and InvalidFileFormat when it is nothing that can be played. "Close" stops and lets go of the file;
+    // closing what is not open does nothing, and opening again closes what was open.
+    // The buttons give theirs in the same way: "Rewind", "Play", "Pause" (given again it goes on), "Step", "Stop". They
+    // do nothing while nothing is open.
     void Command(QStringView command)
     {
         if (Act)
@@ -253,9 +280,16 @@ struct MultimediaControl : ControlKind<MultimediaControl> {
     bool Notify = false;
     bool Wait = false;
     bool Shareable = false;
+    int ScreenHeight = 0; // twips of its upper part that show the film; 0: sound alone
     QString DeviceType;
     QString FileName;
     std::function<void(QStringView command)> Act; // by whoever shows the window
+
+    // What the player tells of the file, set by whoever plays it.
+    QProperty<bool> IsOpen{false};
+    QProperty<int> Position{0}; // milliseconds; `Length` once it has played to its end
+    QProperty<int> Length{0};   // milliseconds
+    QProperty<QImage> Screen;   // the film's picture at the position; null for a sound
 };
 
 // An entry of a menu, the menu itself included. A caption of "-" is a separator.

@@ -36,6 +36,9 @@ public:
     // Brings the bound controls up to date and lets a walk rest. Called by the event loop.
     void Settle() override;
 
+    // The user has moved to another record by the control's own buttons.
+    Event Stepped;
+
     // Told once when what the bound controls show has become out of date.
     Event Stale;
 

@@ -197,6 +197,19 @@ void FileSystem::Kill(const QString& path) const
         Refuse(ErrorNumber::PermissionDenied);
 }
 
+void FileSystem::Rename(const QString& from, const QString& to) const
+{
+    const QString source = Resolve(from);
+    const QString destination = Resolve(to);
+    RequireFile(source);
+    if (QFileInfo::exists(destination))
+        Refuse(ErrorNumber::FileAlreadyExists);
+    RequireWritableParent(source);
+    RequireWritableParent(destination);
+    if (!QFile::rename(source, destination))
+        Refuse(ErrorNumber::PathFileAccess);
+}
+
 void FileSystem::MkDir(const QString& path) const
 {
     const QString directory = Resolve(path);

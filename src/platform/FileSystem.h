@@ -36,6 +36,8 @@ public:
     // An existing file is overwritten; the copy keeps the source's time. It appears whole or not at all.
     void FileCopy(const QString& source, const QString& destination) const;
     void Kill(const QString& path) const;
+    // Gives a file another name, on the same disk. Nothing is overwritten: 58 when that name is taken.
+    void Rename(const QString& from, const QString& to) const;
     void MkDir(const QString& path) const;
     void RmDir(const QString& path) const;
     void ChDir(const QString& path);

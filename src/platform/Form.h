@@ -35,15 +35,19 @@ struct Form : Container {
     bool Frameless = false;
     std::vector<MenuItem*> Menus;
 
-    Event Load;                   // once, when the window has been made
-    Event Unloading;              // it is about to go
-    Event Click;                  // on the bare window
-    Event CloseByFrame;           // unloads it; set by whoever owns the window
-    Event ToFront;                // brings it before the others; set by whoever shows the window
-    std::function<QImage()> Grab; // what it shows below its menus; set by whoever shows the window
+    Event Load;                    // once, when the window has been made
+    Event Unloading;               // it is about to go
+    Event Click;                   // on the bare window
+    Event CloseByFrame;            // unloads it; set by whoever owns the window
+    Event ToFront;                 // brings it before the others; set by whoever shows the window
+    std::function<QImage()> Grab;  // what it shows below its menus; set by whoever shows the window
+    std::function<Size()> Measure; // the area below its menus in twips; set by whoever shows the window
 
-    // What it shows below its menus; null while it isn't shown.
+    // What it shows below its menus, or would if it weren't hidden; null before it has been shown for the first time.
     QImage Picture() const { return Grab ? Grab() : QImage(); }
+
+    // The area below its menus as it is on the screen; the whole window where nobody shows it.
+    Size ScaleSize() const { return Measure ? Measure() : Size{Width, Height}; }
 
     // On the screen and before the other windows, also when it has been on the screen already.
     void Show()

@@ -2,60 +2,84 @@
 
 #include "platform/RuntimeError.h"
 
-#include <QFile>
 #include <QImageReader>
 
 #include <algorithm>
-#include <sys/stat.h>
 
 namespace lineforge
 {
 
 namespace
 {
-QImage ReadPicture(const FileSystem& files, const QString& path, int longestSide)
+// More than the finest cameras have. What is larger would take more memory to decode than a picture is worth, even
+// where little of it is kept.
+constexpr qint64 mostDots = 128'000'000;
+constexpr int bytesADot = 4;
+
+// The toolkit's own limit is lower, and holds for some formats only.
+void AllowLargestPicture()
+{
+    constexpr int megabyte = 1 << 20;
+    [[maybe_unused]] static const bool isAllowed =
+        (QImageReader::setAllocationLimit(static_cast<int>(mostDots * bytesADot / megabyte) + 1), true);
+}
+
+QSize WholeSize(QSize size)
+{
+    return size;
+}
+
+QSize FittedSize(QSize size)
+{
+    constexpr int longest = PictureCache::LongestSide;
+    if (std::max(size.width(), size.height()) <= longest)
+        return size;
+    return size.scaled(longest, longest, Qt::KeepAspectRatio).expandedTo({1, 1});
+}
+
+QString Require(const FileSystem& files, const QString& path)
 {
     if (files.Dir(path).isEmpty())
         throw RuntimeError(ErrorNumber::FileNotFound);
-    QImageReader reader(files.Resolve(path));
+    return files.Resolve(path);
+}
+} // namespace
+
+QImage DecodePicture(const QString& file, const DecodedSize& sizeFor)
+{
+    AllowLargestPicture();
+    QImageReader reader(file);
     reader.setAutoTransform(true);
     // A picture is what its content says, whatever its name ends in.
     reader.setDecideFormatFromContent(true);
-    // Told beforehand, the size saves the decoder most of its work.
-    const QSize size = reader.size();
-    if (longestSide > 0 && std::max(size.width(), size.height()) > longestSide)
-        reader.setScaledSize(size.scaled(longestSide, longestSide, Qt::KeepAspectRatio).expandedTo({1, 1}));
+    const QSize stored = reader.size();
+    if (qint64{stored.width()} * stored.height() > mostDots)
+        throw RuntimeError(ErrorNumber::InvalidPicture);
+    // Told beforehand, the size saves the decoder most of its work. It is that of the picture as it is stored.
+    const bool liesOnItsSide = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
+    const auto turned = [liesOnItsSide](QSize size) { return liesOnItsSide ? size.transposed() : size; };
+    if (const QSize wanted = turned(sizeFor(turned(stored))); stored.isValid() && wanted != stored)
+        reader.setScaledSize(wanted);
     const QImage picture = reader.read();
     if (picture.isNull())
         throw RuntimeError(ErrorNumber::InvalidPicture);
     return picture;
 }
-} // namespace
 
 QImage LoadPicture(const FileSystem& files, const QString& path)
 {
-    return ReadPicture(files, path, 0);
-}
-
-PictureCache::Identity PictureCache::IdentityOf(const QString& path)
-{
-    constexpr qint64 nanosecondsASecond = 1'000'000'000;
-    struct stat status = {};
-    if (stat(QFile::encodeName(path).constData(), &status) != 0)
-        return {path};
-    return {path, status.st_dev, status.st_ino, status.st_mtim.tv_sec * nanosecondsASecond + status.st_mtim.tv_nsec,
-            status.st_size};
+    return DecodePicture(Require(files, path), WholeSize);
 }
 
 QImage PictureCache::Load(const FileSystem& files, const QString& path)
 {
-    const Identity file = IdentityOf(files.Resolve(path));
+    const FileIdentity file = IdentityOf(files.Resolve(path));
     const auto known = std::ranges::find(kept_, file, &Kept::File);
     if (known != kept_.end() && file.File != 0) {
         std::rotate(kept_.begin(), known, known + 1);
         return kept_.front().Picture;
     }
-    const QImage picture = ReadPicture(files, path, LongestSide);
+    const QImage picture = DecodePicture(Require(files, path), FittedSize);
     kept_.push_front({file, picture});
     if (kept_.size() > room)
         kept_.pop_back();

@@ -1,17 +1,25 @@
 #pragma once
 
+#include "platform/FileIdentity.h"
 #include "platform/FileSystem.h"
 
 #include <QImage>
 
 #include <deque>
-#include <sys/types.h>
+#include <functional>
 
 namespace lineforge
 {
 
+// The size in dots to which a picture of that size is to be decoded; both upright.
+using DecodedSize = std::function<QSize(QSize size)>;
+
+// Decodes a picture file under its absolute path, upright as its camera says, at the size asked for. Error 481 when it
+// is no picture, or one larger than a picture in memory may be. May be called beside the program's one thread.
+QImage DecodePicture(const QString& file, const DecodedSize& sizeFor);
+
 // A picture file, upright as its camera says. Error 53 when it isn't there, 481 when it is no picture or one larger
-// than the toolkit's limit for a picture in memory.
+// than a picture in memory may be.
 QImage LoadPicture(const FileSystem& files, const QString& path);
 
 // The same, no larger than `LongestSide` pixels either way, and the last few kept, so that leafing through pictures
@@ -24,21 +32,10 @@ public:
     QImage Load(const FileSystem& files, const QString& path);
 
 private:
-    // What tells a file from the one that stood under its name before. A copy keeps the time of what it was copied
-    // from, but is never the same file.
-    struct Identity {
-        QString Path;
-        dev_t Device = 0;
-        ino_t File = 0;
-        qint64 ModifiedNanoseconds = 0;
-        qint64 Bytes = 0;
-        friend bool operator==(const Identity&, const Identity&) = default;
-    };
     struct Kept {
-        Identity File;
+        FileIdentity File;
         QImage Picture;
     };
-    static Identity IdentityOf(const QString& path);
     static constexpr std::size_t room = 8;
 
     std::deque<Kept> kept_; // the last used first

@@ -3,10 +3,13 @@
 #include "platform/Clipboard.h"
 #include "platform/Geometry.h"
 #include "platform/Printer.h"
+#include "platform/Processes.h"
 #include "platform/Prompts.h"
 #include "platform/Window.h"
 
+#include <QImage>
 #include <QProperty>
+#include <QSizeF>
 #include <QString>
 
 #include <functional>
@@ -21,8 +24,20 @@ struct Screen {
     int Width = 0; // twips
     int Height = 0;
     QProperty<MousePointer> Pointer{MousePointer::Default};
+    int TwipsPerPixel = 15;
+    double DotsPerPixel = 1; // of the screen itself, which may be finer than what the toolkit counts
 
     Size Area() const { return {Width, Height}; }
+    // How many of the screen's own dots an area takes.
+    QSize DotsOf(Size twips) const
+    {
+        return (QSizeF(twips.Width, twips.Height) * DotsPerPixel / TwipsPerPixel).toSize().expandedTo({1, 1});
+    }
+    // The area that a picture takes when each of its dots is a pixel.
+    lineforge::Size SizeOf(const QImage& picture) const
+    {
+        return {picture.width() * TwipsPerPixel, picture.height() * TwipsPerPixel};
+    }
 };
 
 // Thrown through all handlers that are still running once the program has been told to end.
@@ -50,6 +65,7 @@ struct Platform {
     lineforge::Screen& Screen;
     lineforge::Clipboard& Clipboard;
     lineforge::PrintSystem& PrintSystem;
+    lineforge::Processes& Processes;
     QString ExecutableDirectory; // with a trailing separator
 };
 

@@ -14,7 +14,7 @@ struct KnownError {
     QStringView Text;
 };
 
-constexpr std::array<KnownError, 30> knownErrors{{
+constexpr std::array<KnownError, 31> knownErrors{{
     {5, u"Invalid procedure call or argument"},
     {6, u"Overflow"},
     {7, u"Out of memory"},
@@ -31,6 +31,7 @@ constexpr std::array<KnownError, 30> knownErrors{{
     {76, u"Path not found"},
     {91, u"Object variable not set"},
     {94, u"Invalid use of Null"},
+    {321, u"Invalid file format"},
     {340, u"Control array element doesn't exist"},
     {360, u"Object already loaded"},
     {481, u"Invalid picture"},

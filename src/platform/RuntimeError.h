@@ -35,6 +35,7 @@ inline constexpr int PathFileAccess = 75;
 inline constexpr int PathNotFound = 76;
 inline constexpr int ObjectNotSet = 91;
 inline constexpr int InvalidUseOfNull = 94;
+inline constexpr int InvalidFileFormat = 321;
 inline constexpr int ArrayElementMissing = 340;
 inline constexpr int ArrayElementLoaded = 360;
 inline constexpr int InvalidPicture = 481;

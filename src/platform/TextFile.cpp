@@ -58,10 +58,20 @@ bool TextReader::SkipPast(QStringView name)
 
 TextWriter::TextWriter(const FileSystem& files, const QString& path) : files_(files), path_(files.Resolve(path)) {}
 
-void TextWriter::Line(QStringView text)
+void TextWriter::Line(QStringView label, QStringView text)
 {
-    bytes_ += text.toUtf8();
+    Append(label);
+    Append(text);
     bytes_ += "\r\n";
+}
+
+// Encoded where it goes to: a report of a large branch is millions of lines.
+void TextWriter::Append(QStringView text)
+{
+    const qsizetype before = bytes_.size();
+    bytes_.resize(before + utf8_.requiredSpace(text.size()));
+    const char* end = utf8_.appendToBuffer(bytes_.data() + before, text);
+    bytes_.truncate(end - bytes_.constData());
 }
 
 void TextWriter::Close()

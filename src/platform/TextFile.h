@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringEncoder>
 #include <QStringList>
 
 namespace lineforge
@@ -41,13 +42,17 @@ class TextWriter
 public:
     TextWriter(const FileSystem& files, const QString& path);
 
-    void Line(QStringView text);
+    // One line of both texts, the first before the second.
+    void Line(QStringView label, QStringView text = {});
     // Errors of the disk; what stood there then stays.
     void Close();
 
 private:
+    void Append(QStringView text);
+
     const FileSystem& files_;
     QString path_;
+    QStringEncoder utf8_{QStringEncoder::Utf8, QStringEncoder::Flag::Stateless};
     QByteArray bytes_;
 };
 

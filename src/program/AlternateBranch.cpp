@@ -59,8 +59,11 @@ void OpenOwnBranch(Program& p)
 void EndAlternate(Program& p)
 {
     p.Branch.UsingAlternate = 0;
-    for (Button forms::Form3::*transport : forms::Form3::Transport)
-        ((*p.Form3).*transport).Enabled = true;
+    for (Button forms::Form3::*transport : forms::Form3::Transport) {
+        Button& button = (*p.Form3).*transport;
+        button.Enabled = true;
+        button.Visible = true; // the gallery has hidden them if it was left for the records
+    }
 }
 
 void ReturnFromSibling(Program& p)

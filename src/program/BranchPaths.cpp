@@ -3,6 +3,8 @@
 #include "platform/FileSystem.h"
 #include "platform/Text.h"
 
+#include <algorithm>
+
 namespace lineforge
 {
 
@@ -29,6 +31,11 @@ QString SiblingDirectory(const QString& workDir, QStringView letter)
 bool IsImported(const QString& workDir)
 {
     return SameText(DirectoryName(workDir).first(std::min<qsizetype>(6, workDir.size())), u"Import");
+}
+
+QString ApplicationDirectory(const QString& workDir)
+{
+    return workDir.left(std::max<qsizetype>(0, workDir.size() - directoryNameLength - 1));
 }
 
 QString DatabasePath(const QString& workDir)

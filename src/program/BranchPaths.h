@@ -18,6 +18,9 @@ QString SiblingDirectory(const QString& workDir, QStringView letter);
 // A branch that was imported beside another of its letter.
 bool IsImported(const QString& workDir);
 
+// The directory that the branches stand in, without a trailing separator.
+QString ApplicationDirectory(const QString& workDir);
+
 // The record database. Its name keeps the ordinary prefix in an imported branch.
 QString DatabasePath(const QString& workDir);
 

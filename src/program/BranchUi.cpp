@@ -44,6 +44,14 @@ void SetPictureName(Program& p)
     p.Record.sPicFile = p.Record.sCurFile + u"Sub.Jpg";
 }
 
+bool TellIfNoBranch(Program& p)
+{
+    if (!p.Branch.sDbaseName.isEmpty())
+        return false;
+    p.Prompts.MsgBox(u"Data not available"_s, u"Cannot View until database file is Opened"_s, Buttons::Information);
+    return true;
+}
+
 void TellNoRecords(Program& p)
 {
     p.Prompts.MsgBox(u"Database Empty"_s, u"The Database has no records to access"_s, Buttons::Information);

@@ -18,6 +18,7 @@
 #include "platform/Recordset.h"
 #include "platform/RuntimeError.h"
 #include "platform/TextFile.h"
+#include "platform/Thumbnails.h"
 #include "program/MapState.h"
 #include "program/ToolState.h"
 
@@ -76,8 +77,47 @@ struct RecordState {
     Bookmark SavedBookmark;
 };
 
+// The values of `ScanState` that the gallery knows.
+namespace GalleryScan
+{
+inline constexpr int Browsing = 0;
+inline constexpr int ItemOpen = 1;
+inline constexpr int Deleting = 6; // the next click on a tile deletes its file
+} // namespace GalleryScan
+
 struct GalleryState {
-    Integer16 FirstShow; // 1: the page must be built before it is shown
+    Integer16 FirstShow;  // 1: the page must be built before it is shown
+    Integer16 GalleryTop; // the highest subscript of the page, and so the index of the empty tile behind it
+    Integer16 GallerySel; // the tile last clicked
+    // Where the tile of an enlarged picture stood; twips.
+    Integer16 GalSaveTop;
+    Integer16 GalSaveHeight;
+    Integer16 GalSaveWidth;
+    QString GalSaveLeft;
+    QImage TilePicture;              // what the tile of an enlarged picture showed
+    std::optional<int> EnlargedTile; // none: no picture is open
+    qint64 EditorTask = 0;
+    int Page = 0; // grows with every page that is begun, and when a page has gone with its window
+    // Whose files are on the page, and where they are, with a trailing separator. Cursor and branch may have gone on
+    // since: what is opened, added or deleted goes by what the user sees.
+    QString PageRecord;
+    QString PageDirectory;
+};
+
+// The comparison of the open branch with another one.
+struct CompareState {
+    QString sCompDbFile; // "LfgDat_B.mdb"
+    QString sCompDir;    // with a trailing separator
+    QString sCompName;
+    Integer16 SearchMask;  // the keys that a pair must agree on, see `CompareKey`; 8 also asks for a compare branch
+    Integer16 FieldStep;   // where the search for differences goes on: 0 and 1 at the first field, 23 behind the last
+    Integer16 SearchEnded; // 1: a recordset has run out
+    Integer16 ResetDone;   // 1 from Reset to the next Search
+    QString sCompField;    // the field on show
+    QString sSelText;      // selected at the last click in a box of the window
+    Integer16 SelBox;      // that box's number, 1 to 4, 0 for none
+    // The numbers of appended records that have been seen, as long as the window lives.
+    FixedArray<QString, 0, 99> ZNumberTable;
 };
 
 struct BookmarkState {
@@ -95,6 +135,7 @@ struct OutputState {
 
 // Shared by all routines. They carry no state between commands, but some routines read what a called one left there.
 struct ScratchState {
+    Integer16 ScanState; // one word for gallery, comparison and GEDCOM conversion, none of which resets the others'
     int IdxA = 0;
     int IdxB = 0;
     int LenScratch = 0;
@@ -113,11 +154,13 @@ struct Program {
     EventLoop& Loop;
     lineforge::Screen& Screen;
     lineforge::Clipboard& Clipboard;
+    lineforge::Processes& Processes;
     lineforge::Printer Printer;
     QString ExecutableDirectory;
     FileSystem Files;
     lineforge::Databases Databases;
     PictureCache Pictures;
+    lineforge::Thumbnails Thumbnails;
     ErrorState Errors;
 
     BranchState Branch;
@@ -128,6 +171,7 @@ struct Program {
     MappingState Mapping;
     RecordState Record;
     GalleryState Gallery;
+    CompareState Compare;
     BookmarkState Bookmarks;
     OutputState Output;
     ScratchState Scratch;

@@ -1,5 +1,6 @@
 #include "records/DeleteRecord.h"
 
+#include "gallery/GalleryFile.h"
 #include "map/BoxCaptions.h"
 #include "map/CurrentBox.h"
 #include "map/MapFile.h"
@@ -43,10 +44,9 @@ bool ConfirmDeletion(Program& p)
 void KillFiles(Program& p, const QString& file)
 {
     p.Errors.Ignoring([&] { p.Files.Kill(SubjectPictureFile(p.Branch.WorkDir, file)); });
-    const QString gallery = p.Branch.WorkDir + PathSeparator + u"LfgGal_" + BranchLetter(p.Branch.WorkDir);
     const LikePattern ofRecord(QString(file + u"_##.jpg"));
     QStringList names;
-    p.Errors.Ignoring([&] { names = p.Files.Files(gallery + PathSeparator + u'*'); });
+    p.Errors.Ignoring([&] { names = p.Files.Files(GalleryDirectory(p.Branch.WorkDir) + u'*'); });
     for (const QString& name : names)
         if (ofRecord.Matches(name))
             p.Errors.Ignoring([&] { p.Files.Kill(name); });

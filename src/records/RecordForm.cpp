@@ -3,7 +3,6 @@
 #include "map/BoxCaptions.h"
 #include "map/CurrentBox.h"
 #include "map/MapFile.h"
-#include "map/MapInteraction.h"
 #include "map/MapItems.h"
 #include "map/SubjectPanel.h"
 #include "map/tools/LeaveTools.h"
@@ -112,6 +111,14 @@ void ShowRecordForm(Program& p)
     p.Screen.Pointer = MousePointer::Default;
 }
 
+void CarryRecordToMap(Program& p)
+{
+    if (!BoxesAreCurrent(p))
+        return;
+    CarryForenameToMap(p);
+    KeepGender(p);
+}
+
 void ReturnToTree(Program& p)
 {
     const bool areCurrent = BoxesAreCurrent(p);
@@ -125,25 +132,6 @@ void ReturnToTree(Program& p)
         p.Errors.Ignoring([&] { MarkCurrentBox(p); });
     p.Form1->Show();
     p.Form3->Hide();
-}
-
-void GoToGallery(Program& p)
-{
-    if (p.Tools.MapCursorMode == MapCursor::Mapping)
-        return;
-    if (BoxesAreCurrent(p)) {
-        CarryForenameToMap(p);
-        KeepGender(p);
-    }
-    p.Errors.Ignoring([&] { Records(p).Update(); });
-    p.Errors.Ignoring([&] { ShowRecordOnMap(p); });
-    if (p.Gallery.FirstShow == 1) {
-        p.Screen.Pointer = MousePointer::Hourglass;
-        p.Errors.Ignoring([&] { MarkCurrentBox(p); });
-    }
-    p.Form5->Show();
-    p.Form3->Hide();
-    p.Screen.Pointer = MousePointer::Arrow;
 }
 
 void EnlargeSubjectPicture(Program& p)

@@ -2,6 +2,7 @@
 
 #include "map/MapFile.h"
 #include "map/tools/LeaveTools.h"
+#include "shell/CloseBranch.h"
 
 namespace lineforge
 {
@@ -12,6 +13,12 @@ void ExitProgram(Program& p)
     LeaveToolsIfOpen(p);
     p.Form5->MMControl1.Command(u"Close");
     // The main window takes all others with it and ends the program.
+    p.Form1.Unload();
+}
+
+void ExitFromGallery(Program& p)
+{
+    CloseBranch(p);
     p.Form1.Unload();
 }
 

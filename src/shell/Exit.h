@@ -9,6 +9,9 @@ namespace lineforge
 // disk come through before anything is closed.
 void ExitProgram(Program& p);
 
+// The same from the gallery, which closes the branch in the way that the menu does.
+void ExitFromGallery(Program& p);
+
 // The main window goes, by its frame or by the command: closes sounds and all windows and ends the program. By the
 // frame alone the boxes aren't saved; that is the settled behaviour.
 void CloseMainWindow(Program& p);

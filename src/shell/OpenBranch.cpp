@@ -1,5 +1,6 @@
 #include "shell/OpenBranch.h"
 
+#include "compare/CompareBranch.h"
 #include "map/CurrentBox.h"
 #include "map/MapFile.h"
 #include "map/MapItems.h"
@@ -101,6 +102,7 @@ void ChooseBranch(Program& p)
     if (!p.Branch.WorkDir.isEmpty())
         SaveBoxes(p);
     LeaveToolsIfOpen(p);
+    p.Compare.SearchMask = 0;
     p.Form8->Show();
 }
 
@@ -119,6 +121,11 @@ void OpenSelectedBranch(Program& p)
         return;
     }
     p.Form8->Hide();
+    if (p.Compare.SearchMask == CompareRequest) {
+        OpenCompareBranch(p, name, EntryOf(p, name));
+        CancelBranchList(p);
+        return;
+    }
     // The list leaves the other windows free: tools may have been opened, or a mapping begun, since it was shown.
     LeaveToolsIfOpen(p);
     ClearMapCursor(p);
@@ -145,6 +152,7 @@ void OpenSelectedBranch(Program& p)
 
 void CancelBranchList(Program& p)
 {
+    p.Compare.SearchMask = 0;
     p.Form8->List1.ListIndex = -1;
     p.Form8.Unload();
 }

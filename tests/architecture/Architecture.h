@@ -15,11 +15,11 @@ using Sources = QMap<QString, QString>;
 // All sources and headers below a directory.
 Sources ReadSources(const QString& directory);
 
-// Widgets, dialogs, printers and media are named in platform/qt and main alone.
+// Widgets, dialogs, printers and media are named in platform/qt, editor and main alone.
 QStringList WidgetsBelowTheLine(const Sources& sources);
 
-// Every include goes to a file of the same folder or of a folder further down; platform/qt is for main alone and knows
-// nothing but the platform.
+// Every include goes to a file of the same folder or of a folder further down. platform/qt is for main alone, editor
+// for nobody, and both know nothing but the platform.
 QStringList IncludesAgainstTheTower(const Sources& sources);
 
 // Includes of files that aren't in the tree.

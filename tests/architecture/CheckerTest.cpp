@@ -51,6 +51,7 @@ INSTANTIATE_TEST_SUITE_P(
 INSTANTIATE_TEST_SUITE_P(Allowed, WidgetsBelowTheLineTest,
                          Values(Word{u"platform/qt/A.cpp"_s, u"#include <QWidget>\nQMediaPlayer p;"_s, {}},
                                 Word{u"main.cpp"_s, u"QApplication application;"_s, {}},
+                                Word{u"editor/A.cpp"_s, u"#include <QWidget>\nQPrinter p;"_s, {}},
                                 Word{u"map/A.cpp"_s, u"QGuiApplication QCoreApplication QString MyQWidget"_s, {}},
                                 Word{u"map/A.cpp"_s, u""_s, {}}));
 
@@ -85,8 +86,8 @@ INSTANTIATE_TEST_SUITE_P(
            Step{u"interchange/A.h"_s, u"compare/B.h"_s, true}, Step{u"records/A.h"_s, u"interchange/B.h"_s, true},
            Step{u"shell/A.h"_s, u"records/B.h"_s, true}, Step{u"shell/handlers/A.cpp"_s, u"shell/B.h"_s, true},
            Step{u"main.cpp"_s, u"shell/B.h"_s, true}, Step{u"main.cpp"_s, u"platform/qt/B.h"_s, true},
-           Step{u"platform/qt/A.h"_s, u"platform/B.h"_s, true},
-           Step{u"platform/qt/A.h"_s, u"platform/qt/B.h"_s, true}));
+           Step{u"platform/qt/A.h"_s, u"platform/B.h"_s, true}, Step{u"platform/qt/A.h"_s, u"platform/qt/B.h"_s, true},
+           Step{u"editor/A.h"_s, u"platform/B.h"_s, true}, Step{u"editor/A.h"_s, u"editor/B.h"_s, true}));
 
 INSTANTIATE_TEST_SUITE_P(
     Up, TowerTest,
@@ -106,6 +107,13 @@ INSTANTIATE_TEST_SUITE_P(ToTheWidgets, TowerTest,
                                 Step{u"platform/qt/A.h"_s, u"forms/B.h"_s, false},
                                 Step{u"platform/qt/A.h"_s, u"shell/B.h"_s, false},
                                 Step{u"platform/qt/A.h"_s, u"main.h"_s, false}));
+
+INSTANTIATE_TEST_SUITE_P(
+    OfTheEditor, TowerTest,
+    Values(Step{u"editor/A.h"_s, u"platform/qt/B.h"_s, false}, Step{u"editor/A.h"_s, u"forms/B.h"_s, false},
+           Step{u"editor/A.h"_s, u"shell/B.h"_s, false}, Step{u"platform/A.h"_s, u"editor/B.h"_s, false},
+           Step{u"platform/qt/A.h"_s, u"editor/B.h"_s, false}, Step{u"shell/A.h"_s, u"editor/B.h"_s, false},
+           Step{u"main.cpp"_s, u"editor/B.h"_s, false}));
 
 TEST(TowerEdgeTest, UnknownFolder_HasNoPlace)
 {

@@ -1,13 +1,7 @@
-#include "gui/qt/WindowTest.h"
+#include "gui/ProgramWindowTest.h"
 #include "map/MapInteraction.h"
-#include "program/Program.h"
-#include "shell/StartUp.h"
-#include "shell/handlers/Handlers.h"
-#include "support/BranchBuilder.h"
 #include "support/Pixels.h"
 #include "support/Refusal.h"
-#include "support/ScriptedPrompts.h"
-#include "support/TemporaryHome.h"
 
 #include <QTest>
 
@@ -22,7 +16,7 @@ constexpr Point marysBox{2400, 600};
 constexpr Point annsBox{1200, 1500}; // of the other branch
 
 // The whole program on real windows, with a branch open.
-class MapWindowTest : public WindowTest
+class MapWindowTest : public ProgramWindowTest
 {
 protected:
     MapWindowTest()
@@ -41,12 +35,7 @@ protected:
             .Picture(u"B001", Qt::green)
             .Build();
         WriteAliasList(Home, {{u"Smiths", u"LfgDat_A"}, {u"Jones", u"LfgDat_B"}});
-        InstallHandlers(P);
-        StartProgram(P);
-        P.Form1->Open.Click();
-        P.Form8->List1.SetText(u"Smiths"_s);
-        P.Form8->Command1.Click();
-        ServeEvents();
+        OpenBranch(u"Smiths"_s);
     }
 
     QWidget& Map() { return Find<QWidget>(*P.Form1, u"Picture1"_s); }
@@ -71,13 +60,6 @@ protected:
         const QColor colour = ViewOf(*P.Form1).grab().toImage().pixelColor(At(twips));
         return colour.green() > colour.red() + 60 && colour.green() > colour.blue() + 60;
     }
-
-    TemporaryHome Home;
-    ScriptedPrompts Prompts;
-    Platform Bundle{Machine().Bundle().Windows, Prompts, Machine().Bundle().Loop, Machine().Bundle().Screen,
-                    Machine().Bundle().Clipboard, Machine().Bundle().PrintSystem,
-                    Home.Path() + PathSeparator};
-    Program P{Bundle};
 };
 
 TEST_F(MapWindowTest, DoubleClickOnABox_ShowsItsSubject_AndMovesTheMarker)

@@ -1,12 +1,6 @@
-#include "gui/qt/WindowTest.h"
-#include "program/Program.h"
+#include "gui/ProgramWindowTest.h"
 #include "program/WorkDatabase.h"
-#include "shell/StartUp.h"
-#include "shell/handlers/Handlers.h"
-#include "support/BranchBuilder.h"
-#include "support/ScriptedPrompts.h"
 #include "support/SqliteFile.h"
-#include "support/TemporaryHome.h"
 
 #include <QClipboard>
 #include <QLineEdit>
@@ -23,7 +17,7 @@ namespace
 using namespace Qt::StringLiterals;
 
 // Cut, copy and paste in the record form of the whole program, by mouse and menu.
-class RecordClipboardTest : public WindowTest
+class RecordClipboardTest : public ProgramWindowTest
 {
 protected:
     RecordClipboardTest()
@@ -40,22 +34,13 @@ protected:
             .Build();
         WriteAliasList(Home, {{u"Smiths", u"LfgDat_A"}});
         QGuiApplication::clipboard()->clear();
-        InstallHandlers(P);
-        StartProgram(P);
-        P.Form1->Open.Click();
-        P.Form8->List1.SetText(u"Smiths"_s);
-        P.Form8->Command1.Click();
-        ServeEvents();
+        OpenBranch(u"Smiths"_s);
         QTest::mouseClick(&Find<QPushButton>(*P.Form1, u"Command1"_s), Qt::LeftButton);
         ServeEvents();
         Activate(*P.Form3);
     }
 
-    ~RecordClipboardTest() override
-    {
-        System().CloseAll();
-        QGuiApplication::clipboard()->clear();
-    }
+    ~RecordClipboardTest() override { QGuiApplication::clipboard()->clear(); }
 
     QLineEdit& Line(const QString& name) { return Find<QLineEdit>(*P.Form3, name); }
     QPlainTextEdit& Lines(const QString& name) { return Find<QPlainTextEdit>(*P.Form3, name); }
@@ -113,14 +98,6 @@ protected:
         return SqliteFile(Home.Path(u"LfgDat_A/LfgDat_A.mdb"))
             .Value(QByteArray("SELECT ") + field + " FROM Tree99 WHERE File = 'A001'");
     }
-
-    TemporaryHome Home;
-    ScriptedPrompts Prompts;
-    Platform Bundle{Machine().Bundle().Windows,   Prompts,
-                    Machine().Bundle().Loop,      Machine().Bundle().Screen,
-                    Machine().Bundle().Clipboard, Machine().Bundle().PrintSystem,
-                    Home.Path() + PathSeparator};
-    Program P{Bundle};
 };
 
 TEST_F(RecordClipboardTest, Copy_TakesTheSelection_AndLeavesIt)

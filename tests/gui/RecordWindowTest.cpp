@@ -1,12 +1,6 @@
-#include "gui/qt/WindowTest.h"
-#include "program/Program.h"
+#include "gui/ProgramWindowTest.h"
 #include "program/WorkDatabase.h"
-#include "shell/StartUp.h"
-#include "shell/handlers/Handlers.h"
-#include "support/BranchBuilder.h"
-#include "support/ScriptedPrompts.h"
 #include "support/SqliteFile.h"
-#include "support/TemporaryHome.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -22,7 +16,7 @@ namespace
 using namespace Qt::StringLiterals;
 
 // The whole program on real windows, with a branch open in the record form.
-class RecordWindowTest : public WindowTest
+class RecordWindowTest : public ProgramWindowTest
 {
 protected:
     RecordWindowTest()
@@ -37,18 +31,11 @@ protected:
             .Picture(u"A003", Qt::blue)
             .Build();
         WriteAliasList(Home, {{u"Smiths", u"LfgDat_A"}});
-        InstallHandlers(P);
-        StartProgram(P);
-        P.Form1->Open.Click();
-        P.Form8->List1.SetText(u"Smiths"_s);
-        P.Form8->Command1.Click();
-        ServeEvents();
+        OpenBranch(u"Smiths"_s);
         QTest::mouseClick(&Find<QPushButton>(*P.Form1, u"Command1"_s), Qt::LeftButton);
         ServeEvents();
         Activate(*P.Form3);
     }
-
-    ~RecordWindowTest() override { System().CloseAll(); }
 
     QLineEdit& Line(const QString& name) { return Find<QLineEdit>(*P.Form3, name); }
     QPlainTextEdit& Lines(const QString& name) { return Find<QPlainTextEdit>(*P.Form3, name); }
@@ -79,13 +66,6 @@ protected:
         return SqliteFile(Home.Path(u"LfgDat_A/LfgDat_A.mdb"))
             .Value(QByteArray("SELECT ") + field + " FROM Tree99 WHERE File = '" + file + "'");
     }
-
-    TemporaryHome Home;
-    ScriptedPrompts Prompts;
-    Platform Bundle{Machine().Bundle().Windows, Prompts, Machine().Bundle().Loop, Machine().Bundle().Screen,
-                    Machine().Bundle().Clipboard, Machine().Bundle().PrintSystem,
-                    Home.Path() + PathSeparator};
-    Program P{Bundle};
 };
 
 TEST_F(RecordWindowTest, RecordsButton_ShowsTheRecord_WithItsPicture)

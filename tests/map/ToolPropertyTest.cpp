@@ -282,7 +282,9 @@ protected:
     AnsweringPrompts prompts_{random_};
     FakeClipboard clipboard_;
     PdfPrinter printer_;
-    Platform platform_{windows_, prompts_, loop_, screen_, clipboard_, printer_, home_.Path() + PathSeparator};
+    FakeProcesses processes_;
+    Platform platform_{windows_,   prompts_, loop_,      screen_,
+                       clipboard_, printer_, processes_, home_.Path() + PathSeparator};
     Program P{platform_};
     Program Reader{platform_};
     QString workDir_;

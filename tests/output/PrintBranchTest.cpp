@@ -133,18 +133,76 @@ TEST_F(PrintWindowTest, NoPrinter_RecordForm_TellsItInWords_AndTheNextPrintWorks
     ExpectPictureOnPaper(11'880, 7500);
 }
 
+TEST_F(PrintWindowTest, Comparison_IsPrintedAsItStands_AndARefusalReported)
+{
+    P.Form6->Grab = [] { return RedAndBlue({1188, 819}); };
+    Machine.Printer.IsThere = false;
+    ExpectPrinterErrorBox();
+    P.Form6->mnuPrintScreen.Click();
+
+    Machine.Printer.IsThere = true;
+    P.Form6->mnuPrintScreen.Click();
+
+    ExpectPictureOnPaper(11'880, 8190);
+}
+
+TEST_F(PrintWindowTest, Gallery_IsPrintedAsItStands)
+{
+    P.Form5->Grab = [] { return RedAndBlue({1188, 819}); };
+
+    P.Form5->mnuPrintpic.Click();
+
+    ExpectPictureOnPaper(11'880, 8190);
+}
+
+TEST_F(PrintWindowTest, NoPrinter_Gallery_SaysNothing_AndTheNextPrintWorks)
+{
+    P.Form5->Grab = [] { return RedAndBlue({1188, 819}); };
+    Machine.Printer.IsThere = false;
+    P.Form5->mnuPrintpic.Click();
+
+    Machine.Printer.IsThere = true;
+    P.Form5->mnuPrintpic.Click();
+
+    ExpectPictureOnPaper(11'880, 8190);
+}
+
+TEST_F(PrintWindowTest, PictureWindow_PrintsTheMainWindow)
+{
+    P.Form1->Grab = [] { return RedAndBlue({1188, 819}); };
+    P.Form2->Grab = [] { return QImage(); };
+
+    P.Form2->mnuPrint.Click();
+
+    ExpectPictureOnPaper(11'880, 8190);
+}
+
+TEST_F(PrintWindowTest, NoPrinter_PictureWindow_TellsItInWords_AndTheNextPrintWorks)
+{
+    P.Form1->Grab = [] { return RedAndBlue({1188, 819}); };
+    Machine.Printer.IsThere = false;
+    Prompts.Expect(u"Lineforge", u"The form could not be printed.", Buttons::Plain);
+    P.Form2->mnuPrint.Click();
+
+    Machine.Printer.IsThere = true;
+    P.Form2->mnuPrint.Click();
+
+    ExpectPictureOnPaper(11'880, 8190);
+}
+
 class PrinterSetupTest : public OutputTest
 {
 };
 
 // Cancel or not, nothing is said afterwards.
-TEST_F(PrinterSetupTest, BothMenus_OpenTheDialog_AndSayNothing)
+TEST_F(PrinterSetupTest, AllMenus_OpenTheDialog_AndSayNothing)
 {
     GivenPeople(1);
-    Prompts.ExpectPrinterSetup();
-    P.Form1->mnuPrinterSetUp.Click();
-    Prompts.ExpectPrinterSetup();
-    P.Form3->mnuPrintSetup.Click();
+    for (const Event& menu : {P.Form1->mnuPrinterSetUp.Click, P.Form3->mnuPrintSetup.Click, P.Form2->mnuPrSetup.Click,
+                              P.Form5->mnuPrintSetup.Click}) {
+        Prompts.ExpectPrinterSetup();
+        menu();
+    }
 
     EXPECT_EQ(Machine.Printer.Asked, 0);
 }

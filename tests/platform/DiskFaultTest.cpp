@@ -4,16 +4,13 @@
 #include "platform/TextFile.h"
 #include "support/ChildProcess.h"
 #include "support/Refusal.h"
+#include "support/SmallDisk.h"
 #include "support/SqliteFile.h"
 #include "support/TemporaryHome.h"
 
 #include <QFile>
 
-#include <csignal>
 #include <gtest/gtest.h>
-#include <sched.h>
-#include <sys/mount.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -25,15 +22,7 @@ namespace
 {
 using namespace Qt::StringLiterals;
 
-constexpr rlim_t limitBytes = 64 * 1024;
-
-// From here on no file of this process grows beyond the limit; the write is refused, not the process killed.
-void LimitFileSize(rlim_t bytes)
-{
-    const rlimit limit{bytes, bytes};
-    if (setrlimit(RLIMIT_FSIZE, &limit) != 0 || std::signal(SIGXFSZ, SIG_IGN) == SIG_ERR)
-        _exit(254);
-}
+constexpr int limitBytes = 64 * 1024;
 
 class FileSizeLimitTest : public testing::Test
 {
@@ -104,31 +93,6 @@ TEST_F(FileSizeLimitTest, SmallEnoughFile_IsWritten)
     EXPECT_EQ(home.ReadFile(u"a.txt"), "small");
 }
 
-bool WriteSetting(const char* path, const QByteArray& text)
-{
-    QFile file(QString::fromLatin1(path));
-    return file.open(QFile::WriteOnly | QFile::Unbuffered) && file.write(text) == text.size();
-}
-
-// A name space in which this process may mount; without an administrator's rights one in which it has them.
-bool EnterOwnNameSpace()
-{
-    if (unshare(CLONE_NEWNS) == 0)
-        return true;
-    const QByteArray user = QByteArray::number(getuid());
-    const QByteArray group = QByteArray::number(getgid());
-    return unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0 && WriteSetting("/proc/self/uid_map", "0 " + user + " 1") &&
-           WriteSetting("/proc/self/setgroups", "deny") && WriteSetting("/proc/self/gid_map", "0 " + group + " 1");
-}
-
-// A disk of a few pages in place of a directory, for this process alone; false where the system doesn't let it.
-bool MountSmallDisk(const QString& directory)
-{
-    const QByteArray place = QFile::encodeName(directory);
-    return EnterOwnNameSpace() && mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
-           mount("tmpfs", place.constData(), "tmpfs", 0, "size=65536") == 0;
-}
-
 // The exit codes that the child tells its findings with.
 enum Finding { AllAsItShouldBe = 0, NotRefused, WrongNumber, OldFileLost, NeighbourLeft };
 
@@ -142,7 +106,7 @@ protected:
     {
         const QString directory = home.MakeDirectory(u"disk");
         return ExitCodeInChild([&] {
-            const bool isMounted = MountSmallDisk(directory);
+            const bool isMounted = MountSmallDisk(directory, limitBytes);
             if (!isMounted)
                 LimitFileSize(limitBytes);
             return static_cast<int>(story(isMounted ? ErrorNumber::DiskFull : ErrorNumber::DeviceIo));

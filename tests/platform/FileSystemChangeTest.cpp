@@ -196,6 +196,51 @@ TEST_F(KillTest, ReadOnlyFileOrDirectory_IsPathFileAccess)
     ExpectRefused(ErrorNumber::PathFileAccess, [&] { files.Kill(u"locked/file.txt"_s); });
 }
 
+using RenameTest = FileSystemChangeTest;
+
+TEST_F(RenameTest, File_GetsItsNewName_InWhateverCaseTheOldOneIsTold)
+{
+    home.WriteFile(u"Dir/One.txt", "1");
+    files.Rename(home.Path(u"dir/ONE.TXT"), home.Path(u"Dir/Two.txt"));
+    EXPECT_EQ(home.Snapshot().keys(), QStringList({u"Dir"_s, u"Dir/Two.txt"_s}));
+    EXPECT_EQ(home.ReadFile(u"Dir/Two.txt"), "1");
+}
+
+TEST_F(RenameTest, RelativeNames_AreTakenFromTheCurrentDirectory)
+{
+    home.WriteFile(u"Dir/one.txt", "1");
+    files.ChDir(home.Path(u"Dir"));
+    files.Rename(u"one.txt"_s, u"two.txt"_s);
+    EXPECT_TRUE(home.Exists(u"Dir/two.txt"));
+}
+
+TEST_F(RenameTest, MissingFileOrDirectory_IsFileNotFound)
+{
+    home.MakeDirectory(u"Dir");
+    ExpectRefused(ErrorNumber::FileNotFound, [&] { files.Rename(home.Path(u"none"), home.Path(u"x")); });
+    ExpectRefused(ErrorNumber::FileNotFound, [&] { files.Rename(home.Path(u"Dir"), home.Path(u"x")); });
+}
+
+TEST_F(RenameTest, NameThatIsTaken_IsFileAlreadyExists_InWhateverCase)
+{
+    home.WriteFile(u"one.txt", "1");
+    home.WriteFile(u"two.txt", "2");
+    ExpectRefused(ErrorNumber::FileAlreadyExists, [&] { files.Rename(home.Path(u"one.txt"), home.Path(u"TWO.txt")); });
+}
+
+TEST_F(RenameTest, MissingDirectory_IsPathNotFound)
+{
+    home.WriteFile(u"one.txt", "1");
+    ExpectRefused(ErrorNumber::PathNotFound, [&] { files.Rename(home.Path(u"one.txt"), home.Path(u"no/one.txt")); });
+}
+
+TEST_F(RenameTest, ReadOnlyDirectory_IsPathFileAccess_WhoeverRunsTheProgram)
+{
+    home.WriteFile(u"Dir/one.txt", "1");
+    home.MakeReadOnly(u"Dir");
+    ExpectRefused(ErrorNumber::PathFileAccess, [&] { files.Rename(home.Path(u"Dir/one.txt"), home.Path(u"Dir/two")); });
+}
+
 class DirectoryChangeTest : public FileSystemChangeTest
 {
 };

@@ -46,6 +46,7 @@ INSTANTIATE_TEST_SUITE_P(
            Wording{ErrorNumber::PathNotFound, u"Path not found"},
            Wording{ErrorNumber::ObjectNotSet, u"Object variable not set"},
            Wording{ErrorNumber::InvalidUseOfNull, u"Invalid use of Null"},
+           Wording{ErrorNumber::InvalidFileFormat, u"Invalid file format"},
            Wording{ErrorNumber::ArrayElementMissing, u"Control array element doesn't exist"},
            Wording{ErrorNumber::ArrayElementLoaded, u"Object already loaded"},
            Wording{ErrorNumber::InvalidPicture, u"Invalid picture"},

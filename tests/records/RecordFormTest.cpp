@@ -625,6 +625,16 @@ TEST_F(RecordFormTest, PictureClick_ShowsItAlone_UnderNumberForenameAndSurname)
     EXPECT_TRUE(P.Form2->Visible);
 }
 
+TEST_F(RecordFormTest, ClickOnThePictureAlone_HidesIt)
+{
+    GivenRecordForm();
+    P.Form3->Image1.Click();
+
+    P.Form2->Image1.Click();
+
+    EXPECT_FALSE(P.Form2->Visible);
+}
+
 TEST_F(RecordFormTest, PictureClickWithoutPicture_IsTold_AndEmptiesTheMapsPanel)
 {
     GivenRecordForm();

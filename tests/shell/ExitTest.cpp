@@ -85,6 +85,27 @@ TEST_F(ExitTest, Frame_UnloadsAllWindows)
     ExpectAllOthersUnloaded();
 }
 
+TEST_F(ExitTest, ExitFromTheGallery_ClosesTheBranch_AndEndsWithCodeZero)
+{
+    GivenAllWindows();
+    Choose(u"Smiths");
+    MoveFirstBoxTo(1300);
+    P.Form3->Text3.Text = u"Anne"_s;
+    bool isClosed = false;
+    P.Form5->MMControl1.Act = [&](QStringView command) { isClosed = isClosed || command == u"Close"; };
+
+    Click(P.Form5->mnuExit.Click);
+
+    EXPECT_EQ(ExitCode(), 0);
+    EXPECT_TRUE(isClosed);
+    EXPECT_TRUE(MapOf(u'A').contains("1300,600,255,A001"));
+    EXPECT_EQ(P.Branch.WorkDir, QString());
+    EXPECT_EQ(SqliteFile(Home.Path(u"LfgDat_A/LfgDat_A.mdb")).Value("SELECT Forename FROM Tree99 WHERE File = 'A001'"),
+              u"Anne"_s);
+    ExpectAllOthersUnloaded();
+    EXPECT_FALSE(P.Form11.IsLoaded());
+}
+
 class BothExitsTest : public ExitTest, public testing::WithParamInterface<bool>
 {
 protected:

@@ -4,6 +4,7 @@
 #include "platform/Platform.h"
 #include "support/FakeClipboard.h"
 #include "support/FakeEventLoop.h"
+#include "support/FakeProcesses.h"
 #include "support/FakeWindows.h"
 #include "support/PdfPrinter.h"
 #include "support/Printing.h"
@@ -23,7 +24,9 @@ struct TestPlatform {
     lineforge::Screen Screen{12000, 9000};
     FakeClipboard Clipboard;
     PdfPrinter Printer;
-    lineforge::Platform Platform{Windows, Prompts, Loop, Screen, Clipboard, Printer, Home.Path() + PathSeparator};
+    FakeProcesses Processes;
+    lineforge::Platform Platform{Windows,   Prompts, Loop,      Screen,
+                                 Clipboard, Printer, Processes, Home.Path() + PathSeparator};
 };
 
 } // namespace lineforge

@@ -22,7 +22,7 @@ int main(int argc, char* argv[])
     try {
         const QDir pictures(arguments[2]);
         Expect(pictures.mkpath(u"."_s), u"to make the directory "_s + arguments[2]);
-        Tour tour(arguments[1]);
+        Tour tour(arguments[1], pictures);
         return Tell(tour, WholeStory(), pictures) ? EXIT_SUCCESS : EXIT_FAILURE;
     } catch (const Failure& failure) {
         errors << QString::fromUtf8(failure.what()) << Qt::endl;

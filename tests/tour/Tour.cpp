@@ -29,7 +29,10 @@ int FirstRowOfPaper(const QImage& picture)
 }
 } // namespace
 
-Tour::Tour(const QString& installed) : Hands(Screen), Places(Screen.Size()), Home(installed) {}
+Tour::Tour(const QString& installed, const QDir& pictures)
+    : Hands(Screen), Places(Screen.Size()), Home(installed), Pictures(pictures)
+{
+}
 
 void Tour::Await(const QString& what, const std::function<bool()>& condition)
 {

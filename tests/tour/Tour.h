@@ -7,9 +7,13 @@
 #include "ScratchHome.h"
 #include "forms/Form1.h"
 #include "forms/Form3.h"
+#include "forms/Form5.h"
+#include "forms/Form6.h"
 #include "forms/Form7.h"
 #include "forms/Form8.h"
 #include "forms/form9.h"
+
+#include <QDir>
 
 #include <functional>
 
@@ -21,16 +25,19 @@ namespace lineforge::tour
 class Tour
 {
 public:
-    explicit Tour(const QString& installed);
+    Tour(const QString& installed, const QDir& pictures);
 
     const Display Screen;
     Input Hands;
     const Layout Places;
     const ScratchHome Home;
+    const QDir Pictures; // where those of the steps go
     RunningProgram Program;
 
     const forms::Form1 MainForm;
     const forms::Form3 RecordForm;
+    const forms::Form5 GalleryForm;
+    const forms::Form6 CompareForm;
     const forms::Form7 MappingForm;
     const forms::Form8 ListForm;
     const forms::form9 SplashForm;

@@ -23,8 +23,8 @@ void LabelView::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     const bool oneLine = IsOneLine();
-    const int flags = oneLine ? Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine
-                              : Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
+    const int across = alignment() & Qt::AlignHCenter ? Qt::AlignHCenter : Qt::AlignLeft;
+    const int flags = across | (oneLine ? Qt::AlignVCenter | Qt::TextSingleLine : Qt::AlignTop | Qt::TextWordWrap);
     const QString shown = oneLine ? fontMetrics().elidedText(text(), Qt::ElideRight, width()) : text();
     style()->drawItemText(&painter, rect(), flags, palette(), isEnabled(), shown, foregroundRole());
 }

@@ -1,6 +1,8 @@
 #include "platform/qt/QtMedia.h"
 
+#include "platform/RuntimeError.h"
 #include "platform/Text.h"
+#include "platform/qt/MediaPlayer.h"
 #include "platform/qt/SoundFile.h"
 
 #include <QAudioDevice>
@@ -74,14 +76,58 @@ private:
 QtMedia::QtMedia() = default;
 QtMedia::~QtMedia() = default;
 
-// "Open" has nothing to do: the file is read when it is played, since the control may be opened before it is told
-// which.
+// Without a place "Open" has nothing to do: the file is read when it is played, since the control may be opened before
+// it is told which.
 void QtMedia::Act(MultimediaControl& control, QStringView command)
 {
     if (SameText(command, u"Sound"))
         Play(control);
     else if (SameText(command, u"Close"))
-        playing_.erase(&control);
+        Close(control);
+    else if (SameText(command, u"Open") && control.HasPlace())
+        Open(control);
+    else
+        Operate(control, command);
+}
+
+void QtMedia::Open(MultimediaControl& control)
+{
+    Close(control);
+    // A handler that runs while the file is loaded may close the control: the player is kept until it has returned.
+    const auto player = std::make_shared<MediaPlayer>(control);
+    players_[&control] = player;
+    try {
+        player->Open();
+    } catch (const RuntimeError&) {
+        players_.erase(&control);
+        throw;
+    }
+}
+
+void QtMedia::Close(const MultimediaControl& control)
+{
+    playing_.erase(&control);
+    if (const auto player = players_.extract(&control))
+        player.mapped()->Close();
+}
+
+void QtMedia::Operate(const MultimediaControl& control, QStringView command)
+{
+    struct Order {
+        QStringView Command;
+        void (MediaPlayer::*Obey)();
+    };
+    static constexpr Order orders[] = {{u"Rewind", &MediaPlayer::Rewind},
+                                       {u"Play", &MediaPlayer::Play},
+                                       {u"Pause", &MediaPlayer::Pause},
+                                       {u"Step", &MediaPlayer::Step},
+                                       {u"Stop", &MediaPlayer::Stop}};
+    const auto player = players_.find(&control);
+    if (player == players_.end())
+        return;
+    for (const Order& order : orders)
+        if (SameText(command, order.Command))
+            (*player->second.*order.Obey)();
 }
 
 bool QtMedia::Waits(const MultimediaControl& control, int milliseconds)

@@ -8,8 +8,10 @@
 namespace lineforge
 {
 
-// Plays the sounds of multimedia controls. Nothing of the sound system is touched before the first sound is to be
-// played; a missing file or device is passed over.
+class MediaPlayer;
+
+// Plays the sounds and films of multimedia controls. Nothing of the sound system is touched before the first of them is
+// to be played or opened.
 class QtMedia
 {
 public:
@@ -27,8 +29,13 @@ private:
     class Playback;
 
     void Play(const MultimediaControl& control);
+    void Open(MultimediaControl& control);
+    void Close(const MultimediaControl& control);
+    // What the buttons of a control with a place stand for.
+    void Operate(const MultimediaControl& control, QStringView command);
 
     std::map<const MultimediaControl*, std::unique_ptr<Playback>> playing_;
+    std::map<const MultimediaControl*, std::shared_ptr<MediaPlayer>> players_; // of what is open
 };
 
 } // namespace lineforge

@@ -38,8 +38,9 @@ QFont UsualFont(const Scale& scale)
 
 Screen MakeScreen(const Scale& scale)
 {
-    const QSize pixels = QGuiApplication::primaryScreen()->size();
-    return {scale.ToTwips(pixels.width()), scale.ToTwips(pixels.height()), {}};
+    const QScreen& screen = *QGuiApplication::primaryScreen();
+    const Size area = scale.ToTwips(screen.size());
+    return {area.Width, area.Height, {}, scale.TwipsAPixel(), screen.devicePixelRatio()};
 }
 } // namespace
 
@@ -53,13 +54,8 @@ QtPlatform::QtPlatform(Size mainWindow, std::function<QString()> currentDirector
 
 Platform QtPlatform::Bundle()
 {
-    return {windows_,
-            prompts_,
-            loop_,
-            screen_,
-            clipboard_,
-            printers_,
-            QDir::cleanPath(QCoreApplication::applicationDirPath()) + u'/'};
+    return {windows_,   prompts_,  loop_,      screen_,
+            clipboard_, printers_, processes_, QDir::cleanPath(QCoreApplication::applicationDirPath()) + u'/'};
 }
 
 } // namespace lineforge

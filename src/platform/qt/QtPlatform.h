@@ -5,6 +5,7 @@
 #include "platform/qt/QtEventLoop.h"
 #include "platform/qt/QtMedia.h"
 #include "platform/qt/QtPrintSystem.h"
+#include "platform/qt/QtProcesses.h"
 #include "platform/qt/QtPrompts.h"
 #include "platform/qt/QtWindows.h"
 #include "platform/qt/ScreenPointer.h"
@@ -40,6 +41,7 @@ private:
     QtEventLoop loop_;
     QtClipboard clipboard_;
     QtPrintSystem printers_;
+    QtProcesses processes_;
     QtPrompts prompts_;
     QtWindows windows_;
 };

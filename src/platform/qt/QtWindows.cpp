@@ -43,7 +43,11 @@ public:
         Serve(form);
         visible_ = form.Visible.addNotifier([this] { FollowVisible(); });
         form_.Grab = [this, gate = gate_] {
-            return gate->IsOpen() && form_.Visible ? view_->centralWidget()->grab().toImage() : QImage();
+            return gate->IsOpen() && view_ ? view_->centralWidget()->grab().toImage() : QImage();
+        };
+        form_.Measure = [this, gate = gate_] {
+            return gate->IsOpen() && view_ ? scale_.ToTwips(view_->centralWidget()->size())
+                                           : Size{form_.Width, form_.Height};
         };
         form_.ToFront = [this, gate = gate_] {
             if (gate->IsOpen() && view_)

@@ -19,6 +19,7 @@ public:
     int TwipsAPixel() const { return twipsAPixel_; }
     int ToPixels(int twips) const;
     int ToTwips(int pixels) const { return pixels * twipsAPixel_; }
+    Size ToTwips(QSize pixels) const { return {ToTwips(pixels.width()), ToTwips(pixels.height())}; }
     QSize ToPixels(Size twips) const { return {ToPixels(twips.Width), ToPixels(twips.Height)}; }
     // Neighbours that touch in twips touch in pixels.
     QRect ToPixels(Rectangle twips) const;

@@ -8,6 +8,11 @@ namespace lineforge
 
 using namespace Qt::StringLiterals;
 
+namespace
+{
+constexpr QColor markColour(255, 214, 102);
+}
+
 TextView::TextView(QWidget* parent, int maxLength) : QPlainTextEdit(parent), maxLength_(maxLength)
 {
     setTabChangesFocus(true);
@@ -38,15 +43,35 @@ int TextView::SelectionStart() const
     return start + static_cast<int>(breaks);
 }
 
-void TextView::SetCaret(int position)
+int TextView::OwnPosition(int position) const
 {
     int own = position;
     if (hasCarriageReturns_)
         while (own > 0 && own + toPlainText().left(own).count(u'\n') > position)
             --own;
+    return std::min(own, static_cast<int>(toPlainText().size()));
+}
+
+void TextView::SetCaret(int position)
+{
     QTextCursor cursor = textCursor();
-    cursor.setPosition(std::min(own, static_cast<int>(toPlainText().size())));
+    cursor.setPosition(OwnPosition(position));
     setTextCursor(cursor);
+}
+
+void TextView::Mark(TextRange range)
+{
+    if (range.Length == 0) {
+        setExtraSelections({});
+        return;
+    }
+    QTextEdit::ExtraSelection mark;
+    mark.cursor = QTextCursor(document());
+    mark.cursor.setPosition(OwnPosition(range.Start));
+    mark.cursor.setPosition(OwnPosition(range.Start + range.Length), QTextCursor::KeepAnchor);
+    mark.format.setBackground(markColour);
+    mark.format.setForeground(Qt::black);
+    setExtraSelections({mark});
 }
 
 // The text is kept with the line ends that it came with.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Controls.h"
+
 #include <QPlainTextEdit>
 
 #include <functional>
@@ -21,11 +23,14 @@ public:
     QString SelectedText() const;
     int SelectionStart() const;
     void SetCaret(int position);
+    // Makes a stretch of it stand out; nothing any more for one of no length.
+    void Mark(TextRange range);
 
     // The text as it stands, after the user has changed it.
     std::function<void(const QString& text)> Edited;
 
 private:
+    int OwnPosition(int position) const;
     void TakeEdit();
     void CutToLimit();
 

@@ -1,11 +1,14 @@
 #include "platform/qt/WidgetBuilder.h"
 
 #include "platform/DataControl.h"
+#include "platform/FileSystem.h"
 #include "platform/PictureBox.h"
 #include "platform/qt/AccessibleName.h"
 #include "platform/qt/ClickableWidgets.h"
+#include "platform/qt/DraggableImage.h"
 #include "platform/qt/LabelView.h"
 #include "platform/qt/PictureView.h"
+#include "platform/qt/PlayerView.h"
 #include "platform/qt/RecordBar.h"
 #include "platform/qt/ScrollBarView.h"
 #include "platform/qt/ShapeView.h"
@@ -21,6 +24,7 @@
 #include <QStyle>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace lineforge
@@ -99,6 +103,28 @@ void ShowOnButton(QPushButton& button, const QImage& picture)
         return;
     button.setFlat(true);
     button.setIcon(QPixmap::fromImage(picture));
+}
+
+// White stands out better on it than black does, by the usual measure of contrast.
+bool IsDark(const QColor& colour)
+{
+    constexpr double evenContrast = 0.179;
+    const auto light = [](double part) { return std::pow(part, 2.2); };
+    return 0.2126 * light(colour.redF()) + 0.7152 * light(colour.greenF()) + 0.0722 * light(colour.blueF()) <
+           evenContrast;
+}
+
+void ColourButton(QPushButton& button, const std::optional<Colour>& colour)
+{
+    if (!colour) {
+        button.setPalette({});
+        return;
+    }
+    const QColor back = ToQColor(*colour);
+    QPalette palette = button.palette();
+    palette.setColor(QPalette::Button, back);
+    palette.setColor(QPalette::ButtonText, IsDark(back) ? Qt::white : Qt::black);
+    button.setPalette(palette);
 }
 } // namespace
 
@@ -186,6 +212,8 @@ void WidgetBuilder::Visit(Label& label)
 {
     auto* view = new LabelView(parent_);
     view->setFont(FontOf(label.Font, view->font(), scale_));
+    if (label.Centred)
+        view->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
     const QString otherwise = BorrowedName(label, *container_);
     bindings_.Follow(label.Caption, [view, &label, otherwise] {
         const QString& text = label.Caption.Shown();
@@ -244,8 +272,10 @@ void WidgetBuilder::VisitLines(TextBox& box)
     // Showing a text is no event of the widget's, but it moves the caret.
     bindings_.Follow(box.Text, [lines, &box, keepSelection] {
         lines->Show(box.Text.Shown());
+        lines->Mark(box.Marked);
         keepSelection();
     });
+    bindings_.Follow(box.Marked, [lines, &box] { lines->Mark(box.Marked); });
     QObject::connect(lines, &TextView::selectionChanged, lines, keepSelection);
     QObject::connect(lines, &TextView::cursorPositionChanged, lines, keepSelection);
     box.CaretMoved = [gate = gate_, lines, &box] {
@@ -264,6 +294,7 @@ void WidgetBuilder::Visit(Button& button)
     bindings_.Follow(button.Caption, [view, &button] { view->setText(button.Caption); });
     view->setIconSize(scale_.ToPixels(Size{button.Width, button.Height}));
     bindings_.Follow(button.Picture, [view, &button] { ShowOnButton(*view, button.Picture); });
+    bindings_.Follow(button.BackColor, [view, &button] { ColourButton(*view, button.BackColor); });
     QObject::connect(view, &QPushButton::clicked, view, [gate = gate_, &button] { gate->Run(button.Click); });
     if (button.AccessKey != 0)
         view->setShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(button.AccessKey)));
@@ -333,6 +364,8 @@ void WidgetBuilder::Visit(ListBox& list)
 
 void WidgetBuilder::Visit(Image& image)
 {
+    if (image.Draggable)
+        return VisitDraggable(image);
     auto* view = new ImageView(parent_);
     bindings_.Follow(image.Picture, [view, &image] { view->Show(image.Picture); });
     view->TakesClicks = [gate = gate_, &image] { return gate->IsOpen() && image.Click; };
@@ -341,6 +374,29 @@ void WidgetBuilder::Visit(Image& image)
     if (image.Click)
         view->setFocusPolicy(Qt::TabFocus);
     NameForReaders(view, image);
+    Dress(view, image);
+}
+
+void WidgetBuilder::VisitDraggable(Image& image)
+{
+    auto* view = new DraggableImage(parent_, image);
+    view->lower(); // of two in one place the earlier one takes the mouse
+    bindings_.Follow(image.Picture, [view, &image] { view->Show(image.Picture); });
+    bindings_.Follow(image.Tag, [view, &image] {
+        const QString name = image.Tag.value().section(PathSeparator, -1);
+        view->setAccessibleName(name.isEmpty() ? image.Name : name);
+        view->setToolTip(name.toHtmlEscaped());
+    });
+    view->Dropped = [gate = gate_, &image](DraggableImage& source) {
+        gate->Run([&image, dropped = &source.Control()] {
+            if (image.DragDrop)
+                image.DragDrop(*dropped);
+        });
+    };
+    view->Moved = [gate = gate_, scale = scale_, &image](QPoint topLeft) {
+        if (gate->IsOpen())
+            image.Move({scale.ToTwips(topLeft.x()), scale.ToTwips(topLeft.y())});
+    };
     Dress(view, image);
 }
 
@@ -374,7 +430,23 @@ void WidgetBuilder::Visit(ScrollBar& bar)
 
 void WidgetBuilder::Visit(Timer&) {}
 
-void WidgetBuilder::Visit(MultimediaControl&) {}
+void WidgetBuilder::Visit(MultimediaControl& player)
+{
+    if (!player.HasPlace())
+        return;
+    auto* view = new PlayerView(parent_, player.Name, scale_.ToPixels(player.ScreenHeight));
+    view->Pressed = [gate = gate_, &player](QStringView command) {
+        if (gate->IsOpen())
+            player.Command(command);
+    };
+    bindings_.Follow(player.IsOpen, [view, &player] { view->SetUsable(player.IsOpen); });
+    bindings_.Follow(player.Screen, [view, &player] { view->ShowFilm(player.Screen); });
+    const auto showTime = [view, &player] { view->ShowTime(player.Position, player.Length); };
+    bindings_.Follow(player.Position, showTime);
+    bindings_.Watch(player.Length, showTime);
+    NameForReaders(view, player);
+    Dress(view, player);
+}
 
 void WidgetBuilder::Visit(PictureBox& picture)
 {
@@ -390,8 +462,10 @@ void WidgetBuilder::Visit(DataControl& data)
     auto* view = new RecordBar(parent_, data.Name, data.Caption);
     view->Stepped = [gate = gate_, &data](RecordBar::Step step) {
         gate->Run([&data, step] {
-            if (data.IsOpen())
-                step(data.Records());
+            if (!data.IsOpen())
+                return;
+            step(data.Records());
+            Fire(data.Stepped);
         });
     };
     view->setAccessibleName(data.Caption.isEmpty() ? data.Name : data.Caption);

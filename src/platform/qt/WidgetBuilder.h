@@ -41,6 +41,7 @@ private:
     // Controls that come and go while the window is shown.
     void FollowChildren(Container& container, QWidget* parent);
     void AddAccessKey(QWidget* widget, const TextBox& box);
+    void VisitDraggable(Image& image);
     void VisitLine(TextBox& box);
     void VisitLines(TextBox& box);
     // What all kinds have in common: name, place, being visible and enabled.

@@ -1,3 +1,4 @@
+#include "compare/CompareBranch.h"
 #include "map/LineageMarks.h"
 #include "map/MapClipboard.h"
 #include "map/MapInteraction.h"
@@ -9,6 +10,7 @@
 #include "output/PrintBranch.h"
 #include "output/TextReport.h"
 #include "program/BranchUi.h"
+#include "records/GalleryDoors.h"
 #include "records/RecordForm.h"
 #include "shell/CloseBranch.h"
 #include "shell/Exit.h"
@@ -74,6 +76,7 @@ void InstallForm1(Program& p, forms::Form1& form)
     form.mnuPaste.Click = [&p] { PasteMapPicture(p); };
     form.mnuDataBase.Click = [&p] { TellIfNoBranch(p); };
     form.mnuViewRecs.Click = [&p] { ShowRecordForm(p); };
+    form.mnuComp.Click = [&p] { OpenComparison(p); };
     form.mnuTreeGraphics.Click = [&p] { OpenEditingMenu(p); };
     form.mnuTreeTools.Click = [&p] { OpenTools(p); };
     form.mnuMapSubject.Click = [&p] { ShowMappingOptions(p); };
@@ -92,8 +95,10 @@ void InstallForm1(Program& p, forms::Form1& form)
     form.Picture1.DblClick = [&p] { DoubleClickOnMap(p); };
 
     form.Command1.Click = [&p] { ShowRecordForm(p); };
+    form.Command2.Click = [&p] { GoToGalleryFromMap(p); };
     form.Command3.Click = [&p] { ViewLineage(p); };
     form.Command4.Click = [&p] { ClearLineage(p); };
+    form.Command5.Click = [&p] { ReturnToComparison(p); };
     InstallTools(p, form);
 }
 

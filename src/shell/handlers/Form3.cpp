@@ -3,6 +3,7 @@
 #include "output/PrintBranch.h"
 #include "records/AddRecord.h"
 #include "records/DeleteRecord.h"
+#include "records/GalleryDoors.h"
 #include "records/RecordClipboard.h"
 #include "records/RecordForm.h"
 #include "records/RecordScanner.h"
@@ -96,7 +97,7 @@ void InstallForm3(Program& p, forms::Form3& form)
     // Unloaded, the form would take the open database with it: its frame leads back to the map.
     form.CloseByFrame = [&p] { ReturnToTree(p); };
 
-    form.Command1.Click = [&p] { GoToGallery(p); };
+    form.Command1.Click = [&p] { GoToGalleryFromRecords(p); };
     form.Command2.Click = [&p] { ReturnToTree(p); };
     form.Image1.Click = [&p] { EnlargeSubjectPicture(p); };
     InstallSelection(p, form);

@@ -53,6 +53,19 @@ TEST_F(BoxesTest, AButtonIsPressedByMouse_AccessKey_SpaceAndEnter)
     EXPECT_EQ(clicks, 4);
 }
 
+TEST_F(BoxesTest, AButtonTakesItsColour_WithACaptionThatStandsOut_AndGivesItBack)
+{
+    const QPalette usual = Push().palette();
+    Boxes->Command1.BackColor = Rgb(220, 0, 0);
+    EXPECT_EQ(Push().palette().color(QPalette::Button), QColor(220, 0, 0));
+    EXPECT_EQ(Push().palette().color(QPalette::ButtonText), QColor(Qt::white));
+    Boxes->Command1.BackColor = Rgb(0, 220, 0);
+    EXPECT_EQ(Push().palette().color(QPalette::Button), QColor(0, 220, 0));
+    EXPECT_EQ(Push().palette().color(QPalette::ButtonText), QColor(Qt::black));
+    Boxes->Command1.BackColor = std::nullopt;
+    EXPECT_EQ(Push().palette().color(QPalette::Button), usual.color(QPalette::Button));
+}
+
 TEST_F(BoxesTest, ADisabledButtonIsDead)
 {
     int clicks = 0;

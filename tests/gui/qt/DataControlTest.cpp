@@ -66,6 +66,17 @@ TEST_F(DataControlTest, BoundControlsFollowTheRowWhenTheLoopRuns_NotDuringAWalk)
     EXPECT_EQ(Find<QLineEdit>(*Data, u"Text1"_s).text(), u"Cid"_s);
 }
 
+TEST_F(DataControlTest, AStepByTheBar_IsTold_WhenTheRecordStands)
+{
+    OpenAndShow();
+    QStringList told;
+    Data->Data1.Stepped = [&] { told << Current(); };
+    Press(u"Data1Next"_s);
+    Press(u"Data1Last"_s);
+    Data->Data1.Records().MoveFirst();
+    EXPECT_EQ(told, QStringList({u"Ben"_s, u"Cid"_s}));
+}
+
 TEST_F(DataControlTest, AHiddenWindowsDataFollowsAsWell)
 {
     Data->Data1.Refresh(Open, Files);

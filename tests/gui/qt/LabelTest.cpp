@@ -11,10 +11,15 @@ using namespace Qt::StringLiterals;
 namespace
 {
 struct LabelForm : Form {
-    LabelForm() : Form(u"LabelForm", u"Labels", {6000, 3000}) { Label3.Font = {u"Courier"_s, 16, true, true}; }
+    LabelForm() : Form(u"LabelForm", u"Labels", {6000, 3000})
+    {
+        Label3.Font = {u"Courier"_s, 16, true, true};
+        Label4.Centred = true;
+    }
     Label Label1{*this, u"Label1", {150, 150, 3000, 255}, u"First & foremost"};
     Label Label2{*this, u"Label2", {150, 600, 3000, 900}, u"A text that needs more than one line in its place"};
     Label Label3{*this, u"Label3", {150, 1600, 3000, 600}, u"<b>bold</b>"};
+    Label Label4{*this, u"Label4", {150, 2400, 3000, 255}, u"i"};
 };
 
 struct LabelTest : WindowTest {
@@ -30,6 +35,25 @@ TEST_F(LabelTest, ShowsItsCaption_AndFollowsIt)
     Labels->Label1.Caption = u"Second"_s;
     EXPECT_EQ(view.text(), u"Second"_s);
     EXPECT_EQ(view.accessibleName(), u"Second"_s);
+}
+
+TEST_F(LabelTest, TextStandsAtTheLeft_OrInTheMiddle)
+{
+    const auto middleOfInk = [this](const QString& name) {
+        const QImage shown = Find<QLabel>(*Labels, name).grab().toImage();
+        int first = shown.width();
+        int last = -1;
+        for (int x = 0; x < shown.width(); ++x)
+            for (int y = 0; y < shown.height(); ++y)
+                if (shown.pixelColor(x, y).lightness() < 100) {
+                    first = std::min(first, x);
+                    last = x;
+                }
+        return (first + last) / 2;
+    };
+    Labels->Label1.Caption = u"i"_s;
+    EXPECT_LT(middleOfInk(u"Label1"_s), 10);
+    EXPECT_LE(std::abs(middleOfInk(u"Label4"_s) - PixelScale().ToPixels(1500)), 2);
 }
 
 TEST_F(LabelTest, TextIsNeverMarkup)

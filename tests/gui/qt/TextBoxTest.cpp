@@ -82,6 +82,26 @@ TEST_F(TextBoxTest, MaxLengthStopsTyping_AndZeroIsNoLimit)
     EXPECT_EQ(Texts->Text2.Text.value(), u"abcdefgh"_s);
 }
 
+TEST_F(TextBoxTest, MarkedStretch_StandsOutInAHighBox_AlsoWhenTheTextChanges)
+{
+    const auto marked = [this] {
+        const QList<QTextEdit::ExtraSelection> marks = Lines().extraSelections();
+        return marks.isEmpty() ? QString() : marks.first().cursor.selectedText();
+    };
+    Texts->Text3.Text = u"York"_s;
+    Texts->Text3.Marked = TextRange{1, 2};
+    EXPECT_EQ(marked(), u"or"_s);
+    Texts->Text3.Text = u"Leeds"_s;
+    EXPECT_EQ(marked(), u"ee"_s);
+    Texts->Text3.Text = u"a\r\nbcd"_s;
+    Texts->Text3.Marked = TextRange{3, 2};
+    EXPECT_EQ(marked(), u"bc"_s);
+    Texts->Text3.Marked = TextRange{90, 2};
+    EXPECT_EQ(marked(), QString());
+    Texts->Text3.Marked = TextRange{};
+    EXPECT_TRUE(Lines().extraSelections().isEmpty());
+}
+
 TEST_F(TextBoxTest, AHighBoxHoldsSeveralLines)
 {
     QTest::keyClicks(&Lines(), u"ab"_s);

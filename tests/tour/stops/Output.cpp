@@ -1,10 +1,13 @@
 #include "Failure.h"
+#include "Ink.h"
 #include "MapView.h"
 #include "Menus.h"
 #include "SubjectView.h"
 #include "stops/Stops.h"
 
 #include <QFile>
+#include <QFileInfo>
+#include <QProcess>
 
 namespace lineforge::tour
 {
@@ -34,6 +37,17 @@ bool IsPrinted(const Tour& tour, const QString& file)
     return bytes.startsWith("%PDF") && bytes.endsWith("%%EOF");
 }
 
+// The first page as a picture, kept beside those of the screen.
+QImage PageOf(const Tour& tour, const QString& file)
+{
+    const QString page = tour.Pictures.filePath(QString(u"page-" + QFileInfo(file).completeBaseName()));
+    QProcess render;
+    render.start(u"pdftoppm"_s, {u"-png"_s, u"-r"_s, u"72"_s, u"-f"_s, u"1"_s, u"-l"_s, u"1"_s, u"-singlefile"_s,
+                                 tour.Home.SettingsDirectory() + u'/' + file, page});
+    Expect(render.waitForFinished() && render.exitCode() == 0, u"pdftoppm to render "_s + file);
+    return QImage(page + u".png");
+}
+
 void TwoRecordsAreMarked(Tour& tour)
 {
     for (const QString& file : {u"A002"_s, u"A004"_s}) {
@@ -53,12 +67,15 @@ void ListIsPrintedToAFile(Tour& tour)
     tour.Answer(u"Print"_s, Key::Return);
     Choose(tour, tour.MainForm.mnuFile, tour.MainForm.mnuTreePrint, tour.MainForm.mnuPrinList);
     tour.Await(u"the printed list"_s, [&] { return IsPrinted(tour, firstJob); });
+    Expect(HoldsBlackLetters(PageOf(tour, firstJob)), u"letters on the page of the list"_s);
 }
 
 void MapIsPrintedToAFile(Tour& tour)
 {
     Choose(tour, tour.MainForm.mnuFile, tour.MainForm.mnuTreePrint, tour.MainForm.mnuPrint);
     tour.Await(u"the printed map"_s, [&] { return IsPrinted(tour, secondJob); });
+    constexpr int coloursOfAMap = 3;
+    Expect(CountColours(PageOf(tour, secondJob)) > coloursOfAMap, u"boxes in their colours on the page of the map"_s);
 }
 
 void TextFileIsAnnounced(Tour& tour)

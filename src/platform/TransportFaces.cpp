@@ -1,11 +1,11 @@
-#include "forms/TransportFaces.h"
+#include "platform/TransportFaces.h"
 
-#include "forms/ButtonFace.h"
+#include "platform/ButtonFace.h"
 
 #include <QPainter>
 #include <QPainterPath>
 
-namespace lineforge::forms
+namespace lineforge
 {
 
 namespace
@@ -22,6 +22,14 @@ QPainterPath Triangle(qreal left, bool pointsRight)
     path.lineTo(tip, side / 2.0);
     path.lineTo(base, side / 2.0 + half);
     path.closeSubpath();
+    return path;
+}
+
+// As high as a triangle.
+QPainterPath Bar(qreal left)
+{
+    QPainterPath path;
+    path.addRect(left, side / 2.0 - 21, 7, 42);
     return path;
 }
 
@@ -46,6 +54,19 @@ QPainterPath PathOf(TransportSymbol symbol)
         path.addPath(Triangle(24, false));
         path.addPath(Triangle(48, false));
         break;
+    case TransportSymbol::ToStart:
+        path.addPath(Bar(19));
+        path.addPath(Triangle(28, false));
+        path.addPath(Triangle(52, false));
+        break;
+    case TransportSymbol::Pause:
+        path.addRect(30, 28, 13, 40);
+        path.addRect(53, 28, 13, 40);
+        break;
+    case TransportSymbol::Step:
+        path.addPath(Bar(31));
+        path.addPath(Triangle(45, true));
+        break;
     }
     return path;
 }
@@ -57,4 +78,4 @@ QImage DrawTransportFace(TransportSymbol symbol, bool pressed)
                           [symbol](QPainter& painter, const QColor& ink) { painter.fillPath(PathOf(symbol), ink); });
 }
 
-} // namespace lineforge::forms
+} // namespace lineforge

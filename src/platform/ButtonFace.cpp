@@ -1,10 +1,10 @@
-#include "forms/ButtonFace.h"
+#include "platform/ButtonFace.h"
 
 #include <QColor>
 #include <QLinearGradient>
 #include <QPainter>
 
-namespace lineforge::forms
+namespace lineforge
 {
 
 QImage DrawButtonFace(bool pressed, const SymbolPainter& paintSymbol)
@@ -30,4 +30,4 @@ QImage DrawButtonFace(bool pressed, const SymbolPainter& paintSymbol)
     return face;
 }
 
-} // namespace lineforge::forms
+} // namespace lineforge

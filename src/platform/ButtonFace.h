@@ -7,7 +7,7 @@
 class QColor;
 class QPainter;
 
-namespace lineforge::forms
+namespace lineforge
 {
 
 inline constexpr int ButtonFaceSide = 96; // pixels
@@ -18,4 +18,4 @@ using SymbolPainter = std::function<void(QPainter& painter, const QColor& ink)>;
 // A button's face with rounded corners, transparent around them; up or pressed down.
 QImage DrawButtonFace(bool pressed, const SymbolPainter& paintSymbol);
 
-} // namespace lineforge::forms
+} // namespace lineforge

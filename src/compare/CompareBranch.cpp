@@ -1,0 +1,142 @@
+#include "compare/CompareBranch.h"
+
+#include "compare/SearchButton.h"
+#include "compare/Sides.h"
+#include "program/AlternateBranch.h"
+#include "program/BranchPaths.h"
+#include "program/BranchUi.h"
+#include "program/WorkDatabase.h"
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr qsizetype directoryLength = 8; // of "LfgDat_B"
+constexpr qsizetype fileTail = 5;        // of "B.mdb"
+
+bool IsRefused(Program& p)
+{
+    return TellIfAlternate(p, u"Compare Record Data not available"_s,
+                           u"Cannot compare this alternate Tree Branch Database record\n"
+                           u"unless you de select this subject or change and open it's Tree Branch Database."_s);
+}
+
+void ShowFirstCurrentRecord(Program& p)
+{
+    forms::Form6& form = *p.Form6;
+    const Recordset& record = Records(p);
+    const QString file = record.Text(u"File");
+    form.Label4.Caption = file;
+    ShowPicture(p, CurrentSide, file);
+    form.Text2.Text = record.Text(u"Surname");
+    form.Text1.Text = record.Text(u"Surname");
+    form.Text5.Text = record.Text(u"Forename");
+    form.Frame5.Caption = u"Field: Surname"_s;
+}
+
+// False, with a box, when there is no such database; what was compared before stays then.
+bool PointAtCompareDatabase(Program& p, const QString& path)
+{
+    DataControl& data = p.Form6->Data1;
+    const QString before = data.DatabaseName;
+    data.DatabaseName = path;
+    data.RecordSource = u"Tree99"_s;
+    try {
+        data.Refresh(p.Databases, p.Files);
+        return true;
+    } catch (const RuntimeError&) {
+        data.DatabaseName = before;
+        p.Prompts.MsgBox(u"Read Only or Incorrect Database"_s, u"Cannot open this database"_s, Buttons::Information);
+        return false;
+    }
+}
+
+void ShowFirstPair(Program& p, const QString& name)
+{
+    p.Compare.sCompName = name;
+    p.Form6->Label7.Caption = name;
+    Records(p).MoveFirst();
+    CompareRecords(p).MoveFirst();
+    p.Scratch.ScanState = 0;
+    p.Compare.FieldStep = 1;
+    p.Compare.ResetDone = 0;
+    ShowRecord(p, CurrentSide);
+    ShowRecord(p, CompareSide);
+    SetFieldCaptions(p, u"Field: Surname"_s, u"Field: Surname"_s);
+    ShowFields(p, p.Form6->Text1.Text, p.Form6->Text3.Text);
+    p.Compare.sCompField = u"Surname"_s;
+    ShowSearchState(p, SearchState::Found);
+}
+} // namespace
+
+void OpenComparison(Program& p)
+{
+    if (IsRefused(p) || TellIfNoBranch(p))
+        return;
+    if (Records(p).IsEmpty())
+        return TellNoRecords(p);
+    Records(p).MoveFirst();
+    ShowFirstCurrentRecord(p);
+    p.Form1->Command5.Visible = true;
+    p.Compare.ResetDone = 0;
+    p.Form6->Show();
+}
+
+void ReturnToComparison(Program& p)
+{
+    if (!p.Form6.IsLoaded())
+        OpenComparison(p);
+    else if (!IsRefused(p))
+        p.Form6->Show();
+}
+
+void LoadComparison(Program& p)
+{
+    forms::Form6& form = *p.Form6;
+    form.Width = p.Screen.Width;
+    form.Height = p.Screen.Height - 400;
+    form.Left = (p.Screen.Width - p.Form3->Width) / 2;
+    form.Top = (p.Screen.Height - p.Form3->Height) / 2 - 200;
+    form.Label2.Caption = p.Branch.sBranchName;
+    p.Scratch.ScanState = 0;
+    p.Compare.ZNumberTable.Erase();
+}
+
+void ChooseCompareBranch(Program& p)
+{
+    p.Compare.SearchMask = CompareRequest;
+    p.Form8->Show();
+}
+
+void OpenCompareBranch(Program& p, const QString& name, const QString& entry)
+{
+    p.Compare.SearchMask = 0;
+    const QString file = entry.right(directoryLength) + u".mdb";
+    const QString directory = p.Branch.HomeDir + file.left(directoryLength) + PathSeparator;
+    if (!PointAtCompareDatabase(p, directory + u"LfgDat_" + file.right(fileTail)))
+        return;
+    p.Compare.sCompDbFile = file;
+    p.Compare.sCompDir = directory;
+    if (CompareRecords(p).IsEmpty())
+        p.Prompts.MsgBox(u"No Database records"_s, u"No Records in this Database"_s, Buttons::Information);
+    else
+        ShowFirstPair(p, name);
+}
+
+void LeaveComparison(Program& p)
+{
+    p.Form1->Show();
+}
+
+void CloseComparison(Program& p)
+{
+    p.Files.ChDir(p.Branch.WorkDir);
+    p.Form6.Unload();
+    p.Form1->Command5.Visible = false;
+    p.Form1->Show();
+}
+
+} // namespace lineforge

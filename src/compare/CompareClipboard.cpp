@@ -1,0 +1,75 @@
+#include "compare/CompareClipboard.h"
+
+#include "compare/Sides.h"
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+// The boxes by their numbers, from 1 on. A field that isn't told is the one on show.
+struct EditedBox {
+    TextBox forms::Form6::*Box;
+    const Side& Owner;
+    QStringView Field;
+};
+const EditedBox editedBoxes[] = {
+    {&forms::Form6::Text1, CurrentSide, u"Surname"},
+    {&forms::Form6::Text2, CurrentSide, u""},
+    {&forms::Form6::Text3, CompareSide, u"Surname"},
+    {&forms::Form6::Text4, CompareSide, u""},
+};
+
+bool HasBox(const Program& p)
+{
+    return p.Compare.SelBox >= 1 && p.Compare.SelBox <= static_cast<int>(std::size(editedBoxes));
+}
+
+const EditedBox& BoxOf(int number)
+{
+    return editedBoxes[number - 1];
+}
+
+void Store(Program& p, const QString& text)
+{
+    const EditedBox& box = BoxOf(p.Compare.SelBox);
+    const QString field = box.Field.isEmpty() ? p.Compare.sCompField : box.Field.toString();
+    if (box.Field.isEmpty())
+        ShowField(p, box.Owner, text);
+    else
+        ((*p.Form6).*box.Box).Text = text;
+    Recordset& records = box.Owner.Records(p);
+    records.Edit();
+    records.Put(field, text);
+    records.Update();
+}
+} // namespace
+
+void RememberCompareSelection(Program& p, int number)
+{
+    p.Compare.sSelText = ((*p.Form6).*BoxOf(number).Box).SelText;
+    p.Compare.SelBox = number;
+}
+
+void CopyCompareSelection(Program& p)
+{
+    p.Clipboard.Clear();
+    p.Clipboard.SetText(p.Compare.sSelText);
+}
+
+void CutCompareField(Program& p)
+{
+    CopyCompareSelection(p);
+    if (HasBox(p))
+        Store(p, {});
+}
+
+void PasteCompareField(Program& p)
+{
+    if (p.Clipboard.HasText() && HasBox(p))
+        Store(p, p.Clipboard.GetText());
+}
+
+} // namespace lineforge

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "program/Program.h"
+
+namespace lineforge
+{
+
+// A release of the mouse in `Text1` to `Text4`, told by its number: remembers what is selected there.
+void RememberCompareSelection(Program& p, int number);
+
+// The remembered text to the clipboard.
+void CopyCompareSelection(Program& p);
+
+// The same, and the whole box is emptied, with its field. Errors of the database; 91 while no branch is compared, 3265
+// while no field of the table is shown.
+void CutCompareField(Program& p);
+
+// The clipboard's text in the place of the whole box and in its field; nothing when it holds none, or no box has been
+// clicked. Errors as of cutting.
+void PasteCompareField(Program& p);
+
+} // namespace lineforge

@@ -1,0 +1,112 @@
+#include "compare/CompareSearch.h"
+
+#include "compare/CompareEnds.h"
+#include "compare/FieldDifference.h"
+#include "compare/SearchButton.h"
+#include "compare/Sides.h"
+#include "compare/WhereSame.h"
+#include "program/WorkDatabase.h"
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+int MaskOfBoxes(const forms::Form6& form)
+{
+    return (form.Check1.Value ? CompareKey::File : 0) + (form.Check2.Value ? CompareKey::Surname : 0) +
+           (form.Check3.Value ? CompareKey::BirthDate : 0);
+}
+
+void ShowSide(Program& p, const Side& side)
+{
+    forms::Form6& form = *p.Form6;
+    ShowRecord(p, side);
+    (form.*side.FieldFrame).Caption = u"Field:"_s;
+    ShowField(p, side, {});
+}
+
+// The upper bound is meant: beyond the row of the death certificate the search goes on where it was.
+void ForgetPair(Program& p)
+{
+    if (p.Scratch.ScanState == ComparePair::InHand)
+        p.Scratch.ScanState = ComparePair::None;
+    if (p.Compare.FieldStep >= 2 && p.Compare.FieldStep <= 18)
+        p.Compare.FieldStep = 0;
+}
+
+void Next(Program& p, const Side& side, void (*end)(Program& p))
+{
+    if (p.Compare.SearchEnded == 1)
+        return;
+    ShowSearchState(p, SearchState::ByHand);
+    ForgetPair(p);
+    Recordset& records = side.Records(p);
+    if (!records.Eof())
+        records.MoveNext();
+    if (records.Eof()) {
+        end(p);
+        ShowSearchState(p, SearchState::Busy);
+        return;
+    }
+    ShowSide(p, side);
+    ShowSearchState(p, SearchState::Ready);
+}
+} // namespace
+
+void SearchCompare(Program& p)
+{
+    if (p.Compare.SearchEnded == 1)
+        return;
+    ShowSearchState(p, SearchState::Busy);
+    if (p.Compare.ResetDone == 1) {
+        SetFieldCaptions(p, u"Searching Record Fields"_s, u"Searching Record Fields"_s);
+        p.Compare.ResetDone = 0;
+        p.Form6->Show();
+    }
+    const int mask = MaskOfBoxes(*p.Form6);
+    p.Compare.SearchMask = mask;
+    if (mask != 0 && p.Scratch.ScanState < ComparePair::InHand)
+        SearchWhereSame(p);
+    FieldDifferenceSearch(p);
+    if (mask != 0 && p.Scratch.ScanState < ComparePair::InHand && p.Compare.SearchEnded == 1)
+        ShowSearchState(p, SearchState::Busy);
+}
+
+void ResetCompare(Program& p)
+{
+    p.Compare.SearchEnded = 0;
+    ShowSearchState(p, SearchState::Busy);
+    Records(p).MoveFirst();
+    CompareRecords(p).MoveFirst();
+    p.Compare.ResetDone = 1;
+    EmptyFields(p);
+    SetFieldCaptions(p, u"Field"_s, u"Field"_s);
+    ShowSearchState(p, SearchState::Ready);
+    ShowComparePair(p);
+    p.Scratch.ScanState = ComparePair::None;
+    p.Compare.SearchMask = 0;
+    p.Compare.FieldStep = 0;
+    ShowSearchState(p, SearchState::Ready);
+}
+
+void NextCompare(Program& p)
+{
+    Next(p, CompareSide, EndAtCompare);
+}
+
+void NextCurrent(Program& p)
+{
+    Next(p, CurrentSide, EndAtCurrent);
+}
+
+void ShowSteppedRecord(Program& p)
+{
+    ForgetPair(p);
+    if (CompareRecords(p).HasRow())
+        ShowSide(p, CompareSide);
+}
+
+} // namespace lineforge

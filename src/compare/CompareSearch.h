@@ -1,0 +1,22 @@
+#pragma once
+
+#include "program/Program.h"
+
+namespace lineforge
+{
+
+// Search: the next pair that agrees on the keys that are ticked, if any are, and the next field in which the pair at
+// hand differs. Nothing once a recordset has run out, until Reset.
+void SearchCompare(Program& p);
+
+// Both branches from their first records again. Error 91 while no branch is compared.
+void ResetCompare(Program& p);
+
+// The next record of one side, by hand.
+void NextCompare(Program& p);
+void NextCurrent(Program& p);
+
+// The compared branch's record bar has been used: shows its record.
+void ShowSteppedRecord(Program& p);
+
+} // namespace lineforge

@@ -1,0 +1,147 @@
+#include "compare/FieldCopy.h"
+
+#include "compare/Sides.h"
+#include "platform/Number.h"
+#include "platform/Text.h"
+#include "program/WorkDatabase.h"
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr QStringView CopyFieldList[] = {
+    u"Surname",          u"Forename",
+    u"Nationality",      u"FatherRec",
+    u"MotherRec",        u"BirthDate",
+    u"BirthPlace",       u"Spouse",
+    u"Children",         u"Education",
+    u"Profession",       u"Deceased",
+    u"BirthCertificate", u"MarriageCertificate",
+    u"DeathCertificate", u"Notes",
+    u"Medical",          u"Gender",
+    u"Maiden",           u"Partner",
+    u"PrevChildren",     u"Wedding",
+    u"WedDate",
+};
+
+// The two directions, with all in which appending differs.
+struct Direction {
+    const Side& From;
+    const Side& To;
+    QStringView Title;
+    QStringView Branch;
+    QStringView Break; // between the lines of the refusal
+};
+const Direction toCompare{CurrentSide, CompareSide, u"Append Record to Database.", u"Compare", u"\n"};
+const Direction toCurrent{CompareSide, CurrentSide, u"Append Compare Record to Current Database.", u"Current", u""};
+
+const Direction& DirectionOf(Program& p)
+{
+    return p.Form6->Option1.Value ? toCompare : toCurrent;
+}
+
+void CopyFields(const Recordset& from, Recordset& to)
+{
+    for (const QStringView field : CopyFieldList)
+        to.Put(field, from.Value(field));
+}
+
+// Keeps the number for as long as the window lives, whatever becomes of its record.
+void NoteZNumber(Program& p, const QString& file)
+{
+    constexpr int digits = 3;
+    if (SameText(file.left(1), u"Z"))
+        p.Compare.ZNumberTable[ToLong(file.right(digits))] = file;
+}
+
+// Empty when all are taken.
+QString FreeZNumber(const Program& p)
+{
+    for (int number = 1; number <= p.Compare.ZNumberTable.Last(); ++number)
+        if (p.Compare.ZNumberTable[number].isEmpty())
+            return u"Z"_s + QString::number(number).rightJustified(3, u'0');
+    return {};
+}
+
+void TellExists(Program& p, const Direction& way)
+{
+    p.Prompts.MsgBox(u"Append Error"_s,
+                     u"Record already exists in "_s + way.Branch + u" Database." + way.Break +
+                         u"Delete the record before appending or else copy " + way.Break +
+                         u"the details to the existing record.",
+                     Buttons::Information);
+}
+
+// Looks through the branch that the record would go to, from where its cursor stands. False, with a box, when it has
+// the record's number. `numbered` is the record whose own number is looked at for a "Z".
+bool TakeStock(Program& p, const Direction& way, const Recordset& numbered)
+{
+    Recordset& to = way.To.Records(p);
+    const FieldValue file = way.From.Records(p).Value(u"File");
+    for (; !to.Eof(); to.MoveNext()) {
+        if (file && to.FieldIs(u"File", *file)) {
+            TellExists(p, way);
+            to.SetBookmark(p.Record.SavedBookmark);
+            return false;
+        }
+        NoteZNumber(p, numbered.Text(u"File"));
+    }
+    return true;
+}
+
+void Append(Program& p, const Direction& way)
+{
+    Recordset& to = way.To.Records(p);
+    const QString number = FreeZNumber(p);
+    to.MoveLast();
+    p.Prompts.MsgBox(way.Title.toString(),
+                     u"This Record will be Appended to the "_s + way.Branch + u"\nDatabase as " + number +
+                         u" but will not be mapped into\nthe Ancestral Tree Display.",
+                     Buttons::Information);
+    to.Edit();
+    to.AddNew();
+    to.Put(u"File", number);
+    CopyFields(way.From.Records(p), to);
+    ((*p.Form6).*way.To.Number).Caption = number;
+    to.Update();
+}
+} // namespace
+
+void CopyField(Program& p)
+{
+    const Direction& way = DirectionOf(p);
+    try {
+        Recordset& to = way.To.Records(p);
+        to.Edit();
+        to.Put(p.Compare.sCompField, way.From.Records(p).Value(p.Compare.sCompField));
+        ShowField(p, way.To, way.From.Records(p).Text(p.Compare.sCompField));
+        to.Update();
+    } catch (const RuntimeError&) {
+        p.Prompts.MsgBox(u"Copy Error"_s, u"There is no record to copy across."_s, Buttons::Information);
+    }
+}
+
+void CopyAllFields(Program& p)
+{
+    const Direction& way = DirectionOf(p);
+    Recordset& to = way.To.Records(p);
+    to.Edit();
+    CopyFields(way.From.Records(p), to);
+    to.Update();
+}
+
+// Both begin with the compare recordset's first record: to the current branch it is that one which is appended, not the
+// one on show, and the current one is searched from where it stands. So it is meant to be.
+void AppendRecord(Program& p)
+{
+    const Direction& way = DirectionOf(p);
+    p.Record.SavedBookmark = way.To.Records(p).GetBookmark();
+    CompareRecords(p).MoveFirst();
+    if (TakeStock(p, way, CompareRecords(p)))
+        Append(p, way);
+}
+
+} // namespace lineforge

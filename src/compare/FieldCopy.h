@@ -1,0 +1,20 @@
+#pragma once
+
+#include "program/Program.h"
+
+namespace lineforge
+{
+
+// All three go the way that the option buttons say, and work on the records at which the two recordsets stand.
+
+// The field on show. What fails is told.
+void CopyField(Program& p);
+
+// Every field of `CopyFieldList`, Null included. The number and the spouse's record stay.
+void CopyAllFields(Program& p);
+
+// The record as a new one of the other branch, under the first "Z" number that is free; refused when the other branch
+// has the record's number. Error 9 for a number of 100 or more behind a "Z", 13 for one that is none.
+void AppendRecord(Program& p);
+
+} // namespace lineforge

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "program/Program.h"
+
+namespace lineforge
+{
+
+// What the colour of the Search button says.
+enum class SearchState {
+    Busy,   // it runs, or has come to the end
+    Ready,  //
+    Found,  // a differing field is shown, or the end of a pair's fields
+    ByHand, // the user steps by himself
+};
+
+void ShowSearchState(Program& p, SearchState state);
+
+} // namespace lineforge

@@ -1,0 +1,88 @@
+#include "compare/Sides.h"
+
+#include "compare/Difference.h"
+#include "program/BranchPaths.h"
+#include "program/WorkDatabase.h"
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+QString CurrentDirectory(const Program& p)
+{
+    return p.Branch.WorkDir + PathSeparator;
+}
+
+QString CompareDirectory(const Program& p)
+{
+    return p.Compare.sCompDir;
+}
+} // namespace
+
+const Side CurrentSide{Records,
+                       CurrentDirectory,
+                       &forms::Form6::Label4,
+                       &forms::Form6::Image1,
+                       &forms::Form6::Text1,
+                       &forms::Form6::Text5,
+                       &forms::Form6::Frame5,
+                       &forms::Form6::Text2};
+const Side CompareSide{CompareRecords,       CompareDirectory,     &forms::Form6::Label9, &forms::Form6::Image2,
+                       &forms::Form6::Text3, &forms::Form6::Text6, &forms::Form6::Frame6, &forms::Form6::Text4};
+
+Recordset& CompareRecords(Program& p)
+{
+    return p.Form6->Data1.Records();
+}
+
+void ShowPicture(Program& p, const Side& side, const QString& file)
+{
+    Image& image = (*p.Form6).*side.Picture;
+    image.Picture = QImage();
+    p.Errors.Ignoring([&] { image.Picture = p.Pictures.Load(p.Files, side.Directory(p) + file + u"Sub.jpg"); });
+}
+
+void ShowRecord(Program& p, const Side& side)
+{
+    forms::Form6& form = *p.Form6;
+    const Recordset& record = side.Records(p);
+    const QString file = record.Text(u"File");
+    (form.*side.Number).Caption = file;
+    ShowPicture(p, side, file);
+    (form.*side.Surname).Text = record.Text(u"Surname");
+    const FieldValue forename = record.Value(u"Forename");
+    if (!forename)
+        throw RuntimeError(ErrorNumber::InvalidUseOfNull);
+    (form.*side.Forename).Text = *forename;
+}
+
+void SetFieldCaptions(Program& p, const QString& current, const QString& compare)
+{
+    p.Form6->Frame5.Caption = current;
+    p.Form6->Frame6.Caption = compare;
+}
+
+void ShowField(Program& p, const Side& side, const QString& text)
+{
+    forms::Form6& form = *p.Form6;
+    (form.*side.Field).Text = text;
+    const auto [inCurrent, inCompare] = DifferenceOf(form.Text2.Text.value(), form.Text4.Text.value());
+    form.Text2.Marked = inCurrent;
+    form.Text4.Marked = inCompare;
+}
+
+void ShowFields(Program& p, const QString& current, const QString& compare)
+{
+    ShowField(p, CurrentSide, current);
+    ShowField(p, CompareSide, compare);
+}
+
+void EmptyFields(Program& p)
+{
+    ShowFields(p, {}, {});
+}
+
+} // namespace lineforge

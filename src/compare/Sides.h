@@ -1,0 +1,41 @@
+#pragma once
+
+#include "program/Program.h"
+
+namespace lineforge
+{
+
+// One of the two sides of the comparison: where its records come from, and what shows them.
+struct Side {
+    Recordset& (*Records)(Program& p);
+    QString (*Directory)(const Program& p); // of its subject pictures, with a trailing separator
+    Label forms::Form6::*Number;
+    Image forms::Form6::*Picture;
+    TextBox forms::Form6::*Surname;
+    TextBox forms::Form6::*Forename;
+    Frame forms::Form6::*FieldFrame;
+    TextBox forms::Form6::*Field;
+};
+
+// The open branch on the left; its records are those of the record form, which follows every move.
+extern const Side CurrentSide;
+// The other branch on the right. Error 91 while none has been opened.
+extern const Side CompareSide;
+
+Recordset& CompareRecords(Program& p);
+
+// Number, picture, surname and forename of the side's record. A picture that can't be had leaves its place empty. Error
+// 3021 without a record, 94 for a forename that is Null.
+void ShowRecord(Program& p, const Side& side);
+
+void ShowPicture(Program& p, const Side& side, const QString& file);
+
+// What the frame above each field says, the current one's first.
+void SetFieldCaptions(Program& p, const QString& current, const QString& compare);
+
+// What stands in the boxes of the field, one or both; in both is marked what differs.
+void ShowField(Program& p, const Side& side, const QString& text);
+void ShowFields(Program& p, const QString& current, const QString& compare);
+void EmptyFields(Program& p);
+
+} // namespace lineforge

@@ -1,0 +1,123 @@
+#include "gallery/AddFile.h"
+
+#include "gallery/GalleryItem.h"
+#include "gallery/GalleryPage.h"
+#include "platform/Text.h"
+#include "program/BranchUi.h"
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+// What the four additions differ in.
+struct Addition {
+    GalleryKind Kind;
+    QStringView Title;
+    QStringView Question;
+    QStringView DialogTitle;
+    QStringView Filter;
+    QStringView Ending; // empty: that of the source
+    QStringView TableFull;
+};
+constexpr QStringView pictureTableFull =
+    u"Last Gallery Picture used. You need to delete to have space for a new picture.";
+constexpr Addition additions[] = {
+    {GalleryKind::Picture, u"Gallery Picture Addition.", u"Add new *.bmp or *.jpg Gallery Picture ?",
+     u"Select Picture Source File", u"Graphics(*.jpg)|*.jpg|Graphics(*.bmp)|*.bmp|All Files(*.*)|*.*|", u"",
+     pictureTableFull},
+    {GalleryKind::Sound, u"Gallery Sound Clip Addition.", u"Add new *.Wav Sound clip ?",
+     u"Select Sound Clip Source File", u"Audio(*.Wav)|*.Wav|All Files(*.*)|*.*|", u".wav",
+     u"Last Gallery Container used. You need to delete to have space for a new File."},
+    {GalleryKind::Video, u"Gallery Video Clip Addition.", u"Add new *.avi Gallery Video Clip ?",
+     u"Select Video Clip Source File", u"Video(*.avi)|*.avi|All Files(*.*)|*.*|", u".avi", pictureTableFull},
+    {GalleryKind::Text, u"Gallery Text File Addition.", u"Add new *.txt Gallery Text File ?",
+     u"Select Text Source File", u"Text(*.txt)|*.txt|All Files(*.*)|*.*|", u".txt", pictureTableFull},
+};
+
+const Addition& AdditionOf(GalleryKind kind)
+{
+    return additions[static_cast<int>(kind)];
+}
+
+void Refuse(Program& p, const Addition& addition)
+{
+    p.Prompts.MsgBox(u"Directory Table Full."_s, addition.TableFull.toString(), Buttons::Information);
+}
+
+// The lowest subscript that no file has; 99 when all are taken. Nothing, after a box, when the last place is in use,
+// which is asked of the one name that ends in an asterisk; so it is meant to be.
+std::optional<int> FreeSubscript(Program& p, const Addition& addition)
+{
+    FixedArray<bool, 1, LastSubscript> taken;
+    for (const QString& name : GalleryFiles(p, p.Record.sCurFile)) {
+        if (SameText(name, QString(p.Record.sCurFile + u"98.*"))) {
+            Refuse(p, addition);
+            return std::nullopt;
+        }
+        taken[SubscriptOf(name)] = true;
+    }
+    int subscript = 1;
+    while (subscript <= LastSubscript && taken[subscript])
+        ++subscript;
+    return subscript;
+}
+
+// The last of all goes without, and from then on no page of the record can be built; that is the settled behaviour.
+QString SubscriptInName(int subscript)
+{
+    return subscript == LastSubscript ? QString() : SubscriptText(subscript);
+}
+
+void ShowAddedFile(Program& p, int subscript, GalleryKind kind)
+{
+    Image& tile = p.Form5->Image1[subscript - 1];
+    tile.Picture = LoadTilePicture(p, TilePicturePath(p.Scratch.sFileB, kind, p.Branch.HomeDir));
+    tile.Tag = p.Scratch.sFileB;
+    tile.Visible = true;
+    p.Loop.DoEvents();
+}
+
+// A cancelled dialog leaves the current directory in the gallery.
+void CopyChosenFile(Program& p, int subscript, const Addition& addition)
+{
+    const std::optional<QString> chosen =
+        p.Prompts.OpenFile({addition.DialogTitle.toString(), addition.Filter.toString()});
+    if (!chosen)
+        return;
+    p.Scratch.sFileA = *chosen;
+    if (subscript == p.Gallery.GalleryTop + 1) {
+        p.Gallery.GalleryTop += 1;
+        ShowEmptyTile(p, p.Gallery.GalleryTop);
+    }
+    const QString ending = addition.Ending.isEmpty() ? chosen->right(4) : addition.Ending.toString();
+    p.Scratch.sFileB = p.Gallery.PageDirectory + p.Record.sCurFile + ending;
+    p.Files.FileCopy(p.Scratch.sFileA, p.Scratch.sFileB);
+    p.Files.ChDir(p.Branch.WorkDir);
+    ShowAddedFile(p, subscript, addition.Kind);
+}
+} // namespace
+
+void AddGalleryFile(Program& p, GalleryKind kind)
+{
+    const Addition& addition = AdditionOf(kind);
+    if (kind == GalleryKind::Picture)
+        CloseGalleryItem(p);
+    if (p.Prompts.MsgBox(addition.Title.toString(), addition.Question.toString(), Buttons::QuestionOkCancel) !=
+        Answer::Ok)
+        return;
+    // A file of nobody's would be found by no page.
+    if (p.Gallery.PageRecord.isEmpty())
+        return TellNoRecords(p);
+    p.Files.ChDir(p.Gallery.PageDirectory);
+    p.Record.sCurFile = GalleryKey(p);
+    const std::optional<int> subscript = FreeSubscript(p, addition);
+    if (!subscript || *subscript > LastSubscript)
+        return;
+    p.Record.sCurFile += SubscriptInName(*subscript);
+    p.Errors.Ignoring([&] { CopyChosenFile(p, *subscript, addition); });
+}
+
+} // namespace lineforge

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "program/Program.h"
+
+#include <optional>
+
+namespace lineforge
+{
+
+// The files of a record's gallery have a name of the record's number, "_", a subscript of two digits and an ending that
+// tells their kind: "A001_07.jpg".
+enum class GalleryKind { Picture, Sound, Video, Text };
+
+// By the last three characters of a name, a path or a tile's tag, case ignored; nothing for another ending.
+std::optional<GalleryKind> KindOf(QStringView name);
+
+// The bitmap beside the program that a tile shows for a kind that is no picture.
+QString GalleryIcon(GalleryKind kind);
+
+inline constexpr int LastSubscript = 98;
+
+// "07" of 7.
+QString SubscriptText(int subscript);
+
+// With a trailing separator.
+QString GalleryDirectory(const QString& workDir);
+
+// What the names of the files of the page's record begin with: its number and "_".
+QString GalleryKey(const Program& p);
+
+// The names in the page's directory that begin with that key, sorted.
+QStringList GalleryFiles(Program& p, const QString& key);
+
+// The number that stands in characters 6 and 7 of such a name; it may be one digit before the point. Error 13 when it
+// is none.
+int SubscriptOf(const QString& name);
+
+// Whether a tile with that tag has no file; it holds its subscript then.
+bool IsEmptyTag(const QString& tag);
+
+// The file's path for a tile's tag, which holds the bare name since a page build and the whole path since an addition.
+QString GalleryPath(const Program& p, const QString& tag);
+
+// What a tile shows of a file: the picture itself, or the kind's icon out of that directory, which ends in a separator.
+QString TilePicturePath(const QString& file, GalleryKind kind, const QString& icons);
+
+// That picture, at the size of a tile. Error 53 or 481.
+QImage LoadTilePicture(Program& p, const QString& path);
+// Begins to decode pictures that will be loaded, in this order.
+void ExpectTilePictures(Program& p, const QStringList& paths);
+
+} // namespace lineforge

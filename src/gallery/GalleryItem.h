@@ -1,0 +1,26 @@
+#pragma once
+
+#include "program/Program.h"
+
+namespace lineforge
+{
+
+// A tile has been dropped on the tile of that index: on itself that is a click, which opens the tile's file, closes
+// what is open, or deletes; on another it rearranges the files.
+void DropOnTile(Program& p, int index, Image& source);
+
+// Leaves the picture, sound or video that is open; nothing when none is.
+void CloseGalleryItem(Program& p);
+
+// Takes an open item off the window, for a new page or because it is closed. By itself it leaves the item counting as
+// open: the next click on a tile closes it.
+void PutItemAway(Program& p);
+
+// The Exit buttons of the two players; either ends a deletion that waits for its tile.
+void ExitSoundPlayer(Program& p);
+void ExitVideoPlayer(Program& p);
+
+// A deletion that waits for its tile isn't wanted any more.
+void CancelDeletion(Program& p);
+
+} // namespace lineforge

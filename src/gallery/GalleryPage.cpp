@@ -1,0 +1,175 @@
+#include "gallery/GalleryPage.h"
+
+#include "gallery/GalleryFile.h"
+#include "gallery/GalleryItem.h"
+#include "program/BranchPaths.h"
+
+#include <algorithm>
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr int tilesInRow = 14;
+constexpr int gap = 100;
+
+// What stands on the tiles of a page, by their indexes.
+struct PageFile {
+    QString Name;
+    QString ImagePath;
+};
+using PageFiles = FixedArray<PageFile, 0, LastSubscript - 1>;
+
+void PlaceTile(forms::Form5& form, int index)
+{
+    Image& tile = form.Image1[index];
+    const bool beginsRow = index % tilesInRow == 0;
+    const Image& beside = form.Image1[beginsRow ? 0 : index % tilesInRow - 1];
+    tile.Left = beginsRow ? beside.Left.value() : beside.Left + beside.Width + gap;
+    if (index < tilesInRow) {
+        tile.Top = form.Image1[0].Top.value();
+        return;
+    }
+    const Image& above = form.Image1[(index / tilesInRow - 1) * tilesInRow];
+    tile.Top = above.Top + above.Height + gap;
+}
+
+void PlacePlayers(Program& p, forms::Form5& form)
+{
+    for (PictureBox* panel : {&form.Picture1, &form.Picture2}) {
+        panel->Left = (p.Screen.Width - panel->Width) / 2;
+        panel->Top = forms::Form5::FirstTile.Top;
+    }
+}
+
+void ClearPage(Program& p)
+{
+    for (int index = 0; index <= p.Gallery.GalleryTop; ++index) {
+        Image& tile = p.Form5->Image1[index];
+        tile.Visible = false;
+        tile.Tag = QString();
+        tile.Picture = QImage();
+    }
+}
+
+void TellWrongEnding(Program& p, const QString& name)
+{
+    p.Prompts.MsgBox(u"File access error."_s,
+                     u"Incorrect File Subscript Found in Gallery \nDirectory : "_s + name.right(3),
+                     Buttons::Information);
+}
+
+// The files of the record; of two with one subscript the later name holds the tile. Nothing when one has an ending
+// that no gallery has.
+std::optional<PageFiles> ListPage(Program& p)
+{
+    const QString icons = p.Scratch.sNewDir + PathSeparator;
+    PageFiles files;
+    for (const QString& name : GalleryFiles(p, GalleryKey(p))) {
+        const int subscript = SubscriptOf(name);
+        p.Gallery.GalleryTop = std::max<int>(p.Gallery.GalleryTop, subscript);
+        const std::optional<GalleryKind> kind = KindOf(name);
+        if (!kind) {
+            TellWrongEnding(p, name);
+            return std::nullopt;
+        }
+        files[subscript - 1] = {name, TilePicturePath(p.Gallery.PageDirectory + name, *kind, icons)};
+    }
+    return files;
+}
+
+void ShowFile(Program& p, int index, const PageFile& file)
+{
+    Image& tile = p.Form5->Image1[index];
+    tile.Tag = file.Name;
+    tile.Picture = LoadTilePicture(p, file.ImagePath);
+    tile.Visible = true;
+}
+
+void ExpectPictures(Program& p, const PageFiles& files)
+{
+    QStringList paths;
+    for (int index = 0; index < LastSubscript; ++index)
+        if (!files[index].ImagePath.isEmpty())
+            paths.append(files[index].ImagePath);
+    ExpectTilePictures(p, paths);
+}
+
+// A user who has gone on to another record's page meanwhile must not find this one's files on its tiles; and a file
+// that he has added meanwhile has its tile already.
+void ShowTiles(Program& p, const PageFiles& files, int page)
+{
+    for (int index = 0; p.Gallery.Page == page && index <= p.Gallery.GalleryTop; ++index) {
+        const bool hasFile = index < LastSubscript && !files[index].ImagePath.isEmpty();
+        if (p.Form5->Image1[index].Visible)
+            continue;
+        if (hasFile)
+            ShowFile(p, index, files[index]);
+        else
+            ShowEmptyTile(p, index);
+        p.Loop.DoEvents();
+    }
+}
+} // namespace
+
+void LoadImageGrid(Program& p)
+{
+    forms::Form5& form = *p.Form5;
+    form.Width = p.Screen.Width;
+    form.Height = p.Screen.Height - 500;
+    form.Centre(p.Screen.Area(), 250);
+    form.Image1[0].Picture = QImage();
+    // The last one is never placed, and stands where the first does.
+    for (int index = 1; index <= forms::Form5::LastTile; ++index) {
+        form.Image1.Load(index);
+        if (index < forms::Form5::LastTile)
+            PlaceTile(form, index);
+    }
+    PlacePlayers(p, form);
+}
+
+void ForgetPage(Program& p)
+{
+    ++p.Gallery.Page;
+    p.Gallery.PageRecord.clear();
+    p.Gallery.PageDirectory.clear();
+    p.Gallery.EnlargedTile.reset();
+}
+
+void BuildGalleryPage(Program& p)
+{
+    const int page = ++p.Gallery.Page;
+    p.Gallery.FirstShow = 0;
+    const forms::Form3& record = *p.Form3;
+    p.Gallery.PageRecord = record.Label25.Caption;
+    p.Gallery.PageDirectory = GalleryDirectory(p.Branch.WorkDir);
+    p.Form5->Caption = p.Branch.sBranchName + u" Tree Branch. Gallery " + p.Gallery.PageRecord + u" of " +
+                       record.Text3.Text.value() + u' ' + record.Text2.Text.value();
+    CancelDeletion(p);
+    PutItemAway(p);
+    ClearPage(p);
+    p.Form5->Show();
+    p.Loop.DoEvents();
+    if (p.Gallery.Page != page)
+        return;
+    p.Gallery.GalleryTop = 0;
+    p.Files.ChDir(p.Branch.WorkDir);
+    p.Scratch.sNewDir = ApplicationDirectory(p.Branch.WorkDir);
+    const std::optional<PageFiles> files = ListPage(p);
+    if (!files)
+        return;
+    ExpectPictures(p, *files);
+    ShowTiles(p, *files, page);
+}
+
+void ShowEmptyTile(Program& p, int index)
+{
+    Image& tile = p.Form5->Image1[index];
+    tile.Tag = QString::number(index + 1);
+    tile.Visible = true;
+}
+
+} // namespace lineforge

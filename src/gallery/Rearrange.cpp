@@ -1,0 +1,116 @@
+#include "gallery/Rearrange.h"
+
+#include "gallery/GalleryFile.h"
+#include "gallery/GalleryPage.h"
+#include "platform/Number.h"
+
+#include <algorithm>
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+// "A001_", "07" and ".jpg", with whatever path stands before. The subscript may be of one digit, as a file has it that
+// was moved to an empty tile below 10.
+struct TagParts {
+    QString Stem;
+    QString Subscript;
+    QString Tail;
+};
+
+TagParts PartsOf(const QString& tag)
+{
+    constexpr qsizetype key = 5; // "A001_"
+    const qsizetype start = std::min(tag.lastIndexOf(PathSeparator) + 1 + key, tag.size());
+    const qsizetype digits = QStringView(tag).mid(start, 2).endsWith(u'.') ? 1 : 2;
+    return {tag.first(start), tag.mid(start, digits), tag.mid(start + digits)};
+}
+
+bool IsSubscript(const QString& tag, int value)
+{
+    return NumberIn(tag).value_or(0) == value;
+}
+
+enum class HiddenTile { TakesItsSubscript, KeepsItsTag };
+
+// The trailing empty tile goes when the highest file has gone. What its tag then says differs with the direction of
+// the drop; nothing reads it before the tile is shown again.
+void MoveToEmptyTile(Program& p, Image& file, Image& empty, HiddenTile hidden)
+{
+    const QString name = file.Tag;
+    const QString subscript = empty.Tag;
+    const TagParts parts = PartsOf(name);
+    Integer16& top = p.Gallery.GalleryTop;
+    if (IsSubscript(subscript, top + 1)) {
+        top += 1;
+        ShowEmptyTile(p, top);
+    }
+    file.Tag = parts.Subscript;
+    empty.Tag = QString(parts.Stem + subscript + parts.Tail);
+    p.Files.Rename(name, empty.Tag);
+    if (!IsSubscript(parts.Subscript, top))
+        return;
+    Image& trailing = p.Form5->Image1[top];
+    trailing.Visible = false;
+    if (hidden == HiddenTile::TakesItsSubscript)
+        trailing.Tag = QString::number(top + 1);
+    top -= 1;
+}
+
+// Found out before the first of the renames: a swap that stops half way would leave a file under a name that no page
+// finds.
+void RequireFile(const Program& p, const QString& name)
+{
+    if (p.Files.Dir(name).isEmpty())
+        throw RuntimeError(ErrorNumber::FileNotFound);
+}
+
+void SwapFiles(Program& p, Image& source, Image& target)
+{
+    const QString s = source.Tag;
+    const QString d = target.Tag;
+    RequireFile(p, d);
+    RequireFile(p, s);
+    const TagParts ofSource = PartsOf(s);
+    const TagParts ofTarget = PartsOf(d);
+    const QString temporary = ofTarget.Stem + ofTarget.Subscript + u"Temp" + ofTarget.Tail;
+    const QString newSource = ofSource.Stem + ofTarget.Subscript + ofSource.Tail;
+    const QString newTarget = ofTarget.Stem + ofSource.Subscript + ofTarget.Tail;
+    p.Files.Rename(d, temporary);
+    p.Files.Rename(s, newSource);
+    p.Files.Rename(temporary, newTarget);
+    source.Tag = newTarget;
+    target.Tag = newSource;
+}
+
+void ReloadTile(Program& p, Image& tile)
+{
+    tile.Picture = QImage();
+    const QString tag = tile.Tag;
+    const std::optional<GalleryKind> kind = KindOf(tag);
+    if (kind)
+        tile.Picture =
+            LoadTilePicture(p, kind == GalleryKind::Picture ? tag : QString(p.Branch.HomeDir + GalleryIcon(*kind)));
+}
+} // namespace
+
+void RearrangeTiles(Program& p, Image& source, Image& target)
+{
+    p.Screen.Pointer = MousePointer::Hourglass;
+    const bool hasSource = !IsEmptyTag(source.Tag);
+    const bool hasTarget = !IsEmptyTag(target.Tag);
+    if (hasSource && hasTarget)
+        SwapFiles(p, source, target);
+    else if (hasSource)
+        MoveToEmptyTile(p, source, target, HiddenTile::TakesItsSubscript);
+    else if (hasTarget)
+        MoveToEmptyTile(p, target, source, HiddenTile::KeepsItsTag);
+    ReloadTile(p, target);
+    ReloadTile(p, source);
+    p.Screen.Pointer = MousePointer::Default;
+}
+
+} // namespace lineforge

@@ -1,0 +1,267 @@
+#include "compare/CompareBranch.h"
+
+#include "compare/CompareTest.h"
+
+namespace lineforge
+{
+namespace
+{
+
+class CompareBranchTest : public CompareTest
+{
+protected:
+    void GivenOpenBranch()
+    {
+        GivenBranch(u'A', {{{u"File", u"A001"}, {u"Surname", u"Smith"}, {u"Forename", u"John"}},
+                           {{u"File", u"A002"}, {u"Surname", u"Jones"}, {u"Forename", u"Mary"}}});
+        GivenBranch(u'B', {{{u"File", u"B001"}, {u"Surname", u"Smythe"}, {u"Forename", u"Jon"}},
+                           {{u"File", u"B002"}, {u"Surname", u"Brown"}, {u"Forename", u"Ann"}}});
+        StartProgram(P);
+        Choose(u"Smiths");
+    }
+    void Compare() { Click(P.Form1->mnuComp.Click); }
+};
+
+TEST_F(CompareBranchTest, Command_BeginsWithTheFirstRecord_WhereverTheFormStood)
+{
+    GivenOpenBranch();
+    Records(P).MoveLast();
+    EXPECT_FALSE(P.Form1->Command5.Visible);
+    Compare();
+    EXPECT_EQ(NumberAt(Records(P)), u"A001"_s);
+    EXPECT_EQ(P.Form6->Label4.Caption.value(), u"A001"_s);
+    EXPECT_EQ(ColourOf(P.Form6->Image1), u"red"_s);
+    EXPECT_EQ(P.Form6->Text1.Text.value(), u"Smith"_s);
+    EXPECT_EQ(P.Form6->Text2.Text.value(), u"Smith"_s);
+    EXPECT_EQ(P.Form6->Text5.Text.value(), u"John"_s);
+    EXPECT_EQ(P.Form6->Frame5.Caption.value(), u"Field: Surname"_s);
+    EXPECT_EQ(P.Form6->Label2.Caption.value(), u"Smiths"_s);
+    EXPECT_TRUE(P.Form6->Visible);
+    EXPECT_TRUE(P.Form1->Command5.Visible);
+    EXPECT_EQ(P.Compare.ResetDone, 0);
+}
+
+TEST_F(CompareBranchTest, NullNames_AreShownEmpty)
+{
+    GivenBranch(u'A', {{{u"File", u"A001"}}});
+    StartProgram(P);
+    Choose(u"Smiths");
+    Compare();
+    EXPECT_EQ(P.Form6->Text1.Text.value() + P.Form6->Text2.Text.value() + P.Form6->Text5.Text.value(), QString());
+    EXPECT_TRUE(P.Form6->Visible);
+}
+
+TEST_F(CompareBranchTest, RecordOfASibling_IsRefused_ByTheCommandAndTheButton)
+{
+    GivenOpenBranch();
+    Compare();
+    P.Branch.UsingAlternate = 1;
+    P.Form6->Hide();
+    for (const Event& entry : {P.Form1->mnuComp.Click, P.Form1->Command5.Click}) {
+        Tell(u"Compare Record Data not available",
+             u"Cannot compare this alternate Tree Branch Database record\n"
+             u"unless you de select this subject or change and open it's Tree Branch Database.");
+        Click(entry);
+        EXPECT_FALSE(P.Form6->Visible);
+    }
+}
+
+TEST_F(CompareBranchTest, NoBranch_IsTold)
+{
+    GivenRegistry();
+    StartProgram(P);
+    Tell(u"Data not available", u"Cannot View until database file is Opened");
+    Compare();
+    EXPECT_FALSE(P.Form6->Visible);
+}
+
+TEST_F(CompareBranchTest, BranchWithoutRecords_IsTold)
+{
+    GivenOpenBranch();
+    ExpectEmptyBox();
+    Choose(u"Nobody");
+    Tell(u"Database Empty", u"The Database has no records to access");
+    Compare();
+    EXPECT_FALSE(P.Form6->Visible);
+    EXPECT_EQ(ExitCode(), std::nullopt);
+}
+
+TEST_F(CompareBranchTest, FirstRecordWithoutAPicture_IsShownWithoutOne)
+{
+    GivenOpenBranch();
+    P.Files.Kill(Home.Path(u"LfgDat_A/A001Sub.jpg"));
+    Compare();
+    EXPECT_EQ(ColourOf(P.Form6->Image1), u"none"_s);
+    EXPECT_TRUE(P.Form6->Visible);
+}
+
+TEST_F(CompareBranchTest, Window_TakesTheScreen)
+{
+    GivenOpenBranch();
+    EXPECT_EQ(P.Form6->Width, 12000);
+    EXPECT_EQ(P.Form6->Height, 8600);
+    EXPECT_TRUE(P.Form6->Option1.Value);
+    EXPECT_FALSE(P.Form6->Option2.Value);
+}
+
+TEST_F(CompareBranchTest, OpenCompare_AsksByTheListOfBranches)
+{
+    GivenOpenBranch();
+    Compare();
+    Click(P.Form6->mnuOpen.Click);
+    EXPECT_EQ(P.Compare.SearchMask, 8);
+    EXPECT_TRUE(P.Form8->Visible);
+}
+
+TEST_F(CompareBranchTest, ChosenBranch_IsOpenedBesideTheOpenOne_AndTheFirstPairShown)
+{
+    GivenOpenBranch();
+    Compare();
+    Records(P).MoveLast();
+    ChooseCompare(u"Jones");
+    EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_A"));
+    EXPECT_EQ(P.Branch.sBranchName, u"Smiths"_s);
+    EXPECT_EQ(P.Compare.sCompDbFile, u"LfgDat_B.mdb"_s);
+    EXPECT_EQ(P.Compare.sCompDir, QString(Home.Path(u"LfgDat_B") + u'/'));
+    EXPECT_EQ(P.Compare.sCompName, u"Jones"_s);
+    EXPECT_EQ(P.Form6->Label7.Caption.value(), u"Jones"_s);
+    EXPECT_EQ(Pair(), u"A001 B001"_s);
+    EXPECT_EQ(ShownPair(), u"A001 B001"_s);
+    EXPECT_EQ(Pictures(), u"red blue"_s);
+    EXPECT_EQ(Captions(), u"Field: Surname|Field: Surname"_s);
+    EXPECT_EQ(Texts(), u"Smith|Smythe"_s);
+    EXPECT_EQ(Surnames(), u"Smith|Smythe"_s);
+    EXPECT_EQ(Forenames(), u"John|Jon"_s);
+    EXPECT_EQ(P.Compare.sCompField, u"Surname"_s);
+    EXPECT_EQ(P.Compare.SearchMask, 0);
+    EXPECT_EQ(P.Compare.FieldStep, 1);
+    EXPECT_EQ(P.Compare.ResetDone, 0);
+    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(Light(), Found);
+    EXPECT_FALSE(P.Form8.IsLoaded());
+}
+
+TEST_F(CompareBranchTest, WhatDiffers_IsMarked)
+{
+    GivenOpenBranch();
+    Compare();
+    ChooseCompare(u"Jones");
+    EXPECT_EQ(P.Form6->Text2.Marked.value(), (TextRange{2, 3}));
+    EXPECT_EQ(P.Form6->Text4.Marked.value(), (TextRange{2, 4}));
+}
+
+TEST_F(CompareBranchTest, BranchWithoutRecords_ForComparison_IsTold_AndLeavesTheNumberEmpty)
+{
+    GivenOpenBranch();
+    Compare();
+    Tell(u"No Database records", u"No Records in this Database");
+    ChooseCompare(u"Nobody");
+    EXPECT_EQ(P.Form6->Label9.Caption.value(), QString());
+    EXPECT_EQ(P.Form6->Label7.Caption.value(), QString());
+    EXPECT_EQ(P.Compare.SearchMask, 0);
+}
+
+TEST_F(CompareBranchTest, SameBranch_IsAccepted_AndAnEditOnOneSideIsSeenOnTheOther)
+{
+    GivenOpenBranch();
+    Compare();
+    ChooseCompare(u"Smiths");
+    EXPECT_EQ(ShownPair(), u"A001 A001"_s);
+    Records(P).Edit();
+    Records(P).Put(u"Surname", u"Changed"_s);
+    Records(P).Update();
+    EXPECT_EQ(CompareRecords(P).Text(u"Surname"), u"Changed"_s);
+}
+
+TEST_F(CompareBranchTest, AnotherCompareBranch_ReplacesTheFirst)
+{
+    GivenOpenBranch();
+    Compare();
+    ChooseCompare(u"Jones");
+    ChooseCompare(u"Smiths");
+    EXPECT_EQ(P.Form6->Label7.Caption.value(), u"Smiths"_s);
+    EXPECT_EQ(Pair(), u"A001 A001"_s);
+}
+
+TEST_F(CompareBranchTest, CancelledChoice_NeverTurnsTheNextOpenIntoAComparison)
+{
+    GivenOpenBranch();
+    Compare();
+    Click(P.Form6->mnuOpen.Click);
+    Click(P.Form8->Command2.Click);
+    EXPECT_EQ(P.Compare.SearchMask, 0);
+    Choose(u"Jones");
+    EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_B"));
+}
+
+TEST_F(CompareBranchTest, ChoiceLeftOpen_IsAnOrdinaryOneAfterTheMenuEntryOpen)
+{
+    GivenOpenBranch();
+    Compare();
+    Click(P.Form6->mnuOpen.Click);
+    Choose(u"Jones");
+    EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_B"));
+}
+
+TEST_F(CompareBranchTest, Tree_ShowsTheMap_AndTheButtonBringsTheWindowBackAsItWas)
+{
+    GivenOpenBranch();
+    Compare();
+    ChooseCompare(u"Jones");
+    Click(P.Form6->Command4.Click);
+    EXPECT_TRUE(P.Form1->Visible);
+    EXPECT_TRUE(P.Form6->Visible);
+    Records(P).MoveLast();
+    Click(P.Form1->Command5.Click);
+    EXPECT_EQ(ShownPair(), u"A001 B001"_s);
+    EXPECT_EQ(Pair(), u"A002 B001"_s);
+}
+
+TEST_F(CompareBranchTest, Exit_ClosesTheComparedBranch_AndHidesTheButton)
+{
+    GivenOpenBranch();
+    Compare();
+    ChooseCompare(u"Jones");
+    P.Files.ChDir(Home.Path());
+    Click(P.Form6->mnuClose.Click);
+    EXPECT_FALSE(P.Form6.IsLoaded());
+    EXPECT_FALSE(P.Form1->Command5.Visible);
+    EXPECT_TRUE(P.Form1->Visible);
+    EXPECT_EQ(P.Files.CurDir(), Home.Path(u"LfgDat_A"));
+}
+
+TEST_F(CompareBranchTest, ButtonAfterTheBranchWasClosed_BeginsAnew)
+{
+    GivenOpenBranch();
+    Compare();
+    Click(P.Form1->mnuCloseDB.Click);
+    Choose(u"Jones");
+    P.Form6.Unload();
+    Click(P.Form1->Command5.Click);
+    EXPECT_EQ(P.Form6->Label4.Caption.value(), u"B001"_s);
+    EXPECT_EQ(P.Form6->Label2.Caption.value(), u"Jones"_s);
+    EXPECT_TRUE(P.Form6->Visible);
+}
+
+TEST_F(CompareBranchTest, Help_OpensTheContents)
+{
+    GivenOpenBranch();
+    Prompts.ExpectHelp(Home.Path(u"LfgHelp.hlp"));
+    Click(P.Form6->mnuHelp.Click);
+}
+
+TEST_F(CompareBranchTest, RecordBar_ShowsTheRecordThatItGoesTo)
+{
+    GivenOpenBranch();
+    Compare();
+    ChooseCompare(u"Jones");
+    CompareRecords(P).MoveNext();
+    Click(P.Form6->Data1.Stepped);
+    EXPECT_EQ(ShownPair(), u"A001 B002"_s);
+    EXPECT_EQ(Forenames(), u"John|Ann"_s);
+    EXPECT_EQ(P.Form6->Frame6.Caption.value(), u"Field:"_s);
+    EXPECT_EQ(Texts(), u"Smith|"_s);
+}
+
+} // namespace
+} // namespace lineforge

@@ -1,0 +1,136 @@
+#include "compare/CompareClipboard.h"
+
+#include "compare/CompareTest.h"
+
+namespace lineforge
+{
+namespace
+{
+
+class CompareClipboardTest : public CompareTest
+{
+protected:
+    CompareClipboardTest()
+    {
+        GivenComparison({{{u"File", u"A001"}, {u"Surname", u"Smith"}, {u"Forename", u"John"}}},
+                        {{{u"File", u"B001"}, {u"Surname", u"Smith"}, {u"Forename", u"Jon"}}});
+        Search();
+    }
+
+    // A release of the mouse with that much selected.
+    void Select(TextBox& box, QStringView text)
+    {
+        box.SelText = text.toString();
+        Click(box.Click);
+    }
+    void Cut() { Click(P.Form6->mnuCut.Click); }
+    void Paste() { Click(P.Form6->mnuPaste.Click); }
+};
+
+TEST_F(CompareClipboardTest, Copy_PutsTheSelectionOnTheClipboard)
+{
+    Select(P.Form6->Text2, u"oh");
+    Machine.Clipboard.Picture = QImage(2, 2, QImage::Format_RGB32);
+    Click(P.Form6->mnuCopy.Click);
+    EXPECT_EQ(Machine.Clipboard.Text, u"oh"_s);
+    EXPECT_FALSE(Machine.Clipboard.HasPicture());
+    EXPECT_EQ(Stored(u'A', "Forename", "A001"), u"John"_s);
+}
+
+struct Box {
+    const char* Name;
+    int Number;
+    TextBox forms::Form6::*Member;
+    QChar Branch;
+    const char* File;
+    const char* Field;
+};
+class BoxTest : public CompareClipboardTest, public testing::WithParamInterface<Box>
+{
+protected:
+    TextBox& TheBox() { return (*P.Form6).*GetParam().Member; }
+    std::optional<QString> InDatabase() { return Stored(GetParam().Branch, GetParam().Field, GetParam().File); }
+};
+
+TEST_P(BoxTest, Cut_EmptiesTheWholeBoxAndItsField)
+{
+    Select(TheBox(), u"o");
+    EXPECT_EQ(P.Compare.SelBox, GetParam().Number);
+    Cut();
+    EXPECT_EQ(Machine.Clipboard.Text, u"o"_s);
+    EXPECT_EQ(TheBox().Text.value(), QString());
+    EXPECT_EQ(InDatabase(), QString());
+}
+
+TEST_P(BoxTest, Paste_ReplacesTheWholeBoxAndItsField)
+{
+    Select(TheBox(), u"");
+    Machine.Clipboard.Text = u"Pasted"_s;
+    Paste();
+    EXPECT_EQ(TheBox().Text.value(), u"Pasted"_s);
+    EXPECT_EQ(InDatabase(), u"Pasted"_s);
+}
+
+TEST_P(BoxTest, ClickWithoutASelection_LetsCutStoreAnEmptyField)
+{
+    Select(TheBox(), u"");
+    Cut();
+    EXPECT_EQ(Machine.Clipboard.Text, QString());
+    EXPECT_EQ(InDatabase(), QString());
+}
+
+std::string NameOf(const testing::TestParamInfo<Box>& box)
+{
+    return box.param.Name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Boxes, BoxTest,
+                         testing::Values(Box{"CurrentSurname", 1, &forms::Form6::Text1, u'A', "A001", "Surname"},
+                                         Box{"CurrentField", 2, &forms::Form6::Text2, u'A', "A001", "Forename"},
+                                         Box{"CompareSurname", 3, &forms::Form6::Text3, u'B', "B001", "Surname"},
+                                         Box{"CompareField", 4, &forms::Form6::Text4, u'B', "B001", "Forename"}),
+                         NameOf);
+
+TEST_F(CompareClipboardTest, CutWithoutABox_OnlyFillsTheClipboard)
+{
+    const auto ours = Rows(u'A');
+    const auto theirs = Rows(u'B');
+    P.Compare.sSelText = u"x"_s;
+    Cut();
+    EXPECT_EQ(Machine.Clipboard.Text, u"x"_s);
+    EXPECT_EQ(Rows(u'A'), ours);
+    EXPECT_EQ(Rows(u'B'), theirs);
+}
+
+TEST_F(CompareClipboardTest, PasteOfNoText_OrWithoutABox_DoesNothing)
+{
+    const auto ours = Rows(u'A');
+    Machine.Clipboard.Text = u"x"_s;
+    Paste();
+    Select(P.Form6->Text2, u"J");
+    Machine.Clipboard.Clear();
+    Machine.Clipboard.Picture = QImage(2, 2, QImage::Format_RGB32);
+    Paste();
+    EXPECT_EQ(Rows(u'A'), ours);
+    EXPECT_EQ(P.Form6->Text2.Text.value(), u"John"_s);
+}
+
+TEST_F(CompareClipboardTest, WhatIsTyped_IsNotStored)
+{
+    P.Form6->Text2.Text = u"Typed"_s;
+    Reset();
+    EXPECT_EQ(Stored(u'A', "Forename", "A001"), u"John"_s);
+}
+
+TEST_F(CompareClipboardTest, FieldThatIsNone_TakesTheFatalPath)
+{
+    P.Compare.sCompField = u"Nation"_s;
+    Select(P.Form6->Text2, u"x");
+    ExpectFatalBox(u"Run-time error '3265':\n\nItem not found in this collection.");
+    Cut();
+    EXPECT_TRUE(ExitCode().has_value());
+    EXPECT_EQ(Stored(u'A', "Forename", "A001"), u"John"_s);
+}
+
+} // namespace
+} // namespace lineforge

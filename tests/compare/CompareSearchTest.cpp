@@ -1,0 +1,162 @@
+#include "compare/CompareSearch.h"
+
+#include "compare/CompareTest.h"
+
+namespace lineforge
+{
+namespace
+{
+
+class CompareSearchTest : public CompareTest
+{
+protected:
+    CompareSearchTest()
+    {
+        GivenComparison({Person(u"A001", u"Smith", u"John"), Person(u"A002", u"Jones", u"Mary")},
+                        {Person(u"B001", u"Smith", u"Jon"), Person(u"B002", u"Brown", u"Ann")});
+    }
+
+    static Fields Person(QStringView file, QStringView surname, QStringView forename)
+    {
+        return {{u"File", file}, {u"Surname", surname}, {u"Forename", forename}};
+    }
+};
+
+TEST_F(CompareSearchTest, FirstPress_ShowsTheFirstDifference)
+{
+    Search();
+    EXPECT_EQ(Captions(), u"Field: Forename|Field: Forename"_s);
+    EXPECT_EQ(Texts(), u"John|Jon"_s);
+    EXPECT_EQ(P.Form6->Text2.Marked.value(), (TextRange{2, 1}));
+    EXPECT_EQ(P.Form6->Text4.Marked.value(), TextRange(2, 0));
+    EXPECT_EQ(Light(), Found);
+}
+
+TEST_F(CompareSearchTest, Reset_BeginsWithBothFirstRecords)
+{
+    Search();
+    Records(P).MoveLast();
+    CompareRecords(P).MoveLast();
+    P.Compare.SearchEnded = 1;
+    Reset();
+    EXPECT_EQ(Pair(), u"A001 B001"_s);
+    EXPECT_EQ(ShownPair(), u"A001 B001"_s);
+    EXPECT_EQ(Pictures(), u"red blue"_s);
+    EXPECT_EQ(Surnames(), u"Smith|Smith"_s);
+    EXPECT_EQ(Forenames(), u"John|Jon"_s);
+    EXPECT_EQ(Captions(), u"Field|Field"_s);
+    EXPECT_EQ(Texts(), u"|"_s);
+    EXPECT_EQ(P.Form6->Label7.Caption.value(), u"Jones"_s);
+    EXPECT_EQ(P.Compare.SearchEnded, 0);
+    EXPECT_EQ(P.Compare.ResetDone, 1);
+    EXPECT_EQ(P.Compare.SearchMask, 0);
+    EXPECT_EQ(P.Compare.FieldStep, 0);
+    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(Light(), Ready);
+}
+
+TEST_F(CompareSearchTest, FirstSearchAfterReset_SaysThatItSearches_UntilItHasFound)
+{
+    Reset();
+    Search();
+    EXPECT_EQ(P.Compare.ResetDone, 0);
+    EXPECT_EQ(Captions(), u"Field: Forename|Field: Forename"_s);
+}
+
+TEST_F(CompareSearchTest, EndedSearch_DoesNothing_UntilReset)
+{
+    P.Compare.SearchEnded = 1;
+    P.Form6->Command1.BackColor = Rgb(1, 2, 3);
+    Search();
+    NextCompare();
+    NextCurrent();
+    EXPECT_EQ(Light(), u"1,2,3"_s);
+    EXPECT_EQ(Pair(), u"A001 B001"_s);
+}
+
+TEST_F(CompareSearchTest, NextCompare_ShowsThatSideAlone)
+{
+    Search();
+    NextCompare();
+    EXPECT_EQ(Pair(), u"A001 B002"_s);
+    EXPECT_EQ(ShownPair(), u"A001 B002"_s);
+    EXPECT_EQ(Surnames(), u"Smith|Brown"_s);
+    EXPECT_EQ(Forenames(), u"John|Ann"_s);
+    EXPECT_EQ(Captions(), u"Field: Forename|Field:"_s);
+    EXPECT_EQ(Texts(), u"John|"_s);
+    EXPECT_EQ(Light(), Ready);
+}
+
+TEST_F(CompareSearchTest, NextCurrent_ShowsThatSideAlone)
+{
+    Search();
+    NextCurrent();
+    EXPECT_EQ(Pair(), u"A002 B001"_s);
+    EXPECT_EQ(ShownPair(), u"A002 B001"_s);
+    EXPECT_EQ(Surnames(), u"Jones|Smith"_s);
+    EXPECT_EQ(Forenames(), u"Mary|Jon"_s);
+    EXPECT_EQ(Captions(), u"Field:|Field: Forename"_s);
+    EXPECT_EQ(Texts(), u"|Jon"_s);
+}
+
+TEST_F(CompareSearchTest, NextAtTheEnd_IsTold_AndEndsTheSearch)
+{
+    NextCompare();
+    ExpectEndOfCompare();
+    NextCompare();
+    EXPECT_EQ(Light(), Busy);
+    EXPECT_EQ(Texts(), u"|"_s);
+    EXPECT_EQ(P.Compare.SearchEnded, 1);
+
+    Reset();
+    NextCurrent();
+    ExpectEndOfCurrent();
+    NextCurrent();
+    EXPECT_EQ(P.Compare.SearchEnded, 1);
+}
+
+TEST_F(CompareSearchTest, NextBehindTheEnd_IsToldToo)
+{
+    CompareRecords(P).MoveLast();
+    CompareRecords(P).MoveNext();
+    ExpectEndOfCompare();
+    NextCompare();
+    EXPECT_EQ(ExitCode(), std::nullopt);
+}
+
+struct Step {
+    int Before;
+    int After;
+};
+class FieldStepTest : public CompareSearchTest, public testing::WithParamInterface<Step>
+{
+};
+
+TEST_P(FieldStepTest, Next_ForgetsThePlaceUpToTheDeathCertificate)
+{
+    P.Compare.FieldStep = GetParam().Before;
+    P.Scratch.ScanState = 2;
+    NextCompare();
+    EXPECT_EQ(P.Compare.FieldStep, GetParam().After);
+    EXPECT_EQ(State(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Steps, FieldStepTest,
+                         testing::Values(Step{0, 0}, Step{1, 1}, Step{2, 0}, Step{18, 0}, Step{19, 19}, Step{23, 23}));
+
+TEST_F(CompareSearchTest, NullForenameOnAStep_EndsTheProgram)
+{
+    ChangeOutside(u'B', "UPDATE Tree99 SET Forename = NULL WHERE File = 'B002'");
+    ExpectFatalBox(u"Run-time error '94':\n\nInvalid use of Null");
+    NextCompare();
+    EXPECT_TRUE(ExitCode().has_value());
+}
+
+TEST_F(CompareSearchTest, RecordForm_FollowsEveryMove)
+{
+    NextCurrent();
+    EXPECT_EQ(P.Form3->Label25.Caption.value(), u"A002"_s);
+}
+
+} // namespace
+} // namespace lineforge

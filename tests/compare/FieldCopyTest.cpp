@@ -1,0 +1,279 @@
+#include "compare/FieldCopy.h"
+
+#include "compare/CompareTest.h"
+
+namespace lineforge
+{
+namespace
+{
+
+class FieldCopyTest : public CompareTest
+{
+protected:
+    // Every field but the number holds the mark and its own name.
+    static Fields PersonOf(QStringView file, QStringView mark)
+    {
+        Fields fields{{u"File", file}};
+        for (const QString& field : RecordFields())
+            if (field != u"File")
+                fields.push_back({field, QString(mark + u' ' + field)});
+        return fields;
+    }
+    void GivenPair() { GivenComparison({PersonOf(u"A001", u"our")}, {PersonOf(u"B001", u"their")}); }
+
+    void ToCurrent()
+    {
+        P.Form6->Option1.Value = false;
+        P.Form6->Option2.Value = true;
+    }
+    void CopyOne() { Click(P.Form6->Command3.Click); }
+    void CopyAll() { Click(P.Form6->Command7.Click); }
+    void Append() { Click(P.Form6->Command8.Click); }
+    void ExpectCopyError() { Tell(u"Copy Error", u"There is no record to copy across."); }
+    void ExpectAppended(QStringView number)
+    {
+        Tell(u"Append Record to Database.",
+             QString(u"This Record will be Appended to the Compare\nDatabase as "_s + number +
+                     u" but will not be mapped into\nthe Ancestral Tree Display."));
+    }
+    void ExpectAppendedToCurrent(QStringView number)
+    {
+        Tell(u"Append Compare Record to Current Database.",
+             QString(u"This Record will be Appended to the Current\nDatabase as "_s + number +
+                     u" but will not be mapped into\nthe Ancestral Tree Display."));
+    }
+    QStringList NumbersIn(QChar branch)
+    {
+        QStringList numbers;
+        for (const SqliteFile::Row& row : Rows(branch, "File"))
+            numbers << row.front().value_or(u"Null"_s);
+        return numbers;
+    }
+};
+
+TEST_F(FieldCopyTest, BeforeAnySearch_TheSurnameIsCopied)
+{
+    GivenPair();
+    CopyOne();
+    EXPECT_EQ(Stored(u'B', "Surname", "B001"), u"our Surname"_s);
+    EXPECT_EQ(Texts(), u"our Surname|our Surname"_s);
+    EXPECT_EQ(P.Form6->Text4.Marked.value(), TextRange(11, 0));
+}
+
+TEST_F(FieldCopyTest, FieldOnShow_GoesTheWayThatIsChosen)
+{
+    GivenPair();
+    SearchTimes(2);
+    ASSERT_EQ(P.Compare.sCompField, u"Forename"_s);
+    ToCurrent();
+    CopyOne();
+    EXPECT_EQ(Stored(u'A', "Forename", "A001"), u"their Forename"_s);
+    EXPECT_EQ(Stored(u'B', "Forename", "B001"), u"their Forename"_s);
+    EXPECT_EQ(Texts(), u"their Forename|their Forename"_s);
+}
+
+TEST_F(FieldCopyTest, ThreeNamesAreNoFields_AndCantBeCopied)
+{
+    GivenPair();
+    const auto before = Rows(u'B');
+    SearchTimes(3);
+    for (const QString& name : {u"Nation"_s, u"Father"_s, u"Mother"_s}) {
+        Search();
+        ASSERT_EQ(P.Compare.sCompField, name);
+        ExpectCopyError();
+        CopyOne();
+        EXPECT_EQ(ExitCode(), std::nullopt);
+    }
+    EXPECT_EQ(Rows(u'B'), before);
+}
+
+TEST_F(FieldCopyTest, Null_StaysNull_AndTheBoxIsEmpty)
+{
+    GivenComparison({{{u"File", u"A001"}, {u"Forename", u"J"}}},
+                    {{{u"File", u"B001"}, {u"Forename", u"J"}, {u"Surname", u"Smith"}}});
+    CopyOne();
+    EXPECT_EQ(Stored(u'B', "Surname", "B001"), std::nullopt);
+    EXPECT_EQ(P.Form6->Text4.Text.value(), QString());
+}
+
+TEST_F(FieldCopyTest, WithoutARecordOrABranch_IsTold)
+{
+    GivenPair();
+    CompareRecords(P).MoveNext();
+    ExpectCopyError();
+    CopyOne();
+    Reset();
+    Records(P).MoveNext();
+    ExpectCopyError();
+    CopyOne();
+    P.Form6.Unload();
+    Click(P.Form1->mnuComp.Click);
+    ExpectCopyError();
+    CopyOne();
+    EXPECT_EQ(ExitCode(), std::nullopt);
+}
+
+TEST_F(FieldCopyTest, AllFields_AreCopiedButNumberAndSpousesRecord)
+{
+    GivenPair();
+    CopyAll();
+    for (const QString& field : RecordFields()) {
+        const bool stays = field == u"File" || field == u"SpouseRec";
+        const QString own = field == u"File" ? u"B001"_s : u"their "_s + field;
+        EXPECT_EQ(Stored(u'B', field.toUtf8().constData(), "B001"), stays ? own : u"our "_s + field)
+            << field.toStdString();
+    }
+    EXPECT_EQ(Texts(), u"our Surname|their Surname"_s);
+}
+
+TEST_F(FieldCopyTest, AllFieldsToCurrent_NullIncluded)
+{
+    GivenComparison({PersonOf(u"A001", u"our")}, {{{u"File", u"B001"}, {u"Forename", u"Jon"}}});
+    ToCurrent();
+    CopyAll();
+    EXPECT_EQ(Stored(u'A', "Forename", "A001"), u"Jon"_s);
+    EXPECT_EQ(Stored(u'A', "Notes", "A001"), std::nullopt);
+    EXPECT_EQ(Stored(u'A', "SpouseRec", "A001"), u"our SpouseRec"_s);
+}
+
+TEST_F(FieldCopyTest, AllFieldsWithoutARecord_TakesTheFatalPath)
+{
+    GivenPair();
+    CompareRecords(P).MoveNext();
+    ExpectFatalBox(u"Run-time error '3021':\n\nNo current record.");
+    CopyAll();
+    EXPECT_TRUE(ExitCode().has_value());
+}
+
+TEST_F(FieldCopyTest, FirstAppend_IsZ001_WithAllThatIsCopied)
+{
+    GivenPair();
+    ExpectAppended(u"Z001");
+    Append();
+    EXPECT_EQ(NumbersIn(u'B'), QStringList({u"B001"_s, u"Z001"_s}));
+    EXPECT_EQ(Stored(u'B', "Notes", "Z001"), u"our Notes"_s);
+    EXPECT_EQ(Stored(u'B', "SpouseRec", "Z001"), std::nullopt);
+    EXPECT_EQ(P.Form6->Label9.Caption.value(), u"Z001"_s);
+    EXPECT_EQ(NumbersIn(u'A'), QStringList{u"A001"_s});
+}
+
+TEST_F(FieldCopyTest, LowestFreeZNumber_IsTaken)
+{
+    GivenComparison({PersonOf(u"A001", u"our")},
+                    {PersonOf(u"B001", u"x"), PersonOf(u"z001", u"x"), PersonOf(u"Z003", u"x")});
+    ExpectAppended(u"Z002");
+    Append();
+    EXPECT_EQ(NumbersIn(u'B').last(), u"Z002"_s);
+}
+
+TEST_F(FieldCopyTest, ZNumberOnceSeen_StaysTakenWhileTheWindowLives)
+{
+    GivenPair();
+    for (const QStringView number : {u"Z001", u"Z002"}) {
+        ExpectAppended(number);
+        Append();
+    }
+    ChangeOutside(u'B', "DELETE FROM Tree99 WHERE File = 'Z001'");
+    ExpectAppended(u"Z003");
+    Append();
+    EXPECT_EQ(NumbersIn(u'B'), QStringList({u"B001"_s, u"Z002"_s, u"Z003"_s}));
+
+    P.Form6.Unload();
+    Click(P.Form1->mnuComp.Click);
+    ChooseCompare(u"Jones");
+    ExpectAppended(u"Z001");
+    Append();
+}
+
+TEST_F(FieldCopyTest, AllZNumbersTaken_AppendsWithoutANumber)
+{
+    std::vector<Fields> compare{PersonOf(u"B001", u"x")};
+    for (int number = 1; number <= 99; ++number)
+        compare.push_back(PersonOf(QString(u"Z%1"_s.arg(number, 3, 10, QChar(u'0'))), u"x"));
+    GivenComparison({PersonOf(u"A001", u"our")}, compare);
+    ExpectAppended(u"");
+    Append();
+    EXPECT_EQ(Rows(u'B').size(), 101U);
+    EXPECT_EQ(NumbersIn(u'B').last(), QString());
+}
+
+TEST_F(FieldCopyTest, SecondAppend_IsNotRecognised)
+{
+    GivenPair();
+    ExpectAppended(u"Z001");
+    Append();
+    ExpectAppended(u"Z002");
+    Append();
+    EXPECT_EQ(Rows(u'B').size(), 3U);
+}
+
+TEST_F(FieldCopyTest, ZNumberOf100_EndsTheProgram)
+{
+    GivenComparison({PersonOf(u"A001", u"our")}, {PersonOf(u"Z100", u"x")});
+    ExpectFatalBox(u"Run-time error '9':\n\nSubscript out of range");
+    Append();
+    EXPECT_EQ(Rows(u'B').size(), 1U);
+}
+
+TEST_F(FieldCopyTest, ZThatIsNoNumber_EndsTheProgram)
+{
+    GivenComparison({PersonOf(u"A001", u"our")}, {PersonOf(u"Zoe", u"x")});
+    ExpectFatalBox(u"Run-time error '13':\n\nType mismatch");
+    Append();
+    EXPECT_EQ(Rows(u'B').size(), 1U);
+}
+
+TEST_F(FieldCopyTest, NumberThatTheBranchHas_IsRefused_AndTheCursorComesBack)
+{
+    GivenComparison({PersonOf(u"A001", u"our")},
+                    {PersonOf(u"B001", u"x"), PersonOf(u"a001", u"x"), PersonOf(u"B003", u"x")});
+    CompareRecords(P).MoveLast();
+    Tell(u"Append Error", u"Record already exists in Compare Database.\n"
+                          u"Delete the record before appending or else copy \n"
+                          u"the details to the existing record.");
+    Append();
+    EXPECT_EQ(Rows(u'B').size(), 3U);
+    EXPECT_EQ(Pair(), u"A001 B003"_s);
+}
+
+TEST_F(FieldCopyTest, AppendToCurrent_TakesTheFirstCompareRecord_NotTheOneOnShow)
+{
+    GivenComparison({PersonOf(u"A001", u"our")}, {PersonOf(u"B001", u"first"), PersonOf(u"B002", u"second")});
+    ToCurrent();
+    NextCompare();
+    ExpectAppendedToCurrent(u"Z001");
+    Append();
+    EXPECT_EQ(NumbersIn(u'A'), QStringList({u"A001"_s, u"Z001"_s}));
+    EXPECT_EQ(Stored(u'A', "Notes", "Z001"), u"first Notes"_s);
+    EXPECT_EQ(P.Form6->Label4.Caption.value(), u"Z001"_s);
+}
+
+TEST_F(FieldCopyTest, AppendToCurrent_LooksForTheNumberFromWhereTheCurrentBranchStands)
+{
+    GivenComparison({PersonOf(u"B001", u"our"), PersonOf(u"A002", u"our")}, {PersonOf(u"B001", u"their")});
+    ToCurrent();
+    Tell(u"Append Error", u"Record already exists in Current Database."
+                          u"Delete the record before appending or else copy "
+                          u"the details to the existing record.");
+    Append();
+    EXPECT_EQ(Pair(), u"B001 B001"_s);
+    EXPECT_EQ(Rows(u'A').size(), 2U);
+
+    Records(P).MoveNext();
+    ExpectAppendedToCurrent(u"Z001");
+    Append();
+    EXPECT_EQ(Rows(u'A').size(), 3U);
+}
+
+TEST_F(FieldCopyTest, AppendToCurrent_LooksAtTheFirstCompareRecordForAZ)
+{
+    GivenComparison({PersonOf(u"A001", u"our"), PersonOf(u"Z001", u"our")}, {PersonOf(u"Z005", u"their")});
+    ToCurrent();
+    ExpectAppendedToCurrent(u"Z001");
+    Append();
+    EXPECT_EQ(P.Compare.ZNumberTable[5], u"Z005"_s);
+    EXPECT_EQ(NumbersIn(u'A'), QStringList({u"A001"_s, u"Z001"_s, u"Z001"_s}));
+}
+
+} // namespace
+} // namespace lineforge

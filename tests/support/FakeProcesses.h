@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/Processes.h"
+#include "platform/RuntimeError.h"
+
+#include <QFileInfo>
+#include <QStringList>
+
+namespace lineforge
+{
+
+// Starts nothing, and remembers what was to be started: program and file, one after the other.
+class FakeProcesses : public Processes
+{
+public:
+    qint64 Shell(const QString& program, const QString& file) override
+    {
+        if (!QFileInfo(program).isFile())
+            throw RuntimeError(ErrorNumber::FileNotFound);
+        Started << program << file;
+        return Started.size();
+    }
+
+    QStringList Started;
+};
+
+} // namespace lineforge
