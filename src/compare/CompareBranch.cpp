@@ -1,5 +1,6 @@
 #include "compare/CompareBranch.h"
 
+#include "compare/CompareKeys.h"
 #include "compare/SearchButton.h"
 #include "compare/Sides.h"
 #include "program/AlternateBranch.h"
@@ -17,24 +18,20 @@ namespace
 constexpr qsizetype directoryLength = 8; // of "LfgDat_B"
 constexpr qsizetype fileTail = 5;        // of "B.mdb"
 
-bool IsRefused(Program& p)
-{
-    return TellIfAlternate(p, u"Compare Record Data not available"_s,
-                           u"Cannot compare this alternate Tree Branch Database record\n"
-                           u"unless you de select this subject or change and open it's Tree Branch Database."_s);
-}
-
+// Unlike a step to a record this takes a forename that is Null.
 void ShowFirstCurrentRecord(Program& p)
 {
     forms::Form6& form = *p.Form6;
     const Recordset& record = Records(p);
     const QString file = record.Text(u"File");
+    const QString surname = record.Text(u"Surname");
     form.Label4.Caption = file;
     ShowPicture(p, CurrentSide, file);
-    form.Text2.Text = record.Text(u"Surname");
-    form.Text1.Text = record.Text(u"Surname");
+    ShowField(p, CurrentSide, surname);
+    form.Text1.Text = surname;
     form.Text5.Text = record.Text(u"Forename");
     form.Frame5.Caption = u"Field: Surname"_s;
+    p.Compare.sCompField = u"Surname"_s;
 }
 
 // False, with a box, when there is no such database; what was compared before stays then.
@@ -60,7 +57,7 @@ void ShowFirstPair(Program& p, const QString& name)
     p.Form6->Label7.Caption = name;
     Records(p).MoveFirst();
     CompareRecords(p).MoveFirst();
-    p.Scratch.ScanState = 0;
+    p.Scratch.ScanState = ComparePair::None;
     p.Compare.FieldStep = 1;
     p.Compare.ResetDone = 0;
     ShowRecord(p, CurrentSide);
@@ -72,9 +69,16 @@ void ShowFirstPair(Program& p, const QString& name)
 }
 } // namespace
 
+bool TellIfComparesAlternate(Program& p)
+{
+    return TellIfAlternate(p, u"Compare Record Data not available"_s,
+                           u"Cannot compare this alternate Tree Branch Database record\n"
+                           u"unless you de select this subject or change and open it's Tree Branch Database."_s);
+}
+
 void OpenComparison(Program& p)
 {
-    if (IsRefused(p) || TellIfNoBranch(p))
+    if (TellIfComparesAlternate(p) || TellIfNoBranch(p))
         return;
     if (Records(p).IsEmpty())
         return TellNoRecords(p);
@@ -87,10 +91,14 @@ void OpenComparison(Program& p)
 
 void ReturnToComparison(Program& p)
 {
-    if (!p.Form6.IsLoaded())
-        OpenComparison(p);
-    else if (!IsRefused(p))
-        p.Form6->Show();
+    if (!p.Form6.IsLoaded() || !p.Form6->Visible)
+        return OpenComparison(p);
+    if (TellIfComparesAlternate(p))
+        return;
+    // What is copied or cut is the record at which the cursor stands, wherever it has gone meanwhile.
+    if (Records(p).HasRow() && Records(p).Text(u"File") != p.Form6->Label4.Caption.value())
+        p.Errors.Ignoring([&] { ShowStepped(p, CurrentSide); });
+    p.Form6->Show();
 }
 
 void LoadComparison(Program& p)
@@ -101,29 +109,43 @@ void LoadComparison(Program& p)
     form.Left = (p.Screen.Width - p.Form3->Width) / 2;
     form.Top = (p.Screen.Height - p.Form3->Height) / 2 - 200;
     form.Label2.Caption = p.Branch.sBranchName;
-    p.Scratch.ScanState = 0;
+    p.Scratch.ScanState = ComparePair::None;
     p.Compare.ZNumberTable.Erase();
+    p.Compare.SelBox = 0;
+    p.Compare.sSelText.clear();
 }
 
 void ChooseCompareBranch(Program& p)
 {
     p.Compare.SearchMask = CompareRequest;
+    p.Compare.IsChoosing = true;
     p.Form8->Show();
+}
+
+void WithdrawCompareRequest(Program& p)
+{
+    p.Compare.SearchMask = 0;
+    p.Compare.IsChoosing = false;
 }
 
 void OpenCompareBranch(Program& p, const QString& name, const QString& entry)
 {
-    p.Compare.SearchMask = 0;
+    WithdrawCompareRequest(p);
     const QString file = entry.right(directoryLength) + u".mdb";
     const QString directory = p.Branch.HomeDir + file.left(directoryLength) + PathSeparator;
     if (!PointAtCompareDatabase(p, directory + u"LfgDat_" + file.right(fileTail)))
         return;
     p.Compare.sCompDbFile = file;
     p.Compare.sCompDir = directory;
-    if (CompareRecords(p).IsEmpty())
+    if (CompareRecords(p).IsEmpty()) {
+        p.Form6->Label7.Caption = QString();
+        ShowNothing(p, CompareSide);
         p.Prompts.MsgBox(u"No Database records"_s, u"No Records in this Database"_s, Buttons::Information);
-    else
+    } else if (Records(p).IsEmpty()) {
+        TellNoRecords(p);
+    } else {
         ShowFirstPair(p, name);
+    }
 }
 
 void LeaveComparison(Program& p)
@@ -133,7 +155,7 @@ void LeaveComparison(Program& p)
 
 void CloseComparison(Program& p)
 {
-    p.Files.ChDir(p.Branch.WorkDir);
+    p.Errors.Ignoring([&] { p.Files.ChDir(p.Branch.WorkDir); });
     p.Form6.Unload();
     p.Form1->Command5.Visible = false;
     p.Form1->Show();

@@ -8,11 +8,15 @@ namespace lineforge
 // `SearchMask` while the list of branches is to choose the one to compare with.
 inline constexpr int CompareRequest = 8;
 
+// Tells that the record of another branch can't be compared; false while the open branch's own is shown.
+bool TellIfComparesAlternate(Program& p);
+
 // The main window's command: shows the window on the first record of the open branch. Refused with a box on the record
 // of another branch, and on a branch without records.
 void OpenComparison(Program& p);
 
-// The main window's button: the window as it was left; opens it anew if it has been closed.
+// The main window's button: the window as it was left, with the record at which the cursor stands by then; opens it
+// anew if it has been closed.
 void ReturnToComparison(Program& p);
 
 // The window's load.
@@ -20,6 +24,9 @@ void LoadComparison(Program& p);
 
 // Asks for the branch to compare with, by the list of branches.
 void ChooseCompareBranch(Program& p);
+
+// The list of branches is no more to choose one for comparison.
+void WithdrawCompareRequest(Program& p);
 
 // The entry of the list has been chosen, with that name: opens its database beside the open one and shows the first
 // pair. One that can't be opened is told, and leaves the window as it was; one without records is told.

@@ -1,10 +1,12 @@
 #include "compare/CompareSearch.h"
 
 #include "compare/CompareEnds.h"
+#include "compare/CompareKeys.h"
 #include "compare/FieldDifference.h"
 #include "compare/SearchButton.h"
 #include "compare/Sides.h"
 #include "compare/WhereSame.h"
+#include "program/BranchUi.h"
 #include "program/WorkDatabase.h"
 
 namespace lineforge
@@ -18,14 +20,6 @@ int MaskOfBoxes(const forms::Form6& form)
 {
     return (form.Check1.Value ? CompareKey::File : 0) + (form.Check2.Value ? CompareKey::Surname : 0) +
            (form.Check3.Value ? CompareKey::BirthDate : 0);
-}
-
-void ShowSide(Program& p, const Side& side)
-{
-    forms::Form6& form = *p.Form6;
-    ShowRecord(p, side);
-    (form.*side.FieldFrame).Caption = u"Field:"_s;
-    ShowField(p, side, {});
 }
 
 // The upper bound is meant: beyond the row of the death certificate the search goes on where it was.
@@ -51,7 +45,7 @@ void Next(Program& p, const Side& side, void (*end)(Program& p))
         ShowSearchState(p, SearchState::Busy);
         return;
     }
-    ShowSide(p, side);
+    ShowStepped(p, side);
     ShowSearchState(p, SearchState::Ready);
 }
 } // namespace
@@ -71,12 +65,12 @@ void SearchCompare(Program& p)
     if (mask != 0 && p.Scratch.ScanState < ComparePair::InHand)
         SearchWhereSame(p);
     FieldDifferenceSearch(p);
-    if (mask != 0 && p.Scratch.ScanState < ComparePair::InHand && p.Compare.SearchEnded == 1)
-        ShowSearchState(p, SearchState::Busy);
 }
 
 void ResetCompare(Program& p)
 {
+    if (CompareRecords(p).IsEmpty() || Records(p).IsEmpty())
+        return TellNoRecords(p);
     p.Compare.SearchEnded = 0;
     ShowSearchState(p, SearchState::Busy);
     Records(p).MoveFirst();
@@ -106,7 +100,7 @@ void ShowSteppedRecord(Program& p)
 {
     ForgetPair(p);
     if (CompareRecords(p).HasRow())
-        ShowSide(p, CompareSide);
+        ShowStepped(p, CompareSide);
 }
 
 } // namespace lineforge

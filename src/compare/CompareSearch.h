@@ -9,7 +9,7 @@ namespace lineforge
 // hand differs. Nothing once a recordset has run out, until Reset.
 void SearchCompare(Program& p);
 
-// Both branches from their first records again. Error 91 while no branch is compared.
+// Both branches from their first records again; a branch without records is told. Error 91 while none is compared.
 void ResetCompare(Program& p);
 
 // The next record of one side, by hand.

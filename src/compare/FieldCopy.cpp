@@ -5,6 +5,8 @@
 #include "platform/Text.h"
 #include "program/WorkDatabase.h"
 
+#include <QScopeGuard>
+
 namespace lineforge
 {
 
@@ -76,8 +78,8 @@ void TellExists(Program& p, const Direction& way)
 }
 
 // Looks through the branch that the record would go to, from where its cursor stands. False, with a box, when it has
-// the record's number. `numbered` is the record whose own number is looked at for a "Z".
-bool TakeStock(Program& p, const Direction& way, const Recordset& numbered)
+// the record's number.
+bool TakeStock(Program& p, const Direction& way)
 {
     Recordset& to = way.To.Records(p);
     const FieldValue file = way.From.Records(p).Value(u"File");
@@ -87,24 +89,29 @@ bool TakeStock(Program& p, const Direction& way, const Recordset& numbered)
             to.SetBookmark(p.Record.SavedBookmark);
             return false;
         }
-        NoteZNumber(p, numbered.Text(u"File"));
+        // Of the compare record in both directions; so it is meant to be.
+        NoteZNumber(p, CompareRecords(p).Text(u"File"));
     }
     return true;
 }
 
 void Append(Program& p, const Direction& way)
 {
+    Recordset& from = way.From.Records(p);
     Recordset& to = way.To.Records(p);
     const QString number = FreeZNumber(p);
     to.MoveLast();
+    // The scanner may run on behind the box.
+    const Bookmark checked = from.GetBookmark();
     p.Prompts.MsgBox(way.Title.toString(),
                      u"This Record will be Appended to the "_s + way.Branch + u"\nDatabase as " + number +
                          u" but will not be mapped into\nthe Ancestral Tree Display.",
                      Buttons::Information);
+    from.SetBookmark(checked);
     to.Edit();
     to.AddNew();
     to.Put(u"File", number);
-    CopyFields(way.From.Records(p), to);
+    CopyFields(from, to);
     ((*p.Form6).*way.To.Number).Caption = number;
     to.Update();
 }
@@ -113,12 +120,16 @@ void Append(Program& p, const Direction& way)
 void CopyField(Program& p)
 {
     const Direction& way = DirectionOf(p);
+    const QString& field = p.Compare.sCompField;
     try {
         Recordset& to = way.To.Records(p);
+        // Nothing that was refused may stay behind for the next saving.
+        const auto givenUp = qScopeGuard([&] { p.Errors.Ignoring([&] { to.SetBookmark(to.GetBookmark()); }); });
+        const FieldValue value = way.From.Records(p).Value(field);
         to.Edit();
-        to.Put(p.Compare.sCompField, way.From.Records(p).Value(p.Compare.sCompField));
-        ShowField(p, way.To, way.From.Records(p).Text(p.Compare.sCompField));
+        to.Put(field, value);
         to.Update();
+        ShowField(p, way.To, value.value_or(QString()));
     } catch (const RuntimeError&) {
         p.Prompts.MsgBox(u"Copy Error"_s, u"There is no record to copy across."_s, Buttons::Information);
     }
@@ -140,7 +151,7 @@ void AppendRecord(Program& p)
     const Direction& way = DirectionOf(p);
     p.Record.SavedBookmark = way.To.Records(p).GetBookmark();
     CompareRecords(p).MoveFirst();
-    if (TakeStock(p, way, CompareRecords(p)))
+    if (TakeStock(p, way))
         Append(p, way);
 }
 

@@ -1,6 +1,7 @@
 #include "compare/FieldDifference.h"
 
 #include "compare/CompareEnds.h"
+#include "compare/CompareKeys.h"
 #include "compare/SearchButton.h"
 #include "compare/Sides.h"
 #include "compare/WhereSame.h"
@@ -8,6 +9,7 @@
 #include "program/Meanwhile.h"
 #include "program/WorkDatabase.h"
 
+#include <array>
 #include <optional>
 
 namespace lineforge
@@ -15,7 +17,16 @@ namespace lineforge
 
 using namespace Qt::StringLiterals;
 
-const std::array<ComparedField, 22> ComparedFields{{
+namespace
+{
+// A field that is looked at. `Gender`, `WedDate`, `SpouseRec` and `File` are none, and Maiden stands twice; so it is
+// meant to be.
+struct ComparedField {
+    QStringView Field;
+    QStringView Caption;
+    QStringView CompField; // what `sCompField` takes; three are no fields, so that they can't be copied singly
+};
+constexpr std::array<ComparedField, 22> ComparedFields{{
     {u"Surname", u"Field: Surname", u"Surname"},
     {u"Forename", u"Field: Forename", u"Forename"},
     {u"Maiden", u"Field: Maiden Name", u"Maiden"},
@@ -40,8 +51,6 @@ const std::array<ComparedField, 22> ComparedFields{{
     {u"Notes", u"Field: Notes(2)", u"Notes"},
 }};
 
-namespace
-{
 // What a walk over many pairs would show of each is shown of the last alone: nobody sees it before the press has ended.
 struct WalkedPair {
     std::optional<QString> CurrentFile;
@@ -120,7 +129,7 @@ NextPair MoveToNextPair(Program& p)
     return current.Eof() ? NextPair::Missing : NextPair::BeginsRound;
 }
 
-bool TellIfAtEnd(Program& p)
+bool EndsAtOnce(Program& p)
 {
     const bool isCurrent = Records(p).Eof();
     if (!isCurrent && !CompareRecords(p).Eof())
@@ -161,7 +170,7 @@ std::optional<NextPair> WalkPairs(Program& p, WalkedPair& pair)
 
 void FieldDifferenceSearch(Program& p)
 {
-    if (p.Scratch.ScanState == ComparePair::Ended || p.Compare.SearchEnded == 1 || TellIfAtEnd(p))
+    if (p.Scratch.ScanState == ComparePair::Ended || p.Compare.SearchEnded == 1 || EndsAtOnce(p))
         return;
     WalkedPair pair;
     const std::optional<NextPair> next = WalkPairs(p, pair);

@@ -1,6 +1,7 @@
 #include "compare/KeyIndex.h"
 
-#include "compare/WhereSame.h"
+#include "compare/CompareKeys.h"
+#include "platform/Text.h"
 
 namespace lineforge
 {
@@ -32,8 +33,7 @@ QString KeyOf(const Recordset& record, const CompareKeys& keys)
         const QString text = record.Text(field);
         if (text.isEmpty())
             return {};
-        for (const QChar character : text)
-            key += character.toCaseFolded();
+        key += Folded(text);
         key += separator;
     }
     return key;

@@ -8,8 +8,8 @@ namespace lineforge
 // What the colour of the Search button says.
 enum class SearchState {
     Busy,   // it runs, or has come to the end
-    Ready,  //
-    Found,  // a differing field is shown, or the end of a pair's fields
+    Ready,  // for the next press
+    Found,  // a field is shown, or the end of a pair's fields
     ByHand, // the user steps by himself
 };
 

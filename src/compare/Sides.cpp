@@ -13,36 +13,60 @@ namespace
 {
 QString CurrentDirectory(const Program& p)
 {
-    return p.Branch.WorkDir + PathSeparator;
+    return p.Branch.WorkDir;
 }
 
 QString CompareDirectory(const Program& p)
 {
-    return p.Compare.sCompDir;
+    return p.Compare.sCompDir.chopped(1);
+}
+
+void MarkDifference(Program& p)
+{
+    forms::Form6& form = *p.Form6;
+    const auto [inCurrent, inCompare] = DifferenceOf(form.Text2.Text.value(), form.Text4.Text.value());
+    form.Text2.Marked = inCurrent;
+    form.Text4.Marked = inCompare;
 }
 } // namespace
 
-const Side CurrentSide{Records,
-                       CurrentDirectory,
-                       &forms::Form6::Label4,
-                       &forms::Form6::Image1,
-                       &forms::Form6::Text1,
-                       &forms::Form6::Text5,
-                       &forms::Form6::Frame5,
-                       &forms::Form6::Text2};
-const Side CompareSide{CompareRecords,       CompareDirectory,     &forms::Form6::Label9, &forms::Form6::Image2,
-                       &forms::Form6::Text3, &forms::Form6::Text6, &forms::Form6::Frame6, &forms::Form6::Text4};
+// clang-format off
+const Side CurrentSide{Records,        CurrentDirectory,
+                       &forms::Form6::Label4, &forms::Form6::Image1, &forms::Form6::Text1, &forms::Form6::Text5,
+                       &forms::Form6::Frame5, &forms::Form6::Text2};
+const Side CompareSide{CompareRecords, CompareDirectory,
+                       &forms::Form6::Label9, &forms::Form6::Image2, &forms::Form6::Text3, &forms::Form6::Text6,
+                       &forms::Form6::Frame6, &forms::Form6::Text4};
+// clang-format on
 
 Recordset& CompareRecords(Program& p)
 {
     return p.Form6->Data1.Records();
 }
 
+void ShowNothing(Program& p, const Side& side)
+{
+    forms::Form6& form = *p.Form6;
+    (form.*side.Number).Caption = QString();
+    (form.*side.Picture).Picture = QImage();
+    (form.*side.Surname).Text = QString();
+    (form.*side.Forename).Text = QString();
+    (form.*side.FieldFrame).Caption = u"Field"_s;
+    ShowField(p, side, {});
+}
+
+void ShowStepped(Program& p, const Side& side)
+{
+    ShowRecord(p, side);
+    ((*p.Form6).*side.FieldFrame).Caption = u"Field:"_s;
+    ShowField(p, side, {});
+}
+
 void ShowPicture(Program& p, const Side& side, const QString& file)
 {
     Image& image = (*p.Form6).*side.Picture;
     image.Picture = QImage();
-    p.Errors.Ignoring([&] { image.Picture = p.Pictures.Load(p.Files, side.Directory(p) + file + u"Sub.jpg"); });
+    p.Errors.Ignoring([&] { image.Picture = p.Pictures.Load(p.Files, SubjectPictureFile(side.Directory(p), file)); });
 }
 
 void ShowRecord(Program& p, const Side& side)
@@ -67,17 +91,15 @@ void SetFieldCaptions(Program& p, const QString& current, const QString& compare
 
 void ShowField(Program& p, const Side& side, const QString& text)
 {
-    forms::Form6& form = *p.Form6;
-    (form.*side.Field).Text = text;
-    const auto [inCurrent, inCompare] = DifferenceOf(form.Text2.Text.value(), form.Text4.Text.value());
-    form.Text2.Marked = inCurrent;
-    form.Text4.Marked = inCompare;
+    ((*p.Form6).*side.Field).Text = text;
+    MarkDifference(p);
 }
 
 void ShowFields(Program& p, const QString& current, const QString& compare)
 {
-    ShowField(p, CurrentSide, current);
-    ShowField(p, CompareSide, compare);
+    p.Form6->Text2.Text = current;
+    p.Form6->Text4.Text = compare;
+    MarkDifference(p);
 }
 
 void EmptyFields(Program& p)

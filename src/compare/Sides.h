@@ -8,7 +8,7 @@ namespace lineforge
 // One of the two sides of the comparison: where its records come from, and what shows them.
 struct Side {
     Recordset& (*Records)(Program& p);
-    QString (*Directory)(const Program& p); // of its subject pictures, with a trailing separator
+    QString (*Directory)(const Program& p); // of the branch
     Label forms::Form6::*Number;
     Image forms::Form6::*Picture;
     TextBox forms::Form6::*Surname;
@@ -29,6 +29,12 @@ Recordset& CompareRecords(Program& p);
 void ShowRecord(Program& p, const Side& side);
 
 void ShowPicture(Program& p, const Side& side, const QString& file);
+
+// The same, as a step by hand leaves the side: with no field on show.
+void ShowStepped(Program& p, const Side& side);
+
+// A side that has no record.
+void ShowNothing(Program& p, const Side& side);
 
 // What the frame above each field says, the current one's first.
 void SetFieldCaptions(Program& p, const QString& current, const QString& compare);

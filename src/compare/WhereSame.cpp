@@ -1,8 +1,8 @@
 #include "compare/WhereSame.h"
 
 #include "compare/CompareEnds.h"
+#include "compare/CompareKeys.h"
 #include "compare/KeyIndex.h"
-#include "compare/SearchButton.h"
 #include "compare/Sides.h"
 #include "program/Meanwhile.h"
 #include "program/WorkDatabase.h"
@@ -28,7 +28,6 @@ bool LeaveWalkedPair(Program& p)
             current.MoveNext();
         if (current.Eof()) {
             EndAtCurrent(p);
-            ShowSearchState(p, SearchState::Busy);
             return false;
         }
     }

@@ -46,6 +46,7 @@ void PrintAllRecords(Program& p)
         meanwhile.KeepPainted();
     }
 }
+
 bool PrintWindow(Program& p, const Form& form)
 {
     bool isPrinted = false;
@@ -60,9 +61,16 @@ bool PrintWindow(Program& p, const Form& form)
     return isPrinted;
 }
 
-void TellNotPrinted(Program& p)
+void PrintOrReport(Program& p, const Form& form)
 {
-    p.Prompts.MsgBox(u"Lineforge"_s, u"The form could not be printed."_s, Buttons::Plain);
+    if (!PrintWindow(p, form))
+        ReportError(p);
+}
+
+void PrintOrTell(Program& p, const Form& form)
+{
+    if (!PrintWindow(p, form))
+        p.Prompts.MsgBox(u"Lineforge"_s, u"The form could not be printed."_s, Buttons::Plain);
 }
 } // namespace
 
@@ -87,20 +95,17 @@ void PrintMap(Program& p)
 
 void PrintMainWindow(Program& p)
 {
-    if (!PrintWindow(p, *p.Form1))
-        ReportError(p);
+    PrintOrReport(p, *p.Form1);
 }
 
 void PrintComparisonWindow(Program& p)
 {
-    if (!PrintWindow(p, *p.Form6))
-        ReportError(p);
+    PrintOrReport(p, *p.Form6);
 }
 
 void PrintRecordWindow(Program& p)
 {
-    if (!PrintWindow(p, *p.Form3))
-        TellNotPrinted(p);
+    PrintOrTell(p, *p.Form3);
 }
 
 void PrintGalleryWindow(Program& p)
@@ -110,8 +115,7 @@ void PrintGalleryWindow(Program& p)
 
 void PrintFromPictureWindow(Program& p)
 {
-    if (!PrintWindow(p, *p.Form1))
-        TellNotPrinted(p);
+    PrintOrTell(p, *p.Form1);
 }
 
 void PrintCurrentRecord(Program& p)

@@ -1,5 +1,7 @@
 #include "platform/Text.h"
 
+#include <QList>
+
 #include <algorithm>
 
 namespace lineforge
@@ -26,6 +28,16 @@ constexpr bool IsAscii(int code)
 bool SameText(QStringView a, QStringView b)
 {
     return a.compare(b, Qt::CaseInsensitive) == 0;
+}
+
+// Letter by letter, as the comparison does it.
+QString Folded(QStringView text)
+{
+    QString folded;
+    folded.reserve(text.size());
+    for (const uint letter : text.toUcs4())
+        folded += QChar::fromUcs4(QChar::toCaseFolded(char32_t{letter}));
+    return folded;
 }
 
 bool SameText(QByteArrayView utf8, QStringView text)

@@ -8,7 +8,10 @@ namespace lineforge
 // The one comparison of texts in the program: whole texts, case ignored.
 bool SameText(QStringView a, QStringView b);
 
-// The same with a text of the record store, without building a string where it is ASCII.
+// The text without differences of case: two texts that are the same have equal ones.
+QString Folded(QStringView text);
+
+// SameText with a text of the record store, without building a string where it is ASCII.
 bool SameText(QByteArrayView utf8, QStringView text);
 
 // Less than, equal to or greater than zero, the order that goes with SameText; for two texts of the record store.

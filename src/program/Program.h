@@ -109,13 +109,14 @@ struct CompareState {
     QString sCompDbFile; // "LfgDat_B.mdb"
     QString sCompDir;    // with a trailing separator
     QString sCompName;
-    Integer16 SearchMask;  // the keys that a pair must agree on, see `CompareKey`; 8 also asks for a compare branch
-    Integer16 FieldStep;   // where the search for differences goes on: 0 and 1 at the first field, 23 behind the last
-    Integer16 SearchEnded; // 1: a recordset has run out
-    Integer16 ResetDone;   // 1 from Reset to the next Search
-    QString sCompField;    // the field on show
-    QString sSelText;      // selected at the last click in a box of the window
-    Integer16 SelBox;      // that box's number, 1 to 4, 0 for none
+    Integer16 SearchMask; // the keys that a pair must agree on, see `CompareKey`; 8 while a compare branch is asked for
+    bool IsChoosing = false; // a compare branch is asked for: a search meanwhile changes the mask, not the request
+    Integer16 FieldStep;     // where the search for differences goes on: 0 and 1 at the first field, 23 behind the last
+    Integer16 SearchEnded;   // 1: a recordset has run out
+    Integer16 ResetDone;     // 1 from Reset to the next Search
+    QString sCompField;      // the field on show
+    QString sSelText;        // selected at the last click in a box of the window
+    Integer16 SelBox;        // that box's number, 1 to 4, 0 for none
     // The numbers of appended records that have been seen, as long as the window lives.
     FixedArray<QString, 0, 99> ZNumberTable;
 };

@@ -57,14 +57,18 @@ void GoToGalleryFromRecords(Program& p)
 {
     if (p.Tools.MapCursorMode == MapCursor::Mapping)
         return;
-    CarryRecordToMap(p);
+    const bool isKnown = CarryRecordToMap(p);
     p.Errors.Ignoring([&] { Records(p).Update(); });
     p.Errors.Ignoring([&] { ShowRecordOnMap(p); });
-    if (NeedsPage(p))
+    if (isKnown && NeedsPage(p))
         p.Screen.Pointer = MousePointer::Hourglass;
     if (p.Gallery.FirstShow == 1)
         p.Errors.Ignoring([&] { MarkCurrentBox(p); });
-    ShowGallery(p);
+    // A record that can't be told has no page; the window keeps the one that it has.
+    if (isKnown)
+        ShowGallery(p);
+    else
+        p.Form5->Show();
     HideBehindGallery(p, *p.Form3);
 }
 

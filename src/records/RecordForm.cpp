@@ -111,12 +111,13 @@ void ShowRecordForm(Program& p)
     p.Screen.Pointer = MousePointer::Default;
 }
 
-void CarryRecordToMap(Program& p)
+bool CarryRecordToMap(Program& p)
 {
     if (!BoxesAreCurrent(p))
-        return;
+        return false;
     CarryForenameToMap(p);
     KeepGender(p);
+    return true;
 }
 
 void ReturnToTree(Program& p)

@@ -102,7 +102,7 @@ void ChooseBranch(Program& p)
     if (!p.Branch.WorkDir.isEmpty())
         SaveBoxes(p);
     LeaveToolsIfOpen(p);
-    p.Compare.SearchMask = 0;
+    WithdrawCompareRequest(p);
     p.Form8->Show();
 }
 
@@ -121,19 +121,20 @@ void OpenSelectedBranch(Program& p)
         return;
     }
     p.Form8->Hide();
-    if (p.Compare.SearchMask == CompareRequest) {
-        OpenCompareBranch(p, name, EntryOf(p, name));
-        CancelBranchList(p);
-        return;
-    }
     // The list leaves the other windows free: tools may have been opened, or a mapping begun, since it was shown.
-    LeaveToolsIfOpen(p);
-    ClearMapCursor(p);
+    if (!p.Compare.IsChoosing) {
+        LeaveToolsIfOpen(p);
+        ClearMapCursor(p);
+    }
     p.Screen.Pointer = MousePointer::Hourglass;
     const auto pointerBack = qScopeGuard([&] { p.Screen.Pointer = MousePointer::Default; });
     const QString entry = EntryOf(p, name);
     if (entry.isEmpty())
         return;
+    if (p.Compare.IsChoosing) {
+        OpenCompareBranch(p, name, entry);
+        return CancelBranchList(p);
+    }
 
     p.Branch.sBranchName = name;
     ClearMap(p);
@@ -152,7 +153,7 @@ void OpenSelectedBranch(Program& p)
 
 void CancelBranchList(Program& p)
 {
-    p.Compare.SearchMask = 0;
+    WithdrawCompareRequest(p);
     p.Form8->List1.ListIndex = -1;
     p.Form8.Unload();
 }

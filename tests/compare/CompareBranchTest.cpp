@@ -26,11 +26,13 @@ TEST_F(CompareBranchTest, Command_BeginsWithTheFirstRecord_WhereverTheFormStood)
 {
     GivenOpenBranch();
     Records(P).MoveLast();
+    P.Compare.ResetDone = 1;
+    P.Compare.sCompField = u"Notes"_s;
     EXPECT_FALSE(P.Form1->Command5.Visible);
     Compare();
     EXPECT_EQ(NumberAt(Records(P)), u"A001"_s);
     EXPECT_EQ(P.Form6->Label4.Caption.value(), u"A001"_s);
-    EXPECT_EQ(ColourOf(P.Form6->Image1), u"red"_s);
+    EXPECT_EQ(PersonOn(P.Form6->Image1), u"A001"_s);
     EXPECT_EQ(P.Form6->Text1.Text.value(), u"Smith"_s);
     EXPECT_EQ(P.Form6->Text2.Text.value(), u"Smith"_s);
     EXPECT_EQ(P.Form6->Text5.Text.value(), u"John"_s);
@@ -39,6 +41,7 @@ TEST_F(CompareBranchTest, Command_BeginsWithTheFirstRecord_WhereverTheFormStood)
     EXPECT_TRUE(P.Form6->Visible);
     EXPECT_TRUE(P.Form1->Command5.Visible);
     EXPECT_EQ(P.Compare.ResetDone, 0);
+    EXPECT_EQ(P.Compare.sCompField, u"Surname"_s);
 }
 
 TEST_F(CompareBranchTest, NullNames_AreShownEmpty)
@@ -91,15 +94,20 @@ TEST_F(CompareBranchTest, FirstRecordWithoutAPicture_IsShownWithoutOne)
     GivenOpenBranch();
     P.Files.Kill(Home.Path(u"LfgDat_A/A001Sub.jpg"));
     Compare();
-    EXPECT_EQ(ColourOf(P.Form6->Image1), u"none"_s);
+    EXPECT_EQ(PersonOn(P.Form6->Image1), u"none"_s);
     EXPECT_TRUE(P.Form6->Visible);
 }
 
 TEST_F(CompareBranchTest, Window_TakesTheScreen)
 {
     GivenOpenBranch();
+    P.Scratch.ScanState = 2;
+    P.Form6.Unload();
     EXPECT_EQ(P.Form6->Width, 12000);
     EXPECT_EQ(P.Form6->Height, 8600);
+    EXPECT_EQ(P.Form6->Left, (12000 - P.Form3->Width) / 2);
+    EXPECT_EQ(P.Form6->Top, (9000 - P.Form3->Height) / 2 - 200);
+    EXPECT_EQ(State(), 0);
     EXPECT_TRUE(P.Form6->Option1.Value);
     EXPECT_FALSE(P.Form6->Option2.Value);
 }
@@ -118,6 +126,9 @@ TEST_F(CompareBranchTest, ChosenBranch_IsOpenedBesideTheOpenOne_AndTheFirstPairS
     GivenOpenBranch();
     Compare();
     Records(P).MoveLast();
+    P.Compare.ResetDone = 1;
+    P.Compare.FieldStep = 9;
+    P.Scratch.ScanState = 2;
     ChooseCompare(u"Jones");
     EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_A"));
     EXPECT_EQ(P.Branch.sBranchName, u"Smiths"_s);
@@ -127,7 +138,7 @@ TEST_F(CompareBranchTest, ChosenBranch_IsOpenedBesideTheOpenOne_AndTheFirstPairS
     EXPECT_EQ(P.Form6->Label7.Caption.value(), u"Jones"_s);
     EXPECT_EQ(Pair(), u"A001 B001"_s);
     EXPECT_EQ(ShownPair(), u"A001 B001"_s);
-    EXPECT_EQ(Pictures(), u"red blue"_s);
+    EXPECT_EQ(Pictures(), u"A001 B001"_s);
     EXPECT_EQ(Captions(), u"Field: Surname|Field: Surname"_s);
     EXPECT_EQ(Texts(), u"Smith|Smythe"_s);
     EXPECT_EQ(Surnames(), u"Smith|Smythe"_s);
@@ -150,15 +161,93 @@ TEST_F(CompareBranchTest, WhatDiffers_IsMarked)
     EXPECT_EQ(P.Form6->Text4.Marked.value(), (TextRange{2, 4}));
 }
 
-TEST_F(CompareBranchTest, BranchWithoutRecords_ForComparison_IsTold_AndLeavesTheNumberEmpty)
+TEST_F(CompareBranchTest, BranchWithoutRecords_ForComparison_IsTold_AndTheSideIsEmpty)
 {
     GivenOpenBranch();
     Compare();
+    ChooseCompare(u"Jones");
     Tell(u"No Database records", u"No Records in this Database");
     ChooseCompare(u"Nobody");
-    EXPECT_EQ(P.Form6->Label9.Caption.value(), QString());
+    EXPECT_EQ(ShownPair(), u"A001 "_s);
+    EXPECT_EQ(PersonOn(P.Form6->Image2), u"none"_s);
+    EXPECT_EQ(Surnames(), u"Smith|"_s);
     EXPECT_EQ(P.Form6->Label7.Caption.value(), QString());
     EXPECT_EQ(P.Compare.SearchMask, 0);
+
+    Tell(u"Database Empty", u"The Database has no records to access");
+    Reset();
+    EXPECT_EQ(ExitCode(), std::nullopt);
+}
+
+TEST_F(CompareBranchTest, CurrentBranchWithoutRecords_BehindTheWindow_IsTold)
+{
+    GivenOpenBranch();
+    Compare();
+    ExpectEmptyBox();
+    Choose(u"Nobody");
+    Tell(u"Database Empty", u"The Database has no records to access");
+    ChooseCompare(u"Jones");
+    EXPECT_EQ(ExitCode(), std::nullopt);
+}
+
+TEST_F(CompareBranchTest, SearchWhileTheListIsOpen_DoesntTurnTheChoiceIntoAnOpening)
+{
+    GivenOpenBranch();
+    Compare();
+    ChooseCompare(u"Smiths");
+    Click(P.Form6->mnuOpen.Click);
+    Search();
+    P.Form8->List1.SetText(u"Jones"_s);
+    Click(P.Form8->Command1.Click);
+    EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_A"));
+    EXPECT_EQ(P.Form6->Label7.Caption.value(), u"Jones"_s);
+}
+
+TEST_F(CompareBranchTest, SearchByDateOfBirth_DoesntTurnAnOpeningIntoAComparison)
+{
+    GivenOpenBranch();
+    Compare();
+    ChooseCompare(u"Smiths");
+    Click(P.Form1->Open.Click);
+    P.Form6->Check3.Value = true;
+    ExpectEndOfRecords();
+    Search();
+    ASSERT_EQ(P.Compare.SearchMask, 8);
+    P.Form8->List1.SetText(u"Jones"_s);
+    Click(P.Form8->Command1.Click);
+    EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_B"));
+}
+
+TEST_F(CompareBranchTest, WindowClosedWhileTheListIsOpen_LeavesAnOrdinaryChoice)
+{
+    GivenOpenBranch();
+    Compare();
+    Click(P.Form6->mnuOpen.Click);
+    Click(P.Form6->mnuClose.Click);
+    P.Form8->List1.SetText(u"Jones"_s);
+    Click(P.Form8->Command1.Click);
+    EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_B"));
+}
+
+TEST_F(CompareBranchTest, RecordOfASiblingBehindTheWindow_IsNotTouched)
+{
+    GivenOpenBranch();
+    Compare();
+    ChooseCompare(u"Jones");
+    const auto before = Rows(u'A');
+    P.Branch.UsingAlternate = 1;
+    P.Form6->Text1.Click();
+    for (const Event& entry :
+         {P.Form6->mnuOpen.Click, P.Form6->mnuCut.Click, P.Form6->mnuPaste.Click, P.Form6->Command1.Click,
+          P.Form6->Command2.Click, P.Form6->Command3.Click, P.Form6->Command5.Click, P.Form6->Command6.Click,
+          P.Form6->Command7.Click, P.Form6->Command8.Click}) {
+        Tell(u"Compare Record Data not available",
+             u"Cannot compare this alternate Tree Branch Database record\n"
+             u"unless you de select this subject or change and open it's Tree Branch Database.");
+        Click(entry);
+    }
+    EXPECT_EQ(Rows(u'A'), before);
+    EXPECT_EQ(Pair(), u"A001 B001"_s);
 }
 
 TEST_F(CompareBranchTest, SameBranch_IsAccepted_AndAnEditOnOneSideIsSeenOnTheOther)
@@ -203,7 +292,7 @@ TEST_F(CompareBranchTest, ChoiceLeftOpen_IsAnOrdinaryOneAfterTheMenuEntryOpen)
     EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_B"));
 }
 
-TEST_F(CompareBranchTest, Tree_ShowsTheMap_AndTheButtonBringsTheWindowBackAsItWas)
+TEST_F(CompareBranchTest, Tree_ShowsTheMap_AndTheButtonBringsTheWindowBack_AtTheRecordOfTheCursor)
 {
     GivenOpenBranch();
     Compare();
@@ -211,10 +300,14 @@ TEST_F(CompareBranchTest, Tree_ShowsTheMap_AndTheButtonBringsTheWindowBackAsItWa
     Click(P.Form6->Command4.Click);
     EXPECT_TRUE(P.Form1->Visible);
     EXPECT_TRUE(P.Form6->Visible);
-    Records(P).MoveLast();
     Click(P.Form1->Command5.Click);
     EXPECT_EQ(ShownPair(), u"A001 B001"_s);
-    EXPECT_EQ(Pair(), u"A002 B001"_s);
+    EXPECT_EQ(Texts(), u"Smith|Smythe"_s);
+
+    Records(P).MoveLast();
+    Click(P.Form1->Command5.Click);
+    EXPECT_EQ(ShownPair(), u"A002 B001"_s);
+    EXPECT_EQ(Texts(), u"|Smythe"_s);
 }
 
 TEST_F(CompareBranchTest, Exit_ClosesTheComparedBranch_AndHidesTheButton)
@@ -236,7 +329,6 @@ TEST_F(CompareBranchTest, ButtonAfterTheBranchWasClosed_BeginsAnew)
     Compare();
     Click(P.Form1->mnuCloseDB.Click);
     Choose(u"Jones");
-    P.Form6.Unload();
     Click(P.Form1->Command5.Click);
     EXPECT_EQ(P.Form6->Label4.Caption.value(), u"B001"_s);
     EXPECT_EQ(P.Form6->Label2.Caption.value(), u"Jones"_s);
@@ -256,7 +348,11 @@ TEST_F(CompareBranchTest, RecordBar_ShowsTheRecordThatItGoesTo)
     Compare();
     ChooseCompare(u"Jones");
     CompareRecords(P).MoveNext();
+    P.Scratch.ScanState = 2;
+    P.Compare.FieldStep = 5;
     Click(P.Form6->Data1.Stepped);
+    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(P.Compare.FieldStep, 0);
     EXPECT_EQ(ShownPair(), u"A001 B002"_s);
     EXPECT_EQ(Forenames(), u"John|Ann"_s);
     EXPECT_EQ(P.Form6->Frame6.Caption.value(), u"Field:"_s);

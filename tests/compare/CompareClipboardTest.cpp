@@ -73,7 +73,9 @@ TEST_P(BoxTest, Paste_ReplacesTheWholeBoxAndItsField)
 
 TEST_P(BoxTest, ClickWithoutASelection_LetsCutStoreAnEmptyField)
 {
+    Select(TheBox(), u"before");
     Select(TheBox(), u"");
+    EXPECT_EQ(P.Compare.sSelText, QString());
     Cut();
     EXPECT_EQ(Machine.Clipboard.Text, QString());
     EXPECT_EQ(InDatabase(), QString());
@@ -90,6 +92,16 @@ INSTANTIATE_TEST_SUITE_P(Boxes, BoxTest,
                                          Box{"CompareSurname", 3, &forms::Form6::Text3, u'B', "B001", "Surname"},
                                          Box{"CompareField", 4, &forms::Form6::Text4, u'B', "B001", "Forename"}),
                          NameOf);
+
+TEST_F(CompareClipboardTest, NewWindow_KnowsNoBox)
+{
+    Select(P.Form6->Text1, u"x");
+    P.Form6.Unload();
+    Click(P.Form1->mnuComp.Click);
+    EXPECT_EQ(P.Compare.SelBox, 0);
+    Cut();
+    EXPECT_EQ(Stored(u'A', "Surname", "A001"), u"Smith"_s);
+}
 
 TEST_F(CompareClipboardTest, CutWithoutABox_OnlyFillsTheClipboard)
 {

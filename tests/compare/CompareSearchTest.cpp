@@ -41,7 +41,7 @@ TEST_F(CompareSearchTest, Reset_BeginsWithBothFirstRecords)
     Reset();
     EXPECT_EQ(Pair(), u"A001 B001"_s);
     EXPECT_EQ(ShownPair(), u"A001 B001"_s);
-    EXPECT_EQ(Pictures(), u"red blue"_s);
+    EXPECT_EQ(Pictures(), u"A001 B001"_s);
     EXPECT_EQ(Surnames(), u"Smith|Smith"_s);
     EXPECT_EQ(Forenames(), u"John|Jon"_s);
     EXPECT_EQ(Captions(), u"Field|Field"_s);
@@ -55,12 +55,15 @@ TEST_F(CompareSearchTest, Reset_BeginsWithBothFirstRecords)
     EXPECT_EQ(Light(), Ready);
 }
 
-TEST_F(CompareSearchTest, FirstSearchAfterReset_SaysThatItSearches_UntilItHasFound)
+TEST_F(CompareSearchTest, FirstSearchAfterReset_SaysThatItSearches)
 {
     Reset();
+    CompareRecords(P).MoveLast();
+    CompareRecords(P).MoveNext();
+    Prompts.Expect(u"Compare Database End of File", u"End of Compare Database Records", Buttons::Information,
+                   Answer::Ok, [&] { EXPECT_EQ(Captions(), u"Searching Record Fields|Searching Record Fields"_s); });
     Search();
     EXPECT_EQ(P.Compare.ResetDone, 0);
-    EXPECT_EQ(Captions(), u"Field: Forename|Field: Forename"_s);
 }
 
 TEST_F(CompareSearchTest, EndedSearch_DoesNothing_UntilReset)
@@ -150,6 +153,7 @@ TEST_F(CompareSearchTest, NullForenameOnAStep_EndsTheProgram)
     ExpectFatalBox(u"Run-time error '94':\n\nInvalid use of Null");
     NextCompare();
     EXPECT_TRUE(ExitCode().has_value());
+    EXPECT_EQ(Light(), ByHand);
 }
 
 TEST_F(CompareSearchTest, RecordForm_FollowsEveryMove)

@@ -5,6 +5,8 @@
 #include "shell/ShellTest.h"
 #include "support/SqliteFile.h"
 
+#include <map>
+
 namespace lineforge
 {
 
@@ -21,15 +23,17 @@ protected:
         BranchBuilder(Home, u'C').Build();
     }
 
-    // Each with a picture of its own colour: those of A are red, those of B blue.
+    // Each with a picture of its own colour.
     void GivenBranch(QChar letter, const std::vector<Fields>& records)
     {
         BranchBuilder branch(Home, letter);
         for (const Fields& record : records) {
             branch.Row(record);
             for (const FieldText& field : record)
-                if (field.Field == u"File")
-                    branch.Picture(field.Text, letter == u'A' ? Qt::red : Qt::blue);
+                if (field.Field == u"File") {
+                    colours_[field.Text] = QColor::fromHsv((static_cast<int>(colours_.size()) * 67) % 360, 255, 220);
+                    branch.Picture(field.Text, colours_[field.Text]);
+                }
         }
         branch.Build();
     }
@@ -88,14 +92,30 @@ protected:
     static inline const QString Found = u"0,200,0"_s;
     static inline const QString ByHand = u"200,0,0"_s;
 
-    static QString ColourOf(const Image& image)
+    // Whose picture that is.
+    QString PersonOn(const Image& image) const
     {
         if (image.Picture.value().isNull())
             return u"none"_s;
-        const QColor colour = image.Picture.value().pixelColor(5, 5);
-        return colour.red() > 200 ? u"red"_s : colour.blue() > 200 ? u"blue"_s : colour.name();
+        const QColor shown = image.Picture.value().pixelColor(5, 5);
+        for (const auto& [file, colour] : colours_)
+            if (std::abs(colour.red() - shown.red()) + std::abs(colour.green() - shown.green()) +
+                    std::abs(colour.blue() - shown.blue()) <
+                20)
+                return file;
+        return shown.name();
     }
-    QString Pictures() { return ColourOf(P.Form6->Image1) + u' ' + ColourOf(P.Form6->Image2); }
+    QString Pictures() { return PersonOn(P.Form6->Image1) + u' ' + PersonOn(P.Form6->Image2); }
+
+    // Every field but the number holds the mark and its own name.
+    static Fields PersonOf(QStringView file, QStringView mark)
+    {
+        Fields fields{{u"File", file}};
+        for (const QString& field : RecordFields())
+            if (field != u"File")
+                fields.push_back({field, QString(mark + u' ' + field)});
+        return fields;
+    }
 
     QString DatabaseOf(QChar branch) { return Home.Path(QString(u"LfgDat_%1/LfgDat_%1.mdb"_s.arg(branch))); }
     std::vector<SqliteFile::Row> Rows(QChar branch, const QByteArray& fields = "*")
@@ -117,6 +137,9 @@ protected:
     }
 
     int State() const { return P.Scratch.ScanState; }
+
+private:
+    std::map<QString, QColor> colours_; // of the pictures, by their records
 };
 
 } // namespace lineforge

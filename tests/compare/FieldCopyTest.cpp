@@ -10,15 +10,6 @@ namespace
 class FieldCopyTest : public CompareTest
 {
 protected:
-    // Every field but the number holds the mark and its own name.
-    static Fields PersonOf(QStringView file, QStringView mark)
-    {
-        Fields fields{{u"File", file}};
-        for (const QString& field : RecordFields())
-            if (field != u"File")
-                fields.push_back({field, QString(mark + u' ' + field)});
-        return fields;
-    }
     void GivenPair() { GivenComparison({PersonOf(u"A001", u"our")}, {PersonOf(u"B001", u"their")}); }
 
     void ToCurrent()
@@ -155,6 +146,7 @@ TEST_F(FieldCopyTest, FirstAppend_IsZ001_WithAllThatIsCopied)
     EXPECT_EQ(Stored(u'B', "SpouseRec", "Z001"), std::nullopt);
     EXPECT_EQ(P.Form6->Label9.Caption.value(), u"Z001"_s);
     EXPECT_EQ(NumbersIn(u'A'), QStringList{u"A001"_s});
+    EXPECT_EQ(Pair(), u"A001 B001"_s);
 }
 
 TEST_F(FieldCopyTest, LowestFreeZNumber_IsTaken)
@@ -195,6 +187,30 @@ TEST_F(FieldCopyTest, AllZNumbersTaken_AppendsWithoutANumber)
     Append();
     EXPECT_EQ(Rows(u'B').size(), 101U);
     EXPECT_EQ(NumbersIn(u'B').last(), QString());
+}
+
+TEST_F(FieldCopyTest, ScannerThatRunsOnBehindTheBox_DoesntChangeWhatIsAppended)
+{
+    GivenComparison({PersonOf(u"A001", u"first"), PersonOf(u"A002", u"second")}, {PersonOf(u"B001", u"x")});
+    Prompts.Expect(u"Append Record to Database.",
+                   u"This Record will be Appended to the Compare\nDatabase as Z001 but will not be mapped into\n"
+                   u"the Ancestral Tree Display.",
+                   Buttons::Information, Answer::Ok, [&] { Records(P).MoveNext(); });
+    Append();
+    EXPECT_EQ(Stored(u'B', "Notes", "Z001"), u"first Notes"_s);
+}
+
+TEST_F(FieldCopyTest, CopyThatTheDatabaseRefuses_LeavesNothingForTheNextSaving)
+{
+    GivenPair();
+    ChangeOutside(u'B', "CREATE TRIGGER Refusal BEFORE UPDATE ON Tree99 BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    ExpectCopyError();
+    CopyOne();
+    EXPECT_EQ(Texts(), u"our Surname|their Surname"_s);
+    CompareRecords(P).Rest();
+    ChangeOutside(u'B', "DROP TRIGGER Refusal");
+    EXPECT_EQ(RefusalOf([&] { CompareRecords(P).Update(); }), ErrorNumber::UpdateWithoutEdit);
+    EXPECT_EQ(Stored(u'B', "Surname", "B001"), u"their Surname"_s);
 }
 
 TEST_F(FieldCopyTest, SecondAppend_IsNotRecognised)

@@ -10,15 +10,6 @@ namespace
 class FieldDifferenceTest : public CompareTest
 {
 protected:
-    // A pair that differs in every field of the table, Notes and all.
-    static Fields PersonOf(QStringView file, QStringView mark)
-    {
-        Fields fields{{u"File", file}};
-        for (const QString& field : RecordFields())
-            if (field != u"File")
-                fields.push_back({field, QString(mark + u' ' + field)});
-        return fields;
-    }
     static Fields Plain(QStringView file, QStringView forename = u"John")
     {
         return {{u"File", file}, {u"Surname", u"Smith"}, {u"Forename", forename}};
@@ -119,12 +110,14 @@ TEST_F(FieldDifferenceTest, GenderWeddingDateSpousesRecordAndNumber_AreNotCompar
 TEST_F(FieldDifferenceTest, EqualRecords_AreWalkedOverInOnePress_ToTheNextDifference)
 {
     GivenComparison({Plain(u"A001")}, {Plain(u"B001"), Plain(u"B002"), Plain(u"B003", u"Jack")});
+    P.Form6->Text1.Text = u"typed"_s;
+    P.Form6->Text3.Text = u"typed"_s;
     Search();
     EXPECT_EQ(Pair(), u"A001 B003"_s);
     EXPECT_EQ(ShownPair(), u"A001 B003"_s);
     EXPECT_EQ(Texts(), u"John|Jack"_s);
     EXPECT_EQ(Surnames(), u"Smith|Smith"_s);
-    EXPECT_EQ(Pictures(), u"red blue"_s);
+    EXPECT_EQ(Pictures(), u"A001 B003"_s);
 }
 
 TEST_F(FieldDifferenceTest, BehindTheLastCompareRecord_TheNextCurrentOneBeginsWithTheFirst)
@@ -189,6 +182,7 @@ TEST_F(FieldDifferenceTest, CursorBehindTheLastRecord_IsTold)
     ExpectEndOfCurrent();
     Search();
     EXPECT_EQ(Texts(), u"|"_s);
+    EXPECT_EQ(Captions(), u"End of Records Field search |End of Records Field search"_s);
     EXPECT_EQ(P.Compare.SearchEnded, 1);
 }
 

@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTest>
 #include <QToolButton>
 
@@ -91,6 +92,8 @@ TEST_F(CompareWindowTest, Reset_TakesTheMarksAway)
 
 TEST_F(CompareWindowTest, CopyAField_TakesTheDirectionThatIsChosen)
 {
+    QTest::mouseClick(&Find<QRadioButton>(*P.Form6, u"Option2"_s), Qt::LeftButton, {}, QPoint(8, 8));
+    QTest::mouseClick(&Find<QRadioButton>(*P.Form6, u"Option1"_s), Qt::LeftButton, {}, QPoint(8, 8));
     Press(u"Command3"_s);
     EXPECT_EQ(SqliteFile(Home.Path(u"LfgDat_B/LfgDat_B.mdb")).Value("SELECT Surname FROM Tree99 WHERE File = 'B001'"),
               u"Smith"_s);

@@ -192,13 +192,19 @@ ClickWatcher::ClickWatcher(QWidget* watched, std::function<void()> clicked)
     watched->installEventFilter(this);
 }
 
+// A selection dragged out of the widget ends here as well. The widget itself comes first: a click into what is selected
+// takes the selection away.
 bool ClickWatcher::eventFilter(QObject* watched, QEvent* event)
 {
-    const auto& widget = static_cast<const QWidget&>(*watched);
-    if (event->type() == QEvent::MouseButtonRelease && widget.isEnabled() &&
-        IsClick(widget, *static_cast<QMouseEvent*>(event)))
-        clicked_();
-    return false;
+    auto& widget = static_cast<QWidget&>(*watched);
+    if (event->type() != QEvent::MouseButtonRelease || !widget.isEnabled() ||
+        static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton)
+        return false;
+    widget.removeEventFilter(this);
+    QCoreApplication::sendEvent(&widget, event);
+    widget.installEventFilter(this);
+    clicked_();
+    return true;
 }
 
 } // namespace lineforge

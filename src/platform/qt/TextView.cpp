@@ -45,11 +45,16 @@ int TextView::SelectionStart() const
 
 int TextView::OwnPosition(int position) const
 {
-    int own = position;
-    if (hasCarriageReturns_)
-        while (own > 0 && own + toPlainText().left(own).count(u'\n') > position)
-            --own;
-    return std::min(own, static_cast<int>(toPlainText().size()));
+    const QString own = toPlainText();
+    if (!hasCarriageReturns_)
+        return std::min(position, static_cast<int>(own.size()));
+    int at = 0;
+    for (int told = 0; at < own.size(); ++at) {
+        told += own[at] == u'\n' ? 2 : 1;
+        if (told > position)
+            break;
+    }
+    return at;
 }
 
 void TextView::SetCaret(int position)

@@ -11,14 +11,23 @@ namespace lineforge
 
 namespace
 {
+// While the record of another branch is shown, the current side would be that branch.
+Event OnOwnBranch(Program& p, void (*command)(Program& p))
+{
+    return [&p, command] {
+        if (!TellIfComparesAlternate(p))
+            command(p);
+    };
+}
+
 void InstallMenus(Program& p, forms::Form6& form)
 {
-    form.mnuOpen.Click = [&p] { ChooseCompareBranch(p); };
+    form.mnuOpen.Click = OnOwnBranch(p, ChooseCompareBranch);
     form.mnuPrintScreen.Click = [&p] { PrintComparisonWindow(p); };
     form.mnuClose.Click = [&p] { CloseComparison(p); };
-    form.mnuCut.Click = [&p] { CutCompareField(p); };
+    form.mnuCut.Click = OnOwnBranch(p, CutCompareField);
     form.mnuCopy.Click = [&p] { CopyCompareSelection(p); };
-    form.mnuPaste.Click = [&p] { PasteCompareField(p); };
+    form.mnuPaste.Click = OnOwnBranch(p, PasteCompareField);
     form.mnuHelp.Click = [&p] { ShowHelpContents(p); };
 }
 
@@ -35,19 +44,20 @@ void InstallSelection(Program& p, forms::Form6& form)
 void InstallForm6(Program& p, forms::Form6& form)
 {
     form.Load = [&p] { LoadComparison(p); };
+    form.Unloading = [&p] { WithdrawCompareRequest(p); };
     // As the menu does: the map must know that the window has gone.
     form.CloseByFrame = [&p] { CloseComparison(p); };
 
     InstallMenus(p, form);
     InstallSelection(p, form);
-    form.Command1.Click = [&p] { SearchCompare(p); };
-    form.Command2.Click = [&p] { ResetCompare(p); };
-    form.Command3.Click = [&p] { CopyField(p); };
+    form.Command1.Click = OnOwnBranch(p, SearchCompare);
+    form.Command2.Click = OnOwnBranch(p, ResetCompare);
+    form.Command3.Click = OnOwnBranch(p, CopyField);
     form.Command4.Click = [&p] { LeaveComparison(p); };
-    form.Command5.Click = [&p] { NextCompare(p); };
-    form.Command6.Click = [&p] { NextCurrent(p); };
-    form.Command7.Click = [&p] { CopyAllFields(p); };
-    form.Command8.Click = [&p] { AppendRecord(p); };
+    form.Command5.Click = OnOwnBranch(p, NextCompare);
+    form.Command6.Click = OnOwnBranch(p, NextCurrent);
+    form.Command7.Click = OnOwnBranch(p, CopyAllFields);
+    form.Command8.Click = OnOwnBranch(p, AppendRecord);
     form.Data1.Stepped = [&p] { ShowSteppedRecord(p); };
 }
 
