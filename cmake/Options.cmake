@@ -16,3 +16,8 @@ if(LINEFORGE_SANITIZE)
                                                        -fno-sanitize-recover=undefined)
     target_link_options(lineforge_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(LINEFORGE_FUZZ)
+    target_compile_options(lineforge_options INTERFACE -fsanitize=fuzzer-no-link,address,undefined
+                                                       -fno-sanitize-recover=undefined)
+    target_link_options(lineforge_options INTERFACE -fsanitize=address,undefined)
+endif()

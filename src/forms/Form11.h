@@ -1,13 +1,17 @@
 #pragma once
 
 #include "platform/Form.h"
+#include "platform/TextPanel.h"
 
 namespace lineforge::forms
 {
 
-// A text that grows, line by line.
+// The report of a converted GEDCOM file as it comes. The panel grows below the window's lower edge.
 struct Form11 : Form {
-    Form11() : Form(u"Form11", {}, {9000, 6000}) {}
+    Form11() : Form(u"Form11", {}, {9000, 6400}) {}
+
+    TextPanel Picture1{*this, u"Picture1", {0, 0, 8700, 6400}};
+    ScrollBar VScroll1{*this, u"VScroll1", {8730, 0, 255, 6400}, 0, 100, 1500};
 };
 
 } // namespace lineforge::forms

@@ -15,6 +15,7 @@ struct Shape;
 struct ScrollBar;
 struct Timer;
 struct MultimediaControl;
+struct TextPanel;
 class PictureBox;
 class DataControl;
 
@@ -35,6 +36,7 @@ public:
     virtual void Visit(ScrollBar& bar) = 0;
     virtual void Visit(Timer& timer) = 0;
     virtual void Visit(MultimediaControl& player) = 0;
+    virtual void Visit(TextPanel& panel) = 0;
     virtual void Visit(PictureBox& picture) = 0;
     virtual void Visit(DataControl& data) = 0;
 };

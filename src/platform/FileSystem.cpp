@@ -1,5 +1,6 @@
 #include "platform/FileSystem.h"
 
+#include "platform/FileRefusal.h"
 #include "platform/RuntimeError.h"
 #include "platform/Text.h"
 
@@ -10,7 +11,6 @@
 #include <QSaveFile>
 
 #include <algorithm>
-#include <cerrno>
 #include <unistd.h>
 #include <utility>
 
@@ -21,55 +21,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-[[noreturn]] void Refuse(int number)
-{
-    throw RuntimeError(number);
-}
-
-bool OwnerCanWrite(const QString& path)
-{
-    return QFileInfo(path).permissions().testFlag(QFileDevice::WriteOwner);
-}
-
-QString ParentOf(const QString& path)
-{
-    return QFileInfo(path).path();
-}
-
-// A name can be added to or taken from a directory only when it is there and its owner may write it.
-void RequireWritableParent(const QString& path)
-{
-    const QString parent = ParentOf(path);
-    if (!QFileInfo(parent).isDir())
-        Refuse(ErrorNumber::PathNotFound);
-    if (!OwnerCanWrite(parent))
-        Refuse(ErrorNumber::PathFileAccess);
-}
-
-void RequireFile(const QString& path)
-{
-    if (!QFileInfo(path).isFile())
-        Refuse(ErrorNumber::FileNotFound);
-}
-
-void RequireReplaceable(const QString& path)
-{
-    RequireWritableParent(path);
-    const QFileInfo standing(path);
-    if (standing.isDir() || (standing.exists() && !OwnerCanWrite(path)))
-        Refuse(ErrorNumber::PathFileAccess);
-}
-
-int NumberOfFailure(const QFileDevice& file)
-{
-    if (errno == ENOSPC || errno == EDQUOT)
-        return ErrorNumber::DiskFull;
-    // The toolkit calls it a failure to open like any other.
-    if (errno == EACCES || errno == EPERM)
-        return ErrorNumber::PermissionDenied;
-    return file.error() == QFileDevice::OpenError ? ErrorNumber::PathFileAccess : ErrorNumber::DeviceIo;
-}
-
 // The entry of a directory that is spelt like `name`, case ignored; exact spelling first, empty for none.
 QString EntryLike(const QString& directory, const QString& name)
 {

@@ -20,7 +20,8 @@ struct Stretch {
 // The pixels of an image that are about a line, row by row.
 std::vector<Stretch> StretchesAbout(const QLine& line, int reach, QImage& image)
 {
-    const auto [upper, lower] = std::minmax({line.y1(), line.y2()});
+    const int upper = std::min(line.y1(), line.y2());
+    const int lower = std::max(line.y1(), line.y2());
     const double slope = line.dy() == 0 ? 0 : static_cast<double>(line.dx()) / line.dy();
     const auto columnAt = [&](int y) { return line.x1() + slope * (std::clamp(y, upper, lower) - line.y1()); };
 

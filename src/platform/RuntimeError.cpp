@@ -14,12 +14,13 @@ struct KnownError {
     QStringView Text;
 };
 
-constexpr std::array<KnownError, 31> knownErrors{{
+constexpr std::array<KnownError, 32> knownErrors{{
     {5, u"Invalid procedure call or argument"},
     {6, u"Overflow"},
     {7, u"Out of memory"},
     {9, u"Subscript out of range"},
     {13, u"Type mismatch"},
+    {52, u"Bad file name or number"},
     {53, u"File not found"},
     {55, u"File already open"},
     {57, u"Device I/O error"},

@@ -24,6 +24,7 @@ inline constexpr int Overflow = 6;
 inline constexpr int OutOfMemory = 7;
 inline constexpr int Subscript = 9;
 inline constexpr int TypeMismatch = 13;
+inline constexpr int BadFileNumber = 52;
 inline constexpr int FileNotFound = 53;
 inline constexpr int FileAlreadyOpen = 55;
 inline constexpr int DeviceIo = 57;

@@ -44,12 +44,17 @@ void SetPictureName(Program& p)
     p.Record.sPicFile = p.Record.sCurFile + u"Sub.Jpg";
 }
 
+void TellNoBranch(Program& p)
+{
+    p.Prompts.MsgBox(u"Data not available"_s, u"Cannot View until database file is Opened"_s, Buttons::Information);
+}
+
 bool TellIfNoBranch(Program& p)
 {
-    if (!p.Branch.sDbaseName.isEmpty())
-        return false;
-    p.Prompts.MsgBox(u"Data not available"_s, u"Cannot View until database file is Opened"_s, Buttons::Information);
-    return true;
+    const bool isNone = p.Branch.sDbaseName.isEmpty();
+    if (isNone)
+        TellNoBranch(p);
+    return isNone;
 }
 
 void TellNoRecords(Program& p)

@@ -15,7 +15,9 @@ void ClearMapCursor(Program& p);
 // `sCurFile` and `sPicFile` from the record form.
 void SetPictureName(Program& p);
 
-// Tells that no branch is open; false when one is.
+// Tells that no branch is open.
+void TellNoBranch(Program& p);
+// The same if none is; false when one is.
 bool TellIfNoBranch(Program& p);
 
 // Tells that the open database has no records.

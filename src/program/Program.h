@@ -17,8 +17,10 @@
 #include "platform/Platform.h"
 #include "platform/Recordset.h"
 #include "platform/RuntimeError.h"
+#include "platform/SequentialFile.h"
 #include "platform/TextFile.h"
 #include "platform/Thumbnails.h"
+#include "program/GedcomState.h"
 #include "program/MapState.h"
 #include "program/ToolState.h"
 
@@ -134,6 +136,32 @@ struct OutputState {
     std::unique_ptr<TextWriter> TextFile; // the one that is open for output
 };
 
+// The columns of a row of the lineage's table: numbers of records, and "Fam" or nothing in the first.
+namespace LineageColumn
+{
+inline constexpr int Fam = 0;  // all offspring have one mother
+inline constexpr int Indi = 1; // whose row it is; an empty one ends the table
+inline constexpr int Spse = 2;
+inline constexpr int Pa = 3;
+inline constexpr int Ma = 4;
+inline constexpr int Sib1 = 5; // the first of six offspring
+inline constexpr int Sib4 = 8;
+inline constexpr int Last = 14; // nothing is ever put behind the six, which ends them
+} // namespace LineageColumn
+
+// The lineage that goes with a GEDCOM file.
+struct LineageState {
+    static constexpr int LastRow = 99;
+    static constexpr int LastMother = 10;
+    using Row = FixedArray<QString, 0, LineageColumn::Last>;
+
+    FixedArray<Row, 0, LastRow> LineageArr;
+    FixedArray<QString, 0, LastMother> MaArray; // the mothers of a row's offspring, in their order
+    Integer16 MaDiffer;                         // how often two neighbours there differ
+    QString sLineageCount;                      // rows of the line of forebears
+    std::unique_ptr<SequentialFile> GedcomFile; // the one that is being written
+};
+
 // Shared by all routines. They carry no state between commands, but some routines read what a called one left there.
 struct ScratchState {
     Integer16 ScanState; // one word for gallery, comparison and GEDCOM conversion, none of which resets the others'
@@ -175,6 +203,8 @@ struct Program {
     CompareState Compare;
     BookmarkState Bookmarks;
     OutputState Output;
+    LineageState Lineage;
+    GedcomState Gedcom;
     ScratchState Scratch;
 
     Window<forms::form9> form9;

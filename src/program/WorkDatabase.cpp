@@ -2,6 +2,8 @@
 
 #include "program/BranchPaths.h"
 
+#include <QScopeGuard>
+
 namespace lineforge
 {
 
@@ -10,9 +12,13 @@ using namespace Qt::StringLiterals;
 void PointAtDatabase(Program& p, const QString& path)
 {
     DataControl& data = p.Form3->Data1;
+    const QString before = data.DatabaseName;
     data.DatabaseName = path;
     data.RecordSource = u"Tree99"_s;
+    // The name is always that of the database that is open.
+    auto nameBack = qScopeGuard([&] { data.DatabaseName = before; });
     data.Refresh(p.Databases, p.Files);
+    nameBack.dismiss();
 }
 
 void OpenWorkDatabase(Program& p)

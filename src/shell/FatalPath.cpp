@@ -1,5 +1,7 @@
 #include "shell/FatalPath.h"
 
+#include "gedcom/GedcomConversion.h"
+
 namespace lineforge
 {
 
@@ -10,6 +12,9 @@ namespace
 void EndWithError(Program& p, const RuntimeError& error)
 {
     p.Errors.Last = error;
+    // What was written to them stays.
+    p.Lineage.GedcomFile.reset();
+    CloseConversionFiles(p);
     p.Prompts.MsgBox(u"Lineforge"_s, u"Run-time error '%1':\n\n%2"_s.arg(error.Number).arg(error.Text), Buttons::Error);
     p.Loop.End(1);
 }

@@ -2,6 +2,7 @@
 
 #include "platform/DataControl.h"
 #include "platform/PictureBox.h"
+#include "platform/TextPanel.h"
 #include "support/Printing.h"
 
 #include <gtest/gtest.h>
@@ -127,6 +128,7 @@ public:
     void Visit(ScrollBar&) override { Stops.push_back(u"ScrollBar"_s); }
     void Visit(Timer&) override { Stops.push_back(u"Timer"_s); }
     void Visit(MultimediaControl&) override { Stops.push_back(u"MultimediaControl"_s); }
+    void Visit(TextPanel&) override { Stops.push_back(u"TextPanel"_s); }
     void Visit(PictureBox&) override { Stops.push_back(u"PictureBox"_s); }
     void Visit(DataControl&) override { Stops.push_back(u"DataControl"_s); }
     QStringList Stops;
@@ -146,6 +148,7 @@ TEST_F(ControlsTest, EveryKindOfControl_HasItsStop)
     ScrollBar bar(window, u"i", {}, 100, 1, 10);
     Timer timer(window, u"j", 100);
     MultimediaControl player(window, u"k");
+    TextPanel panel(window, u"o", {});
     PictureBox picture(window, u"l", {});
     DataControl data(window, u"m", {}, u"");
 
@@ -155,7 +158,25 @@ TEST_F(ControlsTest, EveryKindOfControl_HasItsStop)
 
     EXPECT_EQ(tour.Stops, QStringList({u"Label"_s, u"TextBox"_s, u"Button"_s, u"CheckBox"_s, u"OptionButton"_s,
                                        u"Frame"_s, u"ListBox"_s, u"Image"_s, u"Shape"_s, u"ScrollBar"_s, u"Timer"_s,
-                                       u"MultimediaControl"_s, u"PictureBox"_s, u"DataControl"_s}));
+                                       u"MultimediaControl"_s, u"TextPanel"_s, u"PictureBox"_s, u"DataControl"_s}));
+}
+
+TEST_F(ControlsTest, TextPanel_KeepsItsLines_ACarriageReturnBeginsAnother)
+{
+    TextPanel panel(window, u"Picture1", {});
+    int changes = 0;
+    panel.Changed = [&] { ++changes; };
+
+    panel.Print(u"one");
+    panel.Print();
+    panel.Print(u"two\rthree");
+
+    EXPECT_EQ(panel.Lines, QStringList({u"one"_s, u""_s, u"two"_s, u"three"_s}));
+    EXPECT_EQ(panel.CurrentY(), 4 * TextPanel::LineHeight);
+    EXPECT_EQ(changes, 3);
+    panel.Cls();
+    EXPECT_EQ(panel.CurrentY(), 0);
+    EXPECT_EQ(changes, 4);
 }
 
 class ControlTextTest : public ControlsTest

@@ -55,10 +55,11 @@ Steps WholeStory()
 {
     Steps story;
     for (const auto& stop :
-         {SplashStop,    EmptyWindowStop, OpenStop,        GalleryStop,         ScrollStop,      CoordinatesStop,
-          SubjectsStop,  RecordsStop,     ScannerStop,     SearchStop,          AddRecordStop,   OutputStop,
-          CompareStop,   LineageStop,     NewBranchStop,   DrawTreeStop,        MapSubjectsStop, DuplicateNameStop,
-          OpenOtherStop, HelpStop,        CloseBranchStop, ChangeDirectoryStop, ExitStop,        WithoutSplashStop})
+         {SplashStop,        EmptyWindowStop, OpenStop,    GalleryStop,     ScrollStop,          CoordinatesStop,
+          SubjectsStop,      RecordsStop,     ScannerStop, SearchStop,      AddRecordStop,       OutputStop,
+          GedcomStop,       CompareStop,      LineageStop, NewBranchStop,   DrawTreeStop,        MapSubjectsStop,
+          DuplicateNameStop, OpenOtherStop,   HelpStop,    CloseBranchStop, ChangeDirectoryStop, ExitStop,
+          WithoutSplashStop})
         for (Step& step : stop())
             story.push_back(std::move(step));
     return story;

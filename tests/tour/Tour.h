@@ -6,6 +6,7 @@
 #include "RunningProgram.h"
 #include "ScratchHome.h"
 #include "forms/Form1.h"
+#include "forms/Form12.h"
 #include "forms/Form3.h"
 #include "forms/Form5.h"
 #include "forms/Form6.h"
@@ -38,6 +39,7 @@ public:
     const forms::Form3 RecordForm;
     const forms::Form5 GalleryForm;
     const forms::Form6 CompareForm;
+    const forms::Form12 GedcomForm;
     const forms::Form7 MappingForm;
     const forms::Form8 ListForm;
     const forms::form9 SplashForm;

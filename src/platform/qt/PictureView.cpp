@@ -11,8 +11,6 @@ namespace lineforge
 
 namespace
 {
-constexpr int frameMilliseconds = 16;
-
 int ButtonNumber(Qt::MouseButton button)
 {
     switch (button) {
@@ -54,12 +52,10 @@ QRect Shrunk(const QRect& devicePixels, double ratio)
 } // namespace
 
 PictureView::PictureView(QWidget* parent, PictureBox& picture, const Scale& scale, std::shared_ptr<const Gate> gate)
-    : QWidget(parent), picture_(picture), scale_(scale), gate_(std::move(gate))
+    : QWidget(parent), picture_(picture), scale_(scale), gate_(std::move(gate)), pacer_([this] { ShowChanges(); })
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
-    nextShow_.setSingleShot(true);
-    connect(&nextShow_, &QTimer::timeout, this, &PictureView::ShowChanges);
     picture_.Changed = [this, open = gate_](const QRect& pixels) {
         if (open->IsOpen())
             Take(pixels);
@@ -69,17 +65,11 @@ PictureView::PictureView(QWidget* parent, PictureBox& picture, const Scale& scal
 void PictureView::Take(const QRect& drawingPixels)
 {
     changed_ |= scaled_.Invalidate(drawingPixels);
-    if (nextShow_.isActive())
-        return;
-    if (sinceShown_.isValid() && sinceShown_.elapsed() < frameMilliseconds)
-        nextShow_.start(frameMilliseconds - static_cast<int>(sinceShown_.elapsed()));
-    else
-        ShowChanges();
+    pacer_.Request();
 }
 
 void PictureView::ShowChanges()
 {
-    sinceShown_.start();
     update(Shrunk(std::exchange(changed_, {}), devicePixelRatioF()));
 }
 

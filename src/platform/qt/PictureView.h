@@ -1,12 +1,11 @@
 #pragma once
 
 #include "platform/PictureBox.h"
+#include "platform/qt/FramePacer.h"
 #include "platform/qt/Handlers.h"
 #include "platform/qt/Scale.h"
 #include "platform/qt/ScaledPicture.h"
 
-#include <QElapsedTimer>
-#include <QTimer>
 #include <QWidget>
 
 #include <memory>
@@ -40,8 +39,7 @@ private:
     std::shared_ptr<const Gate> gate_;
     ScaledPicture scaled_;
     QRect changed_; // in pixels of the screen, not yet asked to be painted
-    QElapsedTimer sinceShown_;
-    QTimer nextShow_;
+    FramePacer pacer_;
 };
 
 } // namespace lineforge

@@ -3,6 +3,7 @@
 #include "platform/DataControl.h"
 #include "platform/FileSystem.h"
 #include "platform/PictureBox.h"
+#include "platform/TextPanel.h"
 #include "platform/qt/AccessibleName.h"
 #include "platform/qt/ClickableWidgets.h"
 #include "platform/qt/DraggableImage.h"
@@ -12,6 +13,7 @@
 #include "platform/qt/RecordBar.h"
 #include "platform/qt/ScrollBarView.h"
 #include "platform/qt/ShapeView.h"
+#include "platform/qt/TextPanelView.h"
 #include "platform/qt/TextView.h"
 
 #include <QCheckBox>
@@ -181,11 +183,15 @@ void WidgetBuilder::AddAccessKey(QWidget* widget, const TextBox& box)
 
 void WidgetBuilder::Dress(QWidget* widget, Control& control)
 {
-    widget->setObjectName(control.Name);
     widget->setToolTip(control.ToolTipText.toHtmlEscaped());
-    const auto place = [widget, &control, scale = scale_] {
+    Dress(widget, control, [widget, &control, scale = scale_] {
         widget->setGeometry(scale.ToPixels(Rectangle{control.Left, control.Top, control.Width, control.Height}));
-    };
+    });
+}
+
+void WidgetBuilder::Dress(QWidget* widget, Control& control, const std::function<void()>& place)
+{
+    widget->setObjectName(control.Name);
     place();
     for (QProperty<int>* length : {&control.Left, &control.Top, &control.Width, &control.Height})
         bindings_.Watch(*length, place);
@@ -446,6 +452,14 @@ void WidgetBuilder::Visit(MultimediaControl& player)
     bindings_.Watch(player.Length, showTime);
     NameForReaders(view, player);
     Dress(view, player);
+}
+
+// Its tool tip is nothing but its name: shown, it would stand before the text.
+void WidgetBuilder::Visit(TextPanel& panel)
+{
+    auto* view = new TextPanelView(parent_, panel, scale_, gate_);
+    NameForReaders(view, panel);
+    Dress(view, panel, [view] { view->TakePlace(); });
 }
 
 void WidgetBuilder::Visit(PictureBox& picture)

@@ -8,6 +8,7 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
 namespace lineforge
@@ -35,6 +36,7 @@ private:
     void Visit(ScrollBar& bar) override;
     void Visit(Timer& timer) override;
     void Visit(MultimediaControl& player) override;
+    void Visit(TextPanel& panel) override;
     void Visit(PictureBox& picture) override;
     void Visit(DataControl& data) override;
 
@@ -46,6 +48,8 @@ private:
     void VisitLines(TextBox& box);
     // What all kinds have in common: name, place, being visible and enabled.
     void Dress(QWidget* widget, Control& control);
+    // The same for a widget that finds its place itself.
+    void Dress(QWidget* widget, Control& control, const std::function<void()>& place);
     void NameForReaders(QWidget* widget, const Control& control);
     template <class Caption>
     void FollowCaption(QWidget* widget, const Control& control, Caption& caption);

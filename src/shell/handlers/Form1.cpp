@@ -1,4 +1,6 @@
 #include "compare/CompareBranch.h"
+#include "gedcom/GedcomConversion.h"
+#include "gedcom/GedcomWriter.h"
 #include "map/LineageMarks.h"
 #include "map/MapClipboard.h"
 #include "map/MapInteraction.h"
@@ -68,6 +70,8 @@ void InstallForm1(Program& p, forms::Form1& form)
     form.New.Click = [&p] { NewBranch(p); };
     form.Open.Click = [&p] { ChooseBranch(p); };
     InstallOutput(p, form);
+    form.mnuExpGedcom.Click = [&p] { ShowGedcomForm(p); };
+    form.mnuImpGedcom.Click = [&p] { ConvertGedcom(p); };
     form.mnuCloseDB.Click = [&p] { CloseBranch(p); };
     form.mnuExit.Click = [&p] { ExitProgram(p); };
 

@@ -12,6 +12,8 @@ void InstallHandlers(Program& p)
     p.Form6.Install = [&p](forms::Form6& form) { InstallForm6(p, form); };
     p.Form7.Install = [&p](forms::Form7& form) { InstallForm7(p, form); };
     p.Form8.Install = [&p](forms::Form8& form) { InstallForm8(p, form); };
+    p.Form11.Install = [&p](forms::Form11& form) { InstallForm11(p, form); };
+    p.Form12.Install = [&p](forms::Form12& form) { InstallForm12(p, form); };
     p.form9.Install = [&p](forms::form9& form) { InstallForm9(p, form); };
 }
 

@@ -13,6 +13,8 @@ void InstallForm5(Program& p, forms::Form5& form);
 void InstallForm6(Program& p, forms::Form6& form);
 void InstallForm7(Program& p, forms::Form7& form);
 void InstallForm8(Program& p, forms::Form8& form);
+void InstallForm11(Program& p, forms::Form11& form);
+void InstallForm12(Program& p, forms::Form12& form);
 void InstallForm9(Program& p, forms::form9& form);
 
 // For all windows of a program, whenever they are made.

@@ -17,6 +17,7 @@ Steps ScannerStop();
 Steps SearchStop();
 Steps AddRecordStop();
 Steps GalleryStop();
+Steps GedcomStop();
 Steps OutputStop();
 Steps CompareStop();
 Steps LineageStop();

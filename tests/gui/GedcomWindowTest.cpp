@@ -1,0 +1,125 @@
+#include "forms/Form12.h"
+#include "gui/ProgramWindowTest.h"
+#include "platform/qt/TextPanelView.h"
+#include "platform/qt/WindowView.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QTest>
+
+namespace lineforge
+{
+namespace
+{
+using namespace Qt::StringLiterals;
+
+// A file made by the mouse on the real window.
+class GedcomWindowTest : public ProgramWindowTest
+{
+protected:
+    GedcomWindowTest()
+    {
+        BranchBuilder(Home, u'A')
+            .Row({{u"File", u"A001"}, {u"FatherRec", u"A002"}, {u"MotherRec", u"A003"}})
+            .Row({{u"File", u"A002"}})
+            .Row({{u"File", u"A003"}})
+            .Row({{u"File", u"A004"}, {u"FatherRec", u"A001"}, {u"MotherRec", u"A005"}})
+            .Row({{u"File", u"A005"}})
+            .Boxes(u"1200,600,255,A001,John,")
+            .Picture(u"A001", Qt::red)
+            .Build();
+        WriteAliasList(Home, {{u"Smiths", u"LfgDat_A"}});
+        OpenBranch(u"Smiths"_s);
+        P.Form1->mnuExpGedcom.Click();
+        ServeEvents();
+        Activate(*P.Form12);
+    }
+
+    void Press(const QString& name)
+    {
+        QTest::mouseClick(&Find<QPushButton>(*P.Form12, name), Qt::LeftButton);
+        ServeEvents();
+    }
+    TextPanelView& Panel() { return Find<TextPanelView>(*P.Form12, u"Picture1"_s); }
+};
+
+TEST_F(GedcomWindowTest, CreateFile_WritesIt_AndTheLastLineIsInView)
+{
+    QLineEdit& start = Find<QLineEdit>(*P.Form12, u"Text7"_s);
+    start.selectAll();
+    QTest::keyClicks(&start, u"A001"_s);
+
+    Press(u"Command1"_s);
+
+    EXPECT_TRUE(Home.ReadFile(u"LfgDat_A/Gedcom.tmp").endsWith("1 DESC 2\r\n1 ORDI N\r\n0 TRLR\r\n"));
+    EXPECT_EQ(Panel().Lines().last(), u"0 TRLR");
+    EXPECT_TRUE(Panel().rect().contains(Panel().PlaceOf({Panel().Lines().size() - 1, 0})));
+    EXPECT_GT(P.Form12->VScroll1.Value.value(), 0);
+}
+
+TEST_F(GedcomWindowTest, ManyRuns_KeepTheLastLineInView)
+{
+    for (int run = 0; run < 3; ++run) {
+        Press(u"Command1"_s);
+        EXPECT_TRUE(Panel().rect().contains(Panel().PlaceOf({Panel().Lines().size() - 1, 0})));
+    }
+}
+
+TEST_F(GedcomWindowTest, ResetAndCancel)
+{
+    Press(u"Command3"_s);
+    EXPECT_EQ(Find<QLineEdit>(*P.Form12, u"Text7"_s).text(), QString());
+    Press(u"Command2"_s);
+    EXPECT_FALSE(ViewOf(*P.Form12).isVisible());
+}
+
+// At every magnification that a screen may ask for.
+class GedcomLayoutTest : public WindowTest, public testing::WithParamInterface<int>
+{
+protected:
+    GedcomLayoutTest()
+    {
+        constexpr double usualPoints = 8;
+        QFont font = QApplication::font();
+        font.setPixelSize(scale.FontPixels(usualPoints));
+        QApplication::setFont(font);
+    }
+
+    const Scale scale{GetParam()};
+    Handlers handlers;
+};
+
+INSTANTIATE_TEST_SUITE_P(TwipsAPixel, GedcomLayoutTest, testing::Values(3, 4, 5, 6, 8, 10, 12, 15));
+
+TEST_P(GedcomLayoutTest, EverythingFitsIntoItsPlace)
+{
+    forms::Form12 form;
+    WindowView window(form, scale, std::make_shared<Gate>(handlers));
+    window.resize(scale.ToPixels(form.Client));
+
+    for (const QPushButton* button : window.findChildren<QPushButton*>())
+        EXPECT_LE(button->fontMetrics().horizontalAdvance(button->text()) + 8, button->width())
+            << button->text().toStdString();
+    for (const QRadioButton* option : window.findChildren<QRadioButton*>())
+        EXPECT_LE(option->sizeHint().width(), option->width()) << option->text().toStdString();
+    for (const QLineEdit* line : window.findChildren<QLineEdit*>())
+        EXPECT_LT(line->fontMetrics().height(), line->height());
+    for (const QLabel* label : window.findChildren<QLabel*>()) {
+        const QRect needed = label->fontMetrics().boundingRect(QRect(0, 0, label->width(), 10'000),
+                                                               Qt::AlignLeft | Qt::TextWordWrap, label->text());
+        EXPECT_LE(needed.height(), label->height()) << label->text().toStdString();
+    }
+    for (const QGroupBox* frame : window.findChildren<QGroupBox*>()) {
+        EXPECT_TRUE(QRect({}, scale.ToPixels(form.Client)).contains(frame->geometry()));
+        for (const QWidget* widget : frame->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+            EXPECT_TRUE(frame->rect().contains(widget->geometry())) << widget->objectName().toStdString();
+    }
+    EXPECT_LE(window.findChild<TextPanelView*>()->geometry().right(), window.findChild<QScrollBar*>()->x());
+}
+
+} // namespace
+} // namespace lineforge
