@@ -57,7 +57,7 @@ Steps WholeStory()
     for (const auto& stop :
          {SplashStop,        EmptyWindowStop, OpenStop,    GalleryStop,     ScrollStop,          CoordinatesStop,
           SubjectsStop,      RecordsStop,     ScannerStop, SearchStop,      AddRecordStop,       OutputStop,
-          GedcomStop,       CompareStop,      LineageStop, NewBranchStop,   DrawTreeStop,        MapSubjectsStop,
+          GedcomStop,        CompareStop,     LineageStop, NewBranchStop,   DrawTreeStop,        MapSubjectsStop,
           DuplicateNameStop, OpenOtherStop,   HelpStop,    CloseBranchStop, ChangeDirectoryStop, ExitStop,
           WithoutSplashStop})
         for (Step& step : stop())
