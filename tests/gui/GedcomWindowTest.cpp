@@ -1,3 +1,4 @@
+#include "forms/Form11.h"
 #include "forms/Form12.h"
 #include "gui/ProgramWindowTest.h"
 #include "platform/qt/TextPanelView.h"
@@ -75,6 +76,69 @@ TEST_F(GedcomWindowTest, ResetAndCancel)
     EXPECT_EQ(Find<QLineEdit>(*P.Form12, u"Text7"_s).text(), QString());
     Press(u"Command2"_s);
     EXPECT_FALSE(ViewOf(*P.Form12).isVisible());
+}
+
+// A file converted on real windows, its report watched as it comes.
+class ConversionWindowTest : public ProgramWindowTest
+{
+protected:
+    ConversionWindowTest()
+    {
+        BranchBuilder(Home, u'A').Row({{u"File", u"A001"}}).Picture(u"A001", Qt::red).Build();
+        WriteAliasList(Home, {{u"Smiths", u"LfgDat_A"}});
+        OpenBranch(u"Smiths"_s);
+    }
+
+    // A couple, then notes, each line with that end. Where it is one character, the run ends by the overflow.
+    QByteArray Source(int notes, const QByteArray& lineEnd)
+    {
+        QByteArray lines = "0 HEAD\n0 @I1@ INDI\n1 NAME John /Smith/\n2 GIVN John\n2 SURN Smith\n1 SEX M\n"
+                           "0 @I2@ INDI\n1 NAME Mary /Jones/\n2 GIVN Mary\n2 SURN Jones\n1 SEX F\n"
+                           "0 @F1@ FAM\n1 HUSB @I1@\n1 WIFE @I2@\n1 NOTE x\n";
+        for (int note = 0; note < notes; ++note)
+            lines += "2 CONT and so it went on, as he told it, for many a year\n";
+        return QByteArray(lines + "0 TRLR\n").replace("\n", lineEnd);
+    }
+
+    void Convert(const QByteArray& source)
+    {
+        const QString path = Home.WriteFile(u"family.ged", source);
+        Prompts.ExpectOpenFile(u"Select Import GedCom File", u"GedCom *.ged|*.ged|All Files|*.*|", path);
+        Prompts.Expect(QString(path + u" Gedcom file selected."),
+                       u"The selected Gedcom file will be re formatted and\nplaced in the above directory as a text "
+                       u"file.",
+                       Buttons::Information);
+        P.Form1->mnuImpGedcom.Click();
+        ServeEvents();
+    }
+
+    TextPanelView& Panel() { return Find<TextPanelView>(*P.Form11, u"Picture1"_s); }
+    bool IsInView(qsizetype line) { return Panel().rect().contains(Panel().PlaceOf({line, 0})); }
+};
+
+TEST_F(ConversionWindowTest, ReportComesIntoAWindowOfItsOwn)
+{
+    Convert(Source(1, "\r\n"));
+
+    EXPECT_TRUE(ViewOf(*P.Form11).isVisible());
+    EXPECT_EQ(ViewOf(*P.Form11).windowTitle(), u"Ged File Conversion completed.");
+    EXPECT_EQ(Panel().Lines().filter(u"HEAD OF FAMILY"_s).size(), 1);
+    EXPECT_TRUE(IsInView(Panel().Lines().size() - 1));
+    EXPECT_TRUE(Home.ReadFile(u"family.txt").contains("John"));
+}
+
+TEST_F(ConversionWindowTest, LongRunUntilTheOverflow_KeepsTheWindowAlive)
+{
+    constexpr int notes = 340; // 20 kB
+    Convert(Source(notes, "\n"));
+
+    EXPECT_EQ(P.Errors.Last->Number, ErrorNumber::Overflow);
+    EXPECT_EQ(Panel().Lines().filter(u"HEAD OF FAMILY"_s).size(), 2);
+    EXPECT_TRUE(IsInView(Panel().Lines().size() - 1));
+
+    Activate(*P.Form11);
+    QTest::keyClick(&Panel(), Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_TRUE(IsInView(0));
 }
 
 // At every magnification that a screen may ask for.

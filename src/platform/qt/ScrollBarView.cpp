@@ -9,7 +9,7 @@ namespace lineforge
 {
 
 ScrollBarView::ScrollBarView(QWidget* parent, std::function<int()> maximum)
-    : QScrollBar(Qt::Vertical, parent), maximum_(std::move(maximum))
+    : QScrollBar(Qt::Vertical, parent), maximum_(std::move(maximum)), pacer_([this] { setUpdatesEnabled(true); })
 {
     setFocusPolicy(Qt::StrongFocus);
 }
@@ -17,8 +17,10 @@ ScrollBarView::ScrollBarView(QWidget* parent, std::function<int()> maximum)
 void ScrollBarView::Show(int value)
 {
     const QSignalBlocker quiet(this);
+    setUpdatesEnabled(false);
     setRange(0, maximum_());
     setValue(value);
+    pacer_.Request();
 }
 
 // The maximum is asked for when it begins to matter: before the user can do anything with the bar.

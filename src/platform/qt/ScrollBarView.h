@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/qt/FramePacer.h"
+
 #include <QScrollBar>
 
 #include <functional>
@@ -13,7 +15,7 @@ class ScrollBarView : public QScrollBar
 public:
     ScrollBarView(QWidget* parent, std::function<int()> maximum);
 
-    // Shows a value without telling of a change.
+    // Takes a value without telling of a change. However often it comes, painting keeps to the frames of the screen.
     void Show(int value);
 
 protected:
@@ -21,6 +23,7 @@ protected:
 
 private:
     std::function<int()> maximum_;
+    FramePacer pacer_;
 };
 
 } // namespace lineforge

@@ -1,3 +1,4 @@
+#include "gui/qt/PaintCounter.h"
 #include "gui/qt/WindowTest.h"
 #include "platform/qt/LabelView.h"
 
@@ -19,19 +20,6 @@ struct PaintForm : Form {
     TextBox Text1{*this, u"Text1", {150, 600, 3000, 315}};
     Button Command1{*this, u"Command1", {150, 1200, 3000, 375}, u"Press"};
     Timer Timer1{*this, u"Timer1", 1};
-};
-
-// Counts how often a widget paints itself.
-class PaintCounter : public QObject
-{
-public:
-    explicit PaintCounter(QWidget& watched) { watched.installEventFilter(this); }
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        Paintings += event->type() == QEvent::Paint;
-        return false;
-    }
-    int Paintings = 0;
 };
 
 struct PaintWindowsTest : WindowTest {
@@ -63,7 +51,7 @@ TEST_F(PaintWindowsTest, AChangedLabelIsOnTheScreen)
 
     Machine().Loop().PaintWindows();
 
-    EXPECT_GT(counter.Paintings, 0);
+    EXPECT_GT(counter.Paints, 0);
     EXPECT_NE(OnScreen(), before);
     EXPECT_EQ(OnScreen(), LabelWidget().window()->grab().toImage().copy(
                               {LabelWidget().mapTo(LabelWidget().window(), QPoint()), LabelWidget().size()}));
@@ -77,7 +65,7 @@ TEST_F(PaintWindowsTest, AWindowThatIsHidden_StaysHidden_AndPaintsNothing)
 
     Machine().Loop().PaintWindows();
 
-    EXPECT_EQ(counter.Paintings, 0);
+    EXPECT_EQ(counter.Paints, 0);
     EXPECT_FALSE(ViewOf(*Painted).isVisible());
 }
 

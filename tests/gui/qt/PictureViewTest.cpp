@@ -1,5 +1,6 @@
 #include "platform/qt/PictureView.h"
 
+#include "gui/qt/PaintCounter.h"
 #include "gui/qt/WindowTest.h"
 
 #include <QPainter>
@@ -146,17 +147,6 @@ TEST_F(PictureViewTest, ClsMakesItWhiteAgain)
     const QImage shown = View().grab().toImage().convertToFormat(QImage::Format_RGB32);
     EXPECT_EQ(shown, ScaledAfresh(Pictures->Picture1, PixelScale(), shown.size()));
 }
-
-// Counts how often a widget paints.
-struct PaintCounter : QObject {
-    explicit PaintCounter(QWidget& widget) { widget.installEventFilter(this); }
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        Paints += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-    int Paints = 0;
-};
 
 TEST_F(PictureViewTest, ManyChangesShareAPaint_EvenWhenEventsAreServedBetweenThem)
 {

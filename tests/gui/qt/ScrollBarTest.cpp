@@ -1,6 +1,8 @@
+#include "gui/qt/PaintCounter.h"
 #include "gui/qt/WindowTest.h"
 #include "platform/PictureBox.h"
 
+#include <QElapsedTimer>
 #include <QScrollBar>
 #include <QTest>
 #include <QWheelEvent>
@@ -83,6 +85,25 @@ TEST_F(ScrollBarTest, AShrunkenMaximumHoldsBeforeTheUserCanScroll)
     QTest::mousePress(&Bar(), Qt::LeftButton, {}, {Bar().width() / 2, Bar().height() - 30});
     QTest::mouseRelease(&Bar(), Qt::LeftButton, {}, {Bar().width() / 2, Bar().height() - 30});
     EXPECT_EQ(Scrolls->VScroll1.Value.value(), 300);
+}
+
+TEST_F(ScrollBarTest, ValuesThatComeFast_ShareAPaint_TheLastOneShows)
+{
+    ServeEvents();
+    const PaintCounter counter(Bar());
+    QElapsedTimer clock;
+    clock.start();
+    for (int step = 1; step <= 1000; ++step) {
+        Scrolls->VScroll1.Value = step;
+        ServeEvents();
+    }
+    const int atMost = static_cast<int>(clock.elapsed()) / 16 + 3;
+    EXPECT_EQ(Bar().value(), 1000);
+    EXPECT_LE(counter.Paints, atMost);
+
+    const int before = counter.Paints;
+    Scrolls->VScroll1.Value = 2000;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return counter.Paints > before; }));
 }
 
 TEST_F(ScrollBarTest, TheWheelOverThePictureScrolls)

@@ -1,5 +1,7 @@
 #include "gui/qt/TextPanelTest.h"
 
+#include "gui/qt/PaintCounter.h"
+
 #include <QAccessible>
 #include <QElapsedTimer>
 #include <QImage>
@@ -93,19 +95,9 @@ TEST_F(TextPanelTest, Cls_EmptiesTheView_AndForgetsTheSelection)
     EXPECT_EQ(View().SelectedText(), QString());
 }
 
-struct PaintCounter : QObject {
-    int Paints = 0;
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        Paints += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-};
-
 TEST_F(TextPanelTest, LinesThatComeFast_AreShownTogether_TheLastOneToo)
 {
-    PaintCounter counter;
-    View().installEventFilter(&counter);
+    const PaintCounter counter(View());
     QElapsedTimer clock;
     clock.start();
     for (int line = 0; line < 2000; ++line) {
