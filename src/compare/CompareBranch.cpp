@@ -37,15 +37,10 @@ void ShowFirstCurrentRecord(Program& p)
 // False, with a box, when there is no such database; what was compared before stays then.
 bool PointAtCompareDatabase(Program& p, const QString& path)
 {
-    DataControl& data = p.Form6->Data1;
-    const QString before = data.DatabaseName;
-    data.DatabaseName = path;
-    data.RecordSource = u"Tree99"_s;
     try {
-        data.Refresh(p.Databases, p.Files);
+        PointAtDatabase(p, p.Form6->Data1, path);
         return true;
     } catch (const RuntimeError&) {
-        data.DatabaseName = before;
         p.Prompts.MsgBox(u"Read Only or Incorrect Database"_s, u"Cannot open this database"_s, Buttons::Information);
         return false;
     }
@@ -104,10 +99,7 @@ void ReturnToComparison(Program& p)
 void LoadComparison(Program& p)
 {
     forms::Form6& form = *p.Form6;
-    form.Width = p.Screen.Width;
-    form.Height = p.Screen.Height - 400;
-    form.Left = (p.Screen.Width - p.Form3->Width) / 2;
-    form.Top = (p.Screen.Height - p.Form3->Height) / 2 - 200;
+    FillScreen(p, form, 400);
     form.Label2.Caption = p.Branch.sBranchName;
     p.Scratch.ScanState = ComparePair::None;
     p.Compare.ZNumberTable.Erase();

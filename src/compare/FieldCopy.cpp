@@ -3,6 +3,7 @@
 #include "compare/Sides.h"
 #include "platform/Number.h"
 #include "platform/Text.h"
+#include "program/RecordFields.h"
 #include "program/WorkDatabase.h"
 
 #include <QScopeGuard>
@@ -14,21 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-constexpr QStringView CopyFieldList[] = {
-    u"Surname",          u"Forename",
-    u"Nationality",      u"FatherRec",
-    u"MotherRec",        u"BirthDate",
-    u"BirthPlace",       u"Spouse",
-    u"Children",         u"Education",
-    u"Profession",       u"Deceased",
-    u"BirthCertificate", u"MarriageCertificate",
-    u"DeathCertificate", u"Notes",
-    u"Medical",          u"Gender",
-    u"Maiden",           u"Partner",
-    u"PrevChildren",     u"Wedding",
-    u"WedDate",
-};
-
 // The two directions, with all in which appending differs.
 struct Direction {
     const Side& From;

@@ -5,6 +5,8 @@
 #include "program/BranchPaths.h"
 #include "program/Meanwhile.h"
 
+#include <algorithm>
+
 namespace lineforge
 {
 
@@ -76,12 +78,16 @@ QStringList GalleryFiles(Program& p, const QString& key)
     return names;
 }
 
+GalleryName PartsOf(const QString& name)
+{
+    const qsizetype start = std::min<qsizetype>(name.lastIndexOf(PathSeparator) + 1 + keyLength, name.size());
+    const int digits = QStringView(name).mid(start, subscriptLength).endsWith(u'.') ? 1 : subscriptLength;
+    return {name.first(start), name.mid(start, digits), name.mid(start + digits)};
+}
+
 int SubscriptOf(const QString& name)
 {
-    QStringView digits = QStringView(name).mid(keyLength, subscriptLength);
-    if (digits.endsWith(u'.'))
-        digits.chop(1);
-    return ToLong(digits);
+    return ToLong(PartsOf(name).Subscript);
 }
 
 bool IsEmptyTag(const QString& tag)

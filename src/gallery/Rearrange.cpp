@@ -4,8 +4,6 @@
 #include "gallery/GalleryPage.h"
 #include "platform/Number.h"
 
-#include <algorithm>
-
 namespace lineforge
 {
 
@@ -13,22 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-// "A001_", "07" and ".jpg", with whatever path stands before. The subscript may be of one digit, as a file has it that
-// was moved to an empty tile below 10.
-struct TagParts {
-    QString Stem;
-    QString Subscript;
-    QString Tail;
-};
-
-TagParts PartsOf(const QString& tag)
-{
-    constexpr qsizetype key = 5; // "A001_"
-    const qsizetype start = std::min(tag.lastIndexOf(PathSeparator) + 1 + key, tag.size());
-    const qsizetype digits = QStringView(tag).mid(start, 2).endsWith(u'.') ? 1 : 2;
-    return {tag.first(start), tag.mid(start, digits), tag.mid(start + digits)};
-}
-
 bool IsSubscript(const QString& tag, int value)
 {
     return NumberIn(tag).value_or(0) == value;
@@ -42,7 +24,7 @@ void MoveToEmptyTile(Program& p, Image& file, Image& empty, HiddenTile hidden)
 {
     const QString name = file.Tag;
     const QString subscript = empty.Tag;
-    const TagParts parts = PartsOf(name);
+    const GalleryName parts = PartsOf(name);
     Integer16& top = p.Gallery.GalleryTop;
     if (IsSubscript(subscript, top + 1)) {
         top += 1;
@@ -74,8 +56,8 @@ void SwapFiles(Program& p, Image& source, Image& target)
     const QString d = target.Tag;
     RequireFile(p, d);
     RequireFile(p, s);
-    const TagParts ofSource = PartsOf(s);
-    const TagParts ofTarget = PartsOf(d);
+    const GalleryName ofSource = PartsOf(s);
+    const GalleryName ofTarget = PartsOf(d);
     const QString temporary = ofTarget.Stem + ofTarget.Subscript + u"Temp" + ofTarget.Tail;
     const QString newSource = ofSource.Stem + ofTarget.Subscript + ofSource.Tail;
     const QString newTarget = ofTarget.Stem + ofSource.Subscript + ofTarget.Tail;
@@ -90,10 +72,8 @@ void ReloadTile(Program& p, Image& tile)
 {
     tile.Picture = QImage();
     const QString tag = tile.Tag;
-    const std::optional<GalleryKind> kind = KindOf(tag);
-    if (kind)
-        tile.Picture =
-            LoadTilePicture(p, kind == GalleryKind::Picture ? tag : QString(p.Branch.HomeDir + GalleryIcon(*kind)));
+    if (const std::optional<GalleryKind> kind = KindOf(tag))
+        tile.Picture = LoadTilePicture(p, TilePicturePath(tag, *kind, p.Branch.HomeDir));
 }
 } // namespace
 

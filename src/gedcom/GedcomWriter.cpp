@@ -128,10 +128,7 @@ void ShowGedcomForm(Program& p)
 void LoadGedcomForm(Program& p)
 {
     forms::Form12& form = *p.Form12;
-    form.Width = p.Screen.Width;
-    form.Height = p.Screen.Height - 700;
-    form.Left = (p.Screen.Width - p.Form3->Width) / 2;
-    form.Top = (p.Screen.Height - p.Form3->Height) / 2 - 350;
+    FillScreen(p, form, 700);
     form.Caption = u"Create GEDCOM file"_s;
 }
 

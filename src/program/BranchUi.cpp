@@ -30,6 +30,14 @@ void EnableBranchUI(Program& p)
     p.Form1->Command2.Enabled = true;
 }
 
+void FillScreen(Program& p, Form& form, int spared)
+{
+    form.Width = p.Screen.Width;
+    form.Height = p.Screen.Height - spared;
+    form.Left = (p.Screen.Width - p.Form3->Width) / 2;
+    form.Top = (p.Screen.Height - p.Form3->Height) / 2 - spared / 2;
+}
+
 void ClearMapCursor(Program& p)
 {
     if (p.Tools.MapCursorMode != MapCursor::Mapping && p.Tools.MapCursorMode != MapCursor::Repositioning)

@@ -9,6 +9,10 @@ namespace lineforge
 void DisableBranchUI(Program& p);
 void EnableBranchUI(Program& p);
 
+// As wide as the screen and as high, less the spared twips; placed by the record form's size, not its own. So it is
+// meant to be.
+void FillScreen(Program& p, Form& form, int spared);
+
 // Ends a pending mapping or re-positioning of a subject.
 void ClearMapCursor(Program& p);
 

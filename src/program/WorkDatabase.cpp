@@ -9,9 +9,8 @@ namespace lineforge
 
 using namespace Qt::StringLiterals;
 
-void PointAtDatabase(Program& p, const QString& path)
+void PointAtDatabase(Program& p, DataControl& data, const QString& path)
 {
-    DataControl& data = p.Form3->Data1;
     const QString before = data.DatabaseName;
     data.DatabaseName = path;
     data.RecordSource = u"Tree99"_s;
@@ -19,6 +18,11 @@ void PointAtDatabase(Program& p, const QString& path)
     auto nameBack = qScopeGuard([&] { data.DatabaseName = before; });
     data.Refresh(p.Databases, p.Files);
     nameBack.dismiss();
+}
+
+void PointAtDatabase(Program& p, const QString& path)
+{
+    PointAtDatabase(p, p.Form3->Data1, path);
 }
 
 void OpenWorkDatabase(Program& p)

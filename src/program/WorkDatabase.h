@@ -5,7 +5,10 @@
 namespace lineforge
 {
 
-// Points the record form's data control at that database file, first row current. Errors as `DataControl::Refresh`.
+// Points a data control at that database file, first row current. Errors as `DataControl::Refresh`; it stays with what
+// it had then.
+void PointAtDatabase(Program& p, DataControl& data, const QString& path);
+// The same for the record form's.
 void PointAtDatabase(Program& p, const QString& path);
 
 // The same for the branch in `WorkDir`; `sDbaseName` becomes the whole path.

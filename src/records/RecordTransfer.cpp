@@ -10,6 +10,7 @@
 #include "platform/Text.h"
 #include "program/AlternateBranch.h"
 #include "program/BranchPaths.h"
+#include "program/RecordFields.h"
 #include "program/WorkDatabase.h"
 
 #include <array>
@@ -21,19 +22,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-constexpr std::array<QStringView, 23> fields{u"FatherRec",        u"MotherRec",
-                                             u"Surname",          u"Forename",
-                                             u"Nationality",      u"BirthDate",
-                                             u"BirthPlace",       u"Spouse",
-                                             u"Children",         u"Education",
-                                             u"Profession",       u"Deceased",
-                                             u"BirthCertificate", u"MarriageCertificate",
-                                             u"DeathCertificate", u"Notes",
-                                             u"Medical",          u"Gender",
-                                             u"Maiden",           u"Partner",
-                                             u"PrevChildren",     u"Wedding",
-                                             u"WedDate"};
-using FieldTexts = std::array<QString, fields.size()>;
+using FieldTexts = std::array<QString, CopyFieldList.size()>;
 
 constexpr qsizetype numberLength = 4;
 
@@ -62,8 +51,8 @@ QString AskDestination(Program& p)
 FieldTexts ReadFields(const Recordset& source)
 {
     FieldTexts texts;
-    for (std::size_t at = 0; at < fields.size(); ++at)
-        texts[at] = source.Text(fields[at]);
+    for (std::size_t at = 0; at < CopyFieldList.size(); ++at)
+        texts[at] = source.Text(CopyFieldList[at]);
     return texts;
 }
 
@@ -140,8 +129,8 @@ void WriteFields(Program& p, const FieldTexts& texts)
 {
     Recordset& records = Records(p);
     records.Edit();
-    for (std::size_t at = 0; at < fields.size(); ++at)
-        records.Put(fields[at], texts[at]);
+    for (std::size_t at = 0; at < CopyFieldList.size(); ++at)
+        records.Put(CopyFieldList[at], texts[at]);
     records.Update();
 }
 
