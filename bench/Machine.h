@@ -25,6 +25,7 @@ public:
     Answer MsgBox(const QString& title, const QString& text, Buttons) override;
     QString InputBox(const QString&, const QString&) override { return {}; }
     std::optional<QString> OpenFile(const FileQuestion&) override { return {}; }
+    std::optional<QString> SaveFile(const FileQuestion&) override { return {}; }
     std::optional<Colour> PickColour(Colour) override { return {}; }
     std::optional<TextFont> PickFont(const TextFont&) override { return {}; }
     void PickPrinter() override {}

@@ -35,6 +35,7 @@ int main(int argc, char* argv[])
          15 * 20.0 + 50.0},
         {"a run that ends when the children can't be counted any more", "ConvertWithoutEnd", "", 3000.0},
         {"the memory that it takes, in MB", "MemoryWithoutEnd", "", 100.0},
+        {"the export of a branch of 2,000 files of 1 MB, by cp -r", "ExportLargeBranch", "CopyLargeBranch", 1.3},
         {"start to a shown main window, by an empty window's", "StartLineforge", "StartEmpty", 1.5},
     });
     benchmark::RunSpecifiedBenchmarks(&reporter);

@@ -63,7 +63,7 @@ QString SubscriptText(int subscript)
 
 QString GalleryDirectory(const QString& workDir)
 {
-    return workDir + PathSeparator + u"LfgGal_" + BranchLetter(workDir) + PathSeparator;
+    return workDir + PathSeparator + GalleryName(BranchLetter(workDir)) + PathSeparator;
 }
 
 QString GalleryKey(const Program& p)
@@ -78,7 +78,7 @@ QStringList GalleryFiles(Program& p, const QString& key)
     return names;
 }
 
-GalleryName PartsOf(const QString& name)
+GalleryFileName PartsOf(const QString& name)
 {
     const qsizetype start = std::min<qsizetype>(name.lastIndexOf(PathSeparator) + 1 + keyLength, name.size());
     const int digits = QStringView(name).mid(start, subscriptLength).endsWith(u'.') ? 1 : subscriptLength;

@@ -33,12 +33,12 @@ QStringList GalleryFiles(Program& p, const QString& key);
 
 // "A001_", "07" and ".jpg" of a name, a path or a tile's tag, with whatever path stands before. The subscript may be of
 // one digit, as a file has it that was moved to an empty tile below 10.
-struct GalleryName {
+struct GalleryFileName {
     QString Stem;
     QString Subscript;
     QString Tail;
 };
-GalleryName PartsOf(const QString& name);
+GalleryFileName PartsOf(const QString& name);
 
 // The number that stands in characters 6 and 7 of such a name; it may be one digit before the point. Error 13 when it
 // is none.

@@ -24,7 +24,7 @@ void MoveToEmptyTile(Program& p, Image& file, Image& empty, HiddenTile hidden)
 {
     const QString name = file.Tag;
     const QString subscript = empty.Tag;
-    const GalleryName parts = PartsOf(name);
+    const GalleryFileName parts = PartsOf(name);
     Integer16& top = p.Gallery.GalleryTop;
     if (IsSubscript(subscript, top + 1)) {
         top += 1;
@@ -56,8 +56,8 @@ void SwapFiles(Program& p, Image& source, Image& target)
     const QString d = target.Tag;
     RequireFile(p, d);
     RequireFile(p, s);
-    const GalleryName ofSource = PartsOf(s);
-    const GalleryName ofTarget = PartsOf(d);
+    const GalleryFileName ofSource = PartsOf(s);
+    const GalleryFileName ofTarget = PartsOf(d);
     const QString temporary = ofTarget.Stem + ofTarget.Subscript + u"Temp" + ofTarget.Tail;
     const QString newSource = ofSource.Stem + ofTarget.Subscript + ofSource.Tail;
     const QString newTarget = ofTarget.Stem + ofSource.Subscript + ofTarget.Tail;

@@ -10,6 +10,8 @@ struct CheckBox;
 struct OptionButton;
 struct Frame;
 struct ListBox;
+struct DriveList;
+struct DirectoryList;
 struct Image;
 struct Shape;
 struct ScrollBar;
@@ -31,6 +33,8 @@ public:
     virtual void Visit(OptionButton& option) = 0;
     virtual void Visit(Frame& frame) = 0;
     virtual void Visit(ListBox& list) = 0;
+    virtual void Visit(DriveList& list) = 0;
+    virtual void Visit(DirectoryList& list) = 0;
     virtual void Visit(Image& image) = 0;
     virtual void Visit(Shape& shape) = 0;
     virtual void Visit(ScrollBar& bar) = 0;

@@ -1,5 +1,7 @@
 #include "platform/Controls.h"
 
+#include <QDir>
+
 #include <algorithm>
 
 namespace lineforge
@@ -69,6 +71,15 @@ QString ListBox::Text() const
 void ListBox::SetText(const QString& text)
 {
     ListIndex = static_cast<int>(Items.value().indexOf(text));
+}
+
+void DirectoryList::GoTo(const QString& directory)
+{
+    const QString path = QDir::cleanPath(directory);
+    if (path == Path.value() || !QDir(path).exists())
+        return;
+    Path = path;
+    Fire(Change);
 }
 
 Shape::Shape(Container& parent, QStringView name, Rectangle place) : ControlKind(parent, name, place)

@@ -216,6 +216,32 @@ struct ListBox : ControlKind<ListBox> {
     void SetText(const QString& text);
 };
 
+// A choice of the places where directories begin, see platform/Drives.h.
+struct DriveList : ControlKind<DriveList> {
+    using ControlKind::ControlKind;
+    QProperty<QStringList> Drives;
+    QProperty<QString> Drive;
+    Event Change;
+
+    // As the user does.
+    void Choose(const QString& drive)
+    {
+        Drive = drive;
+        Fire(Change);
+    }
+};
+
+// A directory with those above it and those in it. A click on one of them selects it, a double click goes there.
+struct DirectoryList : ControlKind<DirectoryList> {
+    using ControlKind::ControlKind;
+    QProperty<QString> Path; // where it stands; no separator at its end but the root's
+    Event Click;
+    Event Change; // it has gone elsewhere
+
+    // Told `Change` only when it stood elsewhere. A directory that isn't there leaves it where it stands.
+    void GoTo(const QString& directory);
+};
+
 // A picture stretched to the control.
 struct Image : ControlKind<Image> {
     using ControlKind::ControlKind;

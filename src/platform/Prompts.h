@@ -19,6 +19,7 @@ enum class Buttons {
     Information = 64, // OK
     InformationOkCancel = 65,
     InformationYesNo = 68,
+    QuestionYesNoDefaultNo = 292,
 };
 
 enum class Answer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
@@ -40,6 +41,9 @@ public:
     virtual QString InputBox(const QString& title, const QString& prompt) = 0;
     // The path of an existing file, nothing for Cancel.
     virtual std::optional<QString> OpenFile(const FileQuestion& question) = 0;
+    // The path of a file to be written, which may exist; nothing for Cancel. A name without an ending gets that of the
+    // filter's first pattern.
+    virtual std::optional<QString> SaveFile(const FileQuestion& question) = 0;
     // The colour chosen, nothing for Cancel. The dialog opens on the present one.
     virtual std::optional<Colour> PickColour(Colour present) = 0;
     // The font chosen, nothing for Cancel. The dialog opens on the present one.

@@ -56,6 +56,26 @@ void ReadSection(TextReader& reader, QStringView section, const std::function<vo
             value += character;
     }
 }
+
+// Where the entry of that name begins in the list; -1 for none.
+qsizetype EntryOf(const QString& aliasList, const QString& name)
+{
+    qsizetype start = 0;
+    for (qsizetype at = 0; at < aliasList.size(); ++at) {
+        if (aliasList[at] == u',')
+            start = at + 1;
+        else if (aliasList[at] == u'=' && SameText(aliasList.sliced(start, at - start), name))
+            return start;
+    }
+    return -1;
+}
+
+void PublishAliasList(Program& p)
+{
+    WriteAliasList(p);
+    ReadAliasList(p);
+    FillBranchList(p);
+}
 } // namespace
 
 void ReadAliasConfig(Program& p)
@@ -89,6 +109,42 @@ void WriteAliasList(Program& p)
     WriteTextLines(p.Files, p.Scratch.sFileA,
                    {u"This File Contains Graphic Data crucial to your program. Warning: DO NOT MODIFY."_s, u"[Alias]"_s,
                     u'[' + p.Alias.sAliasList + u']', u"[CFG]"_s, u"[%1,]"_s.arg(p.Alias.NoSplash)});
+}
+
+bool IsNameListed(const Program& p, const QString& name)
+{
+    return EntryOf(p.Alias.sAliasList, name) >= 0;
+}
+
+bool IsDirectoryListed(const Program& p, const QString& directory)
+{
+    return std::ranges::any_of(p.Alias.sAliasList.split(u','),
+                               [&](const QString& entry) { return SameText(entry.section(u'=', -1), directory); });
+}
+
+QString AskBranchName(Program& p, const QString& title, const QString& prompt)
+{
+    for (;;) {
+        QString name = p.Prompts.InputBox(title, prompt);
+        if (name.isEmpty() || !IsNameListed(p, name))
+            return name;
+        p.Prompts.MsgBox(u"Duplicate Name entered."_s, u"Cannot have Tree Branch databases with same name"_s,
+                         Buttons::Information);
+    }
+}
+
+void AddAlias(Program& p, const QString& name, const QString& directory)
+{
+    ReadAliasList(p);
+    p.Alias.sAliasList += name + u'=' + directory + u',';
+    PublishAliasList(p);
+}
+
+void RemoveAlias(Program& p, const QString& name)
+{
+    if (const qsizetype entry = EntryOf(p.Alias.sAliasList, name); entry >= 0)
+        p.Alias.sAliasList.remove(entry, name.size() + 1 + directoryLength + 1);
+    PublishAliasList(p);
 }
 
 void FillBranchList(Program& p)

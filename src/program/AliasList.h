@@ -18,6 +18,17 @@ void ReadAliasList(Program& p);
 // Writes the file anew from `sAliasList` and `NoSplash`; the old one becomes `AliasList.bak`. Errors of the disk.
 void WriteAliasList(Program& p);
 
+// Whether a branch has that friendly name, or that directory; case ignored.
+bool IsNameListed(const Program& p, const QString& name);
+bool IsDirectoryListed(const Program& p, const QString& directory);
+
+// A friendly name that no branch has; empty for a cancelled question.
+QString AskBranchName(Program& p, const QString& title, const QString& prompt);
+
+// Brings a branch into the registry and the branch list, or takes it out of both. Errors as above.
+void AddAlias(Program& p, const QString& name, const QString& directory);
+void RemoveAlias(Program& p, const QString& name);
+
 // Puts the friendly names into the branch list, in the table's order, and selects the open branch. Does nothing while
 // `sAliasList` is empty.
 void FillBranchList(Program& p);

@@ -28,6 +28,15 @@ QString SiblingDirectory(const QString& workDir, QStringView letter)
     return workDir.chopped(1) + letter;
 }
 
+bool IsBranchDirectory(const QString& workDir, const QString& homeDir)
+{
+    if (!homeDir.endsWith(PathSeparator) || !workDir.startsWith(homeDir))
+        return false;
+    const QStringView name = QStringView(workDir).sliced(homeDir.size());
+    const QStringView family = name.chopped(std::min<qsizetype>(1, name.size()));
+    return (SameText(family, u"LfgDat_") || SameText(family, u"Import_")) && name.back() != PathSeparator;
+}
+
 bool IsImported(const QString& workDir)
 {
     return SameText(DirectoryName(workDir).first(std::min<qsizetype>(6, workDir.size())), u"Import");
@@ -38,9 +47,19 @@ QString ApplicationDirectory(const QString& workDir)
     return workDir.left(std::max<qsizetype>(0, workDir.size() - directoryNameLength - 1));
 }
 
+QString DatabaseName(QStringView letter)
+{
+    return u"LfgDat_" + letter + u".mdb";
+}
+
+QString GalleryName(QStringView letter)
+{
+    return u"LfgGal_" + letter;
+}
+
 QString DatabasePath(const QString& workDir)
 {
-    return workDir + PathSeparator + u"LfgDat_" + BranchLetter(workDir) + u".mdb";
+    return workDir + PathSeparator + DatabaseName(BranchLetter(workDir));
 }
 
 QString SubjectPictureFile(const QString& workDir, const QString& file)

@@ -15,11 +15,19 @@ QString BranchLetter(const QString& workDir);
 // The directory of the same family whose letter is another one.
 QString SiblingDirectory(const QString& workDir, QStringView letter);
 
+// Whether that is the path of a branch directory of either family right beneath that home directory, which ends in a
+// separator.
+bool IsBranchDirectory(const QString& workDir, const QString& homeDir);
+
 // A branch that was imported beside another of its letter.
 bool IsImported(const QString& workDir);
 
 // The directory that the branches stand in, without a trailing separator.
 QString ApplicationDirectory(const QString& workDir);
+
+// "LfgDat_A.mdb", and the gallery's directory "LfgGal_A", of the branch of that letter.
+QString DatabaseName(QStringView letter);
+QString GalleryName(QStringView letter);
 
 // The record database. Its name keeps the ordinary prefix in an imported branch.
 QString DatabasePath(const QString& workDir);

@@ -123,6 +123,11 @@ struct CompareState {
     FixedArray<QString, 0, 99> ZNumberTable;
 };
 
+// The export of a branch, between its two stages.
+struct ExportState {
+    QString sExportSource; // the database that was chosen
+};
+
 struct BookmarkState {
     static constexpr int Last = 100;
     FixedArray<QString, 0, Last> BookmarkList; // numbers of records; the first empty one ends them
@@ -201,6 +206,7 @@ struct Program {
     RecordState Record;
     GalleryState Gallery;
     CompareState Compare;
+    ExportState Export;
     BookmarkState Bookmarks;
     OutputState Output;
     LineageState Lineage;

@@ -2,6 +2,7 @@
 
 #include "map/BoxCaptions.h"
 #include "map/CurrentBox.h"
+#include "map/EnterBranch.h"
 #include "map/MapFile.h"
 #include "map/MapItems.h"
 #include "map/MapParse.h"
@@ -84,10 +85,7 @@ void ShowItsMap(Program& p)
     picture.Cls();
     picture.Font = {};
     EraseMap(p);
-    p.Errors.Ignoring([&] { ReadMapFile(p); });
-    p.Errors.Ignoring([&] { ParseBoxes(p); });
-    p.Errors.Ignoring([&] { ParseLines(p); });
-    p.Errors.Ignoring([&] { ParseTexts(p); });
+    DrawBranchMap(p);
     p.Screen.Pointer = MousePointer::Default;
 }
 

@@ -1,15 +1,16 @@
 #include "shell/NewBranch.h"
 
+#include "map/EnterBranch.h"
 #include "map/MapFile.h"
-#include "map/MapItems.h"
 #include "map/MapParse.h"
 #include "map/SubjectPanel.h"
 #include "map/tools/LeaveTools.h"
 #include "platform/Text.h"
 #include "program/AliasList.h"
+#include "program/BranchPaths.h"
 #include "program/BranchUi.h"
+#include "program/EmptyTable.h"
 #include "program/WorkDatabase.h"
-#include "shell/EmptyTable.h"
 
 namespace lineforge
 {
@@ -26,10 +27,7 @@ void PutOldMapAway(Program& p)
     if (!p.Branch.WorkDir.isEmpty())
         SaveBoxes(p);
     LeaveToolsIfOpen(p);
-    p.Form1->Picture1.Cls();
-    ResetMapFont(p.Form1->Picture1);
-    EraseMap(p);
-    p.Branch.UsingAlternate = 0;
+    PutMapAway(p);
 }
 
 // Marks the letters of all branch directories; false, and a box, when the last letter is among them. The table counts
@@ -61,30 +59,6 @@ QChar FirstFreeLetter(const Program& p)
     return letters[slot - 1];
 }
 
-bool IsNameInUse(const QString& aliasList, const QString& name)
-{
-    qsizetype start = 0;
-    for (qsizetype at = 0; at < aliasList.size(); ++at) {
-        if (aliasList[at] == u',')
-            start = at + 1;
-        else if (aliasList[at] == u'=' && SameText(aliasList.sliced(start, at - start), name))
-            return true;
-    }
-    return false;
-}
-
-// A name that no branch has; empty for a cancelled question.
-QString AskName(Program& p)
-{
-    for (;;) {
-        QString name = p.Prompts.InputBox(u"New Tree Branch name"_s, u"Enter the name for this new Tree Branch Map"_s);
-        if (name.isEmpty() || !IsNameInUse(p.Alias.sAliasList, name))
-            return name;
-        p.Prompts.MsgBox(u"Duplicate Name entered."_s, u"Cannot have Tree Branch databases with same name"_s,
-                         Buttons::Information);
-    }
-}
-
 bool Confirm(Program& p, const QString& name, const QString& directory)
 {
     const QString text = u"New '"_s + name +
@@ -108,7 +82,7 @@ bool MakeDirectories(Program& p, const QString& directory)
                          Buttons::Information);
         return false;
     }
-    p.Files.MkDir(directory + PathSeparator + u"LfgGal_" + directory.back());
+    p.Files.MkDir(directory + PathSeparator + GalleryName(BranchLetter(directory)));
     return true;
 }
 
@@ -122,15 +96,6 @@ void ShowNoSubject(Program& p)
                        QString());
     form.Image1.Picture = QImage();
     p.Form4->Hide();
-}
-
-void AddToAliasList(Program& p, const QString& name, const QString& directory)
-{
-    ReadAliasList(p);
-    p.Alias.sAliasList += name + u'=' + directory + u',';
-    WriteAliasList(p);
-    ReadAliasList(p);
-    FillBranchList(p);
 }
 
 void MakeBranch(Program& p, const QString& name, const QString& directory)
@@ -149,7 +114,7 @@ void MakeBranch(Program& p, const QString& name, const QString& directory)
     PointAtDatabase(p, p.Branch.sDbaseName);
 
     ShowNoSubject(p);
-    AddToAliasList(p, name, directory);
+    AddAlias(p, name, directory);
     ReadMapFile(p);
     ParseBoxes(p);
     ParseLines(p);
@@ -165,7 +130,7 @@ void NewBranch(Program& p)
     if (!MarkTakenLetters(p))
         return;
     const QString directory = ordinaryPrefix + FirstFreeLetter(p);
-    const QString name = AskName(p);
+    const QString name = AskBranchName(p, u"New Tree Branch name"_s, u"Enter the name for this new Tree Branch Map"_s);
     if (name.isEmpty() || !Confirm(p, name, directory))
         return;
     MakeBranch(p, name, directory);

@@ -1,17 +1,12 @@
 #include "shell/OpenBranch.h"
 
 #include "compare/CompareBranch.h"
-#include "map/CurrentBox.h"
+#include "map/EnterBranch.h"
 #include "map/MapFile.h"
-#include "map/MapItems.h"
-#include "map/MapParse.h"
-#include "map/SubjectPanel.h"
 #include "map/tools/LeaveTools.h"
 #include "program/AliasList.h"
 #include "program/BranchPaths.h"
 #include "program/BranchUi.h"
-#include "program/WorkDatabase.h"
-#include "shell/EmptyTable.h"
 
 #include <QScopeGuard>
 
@@ -30,70 +25,6 @@ QString EntryOf(const Program& p, const QString& name)
     while (!p.Alias.AliasTable[index].isEmpty() && !p.Alias.AliasTable[index].startsWith(name))
         ++index;
     return p.Alias.AliasTable[index];
-}
-
-void ClearMap(Program& p)
-{
-    p.Form1->Shape1.Visible = false;
-    p.Form1->Picture1.Cls();
-    ResetMapFont(p.Form1->Picture1);
-    EraseMap(p);
-    p.Branch.UsingAlternate = 0;
-}
-
-// False, and a box, when the branch's database can't be opened.
-bool OpenDatabase(Program& p, const QString& entry)
-{
-    p.Branch.WorkDir = p.Branch.HomeDir + DirectoryName(entry);
-    p.Branch.WorkDirLen = static_cast<int>(p.Branch.WorkDir.size());
-    p.Branch.sDbaseName = u"LfgDat_"_s + BranchLetter(p.Branch.WorkDir) + u".mdb";
-    try {
-        p.Files.ChDir(p.Branch.WorkDir);
-        PointAtDatabase(p, p.Branch.WorkDir + PathSeparator + p.Branch.sDbaseName);
-        return true;
-    } catch (const RuntimeError&) {
-        p.Prompts.MsgBox(u"Read Only or Incorrect Database"_s, u"Cannot open this database"_s, Buttons::Information);
-        return false;
-    }
-}
-
-void DrawMap(Program& p)
-{
-    p.Errors.Ignoring([&] { ReadMapFile(p); });
-    p.Errors.Ignoring([&] { ParseBoxes(p); });
-    p.Errors.Ignoring([&] { ParseLines(p); });
-    p.Errors.Ignoring([&] { ParseTexts(p); });
-    EnableBranchUI(p);
-}
-
-void ShowNoSubject(Program& p)
-{
-    EmptySubjectLabels(p,
-                       {&forms::Form1::Label9, &forms::Form1::Label10, &forms::Form1::Label11, &forms::Form1::Label12,
-                        &forms::Form1::Label14, &forms::Form1::Label17},
-                       u"Ref  "_s);
-    // The picture of the branch before would stand for nobody here.
-    p.Form1->Image1.Picture = QImage();
-}
-
-void ShowFirstSubject(Program& p)
-{
-    forms::Form1& form = *p.Form1;
-    SetPictureName(p);
-    bool hasPicture = false;
-    p.Errors.Ignoring([&] {
-        LoadSubjectPicture(p, form.Image1);
-        hasPicture = true;
-    });
-    p.Errors.Ignoring([&] { MarkCurrentBox(p); });
-    p.Errors.Ignoring([&] { FillSubjectLabels(p); });
-    form.Caption = u"Lineforge "_s + p.Branch.sBranchName + u" Tree Branch.";
-    p.Form3->Caption = u"Lineforge "_s + p.Branch.sBranchName + u" Records.";
-    if (!hasPicture) {
-        form.Image1.Picture = QImage();
-        form.Shape1.Visible = false;
-        TellPictureMissing(p);
-    }
 }
 } // namespace
 
@@ -136,17 +67,11 @@ void OpenSelectedBranch(Program& p)
         return CancelBranchList(p);
     }
 
-    p.Branch.sBranchName = name;
-    ClearMap(p);
-    if (!OpenDatabase(p, entry))
+    if (!EnterBranch(p, name, DirectoryName(entry)))
         return;
-    p.Form6->Label2.Caption = name;
-    DrawMap(p);
+    EnableBranchUI(p);
     p.Screen.Pointer = MousePointer::Default;
-
-    if (TellIfEmpty(p))
-        ShowNoSubject(p);
-    else
+    if (!TellIfEmptyBranch(p))
         ShowFirstSubject(p);
     CancelBranchList(p);
 }

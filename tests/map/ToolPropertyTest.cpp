@@ -41,6 +41,7 @@ public:
         return fonts[random_() % 4];
     }
     std::optional<QString> OpenFile(const FileQuestion&) override { return {}; }
+    std::optional<QString> SaveFile(const FileQuestion&) override { return {}; }
     void PickPrinter() override { ADD_FAILURE() << "no printer is to be chosen"; }
     void ShowHelp(const QString&) override {}
 

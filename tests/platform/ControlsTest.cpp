@@ -5,6 +5,8 @@
 #include "platform/TextPanel.h"
 #include "support/Printing.h"
 
+#include <QDir>
+
 #include <gtest/gtest.h>
 
 namespace lineforge
@@ -123,6 +125,8 @@ public:
     void Visit(OptionButton&) override { Stops.push_back(u"OptionButton"_s); }
     void Visit(Frame&) override { Stops.push_back(u"Frame"_s); }
     void Visit(ListBox&) override { Stops.push_back(u"ListBox"_s); }
+    void Visit(DriveList&) override { Stops.push_back(u"DriveList"_s); }
+    void Visit(DirectoryList&) override { Stops.push_back(u"DirectoryList"_s); }
     void Visit(Image&) override { Stops.push_back(u"Image"_s); }
     void Visit(Shape&) override { Stops.push_back(u"Shape"_s); }
     void Visit(ScrollBar&) override { Stops.push_back(u"ScrollBar"_s); }
@@ -143,6 +147,8 @@ TEST_F(ControlsTest, EveryKindOfControl_HasItsStop)
     OptionButton option(window, u"n", {}, u"");
     Frame frame(window, u"e", {});
     ListBox list(window, u"f", {});
+    DriveList drives(window, u"p", {});
+    DirectoryList directories(window, u"q", {});
     Image image(window, u"g", {});
     Shape shape(window, u"h", {});
     ScrollBar bar(window, u"i", {}, 100, 1, 10);
@@ -156,9 +162,43 @@ TEST_F(ControlsTest, EveryKindOfControl_HasItsStop)
     for (Control* control : window.Controls())
         control->Accept(tour);
 
-    EXPECT_EQ(tour.Stops, QStringList({u"Label"_s, u"TextBox"_s, u"Button"_s, u"CheckBox"_s, u"OptionButton"_s,
-                                       u"Frame"_s, u"ListBox"_s, u"Image"_s, u"Shape"_s, u"ScrollBar"_s, u"Timer"_s,
-                                       u"MultimediaControl"_s, u"TextPanel"_s, u"PictureBox"_s, u"DataControl"_s}));
+    EXPECT_EQ(tour.Stops,
+              QStringList({u"Label"_s, u"TextBox"_s, u"Button"_s, u"CheckBox"_s, u"OptionButton"_s, u"Frame"_s,
+                           u"ListBox"_s, u"DriveList"_s, u"DirectoryList"_s, u"Image"_s, u"Shape"_s, u"ScrollBar"_s,
+                           u"Timer"_s, u"MultimediaControl"_s, u"TextPanel"_s, u"PictureBox"_s, u"DataControl"_s}));
+}
+
+TEST_F(ControlsTest, DirectoryList_TellsOfAChange_OnlyWhenItStoodElsewhere)
+{
+    DirectoryList list(window, u"Dir1", {});
+    int changes = 0;
+    list.Change = [&] { ++changes; };
+
+    list.GoTo(u"/"_s);
+    list.GoTo(u"/"_s);
+    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(list.Path.value(), u"/"_s);
+
+    const QString home = QDir::tempPath();
+    list.GoTo(home + u'/');
+    EXPECT_EQ(changes, 2);
+    EXPECT_EQ(list.Path.value(), home);
+
+    list.GoTo(home + u"/there is no such directory");
+    EXPECT_EQ(changes, 2);
+    EXPECT_EQ(list.Path.value(), home);
+}
+
+TEST_F(ControlsTest, DriveList_TellsOfEveryChoice)
+{
+    DriveList list(window, u"Drive1", {});
+    QStringList chosen;
+    list.Change = [&] { chosen += list.Drive; };
+
+    list.Choose(u"/"_s);
+    list.Choose(u"/"_s);
+
+    EXPECT_EQ(chosen, QStringList({u"/"_s, u"/"_s}));
 }
 
 TEST_F(ControlsTest, TextPanel_KeepsItsLines_ACarriageReturnBeginsAnother)

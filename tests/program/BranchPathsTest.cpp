@@ -72,5 +72,36 @@ TEST(BranchPaths, Sibling_HasTheSamePrefixAndAnotherLetter)
     EXPECT_EQ(SiblingDirectory(u"/home/Import_A"_s, u"B"), u"/home/Import_B"_s);
 }
 
+struct DirectoryRow {
+    QStringView WorkDir;
+    bool IsBranch;
+};
+
+class BranchDirectoryTest : public testing::TestWithParam<DirectoryRow>
+{
+};
+
+TEST_P(BranchDirectoryTest, IsOneOfEitherFamily_RightBeneathTheHome)
+{
+    EXPECT_EQ(IsBranchDirectory(GetParam().WorkDir.toString(), u"/home/me/"_s), GetParam().IsBranch);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Directories, BranchDirectoryTest,
+    testing::Values(DirectoryRow{u"/home/me/LfgDat_A", true}, DirectoryRow{u"/home/me/Import_Z", true},
+                    DirectoryRow{u"/home/me/lfgdat_a", true}, DirectoryRow{u"", false},
+                    DirectoryRow{u"/home/me", false}, DirectoryRow{u"/home/me/", false},
+                    DirectoryRow{u"/home/me/LfgDat_", false}, DirectoryRow{u"/home/me/LfgDat_A/", false},
+                    DirectoryRow{u"/home/me/LfgDat_AB", false}, DirectoryRow{u"/home/me/LfgDat_1", true},
+                    DirectoryRow{u"/home/me/LfgDat_A\n", false}, DirectoryRow{u"/home/me/x/LfgDat_A", false},
+                    DirectoryRow{u"/home/you/LfgDat_A", false}, DirectoryRow{u"/home/me/../LfgDat_A", false},
+                    DirectoryRow{u"/home/me/LfgGal_A", false}));
+
+TEST(BranchDirectoryHomeTest, HomeWithoutItsSeparator_HoldsNone)
+{
+    EXPECT_FALSE(IsBranchDirectory(u"/LfgDat_A"_s, QString()));
+    EXPECT_FALSE(IsBranchDirectory(u"/home/meLfgDat_A"_s, u"/home/me"_s));
+}
+
 } // namespace
 } // namespace lineforge

@@ -12,6 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
+constexpr QStringView toOpen = u"file to open";
+constexpr QStringView toSave = u"file to save";
 QString MessageQuestion(QStringView title, QStringView text, Buttons buttons)
 {
     return u"message, title \"%1\", text \"%2\", buttons %3"_s.arg(title, text,
@@ -23,9 +25,9 @@ QString InputQuestion(QStringView title, QStringView prompt)
     return u"input box, title \"%1\", prompt \"%2\""_s.arg(title, prompt);
 }
 
-QString FileQuestionText(QStringView title, QStringView filter)
+QString FileQuestionText(QStringView wanted, QStringView title, QStringView filter)
 {
-    return u"file to open, title \"%1\", filter \"%2\""_s.arg(title, filter);
+    return u"%1, title \"%2\", filter \"%3\""_s.arg(wanted, title, filter);
 }
 
 QString ColourQuestion(Colour present)
@@ -72,7 +74,13 @@ void ScriptedPrompts::ExpectInput(QStringView title, QStringView prompt, QString
 void ScriptedPrompts::ExpectOpenFile(QStringView title, QStringView filter, std::optional<QString> path,
                                      WhileOpen whileOpen, ScriptPlace place)
 {
-    Add({FileQuestionText(title, filter), Answer::Ok, std::move(path), std::move(whileOpen), place});
+    Add({FileQuestionText(toOpen, title, filter), Answer::Ok, std::move(path), std::move(whileOpen), place});
+}
+
+void ScriptedPrompts::ExpectSaveFile(QStringView title, QStringView filter, std::optional<QString> path,
+                                     WhileOpen whileOpen, ScriptPlace place)
+{
+    Add({FileQuestionText(toSave, title, filter), Answer::Ok, std::move(path), std::move(whileOpen), place});
 }
 
 void ScriptedPrompts::ExpectColour(Colour present, std::optional<Colour> answer, WhileOpen whileOpen, ScriptPlace place)
@@ -134,7 +142,12 @@ QString ScriptedPrompts::InputBox(const QString& title, const QString& prompt)
 
 std::optional<QString> ScriptedPrompts::OpenFile(const FileQuestion& question)
 {
-    return Next(FileQuestionText(question.Title, question.Filter)).Text;
+    return Next(FileQuestionText(toOpen, question.Title, question.Filter)).Text;
+}
+
+std::optional<QString> ScriptedPrompts::SaveFile(const FileQuestion& question)
+{
+    return Next(FileQuestionText(toSave, question.Title, question.Filter)).Text;
 }
 
 std::optional<Colour> ScriptedPrompts::PickColour(Colour present)

@@ -44,6 +44,8 @@ public:
     // No path is Cancel.
     void ExpectOpenFile(QStringView title, QStringView filter, std::optional<QString> path = {},
                         WhileOpen whileOpen = {}, ScriptPlace place = ScriptPlace::Here());
+    void ExpectSaveFile(QStringView title, QStringView filter, std::optional<QString> path = {},
+                        WhileOpen whileOpen = {}, ScriptPlace place = ScriptPlace::Here());
     // No answer is Cancel.
     void ExpectColour(Colour present, std::optional<Colour> answer = {}, WhileOpen whileOpen = {},
                       ScriptPlace place = ScriptPlace::Here());
@@ -59,6 +61,7 @@ public:
     Answer MsgBox(const QString& title, const QString& text, Buttons buttons) override;
     QString InputBox(const QString& title, const QString& prompt) override;
     std::optional<QString> OpenFile(const FileQuestion& question) override;
+    std::optional<QString> SaveFile(const FileQuestion& question) override;
     std::optional<Colour> PickColour(Colour present) override;
     std::optional<TextFont> PickFont(const TextFont& present) override;
     void PickPrinter() override;

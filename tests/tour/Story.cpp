@@ -26,7 +26,7 @@ void Keep(const QImage& picture, const QDir& pictures, const QString& name)
 // Those of an earlier tour could be taken for this one's.
 void RemovePictures(const QDir& pictures)
 {
-    for (const QString& name : pictures.entryList({u"[0-9][0-9]-*.png"_s, u"page-*.png"_s}, QDir::Files))
+    for (const QString& name : pictures.entryList({u"[0-9]*-*.png"_s, u"page-*.png"_s}, QDir::Files))
         Expect(QFile::remove(pictures.filePath(name)), u"to remove "_s + name);
 }
 
@@ -55,11 +55,11 @@ Steps WholeStory()
 {
     Steps story;
     for (const auto& stop :
-         {SplashStop,        EmptyWindowStop, OpenStop,    GalleryStop,     ScrollStop,          CoordinatesStop,
-          SubjectsStop,      RecordsStop,     ScannerStop, SearchStop,      AddRecordStop,       OutputStop,
-          GedcomStop,        CompareStop,     LineageStop, NewBranchStop,   DrawTreeStop,        MapSubjectsStop,
-          DuplicateNameStop, OpenOtherStop,   HelpStop,    CloseBranchStop, ChangeDirectoryStop, ExitStop,
-          WithoutSplashStop})
+         {SplashStop,        EmptyWindowStop,  OpenStop,    GalleryStop,     ScrollStop,      CoordinatesStop,
+          SubjectsStop,      RecordsStop,      ScannerStop, SearchStop,      AddRecordStop,   OutputStop,
+          GedcomStop,        CompareStop,      LineageStop, NewBranchStop,   DrawTreeStop,    MapSubjectsStop,
+          DuplicateNameStop, OpenOtherStop,    HelpStop,    CloseBranchStop, InterchangeStop, ChangeDirectoryStop,
+          ExitStop,          WithoutSplashStop})
         for (Step& step : stop())
             story.push_back(std::move(step));
     return story;

@@ -8,6 +8,7 @@
 #include "forms/Form1.h"
 #include "forms/Form12.h"
 #include "forms/Form3.h"
+#include "forms/Form4.h"
 #include "forms/Form5.h"
 #include "forms/Form6.h"
 #include "forms/Form7.h"
@@ -37,6 +38,7 @@ public:
 
     const forms::Form1 MainForm;
     const forms::Form3 RecordForm;
+    const forms::Form4 ExportForm;
     const forms::Form5 GalleryForm;
     const forms::Form6 CompareForm;
     const forms::Form12 GedcomForm;

@@ -33,4 +33,11 @@ QStringList ToFileFilters(const QString& filter)
     return filters;
 }
 
+QString FirstEnding(const QString& filter)
+{
+    const QString pattern = filter.section(u'|', 1, 1).section(u';', 0, 0).trimmed();
+    const QString ending = pattern.section(u'.', -1);
+    return pattern.startsWith(u"*.") && !ending.contains(u'*') ? ending : QString();
+}
+
 } // namespace lineforge

@@ -31,8 +31,9 @@ constexpr auto no = QMessageBox::No;
 
 struct ButtonSet {
     QMessageBox::Icon Icon;
-    QMessageBox::StandardButton First; // the one that Enter presses
-    QMessageBox::StandardButton Last;  // the one that Escape presses
+    QMessageBox::StandardButton First;
+    QMessageBox::StandardButton Last;            // the one that Escape presses
+    QMessageBox::StandardButton Default = First; // the one that Enter presses
 };
 
 ButtonSet SetOf(Buttons buttons)
@@ -54,6 +55,8 @@ ButtonSet SetOf(Buttons buttons)
         return {QMessageBox::Information, ok, cancel};
     case Buttons::InformationYesNo:
         return {QMessageBox::Information, yes, no};
+    case Buttons::QuestionYesNoDefaultNo:
+        return {QMessageBox::Question, yes, no, no};
     }
     return {QMessageBox::NoIcon, ok, ok};
 }
@@ -114,7 +117,7 @@ Answer QtPrompts::MsgBox(const QString& title, const QString& text, Buttons butt
     QMessageBox box(set.Icon, title, {}, set.First | set.Last, QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
     box.setText(text);
-    box.setDefaultButton(set.First);
+    box.setDefaultButton(set.Default);
     box.setEscapeButton(set.Last);
     const ArrowMeanwhile arrow;
     const int button = box.exec();
@@ -140,8 +143,24 @@ std::optional<QString> QtPrompts::OpenFile(const FileQuestion& question)
 {
     loop_.ThrowIfEnded();
     QFileDialog box(QApplication::activeWindow(), question.Title, currentDirectory_());
-    box.setOption(QFileDialog::DontUseNativeDialog);
     box.setFileMode(QFileDialog::ExistingFile);
+    return AskFile(box, question);
+}
+
+std::optional<QString> QtPrompts::SaveFile(const FileQuestion& question)
+{
+    loop_.ThrowIfEnded();
+    QFileDialog box(QApplication::activeWindow(), question.Title, currentDirectory_());
+    box.setAcceptMode(QFileDialog::AcceptSave);
+    // Who asks knows what will be written under that name.
+    box.setOption(QFileDialog::DontConfirmOverwrite);
+    box.setDefaultSuffix(FirstEnding(question.Filter));
+    return AskFile(box, question);
+}
+
+std::optional<QString> QtPrompts::AskFile(QFileDialog& box, const FileQuestion& question) const
+{
+    box.setOption(QFileDialog::DontUseNativeDialog);
     if (const QStringList filters = ToFileFilters(question.Filter); !filters.isEmpty())
         box.setNameFilters(filters);
     const ArrowMeanwhile arrow;

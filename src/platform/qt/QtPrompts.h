@@ -5,6 +5,8 @@
 #include <functional>
 #include <memory>
 
+class QFileDialog;
+
 namespace lineforge
 {
 
@@ -23,12 +25,15 @@ public:
     Answer MsgBox(const QString& title, const QString& text, Buttons buttons) override;
     QString InputBox(const QString& title, const QString& prompt) override;
     std::optional<QString> OpenFile(const FileQuestion& question) override;
+    std::optional<QString> SaveFile(const FileQuestion& question) override;
     std::optional<Colour> PickColour(Colour present) override;
     std::optional<TextFont> PickFont(const TextFont& present) override;
     void PickPrinter() override;
     void ShowHelp(const QString& helpFile) override;
 
 private:
+    std::optional<QString> AskFile(QFileDialog& box, const FileQuestion& question) const;
+
     const QtEventLoop& loop_;
     QtPrintSystem& printers_;
     std::function<QString()> currentDirectory_;

@@ -6,6 +6,7 @@
 #include "platform/TextPanel.h"
 #include "platform/qt/AccessibleName.h"
 #include "platform/qt/ClickableWidgets.h"
+#include "platform/qt/DirectoryView.h"
 #include "platform/qt/DraggableImage.h"
 #include "platform/qt/LabelView.h"
 #include "platform/qt/PictureView.h"
@@ -17,6 +18,7 @@
 #include "platform/qt/TextView.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -364,6 +366,34 @@ void WidgetBuilder::Visit(ListBox& list)
         gate->Run([view, &list] { list.ListIndex = SelectedRow(*view); });
     });
     QObject::connect(view, &QListWidget::itemDoubleClicked, view, [gate = gate_, &list] { gate->Run(list.DblClick); });
+    NameForReaders(view, list);
+    Dress(view, list);
+}
+
+void WidgetBuilder::Visit(DriveList& list)
+{
+    auto* view = new QComboBox(parent_);
+    bindings_.Follow(list.Drives, [view, &list] {
+        view->clear();
+        view->addItems(list.Drives);
+        view->setCurrentText(list.Drive);
+    });
+    bindings_.Follow(list.Drive, [view, &list] { view->setCurrentText(list.Drive); });
+    QObject::connect(view, &QComboBox::textActivated, view, [gate = gate_, &list](const QString& drive) {
+        gate->Run([&list, drive] { list.Choose(drive); });
+    });
+    NameForReaders(view, list);
+    Dress(view, list);
+}
+
+void WidgetBuilder::Visit(DirectoryList& list)
+{
+    auto* view = new DirectoryView(parent_);
+    bindings_.Follow(list.Path, [view, &list] { view->ShowDirectory(list.Path); });
+    view->Clicked = [gate = gate_, &list] { gate->Run(list.Click); };
+    view->Chosen = [gate = gate_, &list](const QString& directory) {
+        gate->Run([&list, directory] { list.GoTo(directory); });
+    };
     NameForReaders(view, list);
     Dress(view, list);
 }

@@ -31,6 +31,8 @@ private:
     void Visit(OptionButton& option) override;
     void Visit(Frame& frame) override;
     void Visit(ListBox& list) override;
+    void Visit(DriveList& list) override;
+    void Visit(DirectoryList& list) override;
     void Visit(Image& image) override;
     void Visit(Shape& shape) override;
     void Visit(ScrollBar& bar) override;

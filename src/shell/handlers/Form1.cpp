@@ -1,6 +1,8 @@
 #include "compare/CompareBranch.h"
 #include "gedcom/GedcomConversion.h"
 #include "gedcom/GedcomWriter.h"
+#include "interchange/BranchExport.h"
+#include "interchange/BranchImport.h"
 #include "map/LineageMarks.h"
 #include "map/MapClipboard.h"
 #include "map/MapInteraction.h"
@@ -14,7 +16,9 @@
 #include "program/BranchUi.h"
 #include "records/GalleryDoors.h"
 #include "records/RecordForm.h"
+#include "shell/BackUpBranch.h"
 #include "shell/CloseBranch.h"
+#include "shell/DeleteBranch.h"
 #include "shell/Exit.h"
 #include "shell/Help.h"
 #include "shell/NewBranch.h"
@@ -70,7 +74,10 @@ void InstallForm1(Program& p, forms::Form1& form)
     form.New.Click = [&p] { NewBranch(p); };
     form.Open.Click = [&p] { ChooseBranch(p); };
     InstallOutput(p, form);
+    form.mnuBackup.Click = [&p] { BackUpBranch(p); };
+    form.mnuExpSub.Click = [&p] { ChooseExport(p); };
     form.mnuExpGedcom.Click = [&p] { ShowGedcomForm(p); };
+    form.mnuImpSub.Click = [&p] { ImportBranch(p); };
     form.mnuImpGedcom.Click = [&p] { ConvertGedcom(p); };
     form.mnuCloseDB.Click = [&p] { CloseBranch(p); };
     form.mnuExit.Click = [&p] { ExitProgram(p); };
@@ -81,6 +88,7 @@ void InstallForm1(Program& p, forms::Form1& form)
     form.mnuDataBase.Click = [&p] { TellIfNoBranch(p); };
     form.mnuViewRecs.Click = [&p] { ShowRecordForm(p); };
     form.mnuComp.Click = [&p] { OpenComparison(p); };
+    form.mnuDelSub.Click = [&p] { DeleteBranch(p); };
     form.mnuTreeGraphics.Click = [&p] { OpenEditingMenu(p); };
     form.mnuTreeTools.Click = [&p] { OpenTools(p); };
     form.mnuMapSubject.Click = [&p] { ShowMappingOptions(p); };

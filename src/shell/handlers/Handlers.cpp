@@ -8,6 +8,7 @@ void InstallHandlers(Program& p)
     p.Form1.Install = [&p](forms::Form1& form) { InstallForm1(p, form); };
     p.Form2.Install = [&p](forms::Form2& form) { InstallForm2(p, form); };
     p.Form3.Install = [&p](forms::Form3& form) { InstallForm3(p, form); };
+    p.Form4.Install = [&p](forms::Form4& form) { InstallForm4(p, form); };
     p.Form5.Install = [&p](forms::Form5& form) { InstallForm5(p, form); };
     p.Form6.Install = [&p](forms::Form6& form) { InstallForm6(p, form); };
     p.Form7.Install = [&p](forms::Form7& form) { InstallForm7(p, form); };

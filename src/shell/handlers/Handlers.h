@@ -9,6 +9,7 @@ namespace lineforge
 void InstallForm1(Program& p, forms::Form1& form);
 void InstallForm2(Program& p, forms::Form2& form);
 void InstallForm3(Program& p, forms::Form3& form);
+void InstallForm4(Program& p, forms::Form4& form);
 void InstallForm5(Program& p, forms::Form5& form);
 void InstallForm6(Program& p, forms::Form6& form);
 void InstallForm7(Program& p, forms::Form7& form);

@@ -30,6 +30,15 @@ INSTANTIATE_TEST_SUITE_P(Filters, FileFiltersTest,
                                          FilterRow{u"Pictures|*.jpg;*.bmp; *.gif|"_s,
                                                    {u"Pictures (*.jpg *.bmp *.gif)"_s}},
                                          FilterRow{u"Only a description|"_s, {}}, FilterRow{{}, {}}));
+
+TEST(FirstEndingTest, IsThatOfTheFirstPattern_WhereItHasAPlainOne)
+{
+    EXPECT_EQ(FirstEnding(u"DataBase *.mdb|*.mdb|All Files|*.*|"_s), u"mdb"_s);
+    EXPECT_EQ(FirstEnding(u"Pictures|*.jpg;*.bmp|"_s), u"jpg"_s);
+    EXPECT_EQ(FirstEnding(u"All Files|*.*|"_s), QString());
+    EXPECT_EQ(FirstEnding(u"Registry|AliasList.cfg|"_s), QString());
+    EXPECT_EQ(FirstEnding(QString()), QString());
+}
 } // namespace
 
 } // namespace lineforge

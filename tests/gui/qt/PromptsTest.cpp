@@ -57,7 +57,7 @@ TEST_P(MessageBoxTest, ShowsTitle_PlainText_IconAndButtonsOfItsSet)
     });
 }
 
-TEST_P(MessageBoxTest, EnterPressesTheFirst)
+TEST_P(MessageBoxTest, EnterPressesTheDefault)
 {
     EXPECT_EQ(AskAndMeet([](QMessageBox& box) { PressKey(box, Qt::Key_Return); }), GetParam().ByEnter);
 }
@@ -89,7 +89,8 @@ INSTANTIATE_TEST_SUITE_P(
         BoxRow{Buttons::QuestionYesNo, QMessageBox::Question, {yes, no}, Answer::Yes, Answer::No},
         BoxRow{Buttons::Information, QMessageBox::Information, {ok}, Answer::Ok, Answer::Ok},
         BoxRow{Buttons::InformationOkCancel, QMessageBox::Information, {ok, cancel}, Answer::Ok, Answer::Cancel},
-        BoxRow{Buttons::InformationYesNo, QMessageBox::Information, {yes, no}, Answer::Yes, Answer::No}),
+        BoxRow{Buttons::InformationYesNo, QMessageBox::Information, {yes, no}, Answer::Yes, Answer::No},
+        BoxRow{Buttons::QuestionYesNoDefaultNo, QMessageBox::Question, {yes, no}, Answer::No, Answer::No}),
     [](const testing::TestParamInfo<BoxRow>& row) { return std::to_string(static_cast<int>(row.param.Set)); });
 
 TEST_F(PromptsTest, ABoxStandsAboveTheActiveWindow)
@@ -256,6 +257,42 @@ TEST_F(OpenFileTest, CancelledGivesNothing)
 {
     const NextDialog dialog([](QDialog& box) { PressKey(box, Qt::Key_Escape); });
     EXPECT_FALSE(Ask.OpenFile({u"Select File"_s, {}}));
+}
+
+struct SaveFileTest : OpenFileTest {
+    std::optional<QString> Save(const QString& typed)
+    {
+        const NextDialog next([&](QDialog& dialog) {
+            auto& box = dynamic_cast<QFileDialog&>(dialog);
+            EXPECT_EQ(box.windowTitle(), u"Select Place"_s);
+            EXPECT_EQ(box.acceptMode(), QFileDialog::AcceptSave);
+            EXPECT_EQ(box.directory().canonicalPath(), QDir(Home.Path()).canonicalPath());
+            EXPECT_EQ(box.nameFilters(), QStringList({u"DataBase (*.mdb)"_s, u"All Files (*)"_s}));
+            box.findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(typed);
+            PressKey(dialog, Qt::Key_Return);
+        });
+        return Ask.SaveFile({u"Select Place"_s, u"DataBase|*.mdb|All Files|*.*|"_s});
+    }
+};
+
+TEST_F(SaveFileTest, NameWithoutAnEnding_GetsTheFilters)
+{
+    EXPECT_EQ(Save(u"backup"_s), Home.Path(u"backup.mdb"));
+    EXPECT_EQ(Save(u"backup.bak"_s), Home.Path(u"backup.bak"));
+}
+
+TEST_F(SaveFileTest, FileThatExists_IsTakenWithoutAQuestion)
+{
+    Home.WriteFile(u"backup.mdb", "older");
+
+    EXPECT_EQ(Save(u"backup.mdb"_s), Home.Path(u"backup.mdb"));
+    EXPECT_EQ(Home.ReadFile(u"backup.mdb"), "older");
+}
+
+TEST_F(SaveFileTest, CancelledGivesNothing)
+{
+    const NextDialog dialog([](QDialog& box) { PressKey(box, Qt::Key_Escape); });
+    EXPECT_FALSE(Ask.SaveFile({u"Select Place"_s, {}}));
 }
 } // namespace
 

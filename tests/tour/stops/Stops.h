@@ -28,6 +28,7 @@ Steps DuplicateNameStop();
 Steps OpenOtherStop();
 Steps HelpStop();
 Steps CloseBranchStop();
+Steps InterchangeStop();
 Steps ChangeDirectoryStop();
 Steps ExitStop();
 Steps WithoutSplashStop();

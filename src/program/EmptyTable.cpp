@@ -1,4 +1,4 @@
-#include "shell/EmptyTable.h"
+#include "program/EmptyTable.h"
 
 #include "program/WorkDatabase.h"
 

@@ -1,0 +1,55 @@
+#include "interchange/BranchDatabase.h"
+
+#include "platform/DirectoryFiles.h"
+#include "platform/Text.h"
+#include "program/Meanwhile.h"
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr qsizetype databaseNameLength = 12; // of "LfgDat_X.mdb"
+}
+
+QString DatabaseFile(const QString& path)
+{
+    return path.right(databaseNameLength);
+}
+
+std::optional<QString> AskDatabase(Program& p, const QString& title)
+{
+    return p.Prompts.OpenFile({title, u"DataBase *.mdb|*.mdb|All Files|*.*|"_s});
+}
+
+bool IsBranchDatabase(Program& p, const QString& path, const QString& notDatabase)
+{
+    const auto refuse = [&p](const QString& title, const QString& text) {
+        p.Prompts.MsgBox(title, text, Buttons::Information);
+        return false;
+    };
+    if (p.Files.Dir(path).isEmpty())
+        return refuse(u"File not present."_s, u"File not found."_s);
+    if (!SameText(path.right(3), u"mdb"))
+        return refuse(u"Database not selected."_s, notDatabase);
+    if (!SameText(DatabaseFile(path).left(7), u"LfgDat_"))
+        return refuse(u"Database not selected."_s, u" Must select an 'LfgDat_[]' File"_s);
+    return true;
+}
+
+void CopyDirectory(Program& p, const QString& from, const QString& to)
+{
+    Meanwhile meanwhile(p);
+    CopyFiles(p.Files.Resolve(from), p.Files.Resolve(to), [&meanwhile] { meanwhile.KeepPainted(); });
+}
+
+bool MakeDirectory(Program& p, const QString& directory)
+{
+    p.Errors.Clear();
+    p.Errors.Ignoring([&] { p.Files.MkDir(directory); });
+    return !p.Errors.Last || p.Errors.Last->Number != ErrorNumber::PathFileAccess;
+}
+
+} // namespace lineforge

@@ -1,0 +1,94 @@
+#include "interchange/BranchImport.h"
+
+#include "interchange/BranchDatabase.h"
+#include "map/EnterBranch.h"
+#include "program/AliasList.h"
+#include "program/BranchPaths.h"
+#include "program/BranchUi.h"
+
+#include <QScopeGuard>
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+// "LfgDat_X", or "Import_X" where the registry has that; what stands on the disk isn't asked.
+QString ChooseDirectory(Program& p, const QString& letter)
+{
+    const QString ordinary = u"LfgDat_"_s + letter;
+    if (!IsDirectoryListed(p, ordinary))
+        return ordinary;
+    const QString imported = u"Import_"_s + letter;
+    p.Prompts.MsgBox(u"Import database name in use"_s,
+                     u"This database is already present in the Home Directory and will be placed in: "_s + imported +
+                         u" Directory",
+                     Buttons::Information);
+    return imported;
+}
+
+bool Confirm(Program& p, const QString& name, const QString& directory)
+{
+    return p.Prompts.MsgBox(u"New Directory and Files"_s,
+                            u"Imported '"_s + name + u"' Database and files will be placed in\ndirectory " +
+                                p.Branch.HomeDir + directory,
+                            Buttons::InformationOkCancel) == Answer::Ok;
+}
+
+// False, and a box, when there is such a directory: there is no third one for a letter.
+bool CopyBranch(Program& p, const QString& source, const QString& directory, const QString& letter)
+{
+    const QString target = p.Branch.HomeDir + directory;
+    if (!MakeDirectory(p, target)) {
+        p.Prompts.MsgBox(u"Error Setting New Directory"_s,
+                         directory + u" directory already exists. Must first delete this Database.",
+                         Buttons::Information);
+        return false;
+    }
+    p.Screen.Pointer = MousePointer::Hourglass;
+    const QString gallery = PathSeparator + GalleryName(letter);
+    p.Errors.Ignoring([&] { p.Files.MkDir(target + gallery); });
+    CopyDirectory(p, source, target);
+    CopyDirectory(p, source + gallery, target + gallery);
+    return true;
+}
+
+void OpenImported(Program& p, const QString& name, const QString& directory)
+{
+    const bool isOpen = EnterBranch(p, name, directory);
+    p.Screen.Pointer = MousePointer::Default;
+    if (!isOpen || TellIfEmptyBranch(p))
+        return;
+    EnableBranchUI(p);
+    ShowFirstSubject(p);
+}
+} // namespace
+
+void ImportBranch(Program& p)
+{
+    p.Form4.Load(); // whose dialog it is
+    const std::optional<QString> database = AskDatabase(p, u"Select Import Database File"_s);
+    if (!database || !IsBranchDatabase(p, *database, u" Must select a database *.mdb file"_s))
+        return;
+    const QString file = DatabaseFile(*database);
+    const QString letter = file.mid(7, 1);
+    const QString source = database->chopped(file.size() + 1);
+    p.Files.ChDir(p.Branch.HomeDir);
+
+    const QString directory = ChooseDirectory(p, letter);
+    const QString name = AskBranchName(p, u"Imported Tree Branch alternate name"_s,
+                                       u"Enter alternate user friendly name for this imported Tree Branch Map."_s);
+    if (name.isEmpty() || !Confirm(p, name, directory))
+        return;
+
+    const auto pointerBack = qScopeGuard([&p] { p.Screen.Pointer = MousePointer::Default; });
+    p.Scratch.sNewDir = directory;
+    if (!CopyBranch(p, source, directory, letter))
+        return;
+    p.Errors.Ignoring([&] { AddAlias(p, name, directory); });
+    OpenImported(p, name, directory);
+}
+
+} // namespace lineforge

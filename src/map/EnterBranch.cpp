@@ -1,0 +1,99 @@
+#include "map/EnterBranch.h"
+
+#include "map/CurrentBox.h"
+#include "map/MapFile.h"
+#include "map/MapItems.h"
+#include "map/MapParse.h"
+#include "map/SubjectPanel.h"
+#include "program/AlternateBranch.h"
+#include "program/BranchPaths.h"
+#include "program/BranchUi.h"
+#include "program/EmptyTable.h"
+#include "program/WorkDatabase.h"
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+bool OpenDatabase(Program& p, const QString& directory)
+{
+    p.Branch.WorkDir = p.Branch.HomeDir + directory;
+    p.Branch.WorkDirLen = static_cast<int>(p.Branch.WorkDir.size());
+    p.Branch.sDbaseName = DatabaseName(BranchLetter(p.Branch.WorkDir));
+    try {
+        p.Files.ChDir(p.Branch.WorkDir);
+        PointAtDatabase(p, p.Branch.WorkDir + PathSeparator + p.Branch.sDbaseName);
+        return true;
+    } catch (const RuntimeError&) {
+        p.Prompts.MsgBox(u"Read Only or Incorrect Database"_s, u"Cannot open this database"_s, Buttons::Information);
+        return false;
+    }
+}
+} // namespace
+
+void PutMapAway(Program& p)
+{
+    p.Form1->Picture1.Cls();
+    ResetMapFont(p.Form1->Picture1);
+    EraseMap(p);
+    if (p.Branch.UsingAlternate == 1)
+        EndAlternate(p);
+}
+
+void DrawBranchMap(Program& p)
+{
+    p.Errors.Ignoring([&] { ReadMapFile(p); });
+    p.Errors.Ignoring([&] { ParseBoxes(p); });
+    p.Errors.Ignoring([&] { ParseLines(p); });
+    p.Errors.Ignoring([&] { ParseTexts(p); });
+}
+
+bool EnterBranch(Program& p, const QString& name, const QString& directory)
+{
+    p.Branch.sBranchName = name;
+    p.Form1->Shape1.Visible = false;
+    PutMapAway(p);
+    if (!OpenDatabase(p, directory))
+        return false;
+    p.Form6->Label2.Caption = name;
+    DrawBranchMap(p);
+    return true;
+}
+
+bool TellIfEmptyBranch(Program& p)
+{
+    if (!TellIfEmpty(p))
+        return false;
+    EmptySubjectLabels(p,
+                       {&forms::Form1::Label9, &forms::Form1::Label10, &forms::Form1::Label11, &forms::Form1::Label12,
+                        &forms::Form1::Label14, &forms::Form1::Label17},
+                       u"Ref  "_s);
+    // The picture of the branch before would stand for nobody here.
+    p.Form1->Image1.Picture = QImage();
+    return true;
+}
+
+void ShowFirstSubject(Program& p)
+{
+    forms::Form1& form = *p.Form1;
+    p.Errors.Ignoring([&] { SetPictureName(p); });
+    bool hasPicture = false;
+    p.Errors.Ignoring([&] {
+        LoadSubjectPicture(p, form.Image1);
+        hasPicture = true;
+    });
+    p.Errors.Ignoring([&] { MarkCurrentBox(p); });
+    p.Errors.Ignoring([&] { FillSubjectLabels(p); });
+    form.Caption = u"Lineforge "_s + p.Branch.sBranchName + u" Tree Branch.";
+    p.Form3->Caption = u"Lineforge "_s + p.Branch.sBranchName + u" Records.";
+    if (!hasPicture) {
+        form.Image1.Picture = QImage();
+        form.Shape1.Visible = false;
+        TellPictureMissing(p);
+    }
+}
+
+} // namespace lineforge

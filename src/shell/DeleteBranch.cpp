@@ -1,0 +1,97 @@
+#include "shell/DeleteBranch.h"
+
+#include "map/SubjectPanel.h"
+#include "map/tools/LeaveTools.h"
+#include "platform/DirectoryFiles.h"
+#include "program/AliasList.h"
+#include "program/AlternateBranch.h"
+#include "program/BranchPaths.h"
+#include "program/BranchUi.h"
+#include "program/WorkDatabase.h"
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+// The branch whose map is shown stands in a directory of its own beneath the home directory.
+bool HasBranch(const Program& p)
+{
+    return p.Branch.UsingAlternate == 1 ? IsBranchDirectory(p.Branch.WorkDirSaved, p.Branch.HomeDirSaved)
+                                        : IsBranchDirectory(p.Branch.WorkDir, p.Branch.HomeDir);
+}
+
+bool Ask(Program& p)
+{
+    const QString& name = p.Branch.sBranchName;
+    return p.Prompts.MsgBox(u"Delete '"_s + name + u"' DataBase and Galleries",
+                            u"Do you really want to delete the Database\nand Gallery files in '"_s + name +
+                                u"' Tree Branch ?",
+                            Buttons::QuestionYesNo) == Answer::Yes;
+}
+
+bool AskAgain(Program& p)
+{
+    const QString& name = p.Branch.sBranchName;
+    return p.Prompts.MsgBox(u"Deletion of '"_s + name + u"' Database, Gallery and Files",
+                            u"All files in "_s + p.Branch.WorkDir + u"\n'" + name +
+                                u"' Ancestral Tree Branch will be deleted.\n"
+                                u"This includes the Database, Gallery and its Directories\n"
+                                u"Are you sure this is what you want ? ",
+                            Buttons::ErrorYesNo) == Answer::Yes;
+}
+
+void ReturnToOwnBranch(Program& p)
+{
+    if (p.Branch.UsingAlternate != 1)
+        return;
+    ReturnFromSibling(p);
+    Records(p).MoveFirst();
+}
+
+void RemoveDirectory(Program& p, const QString& directory)
+{
+    RemoveWithFiles(p.Files.Resolve(directory), p.Files.Resolve(p.Branch.HomeDir));
+}
+
+void ShowNoBranch(Program& p)
+{
+    forms::Form1& form = *p.Form1;
+    EmptySubjectLabels(p,
+                       {&forms::Form1::Label9, &forms::Form1::Label10, &forms::Form1::Label11, &forms::Form1::Label12,
+                        &forms::Form1::Label14, &forms::Form1::Label15, &forms::Form1::Label17},
+                       QString());
+    form.Image1.Picture = QImage();
+    form.Shape1.Visible = false;
+    form.Caption = u"Lineforge. "_s;
+}
+} // namespace
+
+void DeleteBranch(Program& p)
+{
+    if (!HasBranch(p))
+        return TellNoBranch(p);
+    LeaveToolsIfOpen(p);
+    if (!Ask(p))
+        return;
+    ReturnToOwnBranch(p);
+    if (!AskAgain(p))
+        return;
+
+    const QString directory = p.Branch.WorkDir;
+    RemoveDirectory(p, directory + PathSeparator + GalleryName(BranchLetter(directory)));
+    p.Errors.Ignoring([&] { RemoveAlias(p, p.Branch.sBranchName); });
+    p.Form3->Caption = u"Lineforge. "_s;
+    // Before the labels are emptied, which hang on its records.
+    p.Errors.Ignoring([&] { p.Form3.Unload(); });
+    ShowNoBranch(p);
+    p.Errors.Ignoring([&] { p.Files.ChDir(p.Branch.HomeDir); });
+    RemoveDirectory(p, directory);
+    p.Branch.WorkDir.clear();
+    p.Branch.WorkDirLen = 0;
+    p.Form1->Picture1.Cls();
+}
+
+} // namespace lineforge

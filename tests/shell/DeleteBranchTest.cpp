@@ -1,0 +1,365 @@
+#include "ShellTest.h"
+#include "program/AlternateBranch.h"
+#include "program/WorkDatabase.h"
+#include "support/Pixels.h"
+
+#include <QDir>
+
+namespace lineforge
+{
+namespace
+{
+
+class DeleteBranchTest : public ShellTest
+{
+protected:
+    DeleteBranchTest()
+    {
+        GivenSmithsAndJones();
+        Home.WriteFile(u"LfgDat_A/LfgGal_A/A001_01.jpg", "picture");
+        Choose(u"Smiths");
+    }
+
+    void ExpectFirst(Answer answer)
+    {
+        Prompts.Expect(u"Delete 'Smiths' DataBase and Galleries",
+                       u"Do you really want to delete the Database\nand Gallery files in 'Smiths' Tree Branch ?",
+                       Buttons::QuestionYesNo, answer);
+    }
+    void ExpectSecond(Answer answer)
+    {
+        const QString text = u"All files in "_s + Home.Path(u"LfgDat_A") +
+                             u"\n'Smiths' Ancestral Tree Branch will be deleted.\n"
+                             u"This includes the Database, Gallery and its Directories\n"
+                             u"Are you sure this is what you want ? ";
+        Prompts.Expect(u"Deletion of 'Smiths' Database, Gallery and Files", text, Buttons::ErrorYesNo, answer);
+    }
+    void Delete() { Click(P.Form1->mnuDelSub.Click); }
+    void DeleteForGood()
+    {
+        ExpectFirst(Answer::Yes);
+        ExpectSecond(Answer::Yes);
+        Delete();
+    }
+    void ExpectRefused()
+    {
+        const Tree before = Home.Snapshot();
+        Prompts.Expect(u"Data not available", u"Cannot View until database file is Opened", Buttons::Information);
+        Delete();
+        EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
+    }
+    void Link(const QString& target, QStringView name) { ASSERT_TRUE(QFile::link(target, Home.Path(name))); }
+};
+
+TEST_F(DeleteBranchTest, BothConfirmed_TheBranchGoes_AndNothingElse)
+{
+    Home.WriteFile(u"LfgDat_A/LfgDat_A.~cf", "map before");
+    Home.WriteFile(u"LfgDat_A/.hidden", "hidden");
+    const Tree before = Home.Snapshot();
+
+    DeleteForGood();
+
+    EXPECT_FALSE(Home.Exists(u"LfgDat_A"));
+    for (const QString& change : Differences(before, Home.Snapshot()))
+        EXPECT_TRUE(change.startsWith(u"gone: LfgDat_A"_s) || change.contains(u"AliasList"_s))
+            << qUtf8Printable(change);
+    EXPECT_TRUE(Registry().contains("[Jones=LfgDat_B,]"));
+    EXPECT_EQ(P.Form8->List1.Items.value(), QStringList{u"Jones"_s});
+}
+
+TEST_F(DeleteBranchTest, NoAtEither_LeavesEverything)
+{
+    const Tree before = Home.Snapshot();
+    ExpectFirst(Answer::No);
+    Delete();
+    ExpectFirst(Answer::Yes);
+    ExpectSecond(Answer::No);
+    Delete();
+
+    EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
+    EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_A"));
+    EXPECT_EQ(Records(P).Text(u"File"), u"A001"_s);
+}
+
+TEST_F(DeleteBranchTest, NoAtTheSecond_StillReturnsFromTheOtherBranch)
+{
+    SwitchToSibling(P, u"B");
+    const Tree before = Home.Snapshot();
+    ExpectFirst(Answer::Yes);
+    ExpectSecond(Answer::No);
+
+    Delete();
+
+    EXPECT_EQ(P.Branch.UsingAlternate, 0);
+    EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_A"));
+    EXPECT_EQ(Records(P).Text(u"File"), u"A001"_s);
+    EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
+}
+
+TEST_F(DeleteBranchTest, NoAtTheFirst_LeavesTheOtherBranchOnShow)
+{
+    SwitchToSibling(P, u"B");
+    ExpectFirst(Answer::No);
+
+    Delete();
+
+    EXPECT_EQ(P.Branch.UsingAlternate, 1);
+    EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_B"));
+}
+
+TEST_F(DeleteBranchTest, OnARecordOfAnotherBranch_TheMapsOwnGoes)
+{
+    SwitchToSibling(P, u"B");
+
+    DeleteForGood();
+
+    EXPECT_FALSE(Home.Exists(u"LfgDat_A"));
+    EXPECT_TRUE(Home.Exists(u"LfgDat_B/LfgDat_B.mdb"));
+}
+
+TEST_F(DeleteBranchTest, Windows_ShowNoBranch_TheMapsArraysStay)
+{
+    DeleteForGood();
+
+    for (const Label* label : {&P.Form1->Label9, &P.Form1->Label10, &P.Form1->Label11, &P.Form1->Label12,
+                               &P.Form1->Label14, &P.Form1->Label15, &P.Form1->Label17})
+        EXPECT_EQ(label->Caption.value(), QString()) << qUtf8Printable(label->Name);
+    EXPECT_EQ(P.Form1->Frame1.Caption.value(), QString());
+    EXPECT_TRUE(P.Form1->Image1.Picture.value().isNull());
+    EXPECT_FALSE(P.Form1->Shape1.Visible);
+    EXPECT_EQ(P.Form1->Caption.value(), u"Lineforge. "_s);
+    EXPECT_FALSE(P.Form3.IsLoaded());
+    EXPECT_TRUE(IsBlank(P.Form1->Picture1));
+    EXPECT_EQ(P.Branch.WorkDir, QString());
+    EXPECT_EQ(P.Branch.WorkDirLen, 0);
+    EXPECT_EQ(P.Files.CurDir(), Home.Path());
+    EXPECT_EQ(P.Branch.sDbaseName, u"LfgDat_A.mdb"_s);
+    EXPECT_EQ(P.Map.BoxArr[0][BoxColumn::File].Text(), u"A001"_s);
+}
+
+TEST_F(DeleteBranchTest, SubdirectoryBesideTheGallery_KeepsTheDirectory_WithNothingElseInIt)
+{
+    Home.WriteFile(u"LfgDat_A/letters/1901.txt", "letter");
+
+    DeleteForGood();
+
+    EXPECT_EQ(QDir(Home.Path(u"LfgDat_A")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList{u"letters"_s});
+    EXPECT_EQ(Home.ReadFile(u"LfgDat_A/letters/1901.txt"), "letter");
+    EXPECT_FALSE(Registry().contains("Smiths"));
+}
+
+TEST_F(DeleteBranchTest, SubdirectoryInTheGallery_KeepsBoth)
+{
+    Home.WriteFile(u"LfgDat_A/LfgGal_A/letters/1901.txt", "letter");
+
+    DeleteForGood();
+
+    EXPECT_EQ(Home.ReadFile(u"LfgDat_A/LfgGal_A/letters/1901.txt"), "letter");
+    EXPECT_FALSE(Home.Exists(u"LfgDat_A/LfgGal_A/A001_01.jpg"));
+    EXPECT_FALSE(Home.Exists(u"LfgDat_A/LfgDat_A.mdb"));
+}
+
+TEST_F(DeleteBranchTest, FileThatCantBeRemoved_StaysWithItsDirectory_InSilence)
+{
+    Home.MakeReadOnly(u"LfgDat_A/A002Sub.jpg");
+
+    DeleteForGood();
+
+    EXPECT_TRUE(Home.Exists(u"LfgDat_A/A002Sub.jpg"));
+    EXPECT_FALSE(Home.Exists(u"LfgDat_A/LfgDat_A.mdb"));
+    EXPECT_FALSE(Registry().contains("Smiths"));
+    EXPECT_EQ(ExitCode(), std::nullopt);
+}
+
+TEST_F(DeleteBranchTest, LetterThatIsLeftOnTheDisk_CountsAsTaken)
+{
+    Home.MakeReadOnly(u"LfgDat_A/A002Sub.jpg");
+    DeleteForGood();
+    Prompts.ExpectInput(u"New Tree Branch name", u"Enter the name for this new Tree Branch Map", u"Browns");
+    Prompts.Expect(u"Browns Tree Branch new Directory and Files",
+                   QString(u"New 'Browns' Tree Branch Database and new map file will be \nplaced in new Directory "_s +
+                           Home.Path(u"LfgDat_C") +
+                           u".\nNew 'Browns' Subject and Gallery files will be copied to this \ndirectory when "
+                           u"presented."),
+                   Buttons::InformationOkCancel, Answer::Cancel);
+
+    P.Form1->New.Click();
+}
+
+TEST_F(DeleteBranchTest, LinksOutOfTheBranch_GoThemselves_AndNothingOutside)
+{
+    Home.WriteFile(u"mine/portrait.jpg", "mine");
+    Link(Home.Path(u"mine/portrait.jpg"), u"LfgDat_A/A003Sub.jpg");
+    Link(Home.Path(u"mine"), u"LfgDat_A/more");
+    Link(Home.Path(u"LfgDat_B"), u"LfgDat_A/LfgGal_A/sibling");
+
+    DeleteForGood();
+
+    EXPECT_EQ(Home.ReadFile(u"mine/portrait.jpg"), "mine");
+    EXPECT_TRUE(Home.Exists(u"LfgDat_B/LfgDat_B.mdb"));
+    EXPECT_FALSE(QFileInfo(Home.Path(u"LfgDat_A/A003Sub.jpg")).isSymLink());
+}
+
+TEST_F(DeleteBranchTest, GalleryThatIsALink_KeepsWhatItLeadsTo)
+{
+    ASSERT_TRUE(QDir(Home.Path(u"LfgDat_A/LfgGal_A")).removeRecursively());
+    Home.WriteFile(u"pictures/A001_01.jpg", "mine");
+    Link(Home.Path(u"pictures"), u"LfgDat_A/LfgGal_A");
+
+    DeleteForGood();
+
+    EXPECT_EQ(Home.ReadFile(u"pictures/A001_01.jpg"), "mine");
+}
+
+TEST_F(DeleteBranchTest, BranchDirectoryThatIsALink_KeepsAllItsFiles)
+{
+    ASSERT_TRUE(QDir().rename(Home.Path(u"LfgDat_A"), Home.Path(u"real")));
+    Link(Home.Path(u"real"), u"LfgDat_A");
+    const QByteArray database = Home.ReadFile(u"real/LfgDat_A.mdb");
+
+    DeleteForGood();
+
+    EXPECT_EQ(Home.ReadFile(u"real/LfgDat_A.mdb"), database);
+    EXPECT_EQ(Home.ReadFile(u"real/LfgGal_A/A001_01.jpg"), "picture");
+    EXPECT_FALSE(Registry().contains("Smiths"));
+}
+
+TEST_F(DeleteBranchTest, EmptyGalleryBehindALink_Stays)
+{
+    ASSERT_TRUE(QDir().rename(Home.Path(u"LfgDat_A"), Home.Path(u"real")));
+    ASSERT_TRUE(QFile::remove(Home.Path(u"real/LfgGal_A/A001_01.jpg")));
+    Link(Home.Path(u"real"), u"LfgDat_A");
+
+    DeleteForGood();
+
+    EXPECT_TRUE(Home.Exists(u"real/LfgGal_A"));
+}
+
+TEST_F(DeleteBranchTest, ImportedBranch_GoesWithItsEntry)
+{
+    GivenRegistry({{u"Smiths", u"Import_A"}, {u"Jones", u"LfgDat_B"}});
+    BranchOf(u'A').InDirectory(u"Import_A").Gallery({{u"A001_01.jpg"_s, "picture"}}).Build();
+    Choose(u"Smiths");
+    ExpectFirst(Answer::Yes);
+    Prompts.Expect(u"Deletion of 'Smiths' Database, Gallery and Files",
+                   QString(u"All files in "_s + Home.Path(u"Import_A") +
+                           u"\n'Smiths' Ancestral Tree Branch will be deleted.\n"
+                           u"This includes the Database, Gallery and its Directories\n"
+                           u"Are you sure this is what you want ? "),
+                   Buttons::ErrorYesNo, Answer::Yes);
+
+    Delete();
+
+    EXPECT_FALSE(Home.Exists(u"Import_A"));
+    EXPECT_TRUE(Home.Exists(u"LfgDat_A/LfgDat_A.mdb"));
+    EXPECT_TRUE(Registry().contains("[Jones=LfgDat_B,]"));
+}
+
+TEST_F(DeleteBranchTest, ToolsThatAreOpen_AreLeftFirst_AndABranchOpensAfterwards)
+{
+    P.Form1->mnuTreeTools.Click();
+    ASSERT_EQ(P.Tools.ToolMode, 3);
+    Prompts.Expect(u"Closing Graphics Tools", u"Save the Tree Graphic changes ?", Buttons::InformationYesNo,
+                   Answer::No);
+    DeleteForGood();
+
+    EXPECT_EQ(P.Tools.ToolMode, 0);
+    Choose(u"Jones");
+    EXPECT_EQ(Records(P).Text(u"File"), u"B001"_s);
+}
+
+TEST_F(DeleteBranchTest, WithNoBranchOpen_IsToldAndRemovesNothing)
+{
+    P.Form1->mnuCloseDB.Click();
+
+    ExpectRefused();
+}
+
+TEST_F(DeleteBranchTest, ASecondTime_IsToldAndRemovesNothing)
+{
+    DeleteForGood();
+
+    ExpectRefused();
+}
+
+class DeleteElsewhereTest : public DeleteBranchTest, public testing::WithParamInterface<QStringView>
+{
+};
+
+TEST_P(DeleteElsewhereTest, DirectoryThatIsNoBranchBeneathTheHome_IsRefused)
+{
+    Home.WriteFile(u"documents/letter.txt", "letter");
+    Home.WriteFile(u"other/LfgDat_A/LfgDat_A.mdb", "records");
+    P.Branch.WorkDir = QString(GetParam().toString()).replace(u"HOME"_s, Home.Path());
+
+    ExpectRefused();
+}
+
+INSTANTIATE_TEST_SUITE_P(Directories, DeleteElsewhereTest,
+                         testing::Values(u"", u"/", u"HOME", u"HOME/", u"HOME/documents", u"HOME/other/LfgDat_A",
+                                         u"HOME/LfgDat_A/..", u"HOME/LfgDat_A/LfgGal_A", u"HOME/LfgDat_", u"/LfgDat_A",
+                                         u"HOME/LfgDat_AB"));
+
+TEST_F(DeleteBranchTest, AfterAChangeOfTheHomeDirectory_TheOldOnesBranchStays)
+{
+    Home.WriteFile(u"other/AliasList.cfg", Home.ReadFile(u"AliasList.cfg"));
+    P.Branch.HomeDir = Home.Path(u"other") + PathSeparator;
+
+    ExpectRefused();
+}
+
+TEST_F(DeleteBranchTest, BoxesOfOtherBranches_KeepTheirPeople_AndShowTheNumberAlone)
+{
+    Home.WriteFile(u"LfgDat_B/LfgDat_B.cfg",
+                   MapFileBytes(u"LfgDat_B", u"1200,600,255,B001,John,2000,600,255,A001,John,", u"1507,817,2307,817,0,",
+                                u"300,150,The Jones,Arial,8,0,"));
+    Choose(u"Jones");
+    const QImage withForename = P.Form1->Picture1.Image();
+    ASSERT_TRUE(QDir().rename(Home.Path(u"LfgDat_A"), Home.Path(u"away")));
+    Choose(u"Jones");
+    const QImage numberAlone = P.Form1->Picture1.Image();
+    ASSERT_TRUE(QDir().rename(Home.Path(u"away"), Home.Path(u"LfgDat_A")));
+    Choose(u"Smiths");
+    DeleteForGood();
+
+    Choose(u"Jones");
+
+    EXPECT_EQ(P.Map.BoxArr[1][BoxColumn::File].Text(), u"A001"_s);
+    EXPECT_NE(withForename, numberAlone);
+    EXPECT_EQ(P.Form1->Picture1.Image(), numberAlone);
+    EXPECT_TRUE(MapOf(u'B').contains("A001"));
+}
+
+TEST_F(DeleteBranchTest, NameWithoutAnEntry_DeletesTheBranch_AndLeavesTheList)
+{
+    P.Branch.sBranchName = u"Unlisted"_s;
+    Prompts.Expect(u"Delete 'Unlisted' DataBase and Galleries",
+                   u"Do you really want to delete the Database\nand Gallery files in 'Unlisted' Tree Branch ?",
+                   Buttons::QuestionYesNo, Answer::Yes);
+    Prompts.Expect(u"Deletion of 'Unlisted' Database, Gallery and Files",
+                   QString(u"All files in "_s + Home.Path(u"LfgDat_A") +
+                           u"\n'Unlisted' Ancestral Tree Branch will be deleted.\n"
+                           u"This includes the Database, Gallery and its Directories\n"
+                           u"Are you sure this is what you want ? "),
+                   Buttons::ErrorYesNo, Answer::Yes);
+
+    Delete();
+
+    EXPECT_TRUE(Registry().contains("[Smiths=LfgDat_A,Jones=LfgDat_B,]"));
+    EXPECT_FALSE(Home.Exists(u"LfgDat_A"));
+}
+
+TEST_F(DeleteBranchTest, Exit_AfterIt_WritesTheMapWhereNoBranchReadsIt)
+{
+    DeleteForGood();
+    const Tree before = Home.Snapshot();
+
+    Click(P.Form1->mnuExit.Click);
+
+    EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList{u"new: .cfg"_s});
+    EXPECT_EQ(ExitCode(), 0);
+}
+
+} // namespace
+} // namespace lineforge
