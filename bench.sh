@@ -4,7 +4,7 @@ set -eu
 cd "$(dirname "$0")"
 . packaging/packages.sh
 
-install_missing $build_packages $run_packages $screen_packages libbenchmark-dev
+install_missing $build_packages $run_packages $screen_packages $bench_packages
 build_preset bench lineforge_bench
 screen=""
 [ -n "${DISPLAY:-}" ] || screen="xvfb-run -a"

@@ -36,6 +36,8 @@ int main(int argc, char* argv[])
         {"a run that ends when the children can't be counted any more", "ConvertWithoutEnd", "", 3000.0},
         {"the memory that it takes, in MB", "MemoryWithoutEnd", "", 100.0},
         {"the export of a branch of 2,000 files of 1 MB, by cp -r", "ExportLargeBranch", "CopyLargeBranch", 1.3},
+        {"50,000 records of an older installation, by the export of their library", "ConvertOldDatabase",
+         "ExportOldDatabase", 3.0},
         {"start to a shown main window, by an empty window's", "StartLineforge", "StartEmpty", 1.5},
     });
     benchmark::RunSpecifiedBenchmarks(&reporter);

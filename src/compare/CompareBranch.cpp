@@ -6,6 +6,7 @@
 #include "program/AlternateBranch.h"
 #include "program/BranchPaths.h"
 #include "program/BranchUi.h"
+#include "program/OldDatabase.h"
 #include "program/WorkDatabase.h"
 
 namespace lineforge
@@ -40,8 +41,8 @@ bool PointAtCompareDatabase(Program& p, const QString& path)
     try {
         PointAtDatabase(p, p.Form6->Data1, path);
         return true;
-    } catch (const RuntimeError&) {
-        p.Prompts.MsgBox(u"Read Only or Incorrect Database"_s, u"Cannot open this database"_s, Buttons::Information);
+    } catch (const RuntimeError& refusal) {
+        TellDatabaseRefused(p, refusal);
         return false;
     }
 }

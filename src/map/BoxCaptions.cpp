@@ -5,6 +5,7 @@
 #include "platform/Text.h"
 #include "program/AlternateBranch.h"
 #include "program/BranchPaths.h"
+#include "program/OldDatabase.h"
 #include "program/WorkDatabase.h"
 
 #include <QHash>
@@ -88,8 +89,10 @@ public:
     {
         try {
             std::unique_ptr<Recordset>& records = open_[p_.Branch.sDbaseName];
-            if (!records)
+            if (!records) {
+                ConvertIfOld(p_, p_.Branch.sDbaseName, OldDatabaseUse::Caption);
                 records = std::make_unique<Recordset>(p_.Databases.Open(p_.Files, p_.Branch.sDbaseName), u"Tree99"_s);
+            }
             return records->Seek(u"File", file) ? records.get() : nullptr;
         } catch (const RuntimeError&) {
             // A neighbour that is gone or spoilt costs its forename, not the drawing of this map.

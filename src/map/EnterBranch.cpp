@@ -9,6 +9,7 @@
 #include "program/BranchPaths.h"
 #include "program/BranchUi.h"
 #include "program/EmptyTable.h"
+#include "program/OldDatabase.h"
 #include "program/WorkDatabase.h"
 
 namespace lineforge
@@ -27,8 +28,8 @@ bool OpenDatabase(Program& p, const QString& directory)
         p.Files.ChDir(p.Branch.WorkDir);
         PointAtDatabase(p, p.Branch.WorkDir + PathSeparator + p.Branch.sDbaseName);
         return true;
-    } catch (const RuntimeError&) {
-        p.Prompts.MsgBox(u"Read Only or Incorrect Database"_s, u"Cannot open this database"_s, Buttons::Information);
+    } catch (const RuntimeError& refusal) {
+        TellDatabaseRefused(p, refusal);
         return false;
     }
 }

@@ -1,6 +1,7 @@
 #include "program/WorkDatabase.h"
 
 #include "program/BranchPaths.h"
+#include "program/OldDatabase.h"
 
 #include <QScopeGuard>
 
@@ -11,6 +12,7 @@ using namespace Qt::StringLiterals;
 
 void PointAtDatabase(Program& p, DataControl& data, const QString& path)
 {
+    ConvertIfOld(p, path, OldDatabaseUse::Command);
     const QString before = data.DatabaseName;
     data.DatabaseName = path;
     data.RecordSource = u"Tree99"_s;

@@ -21,6 +21,7 @@ using Graph = QMap<QString, QStringList>;
 const QString main = u"main"_s;
 const QString qtFolder = u"platform/qt"_s;
 const QString editor = u"editor"_s;
+const QString jet = u"jet"_s;
 
 // The tower, from the ground up; folders of one storey know nothing of each other.
 const QList<QStringList> storeys{{u"platform"_s},
@@ -30,7 +31,7 @@ const QList<QStringList> storeys{{u"platform"_s},
                                  {u"output"_s, u"interchange"_s},
                                  {u"records"_s},
                                  {u"shell"_s},
-                                 {qtFolder, editor, main}};
+                                 {qtFolder, editor, jet, main}};
 
 // The folder that a file counts to: the first part of its path, but platform/qt is one of its own.
 QString FolderOf(const QString& file)
@@ -52,11 +53,11 @@ bool IsAllowed(const QString& from, const QString& to)
 {
     if (from == to)
         return true;
-    if (from == qtFolder || from == editor)
+    if (from == qtFolder || from == editor || from == jet)
         return to == u"platform";
     if (to == qtFolder)
         return from == main;
-    if (to == editor)
+    if (to == editor || to == jet)
         return false;
     const auto upper = StoreyOf(from);
     const auto lower = StoreyOf(to);

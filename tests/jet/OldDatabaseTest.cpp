@@ -1,0 +1,322 @@
+#include "jet/OldBranchTest.h"
+#include "program/AlternateBranch.h"
+
+namespace lineforge
+{
+namespace
+{
+
+class OldDatabaseTest : public OldBranchTest
+{
+};
+
+class ReadableDatabaseTest : public OldBranchTest, public testing::WithParamInterface<std::string>
+{
+};
+
+TEST_P(ReadableDatabaseTest, IsConvertedWhenItIsOpened_AndOnlyOnce)
+{
+    const QString path = GivenOldBranch(u'A', QString::fromStdString(GetParam()) + u".mdb");
+
+    PointAtDatabase(P, path);
+
+    ExpectConverted(u'A', GetParam());
+    const Tree converted = Home.Snapshot();
+    PointAtDatabase(P, path);
+    EXPECT_EQ(Differences(converted, Home.Snapshot()), QStringList());
+}
+
+INSTANTIATE_TEST_SUITE_P(Fixtures, ReadableDatabaseTest, testing::ValuesIn(ReadableFixtures()), TestNameOf);
+
+TEST_F(OldDatabaseTest, Open_ShowsTheFirstRecord)
+{
+    GivenOldBranch(u'A', u"jet4/royals12.mdb"_s);
+    StartProgram(P);
+
+    Choose(u"Smiths");
+
+    ExpectConverted(u'A', "jet4/royals12");
+    EXPECT_EQ(P.Form1->Label9.Caption.value(), ExpectedRecords("jet4/royals12")[0][2]);
+    EXPECT_EQ(P.Form1->Caption.value(), u"Lineforge Smiths Tree Branch."_s);
+}
+
+TEST_F(OldDatabaseTest, SiblingOfAForeignBox_IsConverted)
+{
+    GivenOldBranch(u'A', u"jet3/royals12.mdb"_s);
+    GivenOldBranch(u'B', u"jet3/moved.mdb"_s);
+    P.Branch.WorkDir = Home.Path(u"LfgDat_A");
+    OpenWorkDatabase(P);
+
+    SwitchToSibling(P, u"B");
+
+    ExpectConverted(u'B', "jet3/moved");
+    EXPECT_EQ(Records(P).Text(u"File"), ExpectedRecords("jet3/moved")[0][0]);
+}
+
+TEST_F(OldDatabaseTest, CompareBranch_IsConverted)
+{
+    GivenOldBranch(u'A', u"jet4/royals12.mdb"_s);
+    GivenOldBranch(u'B', u"jet4/deleted.mdb"_s);
+
+    PointAtDatabase(P, P.Form6->Data1, Home.Path(u"LfgDat_B/LfgDat_B.mdb"));
+
+    ExpectConverted(u'B', "jet4/deleted");
+    EXPECT_EQ(P.Form6->Data1.Records().Text(u"File"), ExpectedRecords("jet4/deleted")[0][0]);
+}
+
+TEST_F(OldDatabaseTest, ImportedBranch_IsConverted)
+{
+    const QString path = Home.WriteFile(u"Import_A/LfgDat_A.mdb", FixtureBytes(u"jet3/cp1250.mdb"_s));
+
+    PointAtDatabase(P, path);
+
+    EXPECT_EQ(StoredRecords(path), ExpectedRecords("jet3/cp1250"));
+}
+
+TEST_F(OldDatabaseTest, TemplateOfAnOlderInstallation_MakesANewBranchAllTheSame)
+{
+    const QString path = GivenOldBranch(u'A', u"jet3/empty.mdb"_s);
+
+    PointAtDatabase(P, path);
+
+    EXPECT_TRUE(Records(P).IsEmpty());
+    Records(P).AddNew();
+    Records(P).Put(u"File", u"A001"_s);
+    Records(P).Update();
+    EXPECT_EQ(StoredRecords(path).size(), 1U);
+}
+
+TEST_F(OldDatabaseTest, NameInAnotherCase_KeepsItsSpelling)
+{
+    const QString path = Home.WriteFile(u"LfgDat_A/LFGDAT_A.MDB", FixtureBytes(u"jet3/royals12.mdb"_s));
+    P.Branch.WorkDir = Home.Path(u"LfgDat_A");
+
+    OpenWorkDatabase(P);
+
+    EXPECT_EQ(StoredRecords(path), ExpectedRecords("jet3/royals12"));
+    EXPECT_EQ(Home.ReadFile(u"LfgDat_A/LFGDAT_A.jet"), FixtureBytes(u"jet3/royals12.mdb"_s));
+}
+
+TEST_F(OldDatabaseTest, ReadOnlyFile_IsRefusedAsEver)
+{
+    const QString path = GivenOldBranch(u'A', u"jet4/royals12.mdb"_s);
+    Home.MakeReadOnly(u"LfgDat_A/LfgDat_A.mdb");
+    const Tree before = Home.Snapshot();
+
+    EXPECT_EQ(RefusalOf([&] { PointAtDatabase(P, path); }), ErrorNumber::DatabaseReadOnly);
+
+    EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
+    Home.MakeWritable(u"LfgDat_A/LfgDat_A.mdb");
+}
+
+TEST_F(OldDatabaseTest, FileOutsideTheHomeDirectory_IsNotConverted)
+{
+    TemporaryHome elsewhere;
+    const QString path = elsewhere.WriteFile(u"LfgDat_A/LfgDat_A.mdb", FixtureBytes(u"jet4/royals12.mdb"_s));
+    const Tree before = elsewhere.Snapshot();
+
+    EXPECT_EQ(RefusalOf([&] { PointAtDatabase(P, path); }), ErrorNumber::NotADatabase);
+
+    EXPECT_EQ(Differences(before, elsewhere.Snapshot()), QStringList());
+}
+
+TEST_F(OldDatabaseTest, LockFileBeside_IsToldOnceBeforeTheConversion)
+{
+    const QString path = GivenOldBranch(u'A', u"jet4/royals12.mdb"_s);
+    Home.WriteFile(u"LfgDat_A/LFGDAT_A.LDB", "a computer");
+    Prompts.Expect(u"Old Database may be in use",
+                   u"LFGDAT_A.LDB shows that another program may have this database open.\n"
+                   u"What that program writes from now on is not taken over.",
+                   Buttons::Information, Answer::Ok,
+                   [&] { EXPECT_EQ(Home.ReadFile(u"LfgDat_A/LfgDat_A.mdb"), FixtureBytes(u"jet4/royals12.mdb"_s)); });
+
+    PointAtDatabase(P, path);
+    PointAtDatabase(P, path);
+
+    ExpectConverted(u'A', "jet4/royals12");
+}
+
+TEST_F(OldDatabaseTest, FileThatChangesWhileABoxIsOpen_IsNotConverted)
+{
+    const QString path = GivenOldBranch(u'A', u"jet4/royals12.mdb"_s);
+    Home.WriteFile(u"LfgDat_A/LfgDat_A.ldb", "a computer");
+    Prompts.Expect(u"Old Database may be in use",
+                   u"LfgDat_A.ldb shows that another program may have this database open.\n"
+                   u"What that program writes from now on is not taken over.",
+                   Buttons::Information, Answer::Ok,
+                   [&] { Home.WriteFile(u"LfgDat_A/LfgDat_A.mdb", FixtureBytes(u"jet4/rows999.mdb"_s)); });
+
+    EXPECT_EQ(RefusalOf([&] { PointAtDatabase(P, path); }), ErrorNumber::DatabaseBusy);
+
+    EXPECT_EQ(Home.ReadFile(u"LfgDat_A/LfgDat_A.mdb"), FixtureBytes(u"jet4/rows999.mdb"_s));
+    EXPECT_FALSE(Home.Exists(u"LfgDat_A/LfgDat_A.jet"));
+}
+
+// What can't be taken: one box, and everything as it was.
+class RefusedDatabaseTest : public OldBranchTest, public testing::WithParamInterface<std::string>
+{
+};
+
+TEST_P(RefusedDatabaseTest, ChangesNothing)
+{
+    GivenOldBranch(u'A', QString::fromStdString(GetParam()));
+    // Somebody else's lock is no concern of a file that stays as it is.
+    Home.WriteFile(u"LfgDat_A/LfgDat_A.ldb", "a computer");
+    StartProgram(P);
+    const Tree before = Home.Snapshot();
+    ExpectCannotOpenBox();
+
+    Choose(u"Smiths");
+
+    EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, RefusedDatabaseTest,
+                         testing::Values("jet3/broken/truncated_header.mdb", "jet4/broken/truncated_header.mdb",
+                                         "jet3/broken/catalog_zeroed.mdb", "jet4/broken/catalog_zeroed.mdb",
+                                         "jet3/broken/tdef_ff.mdb", "jet4/broken/tdef_ff.mdb", "jet3/no_tree99.mdb",
+                                         "jet4/no_tree99.mdb", "not_jet/zero_length.mdb", "not_jet/not_jet.mdb"),
+                         TestNameOf);
+
+TEST_F(OldDatabaseTest, LaterFormat_IsRefused)
+{
+    QByteArray bytes = FixtureBytes(u"jet4/royals12.mdb"_s);
+    bytes[0x14] = 2;
+    GivenOldBranch(u'A', u"jet4/royals12.mdb"_s);
+    Home.WriteFile(u"LfgDat_A/LfgDat_A.mdb", bytes);
+    StartProgram(P);
+    const Tree before = Home.Snapshot();
+    ExpectCannotOpenBox();
+
+    Choose(u"Smiths");
+
+    EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
+}
+
+struct DamagedDatabase {
+    QStringView Fixture;
+    QStringView Question;
+    std::size_t Rows;
+};
+
+void PrintTo(const DamagedDatabase& database, std::ostream* out)
+{
+    PrintTo(database.Fixture, out);
+}
+
+class DamagedDatabaseTest : public OldBranchTest, public testing::WithParamInterface<DamagedDatabase>
+{
+};
+
+TEST_P(DamagedDatabaseTest, Yes_TakesWhatCanBeRead)
+{
+    const QString path = GivenOldBranch(u'A', GetParam().Fixture.toString());
+    const QByteArray bytes = FixtureBytes(GetParam().Fixture.toString());
+    ExpectLossBox(u'A', GetParam().Question, Answer::Yes);
+
+    PointAtDatabase(P, path);
+
+    EXPECT_EQ(StoredRecords(path).size(), GetParam().Rows);
+    EXPECT_EQ(Home.ReadFile(u"LfgDat_A/LfgDat_A.jet"), bytes);
+}
+
+TEST_P(DamagedDatabaseTest, No_ChangesNothing)
+{
+    GivenOldBranch(u'A', GetParam().Fixture.toString());
+    StartProgram(P);
+    const Tree before = Home.Snapshot();
+    ExpectLossBox(u'A', GetParam().Question, Answer::No);
+    ExpectCannotOpenBox();
+
+    Choose(u"Smiths");
+
+    EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Fixtures, DamagedDatabaseTest,
+    testing::Values(DamagedDatabase{u"jet3/broken/truncated.mdb",
+                                    u"356 of the 999 records can be read, and 0 of their fields can't.", 356},
+                    DamagedDatabase{u"jet4/broken/truncated.mdb",
+                                    u"406 of the 999 records can be read, and 0 of their fields can't.", 406},
+                    DamagedDatabase{u"jet4/broken/row_table_scrambled.mdb",
+                                    u"974 of the 999 records can be read, and 0 of their fields can't.", 974},
+                    DamagedDatabase{u"jet3/broken/memo_loop.mdb",
+                                    u"12 of the 12 records can be read, and 1 of their fields can't.", 12}));
+
+TEST_F(OldDatabaseTest, EndlessDescription_IsNoDamage)
+{
+    const QString path = GivenOldBranch(u'A', u"jet4/broken/property_loop.mdb"_s);
+
+    PointAtDatabase(P, path);
+
+    EXPECT_EQ(StoredRecords(path), ExpectedRecords("jet4/property"));
+}
+
+// Boxes of a map that show people of an old branch.
+class OldCaptionsTest : public OldBranchTest
+{
+protected:
+    void GivenMapWithPeopleOfBranchB()
+    {
+        BranchOf(u'A').Boxes(u"1200,600,255,B001,,2000,600,255,B002,,2800,600,255,A001,John,").Build();
+        StartProgram(P);
+    }
+};
+
+TEST_F(OldCaptionsTest, NeighbourOfAnOlderInstallation_IsConverted)
+{
+    GivenOldBranch(u'B', u"jet3/royals12.mdb"_s);
+    GivenMapWithPeopleOfBranchB();
+
+    Choose(u"Smiths");
+
+    ExpectConverted(u'B', "jet3/royals12");
+    EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_A"));
+}
+
+TEST_F(OldCaptionsTest, SpoiltNeighbour_CostsNoBox)
+{
+    GivenOldBranch(u'B', u"jet4/broken/tdef_ff.mdb"_s);
+    GivenMapWithPeopleOfBranchB();
+    const QByteArray before = Home.ReadFile(u"LfgDat_B/LfgDat_B.mdb");
+
+    Choose(u"Smiths");
+
+    EXPECT_EQ(P.Form1->Label9.Caption.value(), u"John"_s);
+    EXPECT_EQ(Home.ReadFile(u"LfgDat_B/LfgDat_B.mdb"), before);
+}
+
+TEST_F(OldCaptionsTest, NeighbourWithLosses_IsAskedForOnceInARun_AndAgainWhenItIsOpened)
+{
+    GivenOldBranch(u'B', u"jet4/broken/truncated.mdb"_s);
+    GivenMapWithPeopleOfBranchB();
+    const auto expectQuestion = [this] {
+        ExpectLossBox(u'B', u"406 of the 999 records can be read, and 0 of their fields can't.", Answer::No);
+    };
+    expectQuestion();
+    Choose(u"Smiths");
+    Choose(u"Smiths");
+    Prompts.Verify();
+
+    expectQuestion();
+    ExpectCannotOpenBox();
+    Choose(u"Jones");
+
+    EXPECT_EQ(Home.ReadFile(u"LfgDat_B/LfgDat_B.mdb"), FixtureBytes(u"jet4/broken/truncated.mdb"_s));
+}
+
+TEST_F(OldCaptionsTest, NeighbourThatWasRefused_IsTriedAgainWhenItIsAnotherFile)
+{
+    GivenOldBranch(u'B', u"jet4/broken/tdef_ff.mdb"_s);
+    GivenMapWithPeopleOfBranchB();
+    Choose(u"Smiths");
+    Home.WriteFile(u"LfgDat_B/LfgDat_B.mdb", FixtureBytes(u"jet4/deleted.mdb"_s));
+
+    Choose(u"Smiths");
+
+    ExpectConverted(u'B', "jet4/deleted");
+}
+
+} // namespace
+} // namespace lineforge
