@@ -6,12 +6,15 @@
 #include "shell/handlers/Handlers.h"
 
 #include <QApplication>
+#include <QIcon>
 
 int main(int argc, char* argv[])
 {
     using namespace lineforge;
 
     QApplication application(argc, argv);
+    QApplication::setDesktopFileName(QStringLiteral("lineforge"));
+    QApplication::setWindowIcon(QIcon(QApplication::applicationDirPath() + QStringLiteral("/lineforge.png")));
     Program* running = nullptr;
     QtPlatform machine(forms::MainWindowClient, [&running] { return running->Files.CurDir(); });
     Program program(machine.Bundle());

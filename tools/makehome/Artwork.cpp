@@ -4,6 +4,7 @@
 #include "Icons.h"
 #include "Portrait.h"
 #include "Sound.h"
+#include "VectorIcon.h"
 
 #include <QDir>
 
@@ -12,9 +13,17 @@ namespace lineforge::makehome
 
 using namespace Qt::StringLiterals;
 
-void MakeArtwork(const QString& targetDirectory)
+namespace
+{
+
+constexpr int windowIconEdge = 256;
+
+}
+
+void MakeArtwork(const QString& dataDirectory, const QString& targetDirectory)
 {
     MakeDirectory(targetDirectory);
+    const QDir data(dataDirectory);
     const QDir target(targetDirectory);
     WriteJpeg(target.filePath(u"Tree99.jpg"_s), BlankPortrait());
     WriteBytes(target.filePath(u"LfgOpen.wav"_s), ChimeSound());
@@ -23,7 +32,8 @@ void MakeArtwork(const QString& targetDirectory)
     WriteBmp(target.filePath(u"GalVid.bmp"_s), FilmClipIcon());
     WriteBmp(target.filePath(u"GalTxt.bmp"_s), TextFileIcon());
     WriteBmp(target.filePath(u"Save-Dwn.bmp"_s), PressedExitButton());
-    WritePng(target.filePath(u"lineforge.png"_s), ProgramIcon());
+    WritePng(target.filePath(u"lineforge.png"_s), VectorIcon(data.filePath(u"lineforge.svg"_s), windowIconEdge));
+    WritePng(target.filePath(u"Notepad.png"_s), VectorIcon(data.filePath(u"notepad.svg"_s), windowIconEdge));
 }
 
 } // namespace lineforge::makehome

@@ -5,6 +5,7 @@
 namespace lineforge::makehome
 {
 
-void MakeArtwork(const QString& targetDirectory);
+// The fixed pictures and sounds; the icons are drawn from the SVG files of the data directory.
+void MakeArtwork(const QString& dataDirectory, const QString& targetDirectory);
 
-}
+} // namespace lineforge::makehome

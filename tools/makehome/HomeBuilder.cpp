@@ -58,11 +58,11 @@ void BuildBranch(const Branch& branch, const QList<Branch>& branches, const QStr
 void CopyFixedFiles(const QString& schemaPath, const QDir& home)
 {
     const QDir data = QFileInfo(schemaPath).dir();
-    for (const QString& name : {u"LfgEmpt.~cf"_s, u"LfgHelp.hlp"_s, u"lineforge.svg"_s}) {
+    for (const QString& name : {u"LfgEmpt.~cf"_s, u"lineforge.svg"_s}) {
         CopyOver(data.filePath(name), home.filePath(name));
     }
     CreateDatabase(schemaPath, home.filePath(u"LfgEmpt.~Md"_s));
-    MakeArtwork(home.path());
+    MakeArtwork(data.path(), home.path());
 }
 
 void WriteRegistry(const QList<Branch>& branches, const QDir& home)

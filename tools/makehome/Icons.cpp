@@ -8,8 +8,6 @@
 namespace lineforge::makehome
 {
 
-using namespace Qt::StringLiterals;
-
 namespace
 {
 
@@ -23,17 +21,6 @@ QImage GalleryCard(const QColor& tint)
     painter.setBrush(tint);
     painter.drawRoundedRect(QRectF(3, 3, 92, 108), 9, 9);
     return picture;
-}
-
-void DrawBranchBox(QPainter& painter, const QRectF& box, const QColor& colour)
-{
-    painter.setPen(QPen(colour.darker(150), 4));
-    painter.setBrush(colour);
-    painter.drawRoundedRect(box, 10, 10);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(255, 255, 255, 215));
-    painter.drawRoundedRect(QRectF(box.left() + 14, box.top() + 17, box.width() - 44, 8), 4, 4);
-    painter.drawRoundedRect(QRectF(box.left() + 14, box.top() + 35, box.width() - 28, 8), 4, 4);
 }
 
 } // namespace
@@ -108,23 +95,6 @@ QImage PressedExitButton()
     // The file has no transparency: the corners get the colour that windows usually have.
     QImage picture = Canvas(face.size(), QColor(239, 239, 239));
     QPainter(&picture).drawImage(0, 0, face);
-    return picture;
-}
-
-QImage ProgramIcon()
-{
-    QImage picture = Canvas(QSize(256, 256), Qt::transparent);
-    SmoothPainter painter(picture);
-    painter.setPen(QPen(QColor(176, 150, 100), 6));
-    painter.setBrush(QColor(252, 247, 232));
-    painter.drawRoundedRect(QRectF(9, 9, 238, 238), 36, 36);
-
-    painter.setPen(QPen(QColor(86, 66, 36), 9, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawLine(QPointF(128, 98), QPointF(128, 130));
-    painter.drawPolyline(QPolygonF{QPointF(75, 160), QPointF(75, 130), QPointF(181, 130), QPointF(181, 160)});
-    DrawBranchBox(painter, QRectF(80, 38, 96, 60), QColor(72, 122, 186));
-    DrawBranchBox(painter, QRectF(27, 160, 96, 60), QColor(200, 92, 98));
-    DrawBranchBox(painter, QRectF(133, 160, 96, 60), QColor(92, 152, 88));
     return picture;
 }
 

@@ -12,6 +12,5 @@ QImage TextFileIcon();
 
 // What the tools' Exit shows while it works.
 QImage PressedExitButton();
-QImage ProgramIcon();
 
 } // namespace lineforge::makehome

@@ -2,6 +2,7 @@
 #include "Database.h"
 #include "Failure.h"
 #include "HomeBuilder.h"
+#include "VectorIcon.h"
 
 #include <QGuiApplication>
 #include <QStringList>
@@ -17,7 +18,8 @@ namespace makehome = lineforge::makehome;
 int Usage()
 {
     std::fputs("usage: makehome template <schema.sql> <out.mdb>\n"
-               "       makehome artwork <outdir>\n"
+               "       makehome artwork <data-dir> <outdir>\n"
+               "       makehome icons <icon.svg> <theme-dir>\n"
                "       makehome home <examples-dir> <schema.sql> <outdir>\n",
                stderr);
     return 1;
@@ -30,8 +32,12 @@ int Run(const QStringList& arguments)
         makehome::CreateDatabase(arguments[1], arguments[2]);
         return 0;
     }
-    if (command == "artwork"_L1 && arguments.size() == 2) {
-        makehome::MakeArtwork(arguments[1]);
+    if (command == "artwork"_L1 && arguments.size() == 3) {
+        makehome::MakeArtwork(arguments[1], arguments[2]);
+        return 0;
+    }
+    if (command == "icons"_L1 && arguments.size() == 3) {
+        makehome::MakeThemeIcons(arguments[1], arguments[2]);
         return 0;
     }
     if (command == "home"_L1 && arguments.size() == 4) {

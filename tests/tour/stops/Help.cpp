@@ -17,7 +17,7 @@ void ContentsAreShown(Tour& tour)
     Choose(tour, tour.MainForm.mnuHelp, tour.MainForm.mnuConts);
     const ScreenWindow help = tour.AwaitWindow(helpTitle);
     tour.Await(u"the text of the help"_s, [&] {
-        const QRect middle = help.Place.adjusted(10, 10, -help.Place.width() / 2, -10);
+        const QRect middle = help.Place.adjusted(help.Place.width() / 3, 50, -help.Place.width() / 3, -10);
         return InkedRows(tour.PictureOf(middle), 2).size() >= fewestLines;
     });
 }

@@ -1,0 +1,183 @@
+#include "Command.h"
+#include "Files.h"
+
+#include <QFileInfo>
+#include <QImage>
+
+#include <gmock/gmock.h>
+
+namespace lineforge::packaging
+{
+namespace
+{
+
+using namespace Qt::StringLiterals;
+using testing::IsSupersetOf;
+
+const QString deb = QStringLiteral(LINEFORGE_PACKAGES "/deb/");
+const QString tar = QStringLiteral(LINEFORGE_PACKAGES "/tar/");
+const QString metainfo = deb + u"usr/share/metainfo/technology.tarnwick.Lineforge.metainfo.xml";
+const QString desktopEntry = deb + u"usr/share/applications/lineforge.desktop";
+
+QStringList Programs()
+{
+#ifdef LINEFORGE_HAS_JET
+    return {u"Notepad.exe"_s, u"lineforge"_s, u"lineforge-jet"_s};
+#else
+    return {u"Notepad.exe"_s, u"lineforge"_s};
+#endif
+}
+
+QStringList Below(const QString& directory, QStringList files)
+{
+    for (QString& file : files)
+        file.prepend(directory + u'/');
+    return files;
+}
+
+// The program and all that it finds beside itself.
+QStringList HomeFiles()
+{
+    return Programs() + FilesBelow(QStringLiteral(LINEFORGE_BUILD "/home-files")) +
+           Below(u"examples"_s, FilesBelow(QStringLiteral(LINEFORGE_BUILD "/example-home")));
+}
+
+QStringList Sorted(QStringList names)
+{
+    names.sort();
+    return names;
+}
+
+// A package as it lies unpacked, its home, and its programs on their ways from there.
+struct Unpacked {
+    QString Root;
+    QString Home;
+    QStringList Programs;
+};
+
+Unpacked Deb()
+{
+    return {deb, deb + u"usr/lib/lineforge",
+            Below(u"usr/lib/lineforge"_s, Programs()) + QStringList{u"usr/bin/lineforge"_s}};
+}
+
+Unpacked Tar()
+{
+    return {tar, tar, Programs()};
+}
+
+class PackageTest : public testing::TestWithParam<Unpacked (*)()>
+{
+protected:
+    const Unpacked package = GetParam()();
+};
+
+INSTANTIATE_TEST_SUITE_P(Both, PackageTest, testing::Values(Deb, Tar),
+                         [](const auto& kind) { return kind.param == Deb ? "Deb" : "Tar"; });
+
+TEST_P(PackageTest, HomeHoldsWhatTheProgramAsksForByName)
+{
+    EXPECT_THAT(FilesBelow(package.Home),
+                IsSupersetOf({u"AliasList.cfg"_s, u"GalAud.bmp"_s, u"GalTxt.bmp"_s, u"GalVid.bmp"_s, u"LfgEmpt.~Md"_s,
+                              u"LfgEmpt.~cf"_s, u"LfgHelp.hlp"_s, u"LfgOpen.wav"_s, u"Notepad.exe"_s, u"Notepad.png"_s,
+                              u"Save-Dwn.bmp"_s, u"Tree99.jpg"_s, u"click.wav"_s, u"lineforge"_s, u"lineforge.png"_s,
+                              u"examples/AliasList.cfg"_s, u"examples/LfgDat_A/LfgDat_A.cfg"_s,
+                              u"examples/LfgDat_A/LfgDat_A.mdb"_s, u"examples/LfgDat_B/LfgDat_B.mdb"_s}));
+}
+
+TEST_P(PackageTest, Registry_IsThatOfAHomeWithoutBranches)
+{
+    EXPECT_EQ(Contents(package.Home + u"/AliasList.cfg"),
+              Contents(QStringLiteral(LINEFORGE_ROOT "/data/AliasList.cfg")));
+}
+
+TEST_P(PackageTest, EverybodyMayRead_OnlyTheOwnerMayWrite_AndOnlyProgramsRun)
+{
+    constexpr auto file =
+        QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser | QFile::ReadGroup | QFile::ReadOther;
+    constexpr auto runs = QFile::ExeOwner | QFile::ExeUser | QFile::ExeGroup | QFile::ExeOther;
+    constexpr auto user = QFile::ReadUser | QFile::WriteUser | QFile::ExeUser; // whoever asks
+    for (const QString& name : FilesBelow(package.Root))
+        EXPECT_EQ(QFileInfo(package.Root + name).permissions() & ~user,
+                  (package.Programs.contains(name) ? file | runs : file) & ~user)
+            << qUtf8Printable(name);
+    for (const QString& name : DirectoriesBelow(package.Root))
+        EXPECT_EQ(QFileInfo(package.Root + name).permissions() & ~user, (file | runs) & ~user) << qUtf8Printable(name);
+}
+
+TEST_P(PackageTest, NoTextTellsWhereItWasBuilt)
+{
+    for (const QString& name : FilesBelow(package.Root)) {
+        const QByteArray bytes = Contents(package.Root + name);
+        if (bytes.contains('\0'))
+            continue; // no text
+        EXPECT_FALSE(bytes.contains(LINEFORGE_ROOT)) << qUtf8Printable(name);
+        EXPECT_FALSE(bytes.contains(LINEFORGE_BUILD)) << qUtf8Printable(name);
+    }
+}
+
+TEST(TarTest, IsTheHomeAndNothingElse)
+{
+    EXPECT_EQ(FilesBelow(tar), Sorted(HomeFiles()));
+}
+
+TEST(DebTest, HoldsAHomeForTheLauncherAndWhatADesktopAsksFor)
+{
+    QStringList files = Below(u"usr/lib/lineforge"_s, HomeFiles());
+    for (const int edge : {16, 22, 24, 32, 48, 64, 128, 256})
+        files += u"usr/share/icons/hicolor/%1x%1/apps/lineforge.png"_s.arg(edge);
+    files += {u"usr/bin/lineforge"_s,
+              u"usr/share/applications/lineforge.desktop"_s,
+              u"usr/share/doc/lineforge/copyright"_s,
+              u"usr/share/icons/hicolor/scalable/apps/lineforge.svg"_s,
+              u"usr/share/man/man1/lineforge.1.gz"_s,
+              u"usr/share/metainfo/technology.tarnwick.Lineforge.metainfo.xml"_s};
+    EXPECT_EQ(FilesBelow(deb), Sorted(files));
+}
+
+TEST(DebTest, BelongsToRoot)
+{
+    const Outcome listing = RunCommand(u"sh"_s, {u"-c"_s, u"dpkg-deb -c " LINEFORGE_PACKAGES u"/*.deb"_s});
+    ASSERT_EQ(listing.ExitCode, 0) << qUtf8Printable(listing.Output);
+    const QStringList lines = listing.Output.split(u'\n', Qt::SkipEmptyParts);
+    EXPECT_GT(lines.size(), FilesBelow(deb).size());
+    for (const QString& line : lines)
+        EXPECT_EQ(line.section(u' ', 1, 1), u"root/root") << qUtf8Printable(line);
+}
+
+TEST(DebTest, DependsOnItsLibrariesAndOnWhatItLoadsByName)
+{
+    const Outcome field = RunCommand(u"sh"_s, {u"-c"_s, u"dpkg-deb -f " LINEFORGE_PACKAGES u"/*.deb Depends"_s});
+    ASSERT_EQ(field.ExitCode, 0) << qUtf8Printable(field.Output);
+    QStringList packages;
+    for (const QString& dependency : field.Output.trimmed().split(u", "_s))
+        packages += dependency.section(u' ', 0, 0);
+    EXPECT_THAT(packages, IsSupersetOf({u"fonts-liberation"_s, u"gstreamer1.0-plugins-good"_s, u"libqt6multimedia6"_s,
+                                        u"libqt6widgets6"_s, u"libsqlite3-0"_s, u"qt6-qpa-plugins"_s}));
+}
+
+TEST(DebTest, Icons_HaveTheSizesOfTheirDirectories)
+{
+    for (const int edge : {16, 22, 24, 32, 48, 64, 128, 256})
+        EXPECT_EQ(QImage(deb + u"usr/share/icons/hicolor/%1x%1/apps/lineforge.png"_s.arg(edge)).size(),
+                  QSize(edge, edge));
+}
+
+TEST(DebTest, DesktopEntry_IsValid_AndStartsTheLauncherUnderTheIcon)
+{
+    const Outcome verdict = RunCommand(u"desktop-file-validate"_s, {desktopEntry});
+    EXPECT_EQ(verdict.ExitCode, 0) << qUtf8Printable(verdict.Output);
+    EXPECT_THAT(Contents(desktopEntry).split('\n'), IsSupersetOf({"Exec=lineforge", "Icon=lineforge"}));
+}
+
+TEST(DebTest, Metainfo_IsValid_AndTellsOfThisVersionFirst)
+{
+    const Outcome verdict = RunCommand(u"appstreamcli"_s, {u"validate"_s, u"--no-net"_s, metainfo});
+    EXPECT_EQ(verdict.ExitCode, 0) << qUtf8Printable(verdict.Output);
+    const QString text = QString::fromUtf8(Contents(metainfo));
+    const QString first = text.mid(text.indexOf(u"<release ")).section(u'>', 0, 0);
+    EXPECT_THAT(first.toStdString(), testing::HasSubstr("version=\"" LINEFORGE_VERSION "\""));
+}
+
+} // namespace
+} // namespace lineforge::packaging
