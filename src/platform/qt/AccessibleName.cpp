@@ -1,9 +1,15 @@
 #include "platform/qt/AccessibleName.h"
 
-#include <algorithm>
+#include "platform/PictureBox.h"
+#include "platform/TextPanel.h"
+
+#include <QAccessibleWidget>
+#include <QWidget>
 
 namespace lineforge
 {
+
+using namespace Qt::StringLiterals;
 
 namespace
 {
@@ -25,6 +31,28 @@ bool IsAbove(const Label& label, const Control& control)
     const int gap = control.Top - (label.Top + label.Height);
     return gap > -closeAbove && gap < closeAbove && label.Top.value() < control.Top.value() &&
            Overlap(label.Left, label.Width, control.Left, control.Width);
+}
+
+QString WordFor(const Control& control)
+{
+    if (dynamic_cast<const Image*>(&control) || dynamic_cast<const PictureBox*>(&control))
+        return u"Picture"_s;
+    if (dynamic_cast<const ScrollBar*>(&control))
+        return u"Vertical scrolling"_s;
+    if (dynamic_cast<const Shape*>(&control))
+        return u"Marker"_s;
+    if (dynamic_cast<const TextPanel*>(&control))
+        return u"Report"_s;
+    return control.Name;
+}
+
+constexpr const char* roleProperty = "accessibleRole";
+
+QAccessibleInterface* ReadableArea(const QString&, QObject* object)
+{
+    auto* widget = qobject_cast<QWidget*>(object);
+    const QVariant role = widget ? widget->property(roleProperty) : QVariant();
+    return role.isValid() ? new QAccessibleWidget(widget, static_cast<QAccessible::Role>(role.toInt())) : nullptr;
 }
 } // namespace
 
@@ -55,7 +83,23 @@ QString BorrowedName(const Control& control, const Container& container)
             above = label;
     }
     const Label* namedBy = nearest ? nearest : above;
-    return namedBy ? namedBy->Caption.Shown() : control.Name;
+    if (namedBy)
+        return namedBy->Caption.Shown();
+    const auto* frame = dynamic_cast<const Frame*>(&container);
+    const QString around = frame ? SpokenCaption(frame->Caption).trimmed() : QString();
+    return around.isEmpty() ? WordFor(control) : around;
+}
+
+void TakeFor(QWidget& widget, QAccessible::Role role)
+{
+    [[maybe_unused]] static const bool installed = (QAccessible::installFactory(ReadableArea), true);
+    widget.setProperty(roleProperty, static_cast<int>(role));
+    TellReadersAnew(widget);
+}
+
+void TellReadersAnew(QWidget& widget)
+{
+    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&widget)));
 }
 
 } // namespace lineforge

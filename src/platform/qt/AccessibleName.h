@@ -2,6 +2,10 @@
 
 #include "platform/Controls.h"
 
+#include <QAccessible>
+
+class QWidget;
+
 namespace lineforge
 {
 
@@ -9,7 +13,14 @@ namespace lineforge
 QString SpokenCaption(const QString& caption);
 
 // What a control without a caption is called: by its tool tip, else by the nearest label left of it, else by the label
-// right above it, else by its name.
+// right above it, else by the caption of the frame around it, else by what it is. Its name is the last resort.
 QString BorrowedName(const Control& control, const Container& container);
+
+// What readers take a widget of ours for, which to the toolkit is nothing but an area.
+void TakeFor(QWidget& widget, QAccessible::Role role);
+
+// Lets readers ask again what the widget is. While it is being made, in a parent that is disabled, the toolkit tells
+// them of it already and keeps what it was then: an area.
+void TellReadersAnew(QWidget& widget);
 
 } // namespace lineforge

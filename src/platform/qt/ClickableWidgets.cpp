@@ -1,5 +1,8 @@
 #include "platform/qt/ClickableWidgets.h"
 
+#include "platform/qt/AccessibleName.h"
+#include "platform/qt/Outlines.h"
+
 #include <QAccessibleWidget>
 #include <QApplication>
 #include <QKeyEvent>
@@ -87,7 +90,7 @@ void FrameView::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const int line = title().isEmpty() ? 0 : fontMetrics().height() / 2;
-    painter.setPen(palette().color(QPalette::Mid));
+    painter.setPen(OutlineColour(palette()));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, line + 0.5, -0.5, -0.5), 3, 3);
     if (title().isEmpty())
         return;
@@ -115,9 +118,17 @@ void FrameView::mouseReleaseEvent(QMouseEvent* event)
         Clicked();
 }
 
+void ButtonView::paintEvent(QPaintEvent* event)
+{
+    QPushButton::paintEvent(event);
+    if (!icon().isNull())
+        PaintFocusMark(*this);
+}
+
 ImageView::ImageView(QWidget* parent) : QWidget(parent)
 {
     [[maybe_unused]] static const bool installed = (QAccessible::installFactory(ReadableImage), true);
+    TellReadersAnew(*this);
 }
 
 void ImageView::Press() const
@@ -139,8 +150,8 @@ void ImageView::paintEvent(QPaintEvent*)
         return;
     QPainter painter(this);
     DrawPicture(painter);
-    if (hasFocus())
-        DrawFocusMark(painter);
+    painter.end();
+    PaintFocusMark(*this);
 }
 
 void ImageView::DrawPicture(QPainter& painter)
@@ -153,16 +164,6 @@ void ImageView::DrawPicture(QPainter& painter)
         scaled_.setDevicePixelRatio(devicePixelRatioF());
     }
     painter.drawPixmap(rect(), scaled_);
-}
-
-// Light within dark, so that it shows on any picture.
-void ImageView::DrawFocusMark(QPainter& painter) const
-{
-    const QRect edge = rect().adjusted(0, 0, -1, -1);
-    painter.setPen(palette().color(QPalette::Highlight).darker());
-    painter.drawRect(edge);
-    painter.setPen(QColor(Qt::white));
-    painter.drawRect(edge.adjusted(1, 1, -1, -1));
 }
 
 void ImageView::mousePressEvent(QMouseEvent* event)

@@ -3,6 +3,7 @@
 #include <QGroupBox>
 #include <QImage>
 #include <QPixmap>
+#include <QPushButton>
 #include <QWidget>
 
 #include <functional>
@@ -38,6 +39,16 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 };
 
+// A button with a caption or a picture. A picture covers what the style shows of the focus.
+class ButtonView : public QPushButton
+{
+public:
+    using QPushButton::QPushButton;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
 // A picture stretched to the widget, scaled once for each picture and size. One that takes the focus is a button for
 // the keyboard and for readers.
 class ImageView : public QWidget
@@ -59,7 +70,6 @@ protected:
 
 private:
     void DrawPicture(QPainter& painter);
-    void DrawFocusMark(QPainter& painter) const;
 
     QImage picture_;
     QPixmap scaled_;

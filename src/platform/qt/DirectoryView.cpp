@@ -19,6 +19,7 @@ constexpr int blanksADepth = 2;
 DirectoryView::DirectoryView(QWidget* parent) : QListWidget(parent)
 {
     setUniformItemSizes(true);
+    setIconSize(QSize(1, 1) * fontMetrics().height());
     connect(this, &QListWidget::itemClicked, this, [this] { Clicked(); });
     connect(this, &QListWidget::itemDoubleClicked, this, [this](const QListWidgetItem* item) { Choose(item); });
 }

@@ -1,5 +1,7 @@
 #include "platform/qt/DraggableImage.h"
 
+#include "platform/qt/Outlines.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -31,7 +33,7 @@ void DraggableImage::paintEvent(QPaintEvent* event)
 {
     if (Picture().isNull()) {
         QPainter painter(this);
-        painter.setPen(QPen(palette().color(QPalette::Mid), 1, Qt::DashLine));
+        painter.setPen(QPen(OutlineColour(palette()), 1, Qt::DashLine));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
     ImageView::paintEvent(event);

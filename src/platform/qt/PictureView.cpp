@@ -56,6 +56,11 @@ PictureView::PictureView(QWidget* parent, PictureBox& picture, const Scale& scal
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
+    // The paper stays white on a dark desktop; so what is written on it stays black.
+    QPalette paper;
+    paper.setColor(QPalette::Window, ToQColor(picture_.BackColor));
+    paper.setColor(QPalette::WindowText, Qt::black);
+    setPalette(paper);
     picture_.Changed = [this, open = gate_](const QRect& pixels) {
         if (open->IsOpen())
             Take(pixels);

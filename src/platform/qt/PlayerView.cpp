@@ -1,6 +1,7 @@
 #include "platform/qt/PlayerView.h"
 
 #include "platform/TransportFaces.h"
+#include "platform/qt/AccessibleName.h"
 
 #include <QAbstractButton>
 #include <QLabel>
@@ -103,6 +104,7 @@ PlayerView::PlayerView(QWidget* parent, const QString& name, int screenHeight)
         film_ = new FilmView(this);
         film_->setObjectName(name + u"Screen"_s);
         film_->setAccessibleName(tr("Film"));
+        TakeFor(*film_, QAccessible::Animation);
     }
     time_ = new QLabel(this);
     time_->setObjectName(name + u"Time"_s);

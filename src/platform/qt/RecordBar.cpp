@@ -4,43 +4,93 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QStyle>
+#include <QPainter>
+#include <QPainterPath>
 #include <QToolButton>
+
+#include <algorithm>
 
 namespace lineforge
 {
 
 using namespace Qt::StringLiterals;
 
+namespace
+{
+// To the right, in a square of that side; one that leads to the end meets a bar.
+QPainterPath Arrow(bool leadsToEnd, qreal side)
+{
+    QPainterPath path;
+    const qreal bar = leadsToEnd ? side / 6 : 0;
+    path.moveTo(0, 0);
+    path.lineTo(side - bar, side / 2);
+    path.lineTo(0, side);
+    path.closeSubpath();
+    if (leadsToEnd)
+        path.addRect(side - bar, 0, bar, side);
+    return path;
+}
+
+// Draws its arrow in the colour of the desktop's texts, as large as the bar has room for.
+class StepButton : public QToolButton
+{
+public:
+    StepButton(bool isBackward, bool leadsToEnd) : isBackward_(isBackward), leadsToEnd_(leadsToEnd) {}
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QToolButton::paintEvent(event);
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        const qreal side = std::min(width(), height()) * 0.4;
+        painter.translate(QRectF(rect()).center());
+        if (isBackward_)
+            painter.scale(-1, 1);
+        painter.translate(-side / 2, -side / 2);
+        painter.fillPath(Arrow(leadsToEnd_, side), palette().color(QPalette::ButtonText));
+    }
+
+private:
+    bool isBackward_;
+    bool leadsToEnd_;
+};
+} // namespace
+
 RecordBar::RecordBar(QWidget* parent, const QString& name, const QString& caption) : QWidget(parent)
 {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(2);
-    AddButton(name + u"First"_s, tr("First record"), QStyle::SP_MediaSkipBackward, StepToFirst);
-    AddButton(name + u"Previous"_s, tr("Previous record"), QStyle::SP_MediaSeekBackward, StepToPrevious);
+    AddButton(*new StepButton(true, true), name + u"First"_s, tr("First record"), StepToFirst);
+    AddButton(*new StepButton(true, false), name + u"Previous"_s, tr("Previous record"), StepToPrevious);
     auto* text = new QLabel(caption);
     text->setTextFormat(Qt::PlainText);
     text->setAlignment(Qt::AlignCenter);
     row->addWidget(text, 1);
-    AddButton(name + u"Next"_s, tr("Next record"), QStyle::SP_MediaSeekForward, StepToNext);
-    AddButton(name + u"Last"_s, tr("Last record"), QStyle::SP_MediaSkipForward, StepToLast);
+    AddButton(*new StepButton(false, false), name + u"Next"_s, tr("Next record"), StepToNext);
+    AddButton(*new StepButton(false, true), name + u"Last"_s, tr("Last record"), StepToLast);
 }
 
-void RecordBar::AddButton(const QString& objectName, const QString& text, int icon, Step step)
+void RecordBar::AddButton(QAbstractButton& button, const QString& objectName, const QString& text, Step step)
 {
-    auto* button = new QToolButton;
-    button->setObjectName(objectName);
-    button->setAccessibleName(text);
-    button->setToolTip(text);
-    button->setIcon(style()->standardIcon(static_cast<QStyle::StandardPixmap>(icon)));
-    button->setFocusPolicy(Qt::StrongFocus);
-    button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
-    layout()->addWidget(button);
-    connect(button, &QToolButton::clicked, this, [this, step] {
+    button.setObjectName(objectName);
+    button.setAccessibleName(text);
+    button.setToolTip(text);
+    button.setFocusPolicy(Qt::StrongFocus);
+    button.setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    layout()->addWidget(&button);
+    buttons_ += &button;
+    connect(&button, &QAbstractButton::clicked, this, [this, step] {
         if (Stepped)
             Stepped(step);
     });
+}
+
+void RecordBar::resizeEvent(QResizeEvent*)
+{
+    for (QAbstractButton* button : buttons_)
+        button->setFixedWidth(height());
 }
 
 void StepToFirst(Recordset& records)

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <QList>
 #include <QWidget>
 
 #include <functional>
+
+class QAbstractButton;
 
 namespace lineforge
 {
@@ -20,8 +23,13 @@ public:
     // A button wants another record.
     std::function<void(Step step)> Stepped;
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
-    void AddButton(const QString& objectName, const QString& text, int icon, Step step);
+    void AddButton(QAbstractButton& button, const QString& objectName, const QString& text, Step step);
+
+    QList<QAbstractButton*> buttons_;
 };
 
 // Each stops quietly at the ends: the current record stays.

@@ -1,5 +1,7 @@
 #include "platform/qt/ScrollBarView.h"
 
+#include "platform/qt/Outlines.h"
+
 #include <QEvent>
 #include <QSignalBlocker>
 
@@ -38,6 +40,13 @@ bool ScrollBarView::event(QEvent* event)
         break;
     }
     return QScrollBar::event(event);
+}
+
+// The usual styles leave it as it is.
+void ScrollBarView::paintEvent(QPaintEvent* event)
+{
+    QScrollBar::paintEvent(event);
+    PaintFocusMark(*this);
 }
 
 } // namespace lineforge

@@ -1,5 +1,8 @@
 #include "platform/qt/TextPanelView.h"
 
+#include "platform/qt/AccessibleName.h"
+#include "platform/qt/Outlines.h"
+
 #include <QAccessible>
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -45,6 +48,7 @@ TextPanelView::TextPanelView(QWidget* parent, TextPanel& panel, const Scale& sca
       pacer_([this] { ShowChange(); })
 {
     ServeReadersOfPanels();
+    TellReadersAnew(*this);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::IBeamCursor);
@@ -168,7 +172,7 @@ void TextPanelView::paintEvent(QPaintEvent* event)
     widest_ = 0;
     for (qsizetype line = LineAt(0); line < Lines().size() && TopOf(line) < height(); ++line)
         PaintLine(painter, line);
-    painter.setPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
+    painter.setPen(hasFocus() ? palette().color(QPalette::Highlight) : OutlineColour(palette()));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 

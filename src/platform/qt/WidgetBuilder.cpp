@@ -76,12 +76,13 @@ void ShowInLine(QLineEdit& line, const QString& text)
     line.setCursorPosition(cursor);
 }
 
-// The toolkit's mark has one size for all sizes of text.
+// The toolkit's mark has one size for all sizes of text, and one distance to it.
 void SizeMark(QAbstractButton& button)
 {
     const int side = button.fontMetrics().height();
     if (button.style()->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr, &button) < side)
-        button.setStyleSheet(u"::indicator { width: %1px; height: %1px; }"_s.arg(side));
+        button.setStyleSheet(
+            u"* { spacing: %2px; } ::indicator { width: %1px; height: %1px; }"_s.arg(side).arg(side / 3));
 }
 
 // The toolkit itself would leave one of a set on, and would switch off others that the program means to be on.
@@ -203,7 +204,12 @@ void WidgetBuilder::Dress(QWidget* widget, Control& control, const std::function
 
 void WidgetBuilder::NameForReaders(QWidget* widget, const Control& control)
 {
-    widget->setAccessibleName(BorrowedName(control, *container_));
+    const auto name = [widget, &control, &container = *container_] {
+        widget->setAccessibleName(BorrowedName(control, container));
+    };
+    name();
+    if (frame_)
+        bindings_.Watch(frame_->Caption, name);
 }
 
 template <class Caption>
@@ -297,7 +303,7 @@ void WidgetBuilder::VisitLines(TextBox& box)
 
 void WidgetBuilder::Visit(Button& button)
 {
-    auto* view = new QPushButton(parent_);
+    auto* view = new ButtonView(parent_);
     view->setAutoDefault(true); // so that Enter presses it, too
     bindings_.Follow(button.Caption, [view, &button] { view->setText(button.Caption); });
     view->setIconSize(scale_.ToPixels(Size{button.Width, button.Height}));
@@ -345,9 +351,11 @@ void WidgetBuilder::Visit(Frame& frame)
     auto* view = new FrameView(parent_);
     bindings_.Follow(frame.Caption, [view, &frame] { view->setTitle(frame.Caption); });
     view->Clicked = [gate = gate_, &frame] { gate->Run(frame.Click); };
-    FollowCaption(view, frame, frame.Caption);
+    bindings_.Follow(frame.Caption, [view, &frame] { view->setAccessibleName(SpokenCaption(frame.Caption)); });
     Dress(view, frame);
+    Frame* outer = std::exchange(frame_, &frame);
     Build(frame, view);
+    frame_ = outer;
 }
 
 void WidgetBuilder::Visit(ListBox& list)
@@ -420,7 +428,7 @@ void WidgetBuilder::VisitDraggable(Image& image)
     bindings_.Follow(image.Picture, [view, &image] { view->Show(image.Picture); });
     bindings_.Follow(image.Tag, [view, &image] {
         const QString name = image.Tag.value().section(PathSeparator, -1);
-        view->setAccessibleName(name.isEmpty() ? image.Name : name);
+        view->setAccessibleName(name.isEmpty() ? u"Empty tile"_s : name);
         view->setToolTip(name.toHtmlEscaped());
     });
     view->Dropped = [gate = gate_, &image](DraggableImage& source) {
@@ -441,7 +449,8 @@ void WidgetBuilder::Visit(Shape& shape)
     const int pen = std::max(thinnestOutline, scale_.ToPixels(shape.BorderWidth * designTwipsAPixel));
     auto* view = new ShapeView(parent_, shape, pen);
     bindings_.Follow(shape.BorderColor, [view, &shape] { view->SetColour(ToQColor(shape.BorderColor)); });
-    view->setAccessibleName(shape.Name);
+    TakeFor(*view, QAccessible::Graphic);
+    NameForReaders(view, shape);
     Dress(view, shape);
 }
 
@@ -480,6 +489,7 @@ void WidgetBuilder::Visit(MultimediaControl& player)
     const auto showTime = [view, &player] { view->ShowTime(player.Position, player.Length); };
     bindings_.Follow(player.Position, showTime);
     bindings_.Watch(player.Length, showTime);
+    TakeFor(*view, QAccessible::Grouping);
     NameForReaders(view, player);
     Dress(view, player);
 }
@@ -495,9 +505,12 @@ void WidgetBuilder::Visit(TextPanel& panel)
 void WidgetBuilder::Visit(PictureBox& picture)
 {
     auto* view = new PictureView(parent_, picture, scale_, gate_);
+    TakeFor(*view, QAccessible::Canvas);
     NameForReaders(view, picture);
     Dress(view, picture);
+    Frame* outer = std::exchange(frame_, nullptr);
     Build(picture, view);
+    frame_ = outer;
     FollowChildren(picture, view);
 }
 
@@ -512,6 +525,7 @@ void WidgetBuilder::Visit(DataControl& data)
             Fire(data.Stepped);
         });
     };
+    TakeFor(*view, QAccessible::Grouping);
     view->setAccessibleName(data.Caption.isEmpty() ? data.Name : data.Caption);
     Dress(view, data);
 }

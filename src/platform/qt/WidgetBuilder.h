@@ -60,6 +60,7 @@ private:
     std::shared_ptr<const Gate> gate_;
     Bindings& bindings_;
     const Container* container_ = nullptr;
+    Frame* frame_ = nullptr; // that the controls stand in
     QWidget* parent_ = nullptr;
 };
 

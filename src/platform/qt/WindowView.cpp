@@ -62,13 +62,14 @@ int WindowView::TitleHeight() const
 
 QSize WindowView::InnerSize(QSize available) const
 {
-    QSize wanted;
+    QSize wanted = scale_.ToPixels(form_.Client);
+    if (!form_.Menus.empty())
+        wanted.rheight() += static_cast<const QMenuBar*>(menuWidget())->heightForWidth(wanted.width());
     if (HasOwnSize()) {
-        wanted = scale_.ToPixels(Size{form_.Width, form_.Height}) - QSize(0, TitleHeight());
-    } else {
-        wanted = scale_.ToPixels(form_.Client);
-        if (!form_.Menus.empty())
-            wanted.rheight() += static_cast<const QMenuBar*>(menuWidget())->heightForWidth(wanted.width());
+        // The program leaves a strip of the screen free, whether or not there is something in it. That must not cut off
+        // what the window holds.
+        const QSize own = scale_.ToPixels(Size{form_.Width, form_.Height}) - QSize(0, TitleHeight());
+        wanted = own.expandedTo({own.width(), wanted.height()});
     }
     return wanted.boundedTo(available).expandedTo({1, 1});
 }

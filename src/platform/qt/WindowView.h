@@ -13,7 +13,8 @@ namespace lineforge
 {
 
 // What shows one window. Without a size of its own the window has exactly the client area of its design, in the middle
-// of the screen unless it has been placed; a size that the program gave is that of the whole window with its frame.
+// of the screen unless it has been placed; a size that the program gave is that of the whole window with its frame, but
+// no lower than its design as long as the screen has room.
 class WindowView : public QMainWindow
 {
 public:

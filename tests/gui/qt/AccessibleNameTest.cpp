@@ -18,6 +18,10 @@ struct NamedForm : Form {
     Label Head{*this, u"Head", {3000, 1000, 900, 240}, u"Head"};
     TextBox Below{*this, u"Below", {3000, 1260, 900, 315}};
     TextBox Alone{*this, u"Alone", {6000, 2400, 900, 315}};
+    Frame Framed{*this, u"Framed", {0, 1500, 2000, 1000}, u"&Field"};
+    TextBox Inside{Framed, u"Inside", {100, 300, 900, 315}};
+    Image Portrait{*this, u"Portrait", {4500, 1700, 900, 900}};
+    ScrollBar Bar{*this, u"Bar", {8700, 1500, 255, 1500}, 100, 1, 10};
 };
 
 TEST(AccessibleNameTest, TheNearestLabelOnTheLeftThatSaysSomething)
@@ -30,6 +34,19 @@ TEST(AccessibleNameTest, ElseTheLabelRightAbove)
 {
     const NamedForm form;
     EXPECT_EQ(BorrowedName(form.Below, form), u"Head"_s);
+}
+
+TEST(AccessibleNameTest, ElseTheCaptionOfTheFrameAroundIt)
+{
+    const NamedForm form;
+    EXPECT_EQ(BorrowedName(form.Inside, form.Framed), u"Field"_s);
+}
+
+TEST(AccessibleNameTest, ElseWhatItIs)
+{
+    const NamedForm form;
+    EXPECT_EQ(BorrowedName(form.Portrait, form), u"Picture"_s);
+    EXPECT_EQ(BorrowedName(form.Bar, form), u"Vertical scrolling"_s);
 }
 
 TEST(AccessibleNameTest, ElseItsOwnName)

@@ -148,6 +148,14 @@ TEST_F(DataControlTest, ShowingRowsWritesNothing)
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
 }
 
+TEST_F(DataControlTest, ButtonsAreAsWideAsTheBarIsHigh)
+{
+    OpenAndShow();
+    const auto& bar = Find<QWidget>(*Data, u"Data1"_s);
+    for (const QWidget* button : bar.findChildren<QToolButton*>())
+        EXPECT_EQ(button->size(), QSize(bar.height(), bar.height())) << button->objectName().toStdString();
+}
+
 TEST_F(DataControlTest, HiddenTheBarIsOutOfSight)
 {
     OpenAndShow();

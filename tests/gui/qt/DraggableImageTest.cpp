@@ -150,7 +150,7 @@ TEST_F(DraggableImageTest, KeyboardAndReaders_ClickIt)
 
 TEST_F(DraggableImageTest, IsNamedAfterItsTag_WithoutTheWayToIt)
 {
-    EXPECT_EQ(One().accessibleName(), u"Image1(0)"_s);
+    EXPECT_EQ(One().accessibleName(), u"Empty tile"_s);
     Tiles->One.Tag = u"/home/somebody/LfgDat_A/LfgGal_A/A001_01.jpg"_s;
     EXPECT_EQ(One().accessibleName(), u"A001_01.jpg"_s);
     EXPECT_EQ(One().toolTip(), u"A001_01.jpg"_s);

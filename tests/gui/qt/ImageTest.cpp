@@ -82,7 +82,7 @@ TEST_F(ImageTest, WithoutAPictureItStillTakesClicks)
 
 TEST_F(ImageTest, AnElementOfAControlArrayKeepsItsName)
 {
-    EXPECT_EQ(Find<QWidget>(*Images, u"Image2(7)"_s).accessibleName(), u"Image2(7)"_s);
+    EXPECT_EQ(Find<QWidget>(*Images, u"Image2(7)"_s).accessibleName(), u"Picture"_s);
 }
 
 struct ToolImageTest : WindowTest {

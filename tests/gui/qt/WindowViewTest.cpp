@@ -110,6 +110,13 @@ TEST_F(WindowViewTest, ASizeThatTheProgramGivesIsThatOfTheWholeWindow)
     EXPECT_EQ(View().height(), PixelScale().ToPixels(4500) - TitleHeight());
 }
 
+TEST_F(WindowViewTest, ASizeThatTheProgramGivesCutsNothingOff)
+{
+    Plain->Height = 2000;
+    Plain->Visible = true;
+    EXPECT_EQ(View().centralWidget()->height(), PixelScale().ToPixels(3000));
+}
+
 TEST_F(WindowViewTest, AWindowAsLargeAsTheScreenStaysWithinWhatIsFree)
 {
     const Screen& screen = Machine().Bundle().Screen;

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QColor>
+
+class QPalette;
+class QWidget;
+
+namespace lineforge
+{
+
+// For a line around things: it stands back behind the text, and can be seen on light and on dark desktops alike.
+QColor OutlineColour(const QPalette& palette);
+
+// Shows on a widget that it has the keyboard, where its style shows nothing. To be called at the end of its painting.
+void PaintFocusMark(QWidget& widget);
+
+} // namespace lineforge
