@@ -107,7 +107,20 @@ bool JetText::Convert(std::string_view stored, std::string& utf8)
         input += passed;
         left -= passed;
     }
+    Flush(utf8);
     return isWhole;
+}
+
+// Where a mark may follow a letter the converter holds the letter back, which belongs to this text and not to the next.
+void JetText::Flush(std::string& utf8)
+{
+    constexpr std::size_t mostBytesHeldBack = 16;
+    const std::size_t before = utf8.size();
+    utf8.resize(before + mostBytesHeldBack);
+    char* output = utf8.data() + before;
+    std::size_t room = mostBytesHeldBack;
+    iconv(converter_, nullptr, nullptr, &output, &room);
+    utf8.resize(utf8.size() - room);
 }
 
 } // namespace lineforge::jet

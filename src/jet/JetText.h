@@ -26,6 +26,7 @@ public:
 private:
     JetText(const char* encoding, std::size_t unit);
     bool Convert(std::string_view stored, std::string& utf8);
+    void Flush(std::string& utf8);
 
     iconv_t converter_;
     std::size_t unit_; // bytes

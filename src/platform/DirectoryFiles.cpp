@@ -1,13 +1,12 @@
 #include "platform/DirectoryFiles.h"
 
 #include "platform/FileRefusal.h"
+#include "platform/FreeName.h"
 
 #include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
-#include <cerrno>
-#include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
@@ -114,15 +113,6 @@ void Dress(int to, const struct stat& source)
     futimens(to, times);
 }
 
-bool TakeFreeName(const char* part, const fs::path& name)
-{
-    if (renameat2(AT_FDCWD, part, AT_FDCWD, name.c_str(), RENAME_NOREPLACE) == 0)
-        return true;
-    // Not every disk can promise it.
-    std::error_code error;
-    return errno == EINVAL && !fs::exists(fs::symlink_status(name, error)) && rename(part, name.c_str()) == 0;
-}
-
 void CopyFile(const fs::path& source, const fs::path& destination, const std::function<void()>& step)
 {
     // Opening something that is no file may wait for ever.
@@ -137,7 +127,7 @@ void CopyFile(const fs::path& source, const fs::path& destination, const std::fu
         return;
     const bool isWhole = CopyContent(from, to, status.st_size, step);
     Dress(to, status);
-    if (!to.Close() || !isWhole || !TakeFreeName(part.c_str(), destination))
+    if (!to.Close() || !isWhole || !RenameIfFree(part.c_str(), destination.c_str()))
         unlink(part.c_str());
 }
 

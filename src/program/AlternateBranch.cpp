@@ -1,6 +1,7 @@
 #include "program/AlternateBranch.h"
 
 #include "program/BranchPaths.h"
+#include "program/OldDatabase.h"
 #include "program/WorkDatabase.h"
 
 #include <utility>
@@ -16,13 +17,29 @@ void SwapBranchDirs(Program& p)
     std::swap(p.Branch.HomeDir, p.Branch.HomeDirSaved);
 }
 
+namespace
+{
+// One of an older installation that can't be taken is told like any other refused opening, and the record on show
+// stays.
+bool TakeOldSibling(Program& p, const QString& database)
+{
+    try {
+        ConvertIfOld(p, database, OldDatabaseUse::Command);
+        return true;
+    } catch (const RuntimeError& refusal) {
+        TellDatabaseRefused(p, refusal);
+        return false;
+    }
+}
+} // namespace
+
 bool RequireSibling(Program& p, QStringView letter)
 {
     const bool isImported = IsImported(p.Branch.WorkDir);
     const QString directory = (isImported ? u"Import_"_s : u"LfgDat_"_s) + letter;
     const QString database = p.Branch.HomeDir + directory + PathSeparator + u"LfgDat_" + letter + u".mdb";
     if (!p.Files.Dir(database).isEmpty())
-        return true;
+        return TakeOldSibling(p, database);
     if (isImported)
         p.Prompts.MsgBox(u"External Import Record not present."_s,
                          u"Cannot Access External Imported Database subject."_s, Buttons::Information);

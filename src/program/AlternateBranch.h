@@ -11,7 +11,8 @@ namespace lineforge
 // Exchanges `WorkDir` with `WorkDirSaved` and `HomeDir` with `HomeDirSaved`.
 void SwapBranchDirs(Program& p);
 
-// Whether the database of the sibling branch of that letter is there; shows a box with its path when it isn't.
+// Whether the database of the sibling branch of that letter is there; shows a box with its path when it isn't. One of
+// an older installation is taken; shows the box of a refused opening when it can't be.
 bool RequireSibling(Program& p, QStringView letter);
 
 // Keeps the open branch's directories as the saved ones, before the program points elsewhere. From one sibling to

@@ -3,6 +3,7 @@
 #include "platform/DatabaseFormat.h"
 #include "platform/FileIdentity.h"
 #include "platform/FileRefusal.h"
+#include "program/BranchPaths.h"
 #include "program/Meanwhile.h"
 #include "program/OldDatabaseReader.h"
 #include "program/OldDatabaseStore.h"
@@ -28,17 +29,18 @@ const QString noReader = QStringLiteral("This build can't read the databases of 
 
 bool IsOld(const QString& file)
 {
+    // Opening what is no file may wait for ever.
     QFile database(file);
-    if (!database.open(QFile::ReadOnly))
+    if (!QFileInfo(file).isFile() || !database.open(QFile::ReadOnly))
         return false;
     const DatabaseFormat format = FormatOf(database.read(databaseFormatBytes).toStdString());
     return format == DatabaseFormat::Jet3 || format == DatabaseFormat::Jet4;
 }
 
 // An exported branch, or somebody's own file, stays what it is.
-bool IsInHome(const Program& p, const QString& file)
+bool IsInBranch(const Program& p, const QString& file)
 {
-    return file.startsWith(p.Files.Resolve(p.Branch.HomeDir) + PathSeparator);
+    return IsBranchDirectory(QFileInfo(file).path(), p.Files.Resolve(p.Branch.HomeDir) + PathSeparator);
 }
 
 // The files that could not be taken in this run, so that a map which shows their people doesn't ask at each drawing.
@@ -88,21 +90,19 @@ void RequireConsentToLosses(Program& p, const QString& file, const JetRows& rows
 
 void Convert(Program& p, const FileIdentity& file)
 {
+    RequireReplaceable(file.Path);
     const JetRows rows = ReadRows(p, file.Path);
     WarnIfInUse(p, file.Path);
     RequireConsentToLosses(p, file.Path, rows);
-    // Somebody may have written to it while a box was open.
-    if (IdentityOf(file.Path) != file)
-        Refuse(ErrorNumber::DatabaseBusy);
     Meanwhile meanwhile(p);
-    ReplaceOldDatabase(p.Files, file.Path, rows, [&meanwhile] { meanwhile.KeepPainted(); });
+    ReplaceOldDatabase(p.Files, file, rows, [&meanwhile] { meanwhile.KeepPainted(); });
 }
 } // namespace
 
 void ConvertIfOld(Program& p, const QString& path, OldDatabaseUse use)
 {
     const QString file = p.Files.Resolve(path);
-    if (!IsOld(file) || !OwnerCanWrite(file) || !IsInHome(p, file))
+    if (!IsOld(file) || !OwnerCanWrite(file) || !IsInBranch(p, file))
         return;
     const FileIdentity identity = IdentityOf(file);
     if (use == OldDatabaseUse::Caption && Refused().contains(identity))

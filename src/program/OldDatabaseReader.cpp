@@ -12,6 +12,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 constexpr int painterMilliseconds = 50;
+constexpr int killMilliseconds = 1000;
 
 // Whether it came to its end in time, and told no more than a stream may hold.
 bool RunToEnd(QProcess& process, QByteArray& told, std::chrono::milliseconds patience,
@@ -42,7 +43,7 @@ std::optional<JetRows> ReadOldDatabase(const QString& reader, const QString& fil
     QProcess process;
     const auto ended = qScopeGuard([&] {
         process.kill();
-        process.waitForFinished();
+        process.waitForFinished(killMilliseconds);
     });
     process.setStandardInputFile(QProcess::nullDevice());
     process.setStandardErrorFile(QProcess::nullDevice());

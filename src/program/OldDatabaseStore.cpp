@@ -2,6 +2,7 @@
 
 #include "platform/Database.h"
 #include "platform/FileRefusal.h"
+#include "platform/FreeName.h"
 #include "platform/RuntimeError.h"
 
 #include <QFile>
@@ -65,6 +66,7 @@ public:
     explicit UnfinishedFile(const QString& finished) : finished_(finished), path_(finished + u".new"_s)
     {
         QFile::remove(path_);
+        QFile::remove(path_ + u"-journal");
     }
     ~UnfinishedFile() { QFile::remove(path_); }
     UnfinishedFile(const UnfinishedFile&) = delete;
@@ -78,6 +80,13 @@ public:
         Handle(path_).Sync();
         if (std::rename(QFile::encodeName(path_).constData(), QFile::encodeName(finished_).constData()) != 0)
             Refuse(ErrorNumber::PathFileAccess);
+    }
+    // The same, where nothing has the name.
+    void TakeFreeName() const
+    {
+        Handle(path_).Sync();
+        if (!RenameIfFree(QFile::encodeName(path_).constData(), QFile::encodeName(finished_).constData()))
+            Refuse(ErrorNumber::FileAlreadyExists);
     }
 
 private:
@@ -152,6 +161,13 @@ void RequireRows(const FileSystem& files, const QString& path, const JetRows& ro
         Refuse(ErrorNumber::DeviceIo);
 }
 
+// Somebody may have written to it, or have put another file in its place.
+void RequireSame(const FileIdentity& file)
+{
+    if (IdentityOf(file.Path) != file)
+        Refuse(ErrorNumber::DatabaseBusy);
+}
+
 void OpenOrRefuse(QFile& file, QFile::OpenMode mode)
 {
     if (!file.open(mode))
@@ -162,11 +178,14 @@ bool HaveSameBytes(const QString& pathA, const QString& pathB)
 {
     QFile a(pathA);
     QFile b(pathB);
-    if (!a.open(QFile::ReadOnly) || !b.open(QFile::ReadOnly) || a.size() != b.size())
+    // Opening what is no file may wait for ever.
+    if (!QFileInfo(pathB).isFile() || !a.open(QFile::ReadOnly) || !b.open(QFile::ReadOnly) || a.size() != b.size())
         return false;
-    while (!a.atEnd())
-        if (a.read(blockBytes) != b.read(blockBytes))
+    while (!a.atEnd()) {
+        const QByteArray block = a.read(blockBytes);
+        if (block.isEmpty() || block != b.read(blockBytes))
             return false;
+    }
     return true;
 }
 
@@ -196,7 +215,7 @@ void Keep(const QString& oldDatabase, const QString& kept, const Meanwhile& mean
     const UnfinishedFile copy(kept);
     CopyBytes(oldDatabase, copy.Path(), meanwhile);
     meanwhile();
-    copy.TakeName();
+    copy.TakeFreeName();
     Handle(QFileInfo(kept).path()).Sync();
 }
 } // namespace
@@ -212,31 +231,37 @@ QString NameOfKept(const QString& oldDatabase)
     return kept;
 }
 
-void ReplaceOldDatabase(const FileSystem& files, const QString& oldDatabase, const JetRows& rows,
+void ReplaceOldDatabase(const FileSystem& files, const FileIdentity& oldDatabase, const JetRows& rows,
                         const Meanwhile& meanwhile)
 {
-    RequireReplaceable(oldDatabase);
-    const Handle original(oldDatabase);
+    const QString& path = oldDatabase.Path;
+    RequireReplaceable(path);
+    const Handle original(path);
     original.Lock();
+    RequireSame(oldDatabase);
 
-    const UnfinishedFile fresh(oldDatabase);
+    const UnfinishedFile fresh(path);
     WriteDatabase(files, fresh.Path(), rows, meanwhile);
     RequireRows(files, fresh.Path(), rows, meanwhile);
-    QFile::setPermissions(fresh.Path(), QFile::permissions(oldDatabase));
+    QFile::setPermissions(fresh.Path(), QFile::permissions(path));
 
-    const QString kept = NameOfKept(oldDatabase);
-    const bool isKept = QFileInfo::exists(kept);
+    const QString kept = NameOfKept(path);
+    const bool wasKept = QFileInfo::exists(kept);
+    if (!wasKept)
+        Keep(path, kept, meanwhile);
     auto undone = qScopeGuard([&] {
-        if (!isKept)
+        if (!wasKept)
             QFile::remove(kept);
     });
-    if (!isKept)
-        Keep(oldDatabase, kept, meanwhile);
     meanwhile();
+    RequireSame(oldDatabase);
+    // The engine would take what it once left beside a database of this name for a change of the new one.
+    for (const QStringView leftover : {u"-journal", u"-wal", u"-shm"})
+        QFile::remove(path + leftover);
     fresh.TakeName();
     undone.dismiss();
     // What is written to the new file from now on must not be lost with its name.
-    Handle(QFileInfo(oldDatabase).path()).Sync();
+    Handle(QFileInfo(path).path()).Sync();
 }
 
 } // namespace lineforge

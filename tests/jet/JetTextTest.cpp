@@ -78,5 +78,22 @@ TEST(CodePageTest, UnknownOne_IsRefused)
     EXPECT_THROW(JetText::InCodePage(4711), Refused);
 }
 
+// Letters that a mark may follow are held back by the converters of these pages.
+TEST(CodePageTextTest, ALastLetter_BelongsToItsOwnText)
+{
+    JetText vietnamese = JetText::InCodePage(1258);
+    std::string first;
+    std::string second;
+    EXPECT_TRUE(vietnamese.Append("Nguy\xEA"sv, first));
+    EXPECT_TRUE(vietnamese.Append("Ho\xE0"sv, second));
+    EXPECT_EQ(first, "Nguy\u00EA");
+    EXPECT_EQ(second, "Ho\u00E0");
+
+    JetText hebrew = JetText::InCodePage(1255);
+    std::string name;
+    EXPECT_TRUE(hebrew.Append("\xF9\xF8\xE4"sv, name));
+    EXPECT_EQ(name, "\u05E9\u05E8\u05D4");
+}
+
 } // namespace
 } // namespace lineforge::jet

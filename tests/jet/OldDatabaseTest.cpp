@@ -1,5 +1,8 @@
 #include "jet/OldBranchTest.h"
 #include "program/AlternateBranch.h"
+#include "support/Refusal.h"
+
+#include <sys/stat.h>
 
 namespace lineforge
 {
@@ -51,6 +54,63 @@ TEST_F(OldDatabaseTest, SiblingOfAForeignBox_IsConverted)
 
     ExpectConverted(u'B', "jet3/moved");
     EXPECT_EQ(Records(P).Text(u"File"), ExpectedRecords("jet3/moved")[0][0]);
+}
+
+TEST_F(OldDatabaseTest, SiblingThatCantBeTaken_IsTold_AndIsNotGoneTo)
+{
+    GivenOldBranch(u'A', u"jet3/royals12.mdb"_s);
+    GivenOldBranch(u'B', u"jet4/broken/tdef_ff.mdb"_s);
+    P.Branch.WorkDir = Home.Path(u"LfgDat_A");
+    OpenWorkDatabase(P);
+    const Tree before = Home.Snapshot();
+    ExpectCannotOpenBox();
+
+    EXPECT_FALSE(RequireSibling(P, u"B"));
+
+    EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
+    EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_A"));
+}
+
+TEST_F(OldDatabaseTest, WhatIsNoFile_IsRefusedLikeOneThatIsMissing)
+{
+    Home.MakeDirectory(u"LfgDat_A");
+    ASSERT_EQ(mkfifo(Home.Path(u"LfgDat_A/LfgDat_A.mdb").toLocal8Bit().constData(), 0600), 0);
+
+    EXPECT_EQ(RefusalOf([this] { PointAtDatabase(P, Home.Path(u"LfgDat_A/LfgDat_A.mdb")); }),
+              ErrorNumber::DatabaseNotFound);
+}
+
+TEST_F(OldDatabaseTest, FileBelowTheHomeButInNoBranch_StaysWhatItIs)
+{
+    const QString path = Home.WriteFile(u"examples/LfgDat_A/LfgDat_A.mdb", FixtureBytes(u"jet4/royals12.mdb"_s));
+    const Tree before = Home.Snapshot();
+
+    EXPECT_EQ(RefusalOf([&] { PointAtDatabase(P, path); }), ErrorNumber::NotADatabase);
+
+    EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
+}
+
+TEST_F(OldDatabaseTest, ImportOfABranchThatCantBeWritten_IsConvertedInItsNewPlace)
+{
+    GivenRegistry();
+    Home.WriteFile(u"stick/LfgDat_C/LfgDat_C.mdb", FixtureBytes(u"jet4/royals12.mdb"_s));
+    Home.MakeReadOnly(u"stick/LfgDat_C/LfgDat_C.mdb");
+    StartProgram(P);
+    Prompts.ExpectOpenFile(u"Select Import Database File", u"DataBase *.mdb|*.mdb|All Files|*.*|",
+                           Home.Path(u"stick/LfgDat_C/LfgDat_C.mdb"));
+    Prompts.ExpectInput(u"Imported Tree Branch alternate name",
+                        u"Enter alternate user friendly name for this imported Tree Branch Map.", u"Royals");
+    const QString question =
+        u"Imported 'Royals' Database and files will be placed in\ndirectory "_s + Home.Path(u"LfgDat_C");
+    Prompts.Expect(u"New Directory and Files", question, Buttons::InformationOkCancel);
+    Prompts.Expect(u"Graphic Config File not Found.", u"You need to create a new Ancestral Map for this Database.",
+                   Buttons::Information);
+    Prompts.Expect(u"Image not Present", u"Searched Image File for 1Sub.Jpg", Buttons::Information);
+
+    P.Form1->mnuImpSub.Click();
+
+    ExpectConverted(u'C', "jet4/royals12");
+    EXPECT_EQ(Home.ReadFile(u"stick/LfgDat_C/LfgDat_C.mdb"), FixtureBytes(u"jet4/royals12.mdb"_s));
 }
 
 TEST_F(OldDatabaseTest, CompareBranch_IsConverted)

@@ -14,7 +14,9 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace lineforge
 {
@@ -41,7 +43,7 @@ protected:
     void Replace(
         const JetRows& rows, const std::function<void()>& meanwhile = [] {}) const
     {
-        ReplaceOldDatabase(files, path, rows, meanwhile);
+        ReplaceOldDatabase(files, IdentityOf(path), rows, meanwhile);
     }
 
     QStringList Names() const { return home.Snapshot().keys(); }
@@ -220,14 +222,82 @@ TEST_F(OldDatabaseStoreTest, ReadOnlyDirectoryOrFile_IsRefused)
 {
     home.WriteFile(u"LfgDat_B/LfgDat_B.mdb", oldBytes);
     home.MakeReadOnly(u"LfgDat_B");
-    EXPECT_EQ(RefusalOf([&] { ReplaceOldDatabase(files, home.Path(u"LfgDat_B/LfgDat_B.mdb"), Rows(1), [] {}); }),
-              ErrorNumber::PathFileAccess);
+    const FileIdentity inReadOnly = IdentityOf(home.Path(u"LfgDat_B/LfgDat_B.mdb"));
+    EXPECT_EQ(RefusalOf([&] { ReplaceOldDatabase(files, inReadOnly, Rows(1), [] {}); }), ErrorNumber::PathFileAccess);
     home.MakeWritable(u"LfgDat_B");
     home.MakeReadOnly(u"LfgDat_A.mdb");
     EXPECT_EQ(RefusalOf([&] { Replace(Rows(1)); }), ErrorNumber::PathFileAccess);
     home.MakeWritable(u"LfgDat_A.mdb");
 
     EXPECT_EQ(Names(), QStringList({u"LfgDat_A.mdb"_s, u"LfgDat_B"_s, u"LfgDat_B/LfgDat_B.mdb"_s}));
+}
+
+TEST_F(OldDatabaseStoreTest, JournalOfAFileThatHadTheName_NeverReachesTheNewOne)
+{
+    // A transaction that was cut off in a database of ours which then gave way to the old one.
+    const int cutOff = ExitCodeInChild([this]() -> int {
+        QFile::remove(path);
+        SqliteFile file(path);
+        file.Execute("CREATE TABLE Tree99 (File TEXT); INSERT INTO Tree99 VALUES ('stale')");
+        file.Execute("PRAGMA cache_size = 1; BEGIN");
+        for (int row = 0; row < 2000; ++row)
+            file.Execute("INSERT INTO Tree99 VALUES (hex(randomblob(500)))");
+        _exit(7);
+    });
+    ASSERT_EQ(cutOff, 7);
+    ASSERT_TRUE(QFileInfo::exists(path + u"-journal"));
+    home.WriteFile(u"LfgDat_A.mdb", oldBytes);
+
+    Replace(Rows(3));
+
+    EXPECT_FALSE(QFileInfo::exists(path + u"-journal"));
+    ExpectRows(3);
+}
+
+TEST_F(OldDatabaseStoreTest, FileThatIsNoLongerTheOneRead_IsLeftAlone)
+{
+    const FileIdentity read = IdentityOf(path);
+    home.WriteFile(u"LfgDat_A.mdb", oldBytes + "more");
+    const Tree before = home.Snapshot();
+
+    EXPECT_EQ(RefusalOf([&] { ReplaceOldDatabase(files, read, Rows(3), [] {}); }), ErrorNumber::DatabaseBusy);
+
+    EXPECT_EQ(Differences(before, home.Snapshot()), QStringList());
+}
+
+TEST_F(OldDatabaseStoreTest, FileThatIsWrittenToMeanwhile_KeepsWhatWasWritten)
+{
+    bool isWritten = false;
+    const auto write = [&] {
+        if (!std::exchange(isWritten, true))
+            home.WriteFile(u"LfgDat_A.mdb", oldBytes + "more");
+    };
+
+    EXPECT_EQ(RefusalOf([&] { Replace(Rows(3), write); }), ErrorNumber::DatabaseBusy);
+
+    EXPECT_EQ(home.Snapshot(), (Tree{{u"LfgDat_A.mdb"_s, oldBytes + "more"}}));
+}
+
+TEST_F(OldDatabaseStoreTest, FileThatTakesTheKeptOnesNameMeanwhile_Stays)
+{
+    const auto take = [this] {
+        if (QFileInfo::exists(home.Path(u"LfgDat_A.jet.new")) && !home.Exists(u"LfgDat_A.jet"))
+            home.WriteFile(u"LfgDat_A.jet", "mine");
+    };
+
+    EXPECT_EQ(RefusalOf([&] { Replace(Rows(3), take); }), ErrorNumber::FileAlreadyExists);
+
+    EXPECT_EQ(home.Snapshot(), (Tree{{u"LfgDat_A.jet"_s, "mine"}, {u"LfgDat_A.mdb"_s, oldBytes}}));
+}
+
+TEST_F(OldDatabaseStoreTest, WhatIsNoFileUnderTheKeptOnesName_IsPassedOver)
+{
+    ASSERT_EQ(mkfifo(home.Path(u"LfgDat_A.jet").toLocal8Bit().constData(), 0600), 0);
+
+    Replace(Rows(3));
+
+    EXPECT_EQ(home.ReadFile(u"LfgDat_A_2.jet"), oldBytes);
+    ExpectRows(3);
 }
 
 } // namespace
