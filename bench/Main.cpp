@@ -38,6 +38,9 @@ int main(int argc, char* argv[])
         {"the export of a branch of 2,000 files of 1 MB, by cp -r", "ExportLargeBranch", "CopyLargeBranch", 1.3},
         {"50,000 records of an older installation, by the export of their library", "ConvertOldDatabase",
          "ExportOldDatabase", 3.0},
+        {"the memory of the idle program with the example branch above an empty window's, in MB",
+         "IdleMemoryAboveEmpty", "", 40.0},
+        {"how often it is woken in two seconds more than that", "IdleWakingsAboveEmpty", "", 0.0},
         {"start to a shown main window, by an empty window's", "StartLineforge", "StartEmpty", 1.5},
     });
     benchmark::RunSpecifiedBenchmarks(&reporter);

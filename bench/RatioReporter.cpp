@@ -30,6 +30,8 @@ RatioReporter::RatioReporter(std::vector<Ratio> ratios) : ConsoleReporter(OO_Tab
 void RatioReporter::ReportRuns(const std::vector<Run>& runs)
 {
     for (const Run& run : runs)
+        allKept_ = allKept_ && !run.error_occurred;
+    for (const Run& run : runs)
         if (run.run_type == Run::RT_Iteration && !run.error_occurred)
             times_[run.run_name.function_name].push_back(run.real_accumulated_time /
                                                          static_cast<double>(run.iterations));

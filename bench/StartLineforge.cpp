@@ -1,14 +1,17 @@
 #include "FirstPaint.h"
+#include "Idle.h"
 #include "forms/Form1.h"
 #include "platform/qt/QtPlatform.h"
 #include "program/Program.h"
 #include "shell/FatalPath.h"
+#include "shell/OpenBranch.h"
 #include "shell/StartUp.h"
 #include "shell/handlers/Handlers.h"
 
 #include <QApplication>
 
-// The program itself, told where its home is; ends when the main window has been painted.
+// The program itself, told where its home is; ends when the main window has been painted, or, told "idle" as its second
+// argument, when its idleness with the first branch open has been watched.
 int main(int argc, char* argv[])
 {
     using namespace lineforge;
@@ -20,8 +23,16 @@ int main(int argc, char* argv[])
     Program program(bundle);
     InstallHandlers(program);
     machine.Windows().RunHandler = [&program](const Event& handler) { RunHandler(program, handler); };
-    bench::EndAtFirstPaint();
+    if (argc == 2)
+        bench::EndAtFirstPaint();
     machine.Windows().Run([&program] { StartProgram(program); });
+    if (argc > 2) {
+        machine.Windows().Run([&program] {
+            program.Form8->List1.ListIndex = 0;
+            OpenSelectedBranch(program);
+        });
+        bench::TellOfIdleness();
+    }
     const int exitCode = QApplication::exec();
     machine.Windows().CloseAll();
     return exitCode;
