@@ -1,6 +1,7 @@
 #include "Machine.h"
 #include "program/OldDatabase.h"
 
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -122,14 +123,15 @@ void ConvertOldDatabase(benchmark::State& state)
     const QTemporaryDir directory;
     const QString home = directory.path() + u'/';
     QFile::link(QStringLiteral(LINEFORGE_JET), home + u"lineforge-jet");
-    const QString path = home + u"LfgDat_A.mdb";
+    QDir(home).mkdir(u"LfgDat_A"_s);
+    const QString path = home + u"LfgDat_A/LfgDat_A.mdb";
     Write(home + u"AliasList.cfg", "[Alias]\r\n[]\r\n[CFG]\r\n[1,]\r\n");
     Machine machine(home);
     machine.P.Branch.HomeDir = home;
     for (auto _ : state) {
         state.PauseTiming();
         Write(path, OldBytes());
-        QFile::remove(home + u"LfgDat_A.jet");
+        QFile::remove(home + u"LfgDat_A/LfgDat_A.jet");
         state.ResumeTiming();
         ConvertIfOld(machine.P, path, OldDatabaseUse::Command);
     }

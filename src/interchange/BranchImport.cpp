@@ -50,7 +50,7 @@ bool CopyBranch(Program& p, const QString& source, const QString& directory, con
     p.Screen.Pointer = MousePointer::Hourglass;
     const QString gallery = PathSeparator + GalleryName(letter);
     p.Errors.Ignoring([&] { p.Files.MkDir(target + gallery); });
-    CopyDirectory(p, source, target);
+    CopyDirectory(p, source + PathSeparator, target); // which is the root where nothing stands before
     CopyDirectory(p, source + gallery, target + gallery);
     return true;
 }

@@ -150,6 +150,9 @@ bool MapAlternateRecord(Program& p)
 {
     if (!TakeEnteredNumber(p))
         return false;
+    // Before the box is tied to it.
+    if (!TakeOldSibling(p, p.Record.sCurFile.first(1)))
+        return false;
     Records(p).Seek(u"File", p.Record.sCurFile);
     FindPressedBox(p);
     p.Screen.Pointer = MousePointer::Hourglass;

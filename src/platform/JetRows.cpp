@@ -110,7 +110,8 @@ JetRows::Row JetRows::At(std::size_t row) const
 
 bool JetRows::HasLosses() const
 {
-    return tally_.Rows < tally_.Stated || tally_.BadRows > 0 || tally_.BadCells > 0;
+    const bool differs = tally_.Stated != 0 && tally_.Rows != tally_.Stated;
+    return differs || tally_.BadRows > 0 || tally_.BadCells > 0;
 }
 
 } // namespace lineforge

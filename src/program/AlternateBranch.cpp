@@ -17,21 +17,16 @@ void SwapBranchDirs(Program& p)
     std::swap(p.Branch.HomeDir, p.Branch.HomeDirSaved);
 }
 
-namespace
-{
-// One of an older installation that can't be taken is told like any other refused opening, and the record on show
-// stays.
-bool TakeOldSibling(Program& p, const QString& database)
+bool TakeOldSibling(Program& p, QStringView letter)
 {
     try {
-        ConvertIfOld(p, database, OldDatabaseUse::Command);
+        ConvertIfOld(p, DatabasePath(SiblingDirectory(p.Branch.WorkDir, letter)), OldDatabaseUse::Command);
         return true;
     } catch (const RuntimeError& refusal) {
         TellDatabaseRefused(p, refusal);
         return false;
     }
 }
-} // namespace
 
 bool RequireSibling(Program& p, QStringView letter)
 {
@@ -39,7 +34,7 @@ bool RequireSibling(Program& p, QStringView letter)
     const QString directory = (isImported ? u"Import_"_s : u"LfgDat_"_s) + letter;
     const QString database = p.Branch.HomeDir + directory + PathSeparator + u"LfgDat_" + letter + u".mdb";
     if (!p.Files.Dir(database).isEmpty())
-        return TakeOldSibling(p, database);
+        return TakeOldSibling(p, letter);
     if (isImported)
         p.Prompts.MsgBox(u"External Import Record not present."_s,
                          u"Cannot Access External Imported Database subject."_s, Buttons::Information);

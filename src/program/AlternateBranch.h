@@ -15,6 +15,10 @@ void SwapBranchDirs(Program& p);
 // an older installation is taken; shows the box of a refused opening when it can't be.
 bool RequireSibling(Program& p, QStringView letter);
 
+// Takes the sibling's database if it is one of an older installation. False, with the box of a refused opening, when it
+// can't be taken; any other database is left to whoever opens it.
+bool TakeOldSibling(Program& p, QStringView letter);
+
 // Keeps the open branch's directories as the saved ones, before the program points elsewhere. From one sibling to
 // another the way back still leads to the open branch.
 void KeepOwnDirectories(Program& p);

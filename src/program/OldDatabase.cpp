@@ -27,14 +27,13 @@ constexpr std::chrono::seconds readingTime{30};
 const QString noReader = QStringLiteral("This build can't read the databases of older installations.\n"
                                         "It was made without the library that reads them.");
 
-bool IsOld(const QString& file)
+DatabaseFormat FormatOfFile(const QString& file)
 {
     // Opening what is no file may wait for ever.
     QFile database(file);
     if (!QFileInfo(file).isFile() || !database.open(QFile::ReadOnly))
-        return false;
-    const DatabaseFormat format = FormatOf(database.read(databaseFormatBytes).toStdString());
-    return format == DatabaseFormat::Jet3 || format == DatabaseFormat::Jet4;
+        return DatabaseFormat::Unknown;
+    return FormatOf(database.read(databaseFormatBytes).toStdString());
 }
 
 // An exported branch, or somebody's own file, stays what it is.
@@ -102,7 +101,11 @@ void Convert(Program& p, const FileIdentity& file)
 void ConvertIfOld(Program& p, const QString& path, OldDatabaseUse use)
 {
     const QString file = p.Files.Resolve(path);
-    if (!IsOld(file) || !OwnerCanWrite(file) || !IsInBranch(p, file))
+    const DatabaseFormat format = FormatOfFile(file);
+    if (format == DatabaseFormat::Newer)
+        Refuse(ErrorNumber::NotADatabase);
+    const bool isOld = format == DatabaseFormat::Jet3 || format == DatabaseFormat::Jet4;
+    if (!isOld || !OwnerCanWrite(file) || !IsInBranch(p, file))
         return;
     const FileIdentity identity = IdentityOf(file);
     if (use == OldDatabaseUse::Caption && Refused().contains(identity))

@@ -16,8 +16,8 @@ enum class OldDatabaseUse {
 // Makes a database of ours of that file when an older installation wrote it and it stands beneath the home directory.
 // The file is kept beside it, unchanged. Any other file, one that isn't there, and one that is read-only are left to
 // whoever opens them.
-// RuntimeError 3343 for a file that can't be taken or that the user doesn't want taken with its losses, and whatever
-// the disk refuses; nothing has changed then.
+// RuntimeError 3343 for a file of a newer installation, or one that can't be taken or that the user doesn't want taken
+// with its losses, and whatever the disk refuses; nothing has changed then.
 void ConvertIfOld(Program& p, const QString& path, OldDatabaseUse use);
 
 // Shows the box for a database that could not be opened, with the reason where the user can do something about it.

@@ -179,7 +179,9 @@ bool HaveSameBytes(const QString& pathA, const QString& pathB)
     QFile a(pathA);
     QFile b(pathB);
     // Opening what is no file may wait for ever.
-    if (!QFileInfo(pathB).isFile() || !a.open(QFile::ReadOnly) || !b.open(QFile::ReadOnly) || a.size() != b.size())
+    // A link to the old file itself would be left without it.
+    if (!QFileInfo(pathB).isFile() || QFileInfo(pathB).isSymLink() || !a.open(QFile::ReadOnly) ||
+        !b.open(QFile::ReadOnly) || a.size() != b.size())
         return false;
     while (!a.atEnd()) {
         const QByteArray block = a.read(blockBytes);
@@ -216,7 +218,6 @@ void Keep(const QString& oldDatabase, const QString& kept, const Meanwhile& mean
     CopyBytes(oldDatabase, copy.Path(), meanwhile);
     meanwhile();
     copy.TakeFreeName();
-    Handle(QFileInfo(kept).path()).Sync();
 }
 } // namespace
 
@@ -225,8 +226,9 @@ QString NameOfKept(const QString& oldDatabase)
     const QFileInfo file(oldDatabase);
     const QString stem = file.path() + PathSeparator + file.completeBaseName();
     QString kept = stem + u".jet"_s;
+    const auto stands = [](const QString& name) { return QFileInfo::exists(name) || QFileInfo(name).isSymLink(); };
     // The same bytes are there already when the process was ended after it had kept them.
-    for (int number = 2; QFileInfo::exists(kept) && !HaveSameBytes(oldDatabase, kept); ++number)
+    for (int number = 2; stands(kept) && !HaveSameBytes(oldDatabase, kept); ++number)
         kept = stem + u'_' + QString::number(number) + u".jet"_s;
     return kept;
 }
@@ -253,6 +255,9 @@ void ReplaceOldDatabase(const FileSystem& files, const FileIdentity& oldDatabase
         if (!wasKept)
             QFile::remove(kept);
     });
+    // However it came there, it is on the disk before the old one loses its name.
+    Handle(kept).Sync();
+    Handle(QFileInfo(kept).path()).Sync();
     meanwhile();
     RequireSame(oldDatabase);
     // The engine would take what it once left beside a database of this name for a change of the new one.

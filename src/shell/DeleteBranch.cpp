@@ -19,8 +19,8 @@ namespace
 // The branch whose map is shown stands in a directory of its own beneath the home directory.
 bool HasBranch(const Program& p)
 {
-    return p.Branch.UsingAlternate == 1 ? IsBranchDirectory(p.Branch.WorkDirSaved, p.Branch.HomeDirSaved)
-                                        : IsBranchDirectory(p.Branch.WorkDir, p.Branch.HomeDir);
+    const bool isAlternate = p.Branch.UsingAlternate == 1;
+    return IsBranchDirectory(isAlternate ? p.Branch.WorkDirSaved : p.Branch.WorkDir, p.Branch.HomeDir);
 }
 
 bool Ask(Program& p)
@@ -83,7 +83,9 @@ void DeleteBranch(Program& p)
     const QString directory = p.Branch.WorkDir;
     RemoveDirectory(p, directory + PathSeparator + GalleryName(BranchLetter(directory)));
     p.Errors.Ignoring([&] { RemoveAlias(p, p.Branch.sBranchName); });
-    p.Form3->Caption = u"Lineforge. "_s;
+    p.Errors.Ignoring([&] { FillBranchList(p); });
+    if (p.Form3.IsLoaded())
+        p.Form3->Caption = u"Lineforge. "_s;
     // Before the labels are emptied, which hang on its records.
     p.Errors.Ignoring([&] { p.Form3.Unload(); });
     ShowNoBranch(p);

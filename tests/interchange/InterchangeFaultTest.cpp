@@ -132,6 +132,8 @@ TEST_F(InterchangeFaultTest, TenThousandGalleryFiles_AllGo)
 
 // A user whose home stands on a disk of its own, of which the branch takes more than half.
 struct FullDiskStory : InterchangeFaultTest {
+    bool IsDiskSmall = false; // not every system lets a process have one
+
     void TestBody() override
     {
         for (const QStringView file : {u"A001_02.jpg", u"A001_03.jpg", u"A001_04.jpg"})
@@ -139,6 +141,9 @@ struct FullDiskStory : InterchangeFaultTest {
         Export(u'A', Home.Path(u"stick"));
         ExpectWholeOrAbsent(u"stick/LfgDat_A"_s, u"LfgDat_A"_s);
         EXPECT_EQ(Home.ReadFile(u"stick/LfgDat_A/LfgGal_A/A001_01.jpg"), "picture");
+        if (IsDiskSmall) {
+            EXPECT_LT(TreeOf(u"stick/LfgDat_A"_s).size(), TreeOf(u"LfgDat_A"_s).size());
+        }
         EXPECT_EQ(P.Screen.Pointer, MousePointer::Default);
     }
 };
@@ -148,7 +153,9 @@ TEST(FullDiskInterchangeTest, ExportWithoutRoom_LeavesNoHalfFile)
     const TemporaryHome place;
     const int failed = ExitCodeInChild([&place] {
         const SmallDisk disk(place.Path());
-        FullDiskStory().TestBody();
+        FullDiskStory story;
+        story.IsDiskSmall = disk.Refusal().contains(u"Disk full");
+        story.TestBody();
         return testing::Test::HasFailure() ? 1 : 0;
     });
     EXPECT_EQ(failed, 0);

@@ -71,6 +71,18 @@ TEST_F(OldDatabaseTest, SiblingThatCantBeTaken_IsTold_AndIsNotGoneTo)
     EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_A"));
 }
 
+TEST_F(OldDatabaseTest, SiblingOfANewerInstallation_IsTold)
+{
+    GivenOldBranch(u'A', u"jet3/royals12.mdb"_s);
+    GivenOldBranch(u'B', u"jet3/royals12.mdb"_s);
+    Home.WriteFile(u"LfgDat_B/LfgDat_B.mdb", QByteArray("\0\1\0\0Standard ACE DB\0\2", 21) + QByteArray(4000, '\0'));
+    P.Branch.WorkDir = Home.Path(u"LfgDat_A");
+    OpenWorkDatabase(P);
+    ExpectCannotOpenBox();
+
+    EXPECT_FALSE(RequireSibling(P, u"B"));
+}
+
 TEST_F(OldDatabaseTest, WhatIsNoFile_IsRefusedLikeOneThatIsMissing)
 {
     Home.MakeDirectory(u"LfgDat_A");

@@ -290,6 +290,17 @@ TEST_F(OldDatabaseStoreTest, FileThatTakesTheKeptOnesNameMeanwhile_Stays)
     EXPECT_EQ(home.Snapshot(), (Tree{{u"LfgDat_A.jet"_s, "mine"}, {u"LfgDat_A.mdb"_s, oldBytes}}));
 }
 
+TEST_F(OldDatabaseStoreTest, LinksUnderTheKeptOnesName_KeepNothing)
+{
+    ASSERT_TRUE(QFile::link(path, home.Path(u"LfgDat_A.jet")));
+    ASSERT_TRUE(QFile::link(home.Path(u"nowhere"), home.Path(u"LfgDat_A_2.jet")));
+
+    Replace(Rows(3));
+
+    EXPECT_EQ(home.ReadFile(u"LfgDat_A_3.jet"), oldBytes);
+    ExpectRows(3);
+}
+
 TEST_F(OldDatabaseStoreTest, WhatIsNoFileUnderTheKeptOnesName_IsPassedOver)
 {
     ASSERT_EQ(mkfifo(home.Path(u"LfgDat_A.jet").toLocal8Bit().constData(), 0600), 0);

@@ -1,4 +1,5 @@
 #include "ShellTest.h"
+#include "program/AliasList.h"
 #include "program/AlternateBranch.h"
 #include "program/WorkDatabase.h"
 #include "support/Pixels.h"
@@ -198,7 +199,7 @@ TEST_F(DeleteBranchTest, LinksOutOfTheBranch_GoThemselves_AndNothingOutside)
 
     EXPECT_EQ(Home.ReadFile(u"mine/portrait.jpg"), "mine");
     EXPECT_TRUE(Home.Exists(u"LfgDat_B/LfgDat_B.mdb"));
-    EXPECT_FALSE(QFileInfo(Home.Path(u"LfgDat_A/A003Sub.jpg")).isSymLink());
+    EXPECT_FALSE(Home.Exists(u"LfgDat_A"));
 }
 
 TEST_F(DeleteBranchTest, GalleryThatIsALink_KeepsWhatItLeadsTo)
@@ -210,6 +211,7 @@ TEST_F(DeleteBranchTest, GalleryThatIsALink_KeepsWhatItLeadsTo)
     DeleteForGood();
 
     EXPECT_EQ(Home.ReadFile(u"pictures/A001_01.jpg"), "mine");
+    EXPECT_FALSE(Home.Exists(u"LfgDat_A"));
 }
 
 TEST_F(DeleteBranchTest, BranchDirectoryThatIsALink_KeepsAllItsFiles)
@@ -305,6 +307,16 @@ TEST_F(DeleteBranchTest, AfterAChangeOfTheHomeDirectory_TheOldOnesBranchStays)
 {
     Home.WriteFile(u"other/AliasList.cfg", Home.ReadFile(u"AliasList.cfg"));
     P.Branch.HomeDir = Home.Path(u"other") + PathSeparator;
+
+    ExpectRefused();
+}
+
+TEST_F(DeleteBranchTest, AfterAChangeOfTheHomeDirectory_OnARecordOfAnotherBranch_BothRegistriesStay)
+{
+    SwitchToSibling(P, u"B");
+    Home.WriteFile(u"other/AliasList.cfg", "[Alias]\r\n[Greens=LfgDat_D,]\r\n[CFG]\r\n[1,]\r\n");
+    P.Branch.HomeDir = Home.Path(u"other") + PathSeparator;
+    ReadAliasList(P);
 
     ExpectRefused();
 }
