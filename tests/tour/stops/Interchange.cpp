@@ -61,8 +61,10 @@ void BranchIsExported(Tour& tour)
 {
     tour.Answer(u"Export Directory and Files"_s, Key::Return);
     for (const auto& file : {u"/LfgDat_C.mdb"_s, u"/LfgDat_C.cfg"_s})
-        tour.Await(file + u" in the export",
-                   [&] { return tour.Home.Read(exported + file) == tour.Home.Read(u"LfgDat_C"_s + file); });
+        tour.Await(file + u" in the export", [&] {
+            return tour.Home.Has(exported + file) &&
+                   tour.Home.Read(exported + file) == tour.Home.Read(u"LfgDat_C"_s + file);
+        });
     tour.Await(u"the gallery in the export"_s, [&] { return tour.Home.Has(exported + u"/LfgGal_C"); });
 }
 
