@@ -16,9 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-constexpr qsizetype directoryLength = 8; // of "LfgDat_B"
-constexpr qsizetype fileTail = 5;        // of "B.mdb"
-
 // Unlike a step to a record this takes a forename that is Null.
 void ShowFirstCurrentRecord(Program& p)
 {
@@ -124,12 +121,11 @@ void WithdrawCompareRequest(Program& p)
 void OpenCompareBranch(Program& p, const QString& name, const QString& entry)
 {
     WithdrawCompareRequest(p);
-    const QString file = entry.right(directoryLength) + u".mdb";
-    const QString directory = p.Branch.HomeDir + file.left(directoryLength) + PathSeparator;
-    if (!PointAtCompareDatabase(p, directory + u"LfgDat_" + file.right(fileTail)))
+    const QString directory = p.Branch.HomeDir + DirectoryName(entry);
+    if (!PointAtCompareDatabase(p, DatabasePath(directory)))
         return;
-    p.Compare.sCompDbFile = file;
-    p.Compare.sCompDir = directory;
+    p.Compare.sCompDbFile = DirectoryName(entry) + u".mdb";
+    p.Compare.sCompDir = directory + PathSeparator;
     if (CompareRecords(p).IsEmpty()) {
         p.Form6->Label7.Caption = QString();
         ShowNothing(p, CompareSide);

@@ -13,7 +13,6 @@ namespace lineforge::jet
 
 namespace
 {
-using namespace std::string_view_literals;
 using jetstream::Outcome;
 
 constexpr unsigned long catalogPage = 2;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "jet/Refused.h"
 #include "platform/JetStreamFormat.h"
 
 #include <array>
@@ -9,11 +10,6 @@
 
 namespace lineforge::jet
 {
-
-// Thrown for a file that can't be taken at all.
-struct Refused {
-    jetstream::Outcome Why;
-};
 
 struct Cell {
     bool IsNull = true;

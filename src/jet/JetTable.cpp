@@ -1,6 +1,6 @@
 #include "jet/JetTable.h"
 
-#include "jet/JetFile.h"
+#include "jet/Refused.h"
 
 #include <strings.h>
 
@@ -9,8 +9,6 @@ namespace lineforge::jet
 
 namespace
 {
-// What the start of a slot tells beside the place.
-constexpr int placeMask = 0x1FFF;
 constexpr int flagMask = 0xC000;
 constexpr int pointerFlag = 0x4000; // the row has moved to where the slot points
 constexpr int bodyFlag = 0x8000;    // a row that has moved here, and is met where it is pointed at

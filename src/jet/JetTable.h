@@ -1,13 +1,10 @@
 #pragma once
 
+#include "jet/Library.h"
 #include "jet/RowFields.h"
 
-#include <glib.h>
-
-// The library's own header doesn't stand being read before glib's.
 #include <cstdint>
 #include <functional>
-#include <mdbtools.h>
 #include <memory>
 #include <optional>
 #include <string_view>
@@ -27,6 +24,8 @@ class JetTable
 public:
     // Throws Refused when no sound definition stands on that page.
     JetTable(MdbHandle& file, unsigned long definitionPage);
+    JetTable(const JetTable&) = delete;
+    JetTable& operator=(const JetTable&) = delete;
 
     // The column of that name in any case.
     std::optional<JetColumn> Column(std::string_view name) const;

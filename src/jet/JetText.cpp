@@ -1,6 +1,6 @@
 #include "jet/JetText.h"
 
-#include "jet/JetFile.h"
+#include "jet/Refused.h"
 
 #include <algorithm>
 #include <cerrno>

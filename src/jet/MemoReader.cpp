@@ -12,7 +12,6 @@ using namespace std::string_view_literals;
 constexpr std::size_t headBytes = 12;
 constexpr guint32 inRow = 0x80000000;
 constexpr guint32 inOnePiece = 0x40000000;
-constexpr int placeMask = 0x1FFF;
 
 guint32 NumberAt(std::string_view bytes, int place)
 {

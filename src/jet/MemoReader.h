@@ -1,9 +1,7 @@
 #pragma once
 
-#include <glib.h>
+#include "jet/Library.h"
 
-// The library's own header doesn't stand being read before glib's.
-#include <mdbtools.h>
 #include <optional>
 #include <string>
 #include <string_view>

@@ -1,14 +1,13 @@
 #include "platform/Database.h"
 
+#include "platform/FileIdentity.h"
 #include "platform/RuntimeError.h"
 #include "platform/Text.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
 #include <sqlite3.h>
-#include <sys/stat.h>
 
 namespace lineforge
 {
@@ -47,17 +46,6 @@ int CollateSameText(void*, int lengthA, const void* a, int lengthB, const void* 
 {
     return CompareText(QByteArrayView(static_cast<const char*>(a), lengthA),
                        QByteArrayView(static_cast<const char*>(b), lengthB));
-}
-
-bool IdentityOf(const QString& path, dev_t& device, ino_t& inode)
-{
-    struct stat status {
-    };
-    if (stat(QFile::encodeName(path).constData(), &status) != 0)
-        return false;
-    device = status.st_dev;
-    inode = status.st_ino;
-    return true;
 }
 } // namespace
 
@@ -143,7 +131,9 @@ Database::Database(const FileSystem& files, const QString& path)
         throw RuntimeError(ErrorNumber::DatabaseNotFound);
     if (files.GetAttr(file) & FileSystem::ReadOnly)
         throw RuntimeError(ErrorNumber::DatabaseReadOnly);
-    IdentityOf(file, device_, inode_);
+    const FileIdentity identity = IdentityOf(file);
+    device_ = identity.Device;
+    inode_ = identity.File;
 
     try {
         // One thread alone uses it, so that the engine need not take a lock at each call.
@@ -179,9 +169,8 @@ std::int64_t Database::Changes() const
 
 bool Database::IsStill(const QString& path) const
 {
-    dev_t device = 0;
-    ino_t inode = 0;
-    return IdentityOf(path, device, inode) && device == device_ && inode == inode_;
+    const FileIdentity identity = IdentityOf(path);
+    return identity.File != 0 && identity.Device == device_ && identity.File == inode_;
 }
 
 void Database::NoteRow(std::int64_t row)

@@ -32,7 +32,7 @@ bool RequireSibling(Program& p, QStringView letter)
 {
     const bool isImported = IsImported(p.Branch.WorkDir);
     const QString directory = (isImported ? u"Import_"_s : u"LfgDat_"_s) + letter;
-    const QString database = p.Branch.HomeDir + directory + PathSeparator + u"LfgDat_" + letter + u".mdb";
+    const QString database = DatabasePath(p.Branch.HomeDir + directory);
     if (!p.Files.Dir(database).isEmpty())
         return TakeOldSibling(p, letter);
     if (isImported)

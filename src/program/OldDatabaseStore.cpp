@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-using Meanwhile = std::function<void()>;
+using Step = std::function<void()>;
 
 constexpr qint64 blockBytes = 1 << 20;
 
@@ -117,7 +117,7 @@ void WriteRow(Statement& insertion, const JetRows::Row& row)
     insertion.Reset();
 }
 
-void WriteDatabase(const FileSystem& files, const QString& path, const JetRows& rows, const Meanwhile& meanwhile)
+void WriteDatabase(const FileSystem& files, const QString& path, const JetRows& rows, const Step& meanwhile)
 {
     // The engine takes an empty file for an empty database.
     QFile file(path);
@@ -148,7 +148,7 @@ bool IsSame(const Statement& stored, const JetRows::Row& row)
 }
 
 // Reads back what has been written, as the program will.
-void RequireRows(const FileSystem& files, const QString& path, const JetRows& rows, const Meanwhile& meanwhile)
+void RequireRows(const FileSystem& files, const QString& path, const JetRows& rows, const Step& meanwhile)
 {
     const Database database(files, path);
     const auto stored = database.Prepare("SELECT " + FieldList(", ") + " FROM Tree99 ORDER BY rowid");
@@ -178,8 +178,7 @@ bool HaveSameBytes(const QString& pathA, const QString& pathB)
 {
     QFile a(pathA);
     QFile b(pathB);
-    // Opening what is no file may wait for ever.
-    // A link to the old file itself would be left without it.
+    // Opening what is no file may wait for ever, and a link may lead to the old file itself.
     if (!QFileInfo(pathB).isFile() || QFileInfo(pathB).isSymLink() || !a.open(QFile::ReadOnly) ||
         !b.open(QFile::ReadOnly) || a.size() != b.size())
         return false;
@@ -191,7 +190,7 @@ bool HaveSameBytes(const QString& pathA, const QString& pathB)
     return true;
 }
 
-void CopyBytes(const QString& from, const QString& to, const Meanwhile& meanwhile)
+void CopyBytes(const QString& from, const QString& to, const Step& meanwhile)
 {
     QFile input(from);
     QFile output(to);
@@ -212,7 +211,7 @@ void CopyBytes(const QString& from, const QString& to, const Meanwhile& meanwhil
 }
 
 // A copy, not a second name of the same file: it stays what it is whoever writes to the other one.
-void Keep(const QString& oldDatabase, const QString& kept, const Meanwhile& meanwhile)
+void Keep(const QString& oldDatabase, const QString& kept, const Step& meanwhile)
 {
     const UnfinishedFile copy(kept);
     CopyBytes(oldDatabase, copy.Path(), meanwhile);
@@ -234,7 +233,7 @@ QString NameOfKept(const QString& oldDatabase)
 }
 
 void ReplaceOldDatabase(const FileSystem& files, const FileIdentity& oldDatabase, const JetRows& rows,
-                        const Meanwhile& meanwhile)
+                        const Step& meanwhile)
 {
     const QString& path = oldDatabase.Path;
     RequireReplaceable(path);

@@ -1,5 +1,6 @@
 #include "shell/DeleteBranch.h"
 
+#include "gallery/GalleryFile.h"
 #include "map/SubjectPanel.h"
 #include "map/tools/LeaveTools.h"
 #include "platform/DirectoryFiles.h"
@@ -81,9 +82,8 @@ void DeleteBranch(Program& p)
         return;
 
     const QString directory = p.Branch.WorkDir;
-    RemoveDirectory(p, directory + PathSeparator + GalleryName(BranchLetter(directory)));
+    RemoveDirectory(p, GalleryDirectory(directory));
     p.Errors.Ignoring([&] { RemoveAlias(p, p.Branch.sBranchName); });
-    p.Errors.Ignoring([&] { FillBranchList(p); });
     if (p.Form3.IsLoaded())
         p.Form3->Caption = u"Lineforge. "_s;
     // Before the labels are emptied, which hang on its records.

@@ -1,5 +1,6 @@
 #include "shell/NewBranch.h"
 
+#include "gallery/GalleryFile.h"
 #include "map/EnterBranch.h"
 #include "map/MapFile.h"
 #include "map/MapParse.h"
@@ -7,7 +8,6 @@
 #include "map/tools/LeaveTools.h"
 #include "platform/Text.h"
 #include "program/AliasList.h"
-#include "program/BranchPaths.h"
 #include "program/BranchUi.h"
 #include "program/EmptyTable.h"
 #include "program/WorkDatabase.h"
@@ -82,7 +82,7 @@ bool MakeDirectories(Program& p, const QString& directory)
                          Buttons::Information);
         return false;
     }
-    p.Files.MkDir(directory + PathSeparator + GalleryName(BranchLetter(directory)));
+    p.Files.MkDir(GalleryDirectory(directory));
     return true;
 }
 

@@ -107,12 +107,8 @@ TEST_F(BranchExportTest, BranchOfTheSameLetterInAnotherHome_CountsAsOpen)
 TEST_F(BranchExportTest, BranchJustMade_IsOpen)
 {
     WriteTemplates(Home);
-    Prompts.ExpectInput(u"New Tree Branch name", u"Enter the name for this new Tree Branch Map", u"Browns");
-    const QString question =
-        u"New 'Browns' Tree Branch Database and new map file will be \nplaced in new Directory "_s +
-        Home.Path(u"LfgDat_C") +
-        u".\nNew 'Browns' Subject and Gallery files will be copied to this \ndirectory when presented.";
-    Prompts.Expect(u"Browns Tree Branch new Directory and Files", question, Buttons::InformationOkCancel);
+    AnswerName(u"Browns");
+    Confirm(u"Browns", u"LfgDat_C");
     ExpectEmptyBox();
     P.Form1->New.Click();
     Prompts.ExpectOpenFile(u"Select Export Database source File", Filter, Database(u"C"));

@@ -34,6 +34,16 @@ protected:
         Import();
     }
 
+    // Their letter is that of a branch in the list.
+    void ImportCousins()
+    {
+        ExpectImportDialog(OnStick(u'A'));
+        ExpectNameInUse(u"Import_A"_s);
+        ExpectImportName(u"Cousins");
+        ExpectImportQuestion(u"Cousins"_s, u"Import_A"_s);
+        Import();
+    }
+
     void ExpectNoChange(const Tree& before) { EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList()); }
 };
 
@@ -112,12 +122,7 @@ TEST_F(BranchImportTest, FirstSubject_IsShownAsByOpen)
 
 TEST_F(BranchImportTest, LetterThatIsListed_GoesIntoTheOtherFamily_WithItsOwnFileNames)
 {
-    ExpectImportDialog(OnStick(u'A'));
-    ExpectNameInUse(u"Import_A"_s);
-    ExpectImportName(u"Cousins");
-    ExpectImportQuestion(u"Cousins"_s, u"Import_A"_s);
-
-    Import();
+    ImportCousins();
 
     EXPECT_EQ(TreeOf(u"Import_A"_s), TreeOf(u"stick/LfgDat_A"_s));
     EXPECT_TRUE(Registry().contains("Cousins=Import_A,"));
@@ -126,11 +131,7 @@ TEST_F(BranchImportTest, LetterThatIsListed_GoesIntoTheOtherFamily_WithItsOwnFil
 
 TEST_F(BranchImportTest, ChangesOfAMapInTheOtherFamily_DontComeBack)
 {
-    ExpectImportDialog(OnStick(u'A'));
-    ExpectNameInUse(u"Import_A"_s);
-    ExpectImportName(u"Cousins");
-    ExpectImportQuestion(u"Cousins"_s, u"Import_A"_s);
-    Import();
+    ImportCousins();
     MoveFirstBoxTo(1300);
 
     P.Form1->mnuCloseDB.Click();
@@ -159,11 +160,7 @@ TEST_F(BranchImportTest, ListAlone_DecidesOnTheDirectory)
 
 TEST_F(BranchImportTest, SecondImportOfALetter_IsRefused)
 {
-    ExpectImportDialog(OnStick(u'A'));
-    ExpectNameInUse(u"Import_A"_s);
-    ExpectImportName(u"Cousins");
-    ExpectImportQuestion(u"Cousins"_s, u"Import_A"_s);
-    Import();
+    ImportCousins();
     const Tree before = Home.Snapshot();
     ExpectImportDialog(Home.Path(u"stick/LfgDat_A/LfgDat_A.mdb"));
     ExpectNameInUse(u"Import_A"_s);

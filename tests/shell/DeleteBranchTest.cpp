@@ -21,19 +21,20 @@ protected:
         Choose(u"Smiths");
     }
 
-    void ExpectFirst(Answer answer)
+    void ExpectFirst(Answer answer, const QString& name = u"Smiths"_s)
     {
-        Prompts.Expect(u"Delete 'Smiths' DataBase and Galleries",
-                       u"Do you really want to delete the Database\nand Gallery files in 'Smiths' Tree Branch ?",
-                       Buttons::QuestionYesNo, answer);
+        const QString title = u"Delete '%1' DataBase and Galleries"_s.arg(name);
+        const QString text =
+            u"Do you really want to delete the Database\nand Gallery files in '%1' Tree Branch ?"_s.arg(name);
+        Prompts.Expect(title, text, Buttons::QuestionYesNo, answer);
     }
-    void ExpectSecond(Answer answer)
+    void ExpectSecond(Answer answer, const QString& name = u"Smiths"_s, QStringView directory = u"LfgDat_A")
     {
-        const QString text = u"All files in "_s + Home.Path(u"LfgDat_A") +
-                             u"\n'Smiths' Ancestral Tree Branch will be deleted.\n"
+        const QString title = u"Deletion of '%1' Database, Gallery and Files"_s.arg(name);
+        const QString text = u"All files in %1\n'%2' Ancestral Tree Branch will be deleted.\n"
                              u"This includes the Database, Gallery and its Directories\n"
-                             u"Are you sure this is what you want ? ";
-        Prompts.Expect(u"Deletion of 'Smiths' Database, Gallery and Files", text, Buttons::ErrorYesNo, answer);
+                             u"Are you sure this is what you want ? "_s.arg(Home.Path(directory), name);
+        Prompts.Expect(title, text, Buttons::ErrorYesNo, answer);
     }
     void Delete() { Click(P.Form1->mnuDelSub.Click); }
     void DeleteForGood()
@@ -177,13 +178,8 @@ TEST_F(DeleteBranchTest, LetterThatIsLeftOnTheDisk_CountsAsTaken)
 {
     Home.MakeReadOnly(u"LfgDat_A/A002Sub.jpg");
     DeleteForGood();
-    Prompts.ExpectInput(u"New Tree Branch name", u"Enter the name for this new Tree Branch Map", u"Browns");
-    Prompts.Expect(u"Browns Tree Branch new Directory and Files",
-                   QString(u"New 'Browns' Tree Branch Database and new map file will be \nplaced in new Directory "_s +
-                           Home.Path(u"LfgDat_C") +
-                           u".\nNew 'Browns' Subject and Gallery files will be copied to this \ndirectory when "
-                           u"presented."),
-                   Buttons::InformationOkCancel, Answer::Cancel);
+    AnswerName(u"Browns");
+    Confirm(u"Browns", u"LfgDat_C", Answer::Cancel);
 
     P.Form1->New.Click();
 }
@@ -244,12 +240,7 @@ TEST_F(DeleteBranchTest, ImportedBranch_GoesWithItsEntry)
     BranchOf(u'A').InDirectory(u"Import_A").Gallery({{u"A001_01.jpg"_s, "picture"}}).Build();
     Choose(u"Smiths");
     ExpectFirst(Answer::Yes);
-    Prompts.Expect(u"Deletion of 'Smiths' Database, Gallery and Files",
-                   QString(u"All files in "_s + Home.Path(u"Import_A") +
-                           u"\n'Smiths' Ancestral Tree Branch will be deleted.\n"
-                           u"This includes the Database, Gallery and its Directories\n"
-                           u"Are you sure this is what you want ? "),
-                   Buttons::ErrorYesNo, Answer::Yes);
+    ExpectSecond(Answer::Yes, u"Smiths"_s, u"Import_A");
 
     Delete();
 
@@ -346,15 +337,8 @@ TEST_F(DeleteBranchTest, BoxesOfOtherBranches_KeepTheirPeople_AndShowTheNumberAl
 TEST_F(DeleteBranchTest, NameWithoutAnEntry_DeletesTheBranch_AndLeavesTheList)
 {
     P.Branch.sBranchName = u"Unlisted"_s;
-    Prompts.Expect(u"Delete 'Unlisted' DataBase and Galleries",
-                   u"Do you really want to delete the Database\nand Gallery files in 'Unlisted' Tree Branch ?",
-                   Buttons::QuestionYesNo, Answer::Yes);
-    Prompts.Expect(u"Deletion of 'Unlisted' Database, Gallery and Files",
-                   QString(u"All files in "_s + Home.Path(u"LfgDat_A") +
-                           u"\n'Unlisted' Ancestral Tree Branch will be deleted.\n"
-                           u"This includes the Database, Gallery and its Directories\n"
-                           u"Are you sure this is what you want ? "),
-                   Buttons::ErrorYesNo, Answer::Yes);
+    ExpectFirst(Answer::Yes, u"Unlisted"_s);
+    ExpectSecond(Answer::Yes, u"Unlisted"_s);
 
     Delete();
 

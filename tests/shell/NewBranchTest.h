@@ -17,12 +17,6 @@ inline QByteArray RegistryWith(const QByteArray& entry)
 class NewBranchTest : public ShellTest
 {
 protected:
-    void AnswerName(QStringView name, ScriptedPrompts::WhileOpen whileOpen = {})
-    {
-        Prompts.ExpectInput(u"New Tree Branch name", u"Enter the name for this new Tree Branch Map", name,
-                            std::move(whileOpen));
-    }
-
     void ExpectDuplicateBox()
     {
         Prompts.Expect(u"Duplicate Name entered.", u"Cannot have Tree Branch databases with same name",
@@ -40,17 +34,6 @@ protected:
     void ExpectDirectoryThereBox()
     {
         Prompts.Expect(u"Error Setting New Directory", u" sDir & ' directory already exists.'", Buttons::Information);
-    }
-
-    void Confirm(QStringView name, QStringView directory, Answer answer = Answer::Ok,
-                 ScriptedPrompts::WhileOpen whileOpen = {})
-    {
-        const QString title = name + u" Tree Branch new Directory and Files"_s;
-        const QString text = u"New '%1' Tree Branch Database and new map file will be \n"
-                             u"placed in new Directory %2%3.\n"
-                             u"New '%1' Subject and Gallery files will be copied to this \n"
-                             u"directory when presented."_s.arg(name, P.Branch.HomeDir, directory);
-        Prompts.Expect(title, text, Buttons::InformationOkCancel, answer, std::move(whileOpen));
     }
 
     void Make(QStringView name, QStringView directory)

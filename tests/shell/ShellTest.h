@@ -66,6 +66,24 @@ protected:
 
     QByteArray Registry() const { return Home.ReadFile(u"AliasList.cfg"); }
 
+    // The questions of New.
+    void AnswerName(QStringView name, ScriptedPrompts::WhileOpen whileOpen = {})
+    {
+        Prompts.ExpectInput(u"New Tree Branch name", u"Enter the name for this new Tree Branch Map", name,
+                            std::move(whileOpen));
+    }
+
+    void Confirm(QStringView name, QStringView directory, Answer answer = Answer::Ok,
+                 ScriptedPrompts::WhileOpen whileOpen = {})
+    {
+        const QString title = name + u" Tree Branch new Directory and Files"_s;
+        const QString text = u"New '%1' Tree Branch Database and new map file will be \n"
+                             u"placed in new Directory %2%3.\n"
+                             u"New '%1' Subject and Gallery files will be copied to this \n"
+                             u"directory when presented."_s.arg(name, P.Branch.HomeDir, directory);
+        Prompts.Expect(title, text, Buttons::InformationOkCancel, answer, std::move(whileOpen));
+    }
+
     void ExpectEmptyBox()
     {
         Prompts.Expect(u"Database Empty", u"This Database has no records to access", Buttons::Information);

@@ -27,10 +27,16 @@ DirectoryView::DirectoryView(QWidget* parent) : QListWidget(parent)
 void DirectoryView::ShowDirectory(const QString& path)
 {
     path_ = path;
+    if (isVisible())
+        ReadDisk();
+}
+
+void DirectoryView::ReadDisk()
+{
     clear();
     const QIcon open = style()->standardIcon(QStyle::SP_DirOpenIcon);
     const QIcon closed = style()->standardIcon(QStyle::SP_DirIcon);
-    for (const DirectoryRow& row : DirectoryRows(path)) {
+    for (const DirectoryRow& row : DirectoryRows(path_)) {
         const QString indent(row.Depth * blanksADepth, u' ');
         auto* item = new QListWidgetItem(row.IsOpen ? open : closed, indent + row.Name, this);
         item->setData(pathRole, row.Path);
@@ -56,7 +62,7 @@ void DirectoryView::keyPressEvent(QKeyEvent* event)
 
 void DirectoryView::showEvent(QShowEvent* event)
 {
-    ShowDirectory(path_);
+    ReadDisk();
     QListWidget::showEvent(event);
 }
 

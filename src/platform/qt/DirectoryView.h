@@ -13,7 +13,7 @@ class DirectoryView : public QListWidget
 public:
     explicit DirectoryView(QWidget* parent);
 
-    // Reads the disk. The line of that directory becomes the current one.
+    // The line of that directory becomes the current one. The disk is read while there is somebody to see it.
     void ShowDirectory(const QString& path);
 
     std::function<void()> Clicked;
@@ -25,6 +25,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    void ReadDisk();
     void Choose(const QListWidgetItem* item);
 
     QString path_;

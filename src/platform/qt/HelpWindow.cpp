@@ -1,6 +1,7 @@
 #include "platform/qt/HelpWindow.h"
 
 #include "platform/qt/HelpBook.h"
+#include "platform/qt/Outlines.h"
 
 #include <QAction>
 #include <QEvent>
@@ -33,19 +34,11 @@ constexpr int letterStep = 2;
 constexpr int smallestLetters = 6;
 constexpr int largestLetters = 72;
 
-// So much of the first colour, in percent, the rest of the second.
-QString Mixed(const QColor& first, const QColor& second, int percent)
-{
-    const auto mix = [percent](int one, int other) { return (one * percent + other * (100 - percent)) / 100; };
-    return QColor(mix(first.red(), second.red()), mix(first.green(), second.green()), mix(first.blue(), second.blue()))
-        .name();
-}
-
 // The toolkit's dark themes keep its dark blue for links.
 QString LinkColour(const QPalette& palette)
 {
     const bool isDark = palette.base().color().lightness() < 128;
-    return isDark ? Mixed(palette.link().color(), Qt::white, 35) : palette.link().color().name();
+    return (isDark ? Mixed(palette.link().color(), Qt::white, 0.35F) : palette.link().color()).name();
 }
 
 // The pages bring no colours: these are the user's own, so that a dark desktop has a dark manual.
@@ -59,7 +52,7 @@ QString StyleSheetIn(const QPalette& palette)
            u"table { border-collapse: collapse; border: 1px solid %3; margin-top: 6px; margin-bottom: 6px; }"
            u"td { border: 1px solid %3; padding: 4px; }"
            u"th { border: 1px solid %3; padding: 4px; text-align: left; background-color: %2; }"_s.arg(
-               LinkColour(palette), Mixed(text, base, 10), Mixed(text, base, 35));
+               LinkColour(palette), Mixed(text, base, 0.1F).name(), Mixed(text, base, 0.35F).name());
 }
 
 void Describe(QWidget& widget, const QString& objectName, const QString& accessibleName)
@@ -288,7 +281,7 @@ void HelpWindow::MarkHits()
     }
     std::ranges::sort(marked_, {}, &QTextCursor::selectionStart);
     // Paler than a selection, which tells on which of them the user stands.
-    const QColor colour(Mixed(palette().highlight().color(), palette().base().color(), 40));
+    const QColor colour = Mixed(palette().highlight().color(), palette().base().color(), 0.4F);
     QList<QTextEdit::ExtraSelection> marks;
     for (const QTextCursor& hit : marked_) {
         QTextEdit::ExtraSelection mark;

@@ -6,14 +6,16 @@
 namespace lineforge
 {
 
+QColor Mixed(const QColor& first, const QColor& second, float share)
+{
+    const auto mix = [share](float one, float other) { return other + (one - other) * share; };
+    return QColor::fromRgbF(mix(first.redF(), second.redF()), mix(first.greenF(), second.greenF()),
+                            mix(first.blueF(), second.blueF()));
+}
+
 QColor OutlineColour(const QPalette& palette)
 {
-    constexpr float shareOfText = 0.28F;
-    const QColor ground = palette.color(QPalette::Window);
-    const QColor text = palette.color(QPalette::WindowText);
-    const auto mix = [](float below, float above) { return below + (above - below) * shareOfText; };
-    return QColor::fromRgbF(mix(ground.redF(), text.redF()), mix(ground.greenF(), text.greenF()),
-                            mix(ground.blueF(), text.blueF()));
+    return Mixed(palette.color(QPalette::WindowText), palette.color(QPalette::Window), 0.28F);
 }
 
 // Light within dark, so that it shows on any picture.

@@ -5,6 +5,7 @@
 #include "platform/PictureBox.h"
 #include "platform/TextPanel.h"
 #include "platform/qt/AccessibleName.h"
+#include "platform/qt/ButtonLook.h"
 #include "platform/qt/ClickableWidgets.h"
 #include "platform/qt/DirectoryView.h"
 #include "platform/qt/DraggableImage.h"
@@ -25,10 +26,8 @@
 #include <QRadioButton>
 #include <QShortcut>
 #include <QSignalBlocker>
-#include <QStyle>
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace lineforge
@@ -76,15 +75,6 @@ void ShowInLine(QLineEdit& line, const QString& text)
     line.setCursorPosition(cursor);
 }
 
-// The toolkit's mark has one size for all sizes of text, and one distance to it.
-void SizeMark(QAbstractButton& button)
-{
-    const int side = button.fontMetrics().height();
-    if (button.style()->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr, &button) < side)
-        button.setStyleSheet(
-            u"* { spacing: %2px; } ::indicator { width: %1px; height: %1px; }"_s.arg(side).arg(side / 3));
-}
-
 // The toolkit itself would leave one of a set on, and would switch off others that the program means to be on.
 void Show(QRadioButton& button, bool on)
 {
@@ -99,37 +89,6 @@ void Choose(const OptionButton& chosen, const Container& container)
         if (auto* option = dynamic_cast<OptionButton*>(control))
             option->Value = option == &chosen;
     Fire(chosen.Click);
-}
-
-// A button that is a picture has no border of its own.
-void ShowOnButton(QPushButton& button, const QImage& picture)
-{
-    if (picture.isNull() && button.icon().isNull())
-        return;
-    button.setFlat(true);
-    button.setIcon(QPixmap::fromImage(picture));
-}
-
-// White stands out better on it than black does, by the usual measure of contrast.
-bool IsDark(const QColor& colour)
-{
-    constexpr double evenContrast = 0.179;
-    const auto light = [](double part) { return std::pow(part, 2.2); };
-    return 0.2126 * light(colour.redF()) + 0.7152 * light(colour.greenF()) + 0.0722 * light(colour.blueF()) <
-           evenContrast;
-}
-
-void ColourButton(QPushButton& button, const std::optional<Colour>& colour)
-{
-    if (!colour) {
-        button.setPalette({});
-        return;
-    }
-    const QColor back = ToQColor(*colour);
-    QPalette palette = button.palette();
-    palette.setColor(QPalette::Button, back);
-    palette.setColor(QPalette::ButtonText, IsDark(back) ? Qt::white : Qt::black);
-    button.setPalette(palette);
 }
 } // namespace
 
