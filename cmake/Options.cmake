@@ -21,3 +21,7 @@ if(LINEFORGE_FUZZ)
                                                        -fno-sanitize-recover=undefined)
     target_link_options(lineforge_options INTERFACE -fsanitize=address,undefined)
 endif()
+
+# For tests of real windows under the address sanitizer: the toolkit brings in libraries that never give back what they
+# hold.
+set(LEAK_SUPPRESSIONS "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/leak-suppressions.txt")

@@ -42,7 +42,7 @@ void NoteZNumber(Program& p, const QString& file)
 {
     constexpr int digits = 3;
     if (SameText(file.left(1), u"Z"))
-        p.Compare.ZNumberTable[ToLong(file.right(digits))] = file;
+        Concerning(u"Record "_s + file, [&] { p.Compare.ZNumberTable[ToLong(file.right(digits))] = file; });
 }
 
 // Empty when all are taken.

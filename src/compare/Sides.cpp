@@ -79,7 +79,7 @@ void ShowRecord(Program& p, const Side& side)
     (form.*side.Surname).Text = record.Text(u"Surname");
     const FieldValue forename = record.Value(u"Forename");
     if (!forename)
-        throw RuntimeError(ErrorNumber::InvalidUseOfNull);
+        throw RuntimeError(ErrorNumber::InvalidUseOfNull, u"Forename\nRecord "_s + file + u'\n' + side.Directory(p));
     (form.*side.Forename).Text = *forename;
 }
 

@@ -57,7 +57,7 @@ std::optional<int> FreeSubscript(Program& p, const Addition& addition)
             Refuse(p, addition);
             return std::nullopt;
         }
-        taken[SubscriptOf(name)] = true;
+        Concerning(GalleryDirectory(p.Branch.WorkDir) + name, [&] { taken[SubscriptOf(name)] = true; });
     }
     int subscript = 1;
     while (subscript <= LastSubscript && taken[subscript])

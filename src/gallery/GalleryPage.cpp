@@ -16,12 +16,12 @@ namespace
 constexpr int tilesInRow = 14;
 constexpr int gap = 100;
 
-// What stands on the tiles of a page, by their indexes.
+// What stands on the tiles of a page, by subscript.
 struct PageFile {
     QString Name;
     QString ImagePath;
 };
-using PageFiles = FixedArray<PageFile, 0, LastSubscript - 1>;
+using PageFiles = FixedArray<PageFile, 1, LastSubscript>;
 
 void PlaceTile(forms::Form5& form, int index)
 {
@@ -62,21 +62,29 @@ void TellWrongEnding(Program& p, const QString& name)
                      Buttons::Information);
 }
 
-// The files of the record; of two with one subscript the later name holds the tile. Nothing when one has an ending
-// that no gallery has.
+// False when the file has an ending that no gallery has.
+bool PutOnPage(Program& p, const QString& name, PageFiles& files)
+{
+    const int subscript = SubscriptOf(name);
+    p.Gallery.GalleryTop = std::max<int>(p.Gallery.GalleryTop, subscript);
+    const std::optional<GalleryKind> kind = KindOf(name);
+    if (!kind)
+        return false;
+    const QString icons = p.Scratch.sNewDir + PathSeparator;
+    files[subscript] = {name, TilePicturePath(p.Gallery.PageDirectory + name, *kind, icons)};
+    return true;
+}
+
+// The files of the record; of two with one subscript the later name holds the tile. Nothing, after a box, when one
+// doesn't belong there.
 std::optional<PageFiles> ListPage(Program& p)
 {
-    const QString icons = p.Scratch.sNewDir + PathSeparator;
     PageFiles files;
     for (const QString& name : GalleryFiles(p, GalleryKey(p))) {
-        const int subscript = SubscriptOf(name);
-        p.Gallery.GalleryTop = std::max<int>(p.Gallery.GalleryTop, subscript);
-        const std::optional<GalleryKind> kind = KindOf(name);
-        if (!kind) {
+        if (!Concerning(p.Gallery.PageDirectory + name, [&] { return PutOnPage(p, name, files); })) {
             TellWrongEnding(p, name);
             return std::nullopt;
         }
-        files[subscript - 1] = {name, TilePicturePath(p.Gallery.PageDirectory + name, *kind, icons)};
     }
     return files;
 }
@@ -92,9 +100,9 @@ void ShowFile(Program& p, int index, const PageFile& file)
 void ExpectPictures(Program& p, const PageFiles& files)
 {
     QStringList paths;
-    for (int index = 0; index < LastSubscript; ++index)
-        if (!files[index].ImagePath.isEmpty())
-            paths.append(files[index].ImagePath);
+    for (int subscript = 1; subscript <= LastSubscript; ++subscript)
+        if (!files[subscript].ImagePath.isEmpty())
+            paths.append(files[subscript].ImagePath);
     ExpectTilePictures(p, paths);
 }
 
@@ -103,11 +111,12 @@ void ExpectPictures(Program& p, const PageFiles& files)
 void ShowTiles(Program& p, const PageFiles& files, int page)
 {
     for (int index = 0; p.Gallery.Page == page && index <= p.Gallery.GalleryTop; ++index) {
-        const bool hasFile = index < LastSubscript && !files[index].ImagePath.isEmpty();
+        const int subscript = index + 1;
+        const bool hasFile = subscript <= LastSubscript && !files[subscript].ImagePath.isEmpty();
         if (p.Form5->Image1[index].Visible)
             continue;
         if (hasFile)
-            ShowFile(p, index, files[index]);
+            ShowFile(p, index, files[subscript]);
         else
             ShowEmptyTile(p, index);
         p.Loop.DoEvents();

@@ -47,7 +47,7 @@ void MoveToEmptyTile(Program& p, Image& file, Image& empty, HiddenTile hidden)
 void RequireFile(const Program& p, const QString& name)
 {
     if (p.Files.Dir(name).isEmpty())
-        throw RuntimeError(ErrorNumber::FileNotFound);
+        throw RuntimeError(ErrorNumber::FileNotFound, p.Files.Resolve(name));
 }
 
 void SwapFiles(Program& p, Image& source, Image& target)

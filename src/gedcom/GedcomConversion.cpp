@@ -56,7 +56,7 @@ bool AreOneFile(const Program& p, const QString& a, const QString& b)
 void OpenReport(Program& p, const QString& path)
 {
     if (p.Gedcom.Report || AreOneFile(p, p.Gedcom.sGedFile, path))
-        throw RuntimeError(ErrorNumber::FileAlreadyOpen);
+        throw RuntimeError(ErrorNumber::FileAlreadyOpen, path);
     p.Gedcom.Report = std::make_unique<SequentialFile>(p.Files, path);
 }
 

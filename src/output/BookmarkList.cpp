@@ -4,7 +4,6 @@
 #include "output/PrintErrors.h"
 #include "output/RecordReport.h"
 #include "output/TextReport.h"
-#include "platform/Text.h"
 #include "program/AlternateBranch.h"
 #include "program/BranchPaths.h"
 #include "program/BranchUi.h"
@@ -55,31 +54,35 @@ void PutOutRecord(Program& p, Pairs& pairs)
     pairs.Add();
 }
 
-// A record of a branch that isn't there, or can't be opened, is passed over as one that is gone.
-void PutOutRecordOfSibling(Program& p, const QString& entry, Pairs& pairs)
+// A record of a branch that isn't there, or can't be opened, is passed over as one that is gone. False when the
+// branch's database is none, whatever record is looked for.
+bool PutOutRecordOfSibling(Program& p, const QString& entry, Pairs& pairs)
 {
-    const QString letter = entry.left(1);
-    if (SameText(letter, BranchLetter(p.Branch.WorkDir)))
-        return;
     const auto goBack = qScopeGuard([&p] { p.Errors.Ignoring([&p] { ReturnFromSibling(p); }); });
     bool isThere = false;
-    p.Errors.Ignoring([&] {
-        SwitchToSibling(p, letter);
+    try {
+        SwitchToSibling(p, entry.left(1));
         isThere = Records(p).Seek(u"File", entry);
-    });
+    } catch (const RuntimeError& refusal) {
+        p.Errors.Last = refusal;
+        return refusal.Number != ErrorNumber::NotADatabase;
+    }
     if (isThere)
         PutOutRecord(p, pairs);
+    return true;
 }
 
 void PutOutEntries(Program& p, Pairs& pairs)
 {
     Meanwhile meanwhile(p);
+    // Letters that aren't gone to again: a damaged database of an older installation is asked about once.
+    QString passedOver = BranchLetter(p.Branch.WorkDir);
     for (int entry = 0; entry <= BookmarkState::Last && !p.Bookmarks.BookmarkList[entry].isEmpty(); ++entry) {
         const QString file = p.Bookmarks.BookmarkList[entry];
         if (Records(p).Seek(u"File", file))
             PutOutRecord(p, pairs);
-        else
-            PutOutRecordOfSibling(p, file, pairs);
+        else if (!passedOver.contains(file.left(1), Qt::CaseInsensitive) && !PutOutRecordOfSibling(p, file, pairs))
+            passedOver += file.left(1);
         meanwhile.KeepPainted();
     }
 }

@@ -18,27 +18,27 @@ namespace
 {
 constexpr int busyMilliseconds = 2000;
 
-[[noreturn]] void Refuse(sqlite3* database)
+int NumberOfRefusal(sqlite3* database)
 {
     switch (sqlite3_errcode(database) & 0xFF) {
     case SQLITE_FULL:
-        throw RuntimeError(ErrorNumber::DiskFull);
+        return ErrorNumber::DiskFull;
     case SQLITE_NOMEM:
-        throw RuntimeError(ErrorNumber::OutOfMemory);
+        return ErrorNumber::OutOfMemory;
     case SQLITE_READONLY:
-        throw RuntimeError(ErrorNumber::DatabaseReadOnly);
+        return ErrorNumber::DatabaseReadOnly;
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-        throw RuntimeError(ErrorNumber::DatabaseBusy);
+        return ErrorNumber::DatabaseBusy;
     case SQLITE_NOTADB:
     case SQLITE_CORRUPT:
-        throw RuntimeError(ErrorNumber::NotADatabase);
+        return ErrorNumber::NotADatabase;
     case SQLITE_CANTOPEN:
-        throw RuntimeError(ErrorNumber::DatabaseNotFound);
+        return ErrorNumber::DatabaseNotFound;
     case SQLITE_ERROR:
-        throw RuntimeError(ErrorNumber::TableNotFound);
+        return ErrorNumber::TableNotFound;
     default:
-        throw RuntimeError(ErrorNumber::DeviceIo);
+        return ErrorNumber::DeviceIo;
     }
 }
 
@@ -63,7 +63,7 @@ Statement::~Statement()
 
 void Statement::Fail() const
 {
-    Refuse(database_);
+    throw RuntimeError(NumberOfRefusal(database_), QString::fromUtf8(sqlite3_db_filename(database_, "main")));
 }
 
 void Statement::Bind(int parameter, std::int64_t value)
@@ -128,9 +128,9 @@ Database::Database(const FileSystem& files, const QString& path)
 {
     const QString file = files.Resolve(path);
     if (!QFileInfo(file).isFile())
-        throw RuntimeError(ErrorNumber::DatabaseNotFound);
+        throw RuntimeError(ErrorNumber::DatabaseNotFound, file);
     if (files.GetAttr(file) & FileSystem::ReadOnly)
-        throw RuntimeError(ErrorNumber::DatabaseReadOnly);
+        throw RuntimeError(ErrorNumber::DatabaseReadOnly, file);
     const FileIdentity identity = IdentityOf(file);
     device_ = identity.Device;
     inode_ = identity.File;
@@ -139,9 +139,9 @@ Database::Database(const FileSystem& files, const QString& path)
         // One thread alone uses it, so that the engine need not take a lock at each call.
         constexpr int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
         if (sqlite3_open_v2(file.toUtf8().constData(), &handle_, flags, nullptr) != SQLITE_OK)
-            Refuse(handle_);
+            throw RuntimeError(NumberOfRefusal(handle_), file);
         if (sqlite3_db_readonly(handle_, "main") == 1)
-            throw RuntimeError(ErrorNumber::DatabaseReadOnly);
+            throw RuntimeError(ErrorNumber::DatabaseReadOnly, file);
         sqlite3_busy_timeout(handle_, busyMilliseconds);
         sqlite3_create_collation(handle_, "SAMETEXT", SQLITE_UTF8, nullptr, CollateSameText);
         // The engine looks into a file no sooner than it must.
@@ -160,6 +160,11 @@ Database::~Database()
 std::unique_ptr<Statement> Database::Prepare(const QByteArray& sql) const
 {
     return std::make_unique<Statement>(handle_, sql);
+}
+
+QString Database::Path() const
+{
+    return QString::fromUtf8(sqlite3_db_filename(handle_, "main"));
 }
 
 std::int64_t Database::Changes() const

@@ -61,6 +61,8 @@ public:
 
     std::unique_ptr<Statement> Prepare(const QByteArray& sql) const;
 
+    QString Path() const;
+
     // Grows with every row written through this connection.
     std::int64_t Changes() const;
 

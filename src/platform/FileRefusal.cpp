@@ -17,9 +17,14 @@ QString ParentOf(const QString& path)
 }
 } // namespace
 
-void Refuse(int number)
+void Refuse(int number, const QString& path)
 {
-    throw RuntimeError(number);
+    throw RuntimeError(number, path);
+}
+
+void Refuse(const QFileDevice& file)
+{
+    Refuse(NumberOfFailure(file), file.fileName());
 }
 
 bool OwnerCanWrite(const QString& path)
@@ -31,15 +36,15 @@ void RequireWritableParent(const QString& path)
 {
     const QString parent = ParentOf(path);
     if (!QFileInfo(parent).isDir())
-        Refuse(ErrorNumber::PathNotFound);
+        Refuse(ErrorNumber::PathNotFound, parent);
     if (!OwnerCanWrite(parent))
-        Refuse(ErrorNumber::PathFileAccess);
+        Refuse(ErrorNumber::PathFileAccess, path);
 }
 
 void RequireFile(const QString& path)
 {
     if (!QFileInfo(path).isFile())
-        Refuse(ErrorNumber::FileNotFound);
+        Refuse(ErrorNumber::FileNotFound, path);
 }
 
 void RequireReplaceable(const QString& path)
@@ -47,7 +52,7 @@ void RequireReplaceable(const QString& path)
     RequireWritableParent(path);
     const QFileInfo standing(path);
     if (standing.isDir() || (standing.exists() && !OwnerCanWrite(path)))
-        Refuse(ErrorNumber::PathFileAccess);
+        Refuse(ErrorNumber::PathFileAccess, path);
 }
 
 int NumberOfFailure(const QFileDevice& file)

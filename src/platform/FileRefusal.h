@@ -8,7 +8,10 @@
 namespace lineforge
 {
 
-[[noreturn]] void Refuse(int number);
+[[noreturn]] void Refuse(int number, const QString& path);
+
+// With the number of what has just failed.
+[[noreturn]] void Refuse(const QFileDevice& file);
 
 // Whoever runs the program: the owner's permission bit alone counts.
 bool OwnerCanWrite(const QString& path);

@@ -53,7 +53,7 @@ void RequireWritten(QSaveFile& output)
 {
     // Told here, because a commit passes over what fails while it empties its buffers.
     if (!output.flush() || fsync(output.handle()) != 0)
-        Refuse(NumberOfFailure(output));
+        Refuse(output);
 }
 } // namespace
 
@@ -118,25 +118,25 @@ void FileSystem::FileCopy(const QString& source, const QString& destination) con
     const QString to = Resolve(destination);
     RequireFile(from);
     if (from == to)
-        Refuse(ErrorNumber::PermissionDenied);
+        Refuse(ErrorNumber::PermissionDenied, to);
     RequireReplaceable(to);
 
     QFile input(from);
     QSaveFile output(to);
     if (!input.open(QFile::ReadOnly))
-        Refuse(NumberOfFailure(input));
+        Refuse(input);
     if (!output.open(QFile::WriteOnly))
-        Refuse(NumberOfFailure(output));
+        Refuse(output);
     constexpr qint64 block = 1 << 20;
     for (QByteArray bytes = input.read(block); !bytes.isEmpty(); bytes = input.read(block))
         if (output.write(bytes) != bytes.size())
-            Refuse(NumberOfFailure(output));
+            Refuse(output);
     if (input.error() != QFile::NoError)
-        Refuse(NumberOfFailure(input));
+        Refuse(input);
     RequireWritten(output);
     output.setFileTime(QFileInfo(from).lastModified(), QFileDevice::FileModificationTime);
     if (!output.commit())
-        Refuse(NumberOfFailure(output));
+        Refuse(output);
 }
 
 void FileSystem::Kill(const QString& path) const
@@ -145,7 +145,7 @@ void FileSystem::Kill(const QString& path) const
     RequireFile(file);
     RequireReplaceable(file);
     if (!QFile::remove(file))
-        Refuse(ErrorNumber::PermissionDenied);
+        Refuse(ErrorNumber::PermissionDenied, file);
 }
 
 void FileSystem::Rename(const QString& from, const QString& to) const
@@ -154,38 +154,38 @@ void FileSystem::Rename(const QString& from, const QString& to) const
     const QString destination = Resolve(to);
     RequireFile(source);
     if (QFileInfo::exists(destination))
-        Refuse(ErrorNumber::FileAlreadyExists);
+        Refuse(ErrorNumber::FileAlreadyExists, destination);
     RequireWritableParent(source);
     RequireWritableParent(destination);
     if (!QFile::rename(source, destination))
-        Refuse(ErrorNumber::PathFileAccess);
+        Refuse(ErrorNumber::PathFileAccess, destination);
 }
 
 void FileSystem::MkDir(const QString& path) const
 {
     const QString directory = Resolve(path);
     if (QFileInfo::exists(directory))
-        Refuse(ErrorNumber::PathFileAccess);
+        Refuse(ErrorNumber::PathFileAccess, directory);
     RequireWritableParent(directory);
     if (!QDir().mkdir(directory))
-        Refuse(ErrorNumber::PathFileAccess);
+        Refuse(ErrorNumber::PathFileAccess, directory);
 }
 
 void FileSystem::RmDir(const QString& path) const
 {
     const QString directory = Resolve(path);
     if (!QFileInfo(directory).isDir())
-        Refuse(ErrorNumber::PathNotFound);
+        Refuse(ErrorNumber::PathNotFound, directory);
     RequireWritableParent(directory);
     if (!QDir().rmdir(directory))
-        Refuse(ErrorNumber::PathFileAccess);
+        Refuse(ErrorNumber::PathFileAccess, directory);
 }
 
 void FileSystem::ChDir(const QString& path)
 {
     const QString directory = Resolve(path);
     if (!QFileInfo(directory).isDir())
-        Refuse(ErrorNumber::PathNotFound);
+        Refuse(ErrorNumber::PathNotFound, directory);
     currentDirectory_ = directory;
 }
 
@@ -193,7 +193,7 @@ int FileSystem::GetAttr(const QString& path) const
 {
     const QFileInfo entry(Resolve(path));
     if (!entry.exists())
-        Refuse(ErrorNumber::FileNotFound);
+        Refuse(ErrorNumber::FileNotFound, entry.filePath());
     return (OwnerCanWrite(entry.filePath()) ? 0 : ReadOnly) | (entry.isDir() ? Directory : 0);
 }
 
@@ -203,10 +203,10 @@ void FileSystem::Replace(const QString& path, const QByteArray& bytes) const
     RequireReplaceable(file);
     QSaveFile output(file);
     if (!output.open(QFile::WriteOnly) || output.write(bytes) != bytes.size())
-        Refuse(NumberOfFailure(output));
+        Refuse(output);
     RequireWritten(output);
     if (!output.commit())
-        Refuse(NumberOfFailure(output));
+        Refuse(output);
 }
 
 QByteArray FileSystem::Read(const QString& path) const
@@ -214,10 +214,10 @@ QByteArray FileSystem::Read(const QString& path) const
     QFile file(Resolve(path));
     RequireFile(file.fileName());
     if (!file.open(QFile::ReadOnly))
-        Refuse(NumberOfFailure(file));
+        Refuse(file);
     const QByteArray bytes = file.readAll();
     if (file.error() != QFile::NoError)
-        Refuse(NumberOfFailure(file));
+        Refuse(file);
     return bytes;
 }
 

@@ -28,7 +28,7 @@ private:
     static std::size_t Checked(int index)
     {
         if (index < Lo || index > Hi)
-            throw RuntimeError(ErrorNumber::Subscript);
+            throw RuntimeError(ErrorNumber::Subscript, QString::number(index));
         return static_cast<std::size_t>(index - Lo);
     }
 

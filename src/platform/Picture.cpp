@@ -40,7 +40,7 @@ QSize FittedSize(QSize size)
 QString Require(const FileSystem& files, const QString& path)
 {
     if (files.Dir(path).isEmpty())
-        throw RuntimeError(ErrorNumber::FileNotFound);
+        throw RuntimeError(ErrorNumber::FileNotFound, files.Resolve(path));
     return files.Resolve(path);
 }
 } // namespace
@@ -54,7 +54,7 @@ QImage DecodePicture(const QString& file, const DecodedSize& sizeFor)
     reader.setDecideFormatFromContent(true);
     const QSize stored = reader.size();
     if (qint64{stored.width()} * stored.height() > mostDots)
-        throw RuntimeError(ErrorNumber::InvalidPicture);
+        throw RuntimeError(ErrorNumber::InvalidPicture, file);
     // Told beforehand, the size saves the decoder most of its work. It is that of the picture as it is stored.
     const bool liesOnItsSide = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
     const auto turned = [liesOnItsSide](QSize size) { return liesOnItsSide ? size.transposed() : size; };
@@ -62,7 +62,7 @@ QImage DecodePicture(const QString& file, const DecodedSize& sizeFor)
         reader.setScaledSize(wanted);
     const QImage picture = reader.read();
     if (picture.isNull())
-        throw RuntimeError(ErrorNumber::InvalidPicture);
+        throw RuntimeError(ErrorNumber::InvalidPicture, file);
     return picture;
 }
 

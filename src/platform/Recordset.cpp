@@ -10,6 +10,8 @@
 namespace lineforge
 {
 
+using namespace Qt::StringLiterals;
+
 namespace
 {
 constexpr std::int64_t beforeAllRows = std::numeric_limits<std::int64_t>::min();
@@ -45,6 +47,23 @@ Recordset::Recordset(std::shared_ptr<Database> database, const QString& table)
     Rest();
 }
 
+void Recordset::Fail(int number) const
+{
+    throw RuntimeError(number, database_->Path());
+}
+
+// By its first field, which is what its user knows it by. Reads nothing: a file that refuses to be written may refuse
+// that too.
+QString Recordset::RecordInWords() const
+{
+    FieldValue name;
+    if (pending_ == Pending::Addition)
+        name = ValueOf(0);
+    else if (cachedRow_ == row_ && !cached_.empty())
+        name = cached_.front();
+    return name ? u"Record "_s + *name : u"A record"_s;
+}
+
 int Recordset::Column(QStringView field) const
 {
     for (std::size_t column = 0; column < names_.size(); ++column)
@@ -53,7 +72,7 @@ int Recordset::Column(QStringView field) const
     for (std::size_t column = 0; column < names_.size(); ++column)
         if (SameText(names_[column], field))
             return static_cast<int>(column);
-    throw RuntimeError(ErrorNumber::ItemNotFound);
+    throw RuntimeError(ErrorNumber::ItemNotFound, field + u"\n"_s + database_->Path());
 }
 
 bool Recordset::InRowSet(std::int64_t row) const
@@ -86,9 +105,9 @@ void Recordset::StandAtEnd(bool& end)
 void Recordset::RequireCurrentRow() const
 {
     if (bof_ || eof_)
-        throw RuntimeError(ErrorNumber::NoCurrentRecord);
+        Fail(ErrorNumber::NoCurrentRecord);
     if (gone_)
-        throw RuntimeError(ErrorNumber::RecordDeleted);
+        Fail(ErrorNumber::RecordDeleted);
 }
 
 // Whether the statement, whose first column is the row number, comes to a row of this set; `row_` is not touched.
@@ -164,7 +183,7 @@ void Recordset::MoveLast()
 void Recordset::MoveNext()
 {
     if (eof_)
-        throw RuntimeError(ErrorNumber::NoCurrentRecord);
+        Fail(ErrorNumber::NoCurrentRecord);
     Leaving();
     if (StepWalk())
         StandOn(walk_->Integer(0));
@@ -175,7 +194,7 @@ void Recordset::MoveNext()
 void Recordset::MovePrevious()
 {
     if (bof_)
-        throw RuntimeError(ErrorNumber::NoCurrentRecord);
+        Fail(ErrorNumber::NoCurrentRecord);
     Leaving();
     Rest();
     previous_->Bind(0, row_);
@@ -243,7 +262,7 @@ const std::vector<FieldValue>& Recordset::Row() const
 {
     RequireCurrentRow();
     if (!FetchRow())
-        throw RuntimeError(ErrorNumber::RecordDeleted);
+        Fail(ErrorNumber::RecordDeleted);
     return cached_;
 }
 
@@ -309,7 +328,7 @@ void Recordset::AddNew()
 void Recordset::Put(QStringView field, const FieldValue& value)
 {
     if (pending_ == Pending::None)
-        throw RuntimeError(ErrorNumber::UpdateWithoutEdit);
+        Fail(ErrorNumber::UpdateWithoutEdit);
     edits_[Column(field)] = value;
 }
 
@@ -318,12 +337,12 @@ void Recordset::Update()
     Updating();
     switch (pending_) {
     case Pending::None:
-        throw RuntimeError(ErrorNumber::UpdateWithoutEdit);
+        Fail(ErrorNumber::UpdateWithoutEdit);
     case Pending::Edit:
-        WriteEdit();
+        Concerning(RecordInWords(), [this] { WriteEdit(); });
         break;
     case Pending::Addition:
-        WriteAddition();
+        Concerning(RecordInWords(), [this] { WriteAddition(); });
         break;
     }
     pending_ = Pending::None;
@@ -346,7 +365,7 @@ void Recordset::WriteEdit()
     const std::int64_t before = database_->Changes();
     update->Step();
     if (database_->Changes() == before)
-        throw RuntimeError(ErrorNumber::RecordDeleted);
+        Fail(ErrorNumber::RecordDeleted);
 }
 
 void Recordset::WriteAddition()
@@ -373,7 +392,7 @@ void Recordset::Delete()
     Row();
     const auto removal = database_->Prepare("DELETE FROM " + table_ + " WHERE rowid = ?1");
     removal->Bind(0, row_);
-    removal->Step();
+    Concerning(RecordInWords(), [&removal] { removal->Step(); });
     pending_ = Pending::None;
     gone_ = true;
     Rest();
@@ -389,7 +408,7 @@ Bookmark Recordset::GetBookmark() const
 void Recordset::SetBookmark(const Bookmark& bookmark)
 {
     if (!bookmark)
-        throw RuntimeError(ErrorNumber::NotABookmark);
+        Fail(ErrorNumber::NotABookmark);
     Leaving();
     Rest();
     StandOn(*bookmark);

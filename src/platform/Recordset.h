@@ -91,6 +91,8 @@ private:
     enum class Pending { None, Edit, Addition };
     using ColumnSet = std::uint64_t;
 
+    [[noreturn]] void Fail(int number) const;
+    QString RecordInWords() const;
     bool InRowSet(std::int64_t row) const;
     void StandOn(std::int64_t row);
     void StandAtEnd(bool& end);

@@ -58,6 +58,9 @@ QString RuntimeErrorText(int number)
     return u"Application-defined or object-defined error"_s;
 }
 
-RuntimeError::RuntimeError(int number) : RuntimeError(number, RuntimeErrorText(number)) {}
+RuntimeError::RuntimeError(int number, QString subject)
+    : Number(number), Text(RuntimeErrorText(number)), Subject(std::move(subject))
+{
+}
 
 } // namespace lineforge

@@ -12,10 +12,24 @@ namespace lineforge
 struct RuntimeError {
     int Number;
     QString Text;
+    // What it was refused for, a line each: the path of a file, the words that are no number, a record. Empty where
+    // whoever refuses doesn't know.
+    QString Subject;
 
-    explicit RuntimeError(int number);
-    RuntimeError(int number, QString text) : Number(number), Text(std::move(text)) {}
+    explicit RuntimeError(int number, QString subject = {});
 };
+
+// Runs work that belongs to a file or a record; whatever is refused in it tells that too.
+template <class Work>
+decltype(auto) Concerning(const QString& subject, Work&& work)
+{
+    try {
+        return std::forward<Work>(work)();
+    } catch (RuntimeError& error) {
+        error.Subject += (error.Subject.isEmpty() ? QString() : QStringLiteral("\n")) + subject;
+        throw;
+    }
+}
 
 namespace ErrorNumber
 {

@@ -17,7 +17,7 @@ void RequireOpenable(const QString& path)
     if (!standing.exists())
         RequireWritableParent(path);
     else if (standing.isDir() || !OwnerCanWrite(path))
-        Refuse(ErrorNumber::PathFileAccess);
+        Refuse(ErrorNumber::PathFileAccess, path);
 }
 } // namespace
 
@@ -25,7 +25,7 @@ SequentialFile::SequentialFile(const FileSystem& files, const QString& path) : f
 {
     RequireOpenable(file_.fileName());
     if (!file_.open(QFile::WriteOnly | QFile::Truncate))
-        Refuse(NumberOfFailure(file_));
+        Refuse(file_);
 }
 
 void SequentialFile::Line(QStringView text)
@@ -43,13 +43,13 @@ void SequentialFile::ByteLine(QByteArrayView bytes)
 void SequentialFile::Write(QByteArrayView bytes)
 {
     if (file_.write(bytes.data(), bytes.size()) != bytes.size())
-        Refuse(NumberOfFailure(file_));
+        Refuse(file_);
 }
 
 void SequentialFile::Close()
 {
     if (!file_.flush())
-        Refuse(NumberOfFailure(file_));
+        Refuse(file_);
     file_.close();
 }
 

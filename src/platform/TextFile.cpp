@@ -39,12 +39,15 @@ QString DecodeText(const QByteArray& bytes)
     return utf8.hasError() ? DecodeWindows1252(bytes) : text;
 }
 
-TextReader::TextReader(const FileSystem& files, const QString& path) : text_(DecodeText(files.Read(path))) {}
+TextReader::TextReader(const FileSystem& files, const QString& path)
+    : path_(files.Resolve(path)), text_(DecodeText(files.Read(path)))
+{
+}
 
 QChar TextReader::Next()
 {
     if (AtEnd())
-        throw RuntimeError(ErrorNumber::InputPastEnd);
+        throw RuntimeError(ErrorNumber::InputPastEnd, path_);
     return text_[at_++];
 }
 

@@ -18,6 +18,7 @@ public:
     // RuntimeError 53 when there is no such file, 70 when it can't be read.
     TextReader(const FileSystem& files, const QString& path);
 
+    const QString& Path() const { return path_; }
     bool AtEnd() const { return at_ == text_.size(); }
 
     // The next character; RuntimeError 62 when there is none.
@@ -28,6 +29,7 @@ public:
     bool SkipPast(QStringView name);
 
 private:
+    QString path_;
     QString text_;
     qsizetype at_ = 0;
 };

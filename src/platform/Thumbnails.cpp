@@ -70,7 +70,7 @@ QImage Thumbnails::Load(const FileSystem& files, const QString& path, QSize dots
     if (const QImage* kept = kept_.object(key))
         return *kept;
     if (files.Dir(path).isEmpty())
-        throw RuntimeError(ErrorNumber::FileNotFound);
+        throw RuntimeError(ErrorNumber::FileNotFound, key.File.Path);
     if (!expected_.contains(key))
         Begin(key);
     const QFuture<QImage> coming = expected_.take(key);
@@ -81,7 +81,7 @@ QImage Thumbnails::Load(const FileSystem& files, const QString& path, QSize dots
     }
     const QImage picture = coming.result();
     if (picture.isNull())
-        throw RuntimeError(ErrorNumber::InvalidPicture);
+        throw RuntimeError(ErrorNumber::InvalidPicture, key.File.Path);
     kept_.insert(key, new QImage(picture), picture.sizeInBytes());
     return picture;
 }

@@ -51,7 +51,7 @@ void ReadSection(TextReader& reader, QStringView section, const std::function<vo
     QString value;
     for (QChar character = reader.Next(); character != u']'; character = reader.Next()) {
         if (character == u',')
-            take(std::exchange(value, QString()));
+            Concerning(reader.Path(), [&] { take(std::exchange(value, QString())); });
         else if (character != u'[' && character != u'\n' && character != u'\r')
             value += character;
     }

@@ -10,7 +10,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSet>
 
 #include <algorithm>
 #include <chrono>
@@ -23,9 +22,6 @@ using namespace Qt::StringLiterals;
 namespace
 {
 constexpr std::chrono::seconds readingTime{30};
-
-const QString noReader = QStringLiteral("This build can't read the databases of older installations.\n"
-                                        "It was made without the library that reads them.");
 
 DatabaseFormat FormatOfFile(const QString& file)
 {
@@ -42,22 +38,29 @@ bool IsInBranch(const Program& p, const QString& file)
     return IsBranchDirectory(QFileInfo(file).path(), p.Files.Resolve(p.Branch.HomeDir) + PathSeparator);
 }
 
-// The files that could not be taken in this run, so that a map which shows their people doesn't ask at each drawing.
-QSet<FileIdentity>& Refused()
+// Whether an older installation wrote it, and it may become a database of ours.
+bool IsToBeTaken(const Program& p, const QString& file)
 {
-    static QSet<FileIdentity> refused;
-    return refused;
+    const DatabaseFormat format = FormatOfFile(file);
+    const bool isOld = format == DatabaseFormat::Jet3 || format == DatabaseFormat::Jet4;
+    return isOld && OwnerCanWrite(file) && IsInBranch(p, file);
+}
+
+// Not where the program was built without the library.
+bool HasReader(const Program& p)
+{
+    return QFileInfo(OldDatabaseReader(p.ExecutableDirectory)).isExecutable();
 }
 
 JetRows ReadRows(Program& p, const QString& file)
 {
-    const QString reader = OldDatabaseReader(p.ExecutableDirectory);
-    if (!QFileInfo(reader).isExecutable())
-        throw RuntimeError(ErrorNumber::NotADatabase, noReader);
+    if (!HasReader(p))
+        Refuse(ErrorNumber::NotADatabase, file);
     Meanwhile meanwhile(p);
-    std::optional<JetRows> rows = ReadOldDatabase(reader, file, readingTime, [&meanwhile] { meanwhile.KeepPainted(); });
+    std::optional<JetRows> rows = ReadOldDatabase(OldDatabaseReader(p.ExecutableDirectory), file, readingTime,
+                                                  [&meanwhile] { meanwhile.KeepPainted(); });
     if (!rows || (rows->HasLosses() && rows->Count() == 0))
-        Refuse(ErrorNumber::NotADatabase);
+        Refuse(ErrorNumber::NotADatabase, file);
     return std::move(*rows);
 }
 
@@ -84,7 +87,7 @@ void RequireConsentToLosses(Program& p, const QString& file, const JetRows& rows
             .arg(tally.BadCells)
             .arg(QFileInfo(NameOfKept(file)).fileName());
     if (p.Prompts.MsgBox(u"Old Database is damaged"_s, text, Buttons::QuestionYesNoDefaultNo) != Answer::Yes)
-        Refuse(ErrorNumber::NotADatabase);
+        Refuse(ErrorNumber::NotADatabase, file);
 }
 
 void Convert(Program& p, const FileIdentity& file)
@@ -101,27 +104,30 @@ void Convert(Program& p, const FileIdentity& file)
 void ConvertIfOld(Program& p, const QString& path, OldDatabaseUse use)
 {
     const QString file = p.Files.Resolve(path);
-    const DatabaseFormat format = FormatOfFile(file);
-    if (format == DatabaseFormat::Newer)
-        Refuse(ErrorNumber::NotADatabase);
-    const bool isOld = format == DatabaseFormat::Jet3 || format == DatabaseFormat::Jet4;
-    if (!isOld || !OwnerCanWrite(file) || !IsInBranch(p, file))
+    if (FormatOfFile(file) == DatabaseFormat::Newer)
+        Refuse(ErrorNumber::NotADatabase, file);
+    if (!IsToBeTaken(p, file))
         return;
     const FileIdentity identity = IdentityOf(file);
-    if (use == OldDatabaseUse::Caption && Refused().contains(identity))
-        Refuse(ErrorNumber::NotADatabase);
+    if (use == OldDatabaseUse::Caption && p.RefusedDatabases.contains(identity))
+        Refuse(ErrorNumber::NotADatabase, file);
     try {
         Convert(p, identity);
     } catch (const RuntimeError&) {
-        Refused().insert(identity);
+        p.RefusedDatabases.insert(identity);
         throw;
     }
 }
 
 void TellDatabaseRefused(Program& p, const RuntimeError& refusal)
 {
-    const QString text = refusal.Text == noReader ? noReader : u"Cannot open this database"_s;
-    p.Prompts.MsgBox(u"Read Only or Incorrect Database"_s, text, Buttons::Information);
+    const bool lacksReader =
+        refusal.Number == ErrorNumber::NotADatabase && IsToBeTaken(p, refusal.Subject) && !HasReader(p);
+    p.Prompts.MsgBox(u"Read Only or Incorrect Database"_s,
+                     lacksReader ? u"This build can't read the databases of older installations.\n"
+                                   u"It was made without the library that reads them."_s
+                                 : u"Cannot open this database"_s,
+                     Buttons::Information);
 }
 
 } // namespace lineforge

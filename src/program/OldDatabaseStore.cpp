@@ -31,10 +31,11 @@ constexpr qint64 blockBytes = 1 << 20;
 class Handle
 {
 public:
-    explicit Handle(const QString& path) : descriptor_(open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC))
+    explicit Handle(const QString& path)
+        : path_(path), descriptor_(open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC))
     {
         if (descriptor_ < 0)
-            Refuse(ErrorNumber::PathFileAccess);
+            Refuse(ErrorNumber::PathFileAccess, path_);
     }
     ~Handle() { close(descriptor_); }
     Handle(const Handle&) = delete;
@@ -44,17 +45,18 @@ public:
     void Lock() const
     {
         if (flock(descriptor_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
-            Refuse(ErrorNumber::DatabaseBusy);
+            Refuse(ErrorNumber::DatabaseBusy, path_);
     }
 
     // Some disks know no such thing for directories.
     void Sync() const
     {
         if (fsync(descriptor_) != 0 && errno != EINVAL)
-            Refuse(errno == ENOSPC || errno == EDQUOT ? ErrorNumber::DiskFull : ErrorNumber::DeviceIo);
+            Refuse(errno == ENOSPC || errno == EDQUOT ? ErrorNumber::DiskFull : ErrorNumber::DeviceIo, path_);
     }
 
 private:
+    QString path_;
     int descriptor_;
 };
 
@@ -79,14 +81,14 @@ public:
     {
         Handle(path_).Sync();
         if (std::rename(QFile::encodeName(path_).constData(), QFile::encodeName(finished_).constData()) != 0)
-            Refuse(ErrorNumber::PathFileAccess);
+            Refuse(ErrorNumber::PathFileAccess, finished_);
     }
     // The same, where nothing has the name.
     void TakeFreeName() const
     {
         Handle(path_).Sync();
         if (!RenameIfFree(QFile::encodeName(path_).constData(), QFile::encodeName(finished_).constData()))
-            Refuse(ErrorNumber::FileAlreadyExists);
+            Refuse(ErrorNumber::FileAlreadyExists, finished_);
     }
 
 private:
@@ -122,7 +124,7 @@ void WriteDatabase(const FileSystem& files, const QString& path, const JetRows& 
     // The engine takes an empty file for an empty database.
     QFile file(path);
     if (!file.open(QFile::WriteOnly | QFile::NewOnly))
-        Refuse(NumberOfFailure(file));
+        Refuse(file);
     file.close();
 
     const Database database(files, path);
@@ -155,23 +157,23 @@ void RequireRows(const FileSystem& files, const QString& path, const JetRows& ro
     for (std::size_t row = 0; row < rows.Count(); ++row) {
         meanwhile();
         if (!stored->Step() || !IsSame(*stored, rows.At(row)))
-            Refuse(ErrorNumber::DeviceIo);
+            Refuse(ErrorNumber::DeviceIo, path);
     }
     if (stored->Step())
-        Refuse(ErrorNumber::DeviceIo);
+        Refuse(ErrorNumber::DeviceIo, path);
 }
 
 // Somebody may have written to it, or have put another file in its place.
 void RequireSame(const FileIdentity& file)
 {
     if (IdentityOf(file.Path) != file)
-        Refuse(ErrorNumber::DatabaseBusy);
+        Refuse(ErrorNumber::DatabaseBusy, file.Path);
 }
 
 void OpenOrRefuse(QFile& file, QFile::OpenMode mode)
 {
     if (!file.open(mode))
-        Refuse(NumberOfFailure(file));
+        Refuse(file);
 }
 
 bool HaveSameBytes(const QString& pathA, const QString& pathB)
@@ -200,12 +202,12 @@ void CopyBytes(const QString& from, const QString& to, const Step& meanwhile)
         meanwhile();
         const QByteArray block = input.read(blockBytes);
         if (block.isEmpty())
-            Refuse(NumberOfFailure(input));
+            Refuse(input);
         if (output.write(block) != block.size())
-            Refuse(NumberOfFailure(output));
+            Refuse(output);
     }
     if (!output.flush())
-        Refuse(NumberOfFailure(output));
+        Refuse(output);
     output.setPermissions(input.permissions());
     output.setFileTime(QFileInfo(from).lastModified(), QFileDevice::FileModificationTime);
 }

@@ -12,6 +12,7 @@
 #include "forms/Form8.h"
 #include "forms/form9.h"
 #include "platform/Database.h"
+#include "platform/FileIdentity.h"
 #include "platform/FileSystem.h"
 #include "platform/Picture.h"
 #include "platform/Platform.h"
@@ -24,6 +25,7 @@
 #include "program/MapState.h"
 #include "program/ToolState.h"
 
+#include <QSet>
 #include <QString>
 
 namespace lineforge
@@ -193,6 +195,9 @@ struct Program {
     QString ExecutableDirectory;
     FileSystem Files;
     lineforge::Databases Databases;
+    // Databases of older installations that could not be taken in this run, so that a map which shows their people
+    // doesn't ask at each drawing.
+    QSet<FileIdentity> RefusedDatabases;
     PictureCache Pictures;
     lineforge::Thumbnails Thumbnails;
     ErrorState Errors;

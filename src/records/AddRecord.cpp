@@ -17,7 +17,7 @@ constexpr qsizetype digits = 3;
 // The last row decides, not the highest number; above 999 the number simply grows.
 QString NumberAfter(const QString& last)
 {
-    const int number = ToInteger(last.right(digits)) + 1;
+    const int number = Concerning(u"Record "_s + last, [&] { return ToInteger(last.right(digits)) + 1; });
     return last.left(1) + QString::number(number).rightJustified(digits, u'0');
 }
 

@@ -17,7 +17,7 @@ QString StemOf(const QString& path)
 {
     constexpr qsizetype ending = 4; // ".mdb"
     if (path.size() < ending)
-        throw RuntimeError(ErrorNumber::InvalidCall);
+        throw RuntimeError(ErrorNumber::InvalidCall, path);
     return path.chopped(ending);
 }
 

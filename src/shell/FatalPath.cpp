@@ -1,6 +1,7 @@
 #include "shell/FatalPath.h"
 
 #include "gedcom/GedcomConversion.h"
+#include "shell/ErrorInWords.h"
 
 namespace lineforge
 {
@@ -15,7 +16,7 @@ void EndWithError(Program& p, const RuntimeError& error)
     // What was written to them stays.
     p.Lineage.GedcomFile.reset();
     CloseConversionFiles(p);
-    p.Prompts.MsgBox(u"Lineforge"_s, u"Run-time error '%1':\n\n%2"_s.arg(error.Number).arg(error.Text), Buttons::Error);
+    p.Prompts.MsgBox(u"Lineforge"_s, FatalText(error), Buttons::Error);
     p.Loop.End(1);
 }
 } // namespace

@@ -138,7 +138,8 @@ TEST_F(CompareClipboardTest, FieldThatIsNone_TakesTheFatalPath)
 {
     P.Compare.sCompField = u"Nation"_s;
     Select(P.Form6->Text2, u"x");
-    ExpectFatalBox(u"Run-time error '3265':\n\nItem not found in this collection.");
+    ExpectFatalBox(u"Run-time error '3265':\n\nItem not found in this collection.",
+                   u"The records have no such field:\nNation\n"_s + Home.Path(u"LfgDat_A/LfgDat_A.mdb"));
     Cut();
     EXPECT_TRUE(ExitCode().has_value());
     EXPECT_EQ(Stored(u'A', "Forename", "A001"), u"John"_s);

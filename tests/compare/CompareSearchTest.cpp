@@ -150,7 +150,8 @@ INSTANTIATE_TEST_SUITE_P(Steps, FieldStepTest,
 TEST_F(CompareSearchTest, NullForenameOnAStep_EndsTheProgram)
 {
     ChangeOutside(u'B', "UPDATE Tree99 SET Forename = NULL WHERE File = 'B002'");
-    ExpectFatalBox(u"Run-time error '94':\n\nInvalid use of Null");
+    ExpectFatalBox(u"Run-time error '94':\n\nInvalid use of Null",
+                   u"This field has never been filled in:\n"_s + u"Forename\nRecord B002\n" + Home.Path(u"LfgDat_B"));
     NextCompare();
     EXPECT_TRUE(ExitCode().has_value());
     EXPECT_EQ(Light(), ByHand);

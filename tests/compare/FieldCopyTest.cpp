@@ -131,7 +131,8 @@ TEST_F(FieldCopyTest, AllFieldsWithoutARecord_TakesTheFatalPath)
 {
     GivenPair();
     CompareRecords(P).MoveNext();
-    ExpectFatalBox(u"Run-time error '3021':\n\nNo current record.");
+    ExpectFatalBox(u"Run-time error '3021':\n\nNo current record.",
+                   u"No record is on show of this database:\n"_s + Home.Path(u"LfgDat_B/LfgDat_B.mdb"));
     CopyAll();
     EXPECT_TRUE(ExitCode().has_value());
 }
@@ -226,7 +227,8 @@ TEST_F(FieldCopyTest, SecondAppend_IsNotRecognised)
 TEST_F(FieldCopyTest, ZNumberOf100_EndsTheProgram)
 {
     GivenComparison({PersonOf(u"A001", u"our")}, {PersonOf(u"Z100", u"x")});
-    ExpectFatalBox(u"Run-time error '9':\n\nSubscript out of range");
+    ExpectFatalBox(u"Run-time error '9':\n\nSubscript out of range",
+                   u"The list or table that is needed has no place of this number:\n100\nRecord Z100"_s);
     Append();
     EXPECT_EQ(Rows(u'B').size(), 1U);
 }
@@ -234,7 +236,8 @@ TEST_F(FieldCopyTest, ZNumberOf100_EndsTheProgram)
 TEST_F(FieldCopyTest, ZThatIsNoNumber_EndsTheProgram)
 {
     GivenComparison({PersonOf(u"A001", u"our")}, {PersonOf(u"Zoe", u"x")});
-    ExpectFatalBox(u"Run-time error '13':\n\nType mismatch");
+    ExpectFatalBox(u"Run-time error '13':\n\nType mismatch",
+                   u"A number should stand where this stands:\n'Zoe'\nRecord Zoe"_s);
     Append();
     EXPECT_EQ(Rows(u'B').size(), 1U);
 }

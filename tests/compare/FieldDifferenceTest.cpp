@@ -163,7 +163,8 @@ TEST_F(FieldDifferenceTest, NullForename_IsShownEmptyAtADifference)
 TEST_F(FieldDifferenceTest, NullForenameOfTheNextRound_EndsTheProgram)
 {
     GivenComparison({Plain(u"A001"), {{u"File", u"A002"}, {u"Surname", u"Smith"}}}, {Plain(u"B001")});
-    ExpectFatalBox(u"Run-time error '94':\n\nInvalid use of Null");
+    ExpectFatalBox(u"Run-time error '94':\n\nInvalid use of Null",
+                   u"This field has never been filled in:\n"_s + u"Forename\nRecord A002\n" + Home.Path(u"LfgDat_A"));
     Search();
     EXPECT_TRUE(ExitCode().has_value());
 }

@@ -216,7 +216,10 @@ TEST_P(AddFileTest, SubscriptOf99Or00_EndsTheProgram)
     for (const QString& name : {u"A001_99.jpg"_s, u"A001_00.jpg"_s}) {
         GivenFiles({name});
         ExpectQuestion();
-        ExpectFatalBox(u"Run-time error '9':\n\nSubscript out of range");
+        const QString subscript = QString::number(name.sliced(5, 2).toInt());
+        ExpectFatalBox(u"Run-time error '9':\n\nSubscript out of range",
+                       u"The list or table that is needed has no place of this number:\n%1\n%2"_s.arg(
+                           subscript, GalleryPathOf(name)));
         Add();
         EXPECT_TRUE(ExitCode().has_value());
         P.Files.Kill(GalleryPathOf(name));
@@ -228,7 +231,8 @@ TEST_P(AddFileTest, SubscriptThatIsNoNumber_EndsTheProgram)
     OpenGallery({u"A001_01.jpg"_s});
     GivenFiles({u"A001_xx.jpg"_s});
     ExpectQuestion();
-    ExpectFatalBox(u"Run-time error '13':\n\nType mismatch");
+    ExpectFatalBox(u"Run-time error '13':\n\nType mismatch",
+                   u"A number should stand where this stands:\n'xx'\n"_s + GalleryPathOf(u"A001_xx.jpg"));
     Add();
     EXPECT_TRUE(ExitCode().has_value());
 }
@@ -238,7 +242,8 @@ TEST_P(AddFileTest, NoGalleryDirectory_EndsTheProgram)
     P.Files.RmDir(Home.Path(u"LfgDat_A/LfgGal_A"));
     OpenGallery();
     ExpectQuestion();
-    ExpectFatalBox(u"Run-time error '76':\n\nPath not found");
+    ExpectFatalBox(u"Run-time error '76':\n\nPath not found",
+                   u"There is no such directory:\n"_s + Home.Path(u"LfgDat_A/LfgGal_A"));
     Add();
     EXPECT_TRUE(ExitCode().has_value());
 }

@@ -26,7 +26,7 @@ TEST_P(FatalGalleryFileTest, EndsTheProgramWithItsError_AndNothingIsLost)
     Home.WriteFile(InGallery(name), GetParam().Content ? QByteArray(GetParam().Content) : PictureBytes(Qt::blue));
     Choose(u"Smiths");
     const Tree before = Home.Snapshot();
-    ExpectFatalBox(QString::fromUtf8(GetParam().Error));
+    ExpectFatalBox(QString(QString::fromUtf8(GetParam().Error) + GalleryPathOf(name)));
     Click(P.Form1->Command2.Click);
     EXPECT_TRUE(ExitCode().has_value());
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
@@ -34,15 +34,28 @@ TEST_P(FatalGalleryFileTest, EndsTheProgramWithItsError_AndNothingIsLost)
 
 INSTANTIATE_TEST_SUITE_P(
     Files, FatalGalleryFileTest,
-    testing::Values(FatalFile{"A001_xx.jpg", nullptr, "Run-time error '13':\n\nType mismatch"},
-                    FatalFile{"A001_.jpg", nullptr, "Run-time error '13':\n\nType mismatch"},
-                    FatalFile{"A001_", nullptr, "Run-time error '13':\n\nType mismatch"},
-                    FatalFile{"A001_00.jpg", nullptr, "Run-time error '9':\n\nSubscript out of range"},
-                    FatalFile{"A001_99.jpg", nullptr, "Run-time error '9':\n\nSubscript out of range"},
-                    FatalFile{"A001_-1.jpg", nullptr, "Run-time error '9':\n\nSubscript out of range"},
-                    FatalFile{"A001_01.jpg", "", "Run-time error '481':\n\nInvalid picture"},
-                    FatalFile{"A001_01.jpg", "this is no picture", "Run-time error '481':\n\nInvalid picture"},
-                    FatalFile{"A001_01.bmp", "BM but nothing more", "Run-time error '481':\n\nInvalid picture"}));
+    testing::Values(
+        FatalFile{"A001_xx.jpg", nullptr,
+                  "Run-time error '13':\n\nType mismatch\n\nA number should stand where this stands:\n'xx'\n"},
+        FatalFile{"A001_.jpg", nullptr,
+                  "Run-time error '13':\n\nType mismatch\n\nA number should stand where this stands:\n'.j'\n"},
+        FatalFile{"A001_", nullptr,
+                  "Run-time error '13':\n\nType mismatch\n\nA number should stand where this stands:\n''\n"},
+        FatalFile{"A001_00.jpg", nullptr,
+                  "Run-time error '9':\n\nSubscript out of range\n\nThe list or table that is needed has no place of "
+                  "this number:\n0\n"},
+        FatalFile{"A001_99.jpg", nullptr,
+                  "Run-time error '9':\n\nSubscript out of range\n\nThe list or table that is needed has no place of "
+                  "this number:\n99\n"},
+        FatalFile{"A001_-1.jpg", nullptr,
+                  "Run-time error '9':\n\nSubscript out of range\n\nThe list or table that is needed has no place of "
+                  "this number:\n-1\n"},
+        FatalFile{"A001_01.jpg", "",
+                  "Run-time error '481':\n\nInvalid picture\n\nThis file is no picture that can be shown:\n"},
+        FatalFile{"A001_01.jpg", "this is no picture",
+                  "Run-time error '481':\n\nInvalid picture\n\nThis file is no picture that can be shown:\n"},
+        FatalFile{"A001_01.bmp", "BM but nothing more",
+                  "Run-time error '481':\n\nInvalid picture\n\nThis file is no picture that can be shown:\n"}));
 
 using BadGalleryTest = GalleryTest;
 
@@ -70,7 +83,8 @@ TEST_F(BadGalleryTest, PictureOf30000By30000_EndsTheProgram_WithoutBeingDecoded)
         huge.replace(at, 4, QByteArray("\x30\x75\x00\x00", 4));
     Home.WriteFile(InGallery(u"A001_01.bmp"), huge);
     Choose(u"Smiths");
-    ExpectFatalBox(u"Run-time error '481':\n\nInvalid picture");
+    ExpectFatalBox(u"Run-time error '481':\n\nInvalid picture",
+                   u"This file is no picture that can be shown:\n"_s + GalleryPathOf(u"A001_01.bmp"));
     Click(P.Form1->Command2.Click);
     EXPECT_TRUE(ExitCode().has_value());
 }
@@ -88,7 +102,7 @@ TEST_F(BadGalleryTest, MissingIcon_EndsTheProgram)
     P.Files.Kill(Home.Path(u"GalAud.bmp"));
     GivenFiles({u"A001_01.wav"_s});
     Choose(u"Smiths");
-    ExpectFatalBox(u"Run-time error '53':\n\nFile not found");
+    ExpectFatalBox(u"Run-time error '53':\n\nFile not found", u"There is no such file:\n"_s + Home.Path(u"GalAud.bmp"));
     Click(P.Form1->Command2.Click);
     EXPECT_TRUE(ExitCode().has_value());
 }
@@ -97,7 +111,8 @@ TEST_F(BadGalleryTest, PipeUnderAFilesName_IsNotRead)
 {
     ASSERT_EQ(mkfifo(QFile::encodeName(GalleryPathOf(u"A001_01.jpg")).constData(), 0600), 0);
     Choose(u"Smiths");
-    ExpectFatalBox(u"Run-time error '53':\n\nFile not found");
+    ExpectFatalBox(u"Run-time error '53':\n\nFile not found",
+                   u"There is no such file:\n"_s + GalleryPathOf(u"A001_01.jpg"));
     Click(P.Form1->Command2.Click);
     EXPECT_TRUE(ExitCode().has_value());
 }

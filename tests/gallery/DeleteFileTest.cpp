@@ -176,7 +176,8 @@ TEST_F(DeleteFileTest, ReadOnlyFile_EndsTheProgram_AndStays)
     OpenGallery({u"A001_01.jpg"_s});
     Home.MakeReadOnly(InGallery(u"A001_01.jpg"));
     BeginDeletion();
-    ExpectFatalBox(u"Run-time error '75':\n\nPath/File access error");
+    ExpectFatalBox(u"Run-time error '75':\n\nPath/File access error",
+                   u"This can't be opened, made, changed or removed:\n"_s + GalleryPathOf(u"A001_01.jpg"));
     ClickTile(0);
     EXPECT_EQ(FilesInGallery(), QStringList{u"A001_01.jpg"_s});
 }

@@ -21,7 +21,8 @@ TEST_F(RearrangeTest, FromAPageBuild_TheNamesAreNotFound_AndTheProgramEnds)
 {
     OpenGallery({u"A001_01.jpg"_s, u"A001_02.jpg"_s});
     const Tree before = Home.Snapshot();
-    ExpectFatalBox(u"Run-time error '53':\n\nFile not found");
+    ExpectFatalBox(u"Run-time error '53':\n\nFile not found",
+                   u"There is no such file:\n"_s + Home.Path(u"LfgDat_A/A001_02.jpg"));
     Drop(0, 1);
     EXPECT_TRUE(ExitCode().has_value());
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
@@ -35,7 +36,8 @@ TEST_F(RearrangeTest, FromAPageBuild_MovesFailAsWell)
         P.Gallery.FirstShow = 1;
         Click(P.Form1->Command2.Click);
         const Tree before = Home.Snapshot();
-        ExpectFatalBox(u"Run-time error '53':\n\nFile not found");
+        ExpectFatalBox(u"Run-time error '53':\n\nFile not found",
+                       u"There is no such file:\n"_s + Home.Path(u"LfgDat_A/A001_01.jpg"));
         Drop(source, target);
         EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
     }
@@ -47,9 +49,11 @@ TEST_F(RearrangeTest, NameAndPath_FromAPageBuild_LoseNothing)
     OpenGallery({u"A001_01.wav"_s, u"A001_02.wav"_s});
     GivenWholePathOn(1);
     const Tree before = Home.Snapshot();
-    ExpectFatalBox(u"Run-time error '53':\n\nFile not found");
+    ExpectFatalBox(u"Run-time error '53':\n\nFile not found",
+                   u"There is no such file:\n"_s + Home.Path(u"LfgDat_A/A001_01.wav"));
     Drop(0, 1);
-    ExpectFatalBox(u"Run-time error '53':\n\nFile not found");
+    ExpectFatalBox(u"Run-time error '53':\n\nFile not found",
+                   u"There is no such file:\n"_s + Home.Path(u"LfgDat_A/A001_01.wav"));
     Drop(1, 0);
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
 }
@@ -230,7 +234,8 @@ TEST_F(RearrangeTest, NameThatIsTaken_EndsTheProgram_AndBothFilesStay)
     GivenFiles({u"A001_2.jpg"_s});
     GivenCurrentDirectoryInTheGallery();
     const Tree before = Home.Snapshot();
-    ExpectFatalBox(u"Run-time error '58':\n\nFile already exists");
+    ExpectFatalBox(u"Run-time error '58':\n\nFile already exists",
+                   u"A file of this name is there already:\n"_s + GalleryPathOf(u"A001_2.jpg"));
     Drop(0, 1);
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
 }

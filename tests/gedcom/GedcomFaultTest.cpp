@@ -35,7 +35,8 @@ TEST_F(GedcomFaultTest, DirectoryThatIsReadOnly_EndsTheProgram_AndNothingIsWritt
 {
     Home.MakeReadOnly(u"LfgDat_A");
     const Tree before = Home.Snapshot();
-    ExpectFatalBox(u"Run-time error '75':\n\nPath/File access error");
+    ExpectFatalBox(u"Run-time error '75':\n\nPath/File access error",
+                   u"This can't be opened, made, changed or removed:\n"_s + Home.Path(u"LfgDat_A/Gedcom.tmp"));
 
     CreateFile();
 
@@ -48,7 +49,8 @@ TEST_F(GedcomFaultTest, FileThatIsReadOnly_EndsTheProgram_AndStays)
 {
     Home.WriteFile(u"LfgDat_A/Gedcom.tmp", "old");
     Home.MakeReadOnly(u"LfgDat_A/Gedcom.tmp");
-    ExpectFatalBox(u"Run-time error '75':\n\nPath/File access error");
+    ExpectFatalBox(u"Run-time error '75':\n\nPath/File access error",
+                   u"This can't be opened, made, changed or removed:\n"_s + Home.Path(u"LfgDat_A/Gedcom.tmp"));
 
     CreateFile();
 
@@ -59,7 +61,8 @@ TEST_F(GedcomFaultTest, FileThatIsReadOnly_EndsTheProgram_AndStays)
 TEST_F(GedcomFaultTest, FullTable_EndsTheProgram_AndWhatWasWrittenStays)
 {
     P.Scratch.IdxB = 100;
-    ExpectFatalBox(u"Run-time error '9':\n\nSubscript out of range");
+    ExpectFatalBox(u"Run-time error '9':\n\nSubscript out of range",
+                   u"The list or table that is needed has no place of this number:\n100"_s);
 
     CreateFile();
 
@@ -73,8 +76,10 @@ TEST_F(GedcomFaultTest, FileIsClosed_BeforeTheErrorIsShown)
 {
     P.Scratch.IdxB = 100;
     QByteArray whileShown;
-    Prompts.Expect(u"Lineforge", u"Run-time error '9':\n\nSubscript out of range", Buttons::Error, Answer::Ok,
-                   [&] { whileShown = File(); });
+    Prompts.Expect(u"Lineforge",
+                   u"Run-time error '9':\n\nSubscript out of range\n\n"
+                   u"The list or table that is needed has no place of this number:\n100",
+                   Buttons::Error, Answer::Ok, [&] { whileShown = File(); });
 
     CreateFile();
 
@@ -101,7 +106,8 @@ TEST_F(GedcomFaultTest, DiskThatIsFull_EndsTheProgram)
     EXPECT_EQ(ExitCodeInChild([&] {
                   constexpr int fewBytes = 100;
                   LimitFileSize(fewBytes);
-                  ExpectFatalBox(u"Run-time error '57':\n\nDevice I/O error");
+                  ExpectFatalBox(u"Run-time error '57':\n\nDevice I/O error",
+                                 u"The disk failed at this:\n"_s + Home.Path(u"LfgDat_A/Gedcom.tmp"));
                   CreateFile();
                   const bool isAsTold = ExitCode() == 1 && Prompts.IsUsedUp() && File().size() == fewBytes;
                   return isAsTold ? 0 : 1;

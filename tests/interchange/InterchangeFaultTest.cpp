@@ -154,7 +154,7 @@ TEST(FullDiskInterchangeTest, ExportWithoutRoom_LeavesNoHalfFile)
     const int failed = ExitCodeInChild([&place] {
         const SmallDisk disk(place.Path());
         FullDiskStory story;
-        story.IsDiskSmall = disk.Refusal().contains(u"Disk full");
+        story.IsDiskSmall = disk.Refusal({}).contains(u"Disk full");
         story.TestBody();
         return testing::Test::HasFailure() ? 1 : 0;
     });

@@ -136,6 +136,119 @@ TEST_F(OldDatabaseTest, CompareBranch_IsConverted)
     EXPECT_EQ(P.Form6->Data1.Records().Text(u"File"), ExpectedRecords("jet4/deleted")[0][0]);
 }
 
+// By the commands of the windows.
+class OldCompareTest : public OldBranchTest
+{
+protected:
+    void Compare(const QString& fixture)
+    {
+        GivenOldBranch(u'A', u"jet4/royals12.mdb"_s);
+        StartProgram(P);
+        Choose(u"Smiths");
+        GivenOldBranch(u'B', fixture);
+        Click(P.Form1->mnuComp.Click);
+        before_ = Home.Snapshot();
+        Click(P.Form6->mnuOpen.Click);
+        P.Form8->List1.SetText(u"Jones"_s);
+        Click(P.Form8->Command1.Click);
+    }
+    void ExpectNotCompared()
+    {
+        EXPECT_EQ(ExitCode(), std::nullopt);
+        EXPECT_EQ(P.Form6->Label7.Caption.value(), QString());
+        EXPECT_EQ(Differences(before_, Home.Snapshot()), QStringList());
+    }
+
+private:
+    Tree before_;
+};
+
+TEST_F(OldCompareTest, BranchThatCantBeTaken_IsTold_AndNotCompared)
+{
+    ExpectCannotOpenBox();
+
+    Compare(u"jet4/broken/tdef_ff.mdb"_s);
+
+    ExpectNotCompared();
+}
+
+TEST_F(OldCompareTest, BranchThatTheUserDoesntWantWithItsLosses_IsNotCompared)
+{
+    ExpectLossBox(u'B', u"406 of the 999 records can be read, and 0 of their fields can't.", Answer::No);
+    ExpectCannotOpenBox();
+
+    Compare(u"jet4/broken/truncated.mdb"_s);
+
+    ExpectNotCompared();
+}
+
+TEST_F(OldCompareTest, OldBranch_IsConverted_AndCompared)
+{
+    Compare(u"jet4/deleted.mdb"_s);
+
+    ExpectConverted(u'B', "jet4/deleted");
+    EXPECT_EQ(P.Form6->Label7.Caption.value(), u"Jones"_s);
+}
+
+TEST_F(OldDatabaseTest, ImportOfABranchThatCantBeTaken_IsTold_AndItsCopyStaysWhatItIs)
+{
+    GivenRegistry();
+    const QByteArray bytes = FixtureBytes(u"jet4/broken/tdef_ff.mdb"_s);
+    const QString source = Home.WriteFile(u"stick/LfgDat_C/LfgDat_C.mdb", bytes);
+    StartProgram(P);
+    Prompts.ExpectOpenFile(u"Select Import Database File", u"DataBase *.mdb|*.mdb|All Files|*.*|", source);
+    Prompts.ExpectInput(u"Imported Tree Branch alternate name",
+                        u"Enter alternate user friendly name for this imported Tree Branch Map.", u"Royals");
+    const QString question =
+        u"Imported 'Royals' Database and files will be placed in\ndirectory "_s + Home.Path(u"LfgDat_C");
+    Prompts.Expect(u"New Directory and Files", question, Buttons::InformationOkCancel);
+    ExpectCannotOpenBox();
+
+    Click(P.Form1->mnuImpSub.Click);
+
+    EXPECT_EQ(ExitCode(), std::nullopt);
+    EXPECT_EQ(Home.ReadFile(u"LfgDat_C/LfgDat_C.mdb"), bytes);
+    EXPECT_FALSE(Home.Exists(u"LfgDat_C/LfgDat_C.jet"));
+    EXPECT_EQ(Home.ReadFile(u"stick/LfgDat_C/LfgDat_C.mdb"), bytes);
+}
+
+TEST_F(OldDatabaseTest, BookmarksOfADamagedSibling_AskOnce)
+{
+    GivenOldBranch(u'A', u"jet4/royals12.mdb"_s);
+    StartProgram(P);
+    Choose(u"Smiths");
+    GivenOldBranch(u'B', u"jet4/broken/truncated.mdb"_s);
+    const QString own = ExpectedRecords("jet4/royals12")[1][0].value();
+    for (int entry = 0; const QString& file : {u"B001"_s, own, u"B002"_s})
+        P.Bookmarks.BookmarkList[entry++] = file;
+    const QString text =
+        u"The Bookmark list will be copied Text File located at\n"_s + Home.Path(u"LfgDat_A/LfgDat_A.txt");
+    Prompts.Expect(u"Make a Text File.", text, Buttons::Information);
+    ExpectLossBox(u'B', u"406 of the 999 records can be read, and 0 of their fields can't.", Answer::No);
+
+    Click(P.Form1->mnuTxtFileList.Click);
+
+    EXPECT_EQ(ExitCode(), std::nullopt);
+    EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_A"));
+    EXPECT_TRUE(Home.ReadFile(u"LfgDat_A/LfgDat_A.txt").contains(QByteArray("ANCESTRAL RECORD " + own.toUtf8())));
+}
+
+TEST_F(OldDatabaseTest, TemplateThatCantBeTaken_EndsTheProgram_WithTheRegistryAsItWas)
+{
+    const QByteArray registry = Registry();
+    Home.WriteFile(u"LfgEmpt.~Md", FixtureBytes(u"jet4/broken/tdef_ff.mdb"_s));
+    StartProgram(P);
+    AnswerName(u"Browns");
+    Confirm(u"Browns", u"LfgDat_A");
+    ExpectFatalBox(u"Run-time error '3343':\n\nUnrecognized database format.",
+                   u"This is no database, or a damaged one:\n"_s + Home.Path(u"LfgDat_A/LfgDat_A.mdb"));
+
+    Click(P.Form1->New.Click);
+
+    EXPECT_EQ(ExitCode(), 1);
+    EXPECT_EQ(Registry(), registry);
+}
+
 TEST_F(OldDatabaseTest, ImportedBranch_IsConverted)
 {
     const QString path = Home.WriteFile(u"Import_A/LfgDat_A.mdb", FixtureBytes(u"jet3/cp1250.mdb"_s));

@@ -357,7 +357,10 @@ TEST_F(LeaveToolsTest, ReadOnlyMap_EndsTheProgramWithTheErrorsBox)
     Edit();
     Home.MakeReadOnly(BranchA.MapFile());
     ExpectSaveQuestion(Answer::Yes);
-    Prompts.Expect(u"Lineforge", u"Run-time error '75':\n\nPath/File access error", Buttons::Error);
+    Prompts.Expect(u"Lineforge",
+                   QString(u"Run-time error '75':\n\nPath/File access error\n\n"_s +
+                           u"This can't be opened, made, changed or removed:\n"_s + Home.Path(BranchA.MapFile())),
+                   Buttons::Error);
 
     RunHandler(P, P.Form1->Image8.Click);
 

@@ -60,7 +60,10 @@ TEST_F(ToolLimitsTest, ItemTooMany_EndsTheProgramWithTheErrorsBox)
 {
     P.Map.SLines = 200;
     Choose(7);
-    Prompts.Expect(u"Lineforge", u"Run-time error '9':\n\nSubscript out of range", Buttons::Error);
+    Prompts.Expect(u"Lineforge",
+                   u"Run-time error '9':\n\nSubscript out of range\n\n"
+                   u"The list or table that is needed has no place of this number:\n201",
+                   Buttons::Error);
 
     RunHandler(P, [&] { Press({100, 100}); });
 

@@ -72,7 +72,8 @@ TEST_F(BookmarkListTest, Entry101_Fits_Entry102_IsASubscriptError_ThatNobodyMeet
     for (int entry = 0; entry < wholeList; ++entry)
         Click(P.Form1->mnuAddBkMark.Click);
     EXPECT_EQ(P.Bookmarks.BookmarkCount, wholeList);
-    ExpectFatalBox(u"Run-time error '9':\n\nSubscript out of range");
+    ExpectFatalBox(u"Run-time error '9':\n\nSubscript out of range",
+                   u"The list or table that is needed has no place of this number:\n101"_s);
 
     Click(P.Form1->mnuAddBkMark.Click);
 

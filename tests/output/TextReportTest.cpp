@@ -252,7 +252,8 @@ TEST_F(TextReportFaultTest, ReadOnlyDirectory_Database_IsRefused_AndBothOldFiles
 {
     Home.MakeReadOnly(u"LfgDat_A");
     ExpectDatabaseTextBox();
-    ExpectFatalBox(u"Run-time error '75':\n\nPath/File access error");
+    ExpectFatalBox(u"Run-time error '75':\n\nPath/File access error",
+                   u"This can't be opened, made, changed or removed:\n"_s + Home.Path(u"LfgDat_A/LfgDat_A.~tx"));
 
     Click(P.Form1->mnuTxtDBase.Click);
 
@@ -264,7 +265,8 @@ TEST_F(TextReportFaultTest, ReadOnlyDirectory_List_IsRefused_AndBothOldFilesAreW
 {
     Home.MakeReadOnly(u"LfgDat_A");
     ExpectListTextBox();
-    ExpectFatalBox(u"Run-time error '75':\n\nPath/File access error");
+    ExpectFatalBox(u"Run-time error '75':\n\nPath/File access error",
+                   u"This can't be opened, made, changed or removed:\n"_s + Home.Path(u"LfgDat_A/LfgDat_A.~tx"));
 
     Click(P.Form1->mnuTxtFileList.Click);
 
@@ -277,7 +279,8 @@ TEST_F(TextReportFaultTest, ReadOnlyFile_IsRefused_AndStaysWhole)
     Home.MakeReadOnly(report);
     const QByteArray old = Home.ReadFile(report);
     ExpectDatabaseTextBox();
-    ExpectFatalBox(u"Run-time error '75':\n\nPath/File access error");
+    ExpectFatalBox(u"Run-time error '75':\n\nPath/File access error",
+                   u"This can't be opened, made, changed or removed:\n"_s + Home.Path(report));
 
     Click(P.Form1->mnuTxtDBase.Click);
 
@@ -295,7 +298,8 @@ TEST_F(TextReportFaultTest, DatabaseSpoiltWhileItIsRead_KeepsTheOldFile)
         ASSERT_TRUE(file.open(QIODevice::ReadWrite));
         ASSERT_EQ(file.write(QByteArray(bytes, 'x')), bytes);
     });
-    ExpectFatalBox(u"Run-time error '3343':\n\nUnrecognized database format.");
+    ExpectFatalBox(u"Run-time error '3343':\n\nUnrecognized database format.",
+                   u"This is no database, or a damaged one:\n"_s + Home.Path(u"LfgDat_A/LfgDat_A.mdb"));
 
     Click(P.Form1->mnuTxtDBase.Click);
 
@@ -305,7 +309,8 @@ TEST_F(TextReportFaultTest, DatabaseSpoiltWhileItIsRead_KeepsTheOldFile)
 TEST_F(TextReportFaultTest, DirectoryVanished_IsRefused)
 {
     ExpectDatabaseTextBox(report, [&] { QDir(Home.Path(u"LfgDat_A")).removeRecursively(); });
-    ExpectFatalBox(u"Run-time error '76':\n\nPath not found");
+    ExpectFatalBox(u"Run-time error '76':\n\nPath not found",
+                   u"There is no such directory:\n"_s + Home.Path(u"LfgDat_A"));
 
     Click(P.Form1->mnuTxtDBase.Click);
 

@@ -70,14 +70,6 @@ INSTANTIATE_TEST_SUITE_P(Unknown, RuntimeErrorTextTest,
                                 Wording{-1, u"Application-defined or object-defined error"},
                                 Wording{4711, u"Application-defined or object-defined error"}));
 
-TEST(RuntimeErrorTest, OwnText_ReplacesThePlatforms)
-{
-    const RuntimeError error(ErrorNumber::PrinterError, QStringLiteral("no paper"));
-
-    EXPECT_EQ(error.Number, 482);
-    EXPECT_EQ(error.Text, u"no paper");
-}
-
 TEST(ErrorStateTest, RefusedStatement_IsAbandoned_AndRemembered)
 {
     ErrorState errors;

@@ -48,10 +48,10 @@ protected:
         P.Form3->mnuAdd.Click();
     }
     // The user agrees, and the program ends.
-    void AddFatally(QStringView box)
+    void AddFatally(QStringView box, const QString& words)
     {
         ExpectQuestion(Answer::Ok);
-        ExpectFatalBox(box);
+        ExpectFatalBox(box, words);
         Click(P.Form3->mnuAdd.Click);
         EXPECT_EQ(ExitCode(), 1);
     }
@@ -260,7 +260,7 @@ TEST_F(AddRecordTest, NoBlankPortrait_EndsTheProgram_AfterTheRecordHasBeenAdded)
     QFile::remove(Home.Path(u"Tree99.jpg"));
     const auto before = AllRows();
 
-    AddFatally(u"Run-time error '53':\n\nFile not found");
+    AddFatally(u"Run-time error '53':\n\nFile not found", u"There is no such file:\n"_s + Home.Path(u"Tree99.jpg"));
 
     EXPECT_EQ(AllRows("File <> 'A004'"), before);
     EXPECT_EQ(Stored("File", "A004"), u"A004"_s);
@@ -271,7 +271,8 @@ TEST_F(AddRecordTest, BlankPortraitIsNoPicture_IsCopied_AndEndsTheProgram)
 {
     Home.WriteFile(u"Tree99.jpg", "no picture");
 
-    AddFatally(u"Run-time error '481':\n\nInvalid picture");
+    AddFatally(u"Run-time error '481':\n\nInvalid picture",
+               u"This file is no picture that can be shown:\n"_s + Home.Path(u"LfgDat_A/A004Sub.jpg"));
 
     EXPECT_EQ(PictureOf(u"A004"), "no picture");
     EXPECT_EQ(Stored("File", "A004"), u"A004"_s);
@@ -283,7 +284,8 @@ TEST_F(AddRecordTest, ReadOnlyPictureOfThatName_StaysWhole_AndTheProgramEnds)
     Home.MakeReadOnly(u"LfgDat_A/A004Sub.jpg");
     const auto before = AllRows();
 
-    AddFatally(u"Run-time error '75':\n\nPath/File access error");
+    AddFatally(u"Run-time error '75':\n\nPath/File access error",
+               u"This can't be opened, made, changed or removed:\n"_s + Home.Path(u"LfgDat_A/A004Sub.jpg"));
 
     EXPECT_EQ(PictureOf(u"A004"), PictureBytes(Qt::red));
     EXPECT_EQ(AllRows("File <> 'A004'"), before);
@@ -294,7 +296,8 @@ TEST_F(AddRecordTest, AdditionRefusedByTheDatabase_EndsTheProgram_WithRecordsAnd
     Execute("CREATE TRIGGER Refusal BEFORE INSERT ON Tree99 BEGIN SELECT RAISE(ABORT, 'refused'); END");
     const Tree before = Home.Snapshot();
 
-    AddFatally(u"Run-time error '57':\n\nDevice I/O error");
+    AddFatally(u"Run-time error '57':\n\nDevice I/O error",
+               u"The disk failed at this:\n"_s + Home.Path(u"LfgDat_A/LfgDat_A.mdb") + u"\nRecord A004");
 
     EXPECT_EQ(AllRows().size(), 3U);
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());

@@ -26,7 +26,7 @@ protected:
         before_ = this->Home.Snapshot();
         disk_.Fill();
     }
-    void ExpectRefusal() { this->ExpectFatalBox(disk_.Refusal()); }
+    void ExpectRefusal(const QString& subject) { this->ExpectFatalBox(disk_.Refusal(subject)); }
     // The journal of a change that was given up may stay; the next opening takes it back.
     QStringList Changes()
     {
@@ -80,7 +80,7 @@ struct TextStory : FullDiskStory<RecordTest> {
         Prompts.Expect(u"Make a Text File.",
                        QString(u"Database will be Copied to the Text File located at\n"_s + Home.Path(textFile)),
                        Buttons::Information);
-        ExpectRefusal();
+        ExpectRefusal(Home.Path(u"LfgDat_A/LfgDat_A.~tx"));
         Click(P.Form1->mnuTxtDBase.Click);
         EXPECT_EQ(Changes(), QStringList());
     }
@@ -101,7 +101,7 @@ struct AddStory : FullDiskStory<RecordTest> {
         GivenFullDisk();
         Prompts.Expect(u"New Database Record", u"Adding a new Record here will not \nbe mapped into the Tree system.",
                        Buttons::InformationOkCancel, Answer::Ok);
-        ExpectRefusal();
+        ExpectRefusal(Home.Path(database) + u"\nRecord A004");
         Click(P.Form3->mnuAdd.Click);
         EXPECT_EQ(Changes(), QStringList());
         EXPECT_EQ(SqliteFile(Home.Path(database)).Value("SELECT count(*) FROM Tree99"), u"3"_s);
@@ -123,7 +123,7 @@ struct TransferStory : FullDiskStory<RecordTransferTest> {
         GivenFullDisk();
         ExpectTransferTo(u"A002");
         ExpectCopyProblem();
-        ExpectRefusal();
+        ExpectRefusal(Home.Path(database) + u"\nRecord A002");
         Click(P.Form3->MnuRecTransfer.Click);
         EXPECT_EQ(Changes(), QStringList());
         EXPECT_EQ(Rows("File = 'A002'"), before);

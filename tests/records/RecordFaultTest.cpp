@@ -34,7 +34,11 @@ protected:
         ASSERT_EQ(file.write(QByteArray(bytes, 'x')), bytes);
     }
 
-    void ExpectWriteBox() { ExpectFatalBox(u"Run-time error '57':\n\nDevice I/O error"); }
+    void ExpectWriteBox()
+    {
+        ExpectFatalBox(u"Run-time error '57':\n\nDevice I/O error",
+                       u"The disk failed at this:\n"_s + Home.Path(database) + u"\nRecord A001");
+    }
 
     void ExpectBackOnTheMap()
     {
@@ -223,7 +227,8 @@ TEST_F(RecordFaultTest, Rubbish_AStepOfTheScanEndsTheProgram)
 {
     P.Form3->Picture2.Click();
     WriteRubbish();
-    ExpectFatalBox(u"Run-time error '3343':\n\nUnrecognized database format.");
+    ExpectFatalBox(u"Run-time error '3343':\n\nUnrecognized database format.",
+                   u"This is no database, or a damaged one:\n"_s + Home.Path(database));
 
     Click(P.Form3->Timer1.Tick);
 
@@ -247,7 +252,8 @@ TEST_F(RecordFaultTest, BranchDirectoryVanished_TheEndOfTheScanIsRefused_AfterTh
     Records(P).MoveLast();
     P.Form3->Picture2.Click();
     QDir(Home.Path(u"LfgDat_A")).removeRecursively();
-    ExpectFatalBox(u"Run-time error '76':\n\nPath not found");
+    ExpectFatalBox(u"Run-time error '76':\n\nPath not found",
+                   u"There is no such directory:\n"_s + Home.Path(u"LfgDat_A"));
 
     Click(P.Form3->Timer1.Tick);
 

@@ -358,7 +358,8 @@ TEST_F(RecordTransferTest, RefusedByTheDatabase_EndsTheProgram_WithTheRecordsWho
     const auto before = Rows("1");
     Execute("CREATE TRIGGER Refusal BEFORE UPDATE ON Tree99 BEGIN SELECT RAISE(ABORT, 'refused'); END");
     ExpectTransferTo(u"A002");
-    ExpectFatalBox(u"Run-time error '57':\n\nDevice I/O error");
+    ExpectFatalBox(u"Run-time error '57':\n\nDevice I/O error",
+                   u"The disk failed at this:\n"_s + Home.Path(u"LfgDat_A/LfgDat_A.mdb") + u"\nRecord A002");
 
     Click(P.Form3->MnuRecTransfer.Click);
 

@@ -268,7 +268,8 @@ TEST_F(SiblingTransferTest, RefusedByTheDatabaseThere_EndsTheProgram_WithTheReco
     const auto there = Rows("1", u'B');
     Execute("CREATE TRIGGER Refusal BEFORE UPDATE ON Tree99 BEGIN SELECT RAISE(ABORT, 'refused'); END", u'B');
     ExpectTransferTo(u"B001");
-    ExpectFatalBox(u"Run-time error '57':\n\nDevice I/O error");
+    ExpectFatalBox(u"Run-time error '57':\n\nDevice I/O error",
+                   u"The disk failed at this:\n"_s + Home.Path(u"LfgDat_B/LfgDat_B.mdb") + u"\nRecord B001");
 
     Click(P.Form3->MnuRecTransfer.Click);
 

@@ -22,7 +22,11 @@ public:
         Machine.Home.WriteFile(u"AliasList.cfg", registry);
     }
 
-    void ExpectFatalBox(QStringView text) { Machine.Prompts.Expect(u"Lineforge", text, Buttons::Error); }
+    // What stands beneath the platform's text ends with the file.
+    void ExpectFatalBox(QStringView text)
+    {
+        Machine.Prompts.Expect(u"Lineforge", QString(text + Machine.Home.Path(u"AliasList.cfg")), Buttons::Error);
+    }
 
     void Run()
     {
@@ -35,7 +39,9 @@ public:
     Program P{Machine.Platform};
 };
 
-const QString pastEnd = u"Run-time error '62':\n\nInput past end of file"_s;
+const QString pastTable = u"Run-time error '9':\n\nSubscript out of range\n\n"_s
+                          u"The list or table that is needed has no place of this number:\n100\n";
+const QString pastEnd = u"Run-time error '62':\n\nInput past end of file\n\nThis file ends too early:\n"_s;
 
 TEST(BadRegistry, CutOffAtAnyByte_EndsTheProgramInsideASection_AndIsAnEmptyListBeforeIt)
 {
@@ -96,7 +102,8 @@ TEST(BadRegistry, BinaryInsideTheSections_IsTakenForNamesOrRefused_NeverACrash)
         if (byte != '[' && byte != ']' && byte != ',')
             list += static_cast<char>(byte);
     BadStart start("[Alias]\r\n[" + list + ",]\r\n[CFG]\r\n[" + list + ",]\r\n");
-    start.ExpectFatalBox(u"Run-time error '13':\n\nType mismatch");
+    start.ExpectFatalBox(u"Run-time error '13':\n\nType mismatch\n\nA number should stand where this stands:\n"
+                         u"' !\"#$%&'()' ...\n");
 
     start.Run();
 
@@ -109,7 +116,7 @@ TEST(BadRegistry, MoreEntriesThanTheTableHolds_EndTheProgram)
     for (int entry = 0; entry < 101; ++entry)
         list += "Smiths=LfgDat_A,";
     BadStart start("[Alias]\r\n[" + list + "]\r\n[CFG]\r\n[1,]\r\n");
-    start.ExpectFatalBox(u"Run-time error '9':\n\nSubscript out of range");
+    start.ExpectFatalBox(pastTable);
 
     start.Run();
 
@@ -153,7 +160,7 @@ TEST_F(HugeRegistryTest, OneEndlessName_EndsTheProgram)
 TEST_F(HugeRegistryTest, CommasWithoutEnd_EndTheProgram)
 {
     BadStart start("[CFG]\r\n[1,]\r\n[Alias]\r\n[" + QByteArray(huge, ','));
-    start.ExpectFatalBox(u"Run-time error '9':\n\nSubscript out of range");
+    start.ExpectFatalBox(pastTable);
 
     start.Run();
 

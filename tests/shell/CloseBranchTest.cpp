@@ -158,7 +158,8 @@ TEST_F(CloseBranchTest, AfterIt_ABranchOpensAgain_AndItsLabelsFollowTheRecords)
 TEST_F(CloseBranchTest, ReadOnlyMap_EndsTheProgram_WithNothingClosed)
 {
     Home.MakeReadOnly(u"LfgDat_A/LfgDat_A.cfg");
-    ExpectFatalBox(u"Run-time error '75':\n\nPath/File access error");
+    ExpectFatalBox(u"Run-time error '75':\n\nPath/File access error",
+                   u"This can't be opened, made, changed or removed:\n"_s + Home.Path(u"LfgDat_A/LfgDat_A.cfg"));
 
     Click(P.Form1->mnuCloseDB.Click);
 

@@ -184,7 +184,8 @@ TEST_F(ExitTest, ReadOnlyMap_EndsTheProgramWithTheRunTimesMessage_AndTheMapAsItW
     MoveFirstBoxTo(1300);
     Home.MakeReadOnly(u"LfgDat_A/LfgDat_A.cfg");
     const QByteArray before = MapOf(u'A');
-    ExpectFatalBox(u"Run-time error '75':\n\nPath/File access error");
+    ExpectFatalBox(u"Run-time error '75':\n\nPath/File access error",
+                   u"This can't be opened, made, changed or removed:\n"_s + Home.Path(u"LfgDat_A/LfgDat_A.cfg"));
 
     Exit();
 

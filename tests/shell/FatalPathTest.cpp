@@ -59,11 +59,11 @@ INSTANTIATE_TEST_SUITE_P(Errors, FatalErrorTest,
                                          Fatality{9, u"Run-time error '9':\n\nSubscript out of range"},
                                          Fatality{3021, u"Run-time error '3021':\n\nNo current record."}));
 
-TEST_F(FatalPathTest, ErrorWithATextOfItsOwn_ShowsThat)
+TEST_F(FatalPathTest, WhatTheErrorIsAbout_StandsBeneathThePlatformsText)
 {
-    ExpectFatalBox(u"Run-time error '61':\n\nDisk full");
+    ExpectFatalBox(u"Run-time error '61':\n\nDisk full", u"The disk has no room left for this:\nA.txt"_s);
 
-    RunHandler(P, [] { throw RuntimeError(61, u"Disk full"_s); });
+    RunHandler(P, [] { throw RuntimeError(ErrorNumber::DiskFull, u"A.txt"_s); });
 
     EXPECT_EQ(ExitCode(), 1);
 }

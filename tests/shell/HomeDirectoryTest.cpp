@@ -165,7 +165,8 @@ TEST_F(HomeDirectoryTest, RegistryCutOffInItsList_EndsTheProgram_WithNothingChan
     Other.WriteFile(u"AliasList.cfg", "[Alias]\r\n[Browns=LfgDat_C,");
     const Tree before = Other.Snapshot();
     Prompts.ExpectOpenFile(title, filter, Other.Path(u"AliasList.cfg"));
-    ExpectFatalBox(u"Run-time error '62':\n\nInput past end of file");
+    ExpectFatalBox(u"Run-time error '62':\n\nInput past end of file",
+                   u"This file ends too early:\n"_s + Other.Path(u"AliasList.cfg"));
 
     Click(P.Form8->Command3.Click);
 

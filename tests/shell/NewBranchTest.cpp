@@ -232,7 +232,7 @@ TEST_P(MissingTemplateTest, EndsTheProgram_WithTheRegistryAsItWas)
     QFile::remove(Home.Path(GetParam()));
     AnswerName(u"Browns");
     Confirm(u"Browns", u"LfgDat_C");
-    ExpectFatalBox(u"Run-time error '53':\n\nFile not found");
+    ExpectFatalBox(u"Run-time error '53':\n\nFile not found", u"There is no such file:\n"_s + Home.Path(GetParam()));
 
     Click(P.Form1->New.Click);
 
@@ -267,7 +267,8 @@ TEST_F(MadeBranchTest, ReadOnlyRegistry_IsTold_AndEndsTheProgram_WithTheRegistry
                    u"Cannot access a Read Only File. Use 'Import File' to read this File.", Buttons::Information);
     Prompts.Expect(u"File Attribute set for Read Only.",
                    u"Cannot access a Read Only File. Use 'Import File' to read this File.", Buttons::Information);
-    ExpectFatalBox(u"Run-time error '75':\n\nPath/File access error");
+    ExpectFatalBox(u"Run-time error '75':\n\nPath/File access error",
+                   u"This can't be opened, made, changed or removed:\n"_s + Home.Path(u"AliasList.cfg"));
 
     Click(P.Form1->New.Click);
 

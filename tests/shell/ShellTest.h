@@ -89,7 +89,12 @@ protected:
         Prompts.Expect(u"Database Empty", u"This Database has no records to access", Buttons::Information);
     }
 
-    void ExpectFatalBox(QStringView text) { Prompts.Expect(u"Lineforge", text, Buttons::Error); }
+    // The platform's own text, and what stands beneath it.
+    void ExpectFatalBox(QStringView text, const QString& words = {})
+    {
+        Prompts.Expect(u"Lineforge", words.isEmpty() ? text.toString() : QString(text + u"\n\n" + words),
+                       Buttons::Error);
+    }
 
     std::optional<int> ExitCode() const { return Machine.Loop.ExitCode; }
 };

@@ -354,7 +354,8 @@ TEST_F(StartUpTest, TickingTheBoxOfAReadOnlyRegistry_EndsTheProgram_AndChangesNo
     ExpectReadOnlyBox();
     StartProgram(P);
     const QByteArray before = Registry();
-    ExpectFatalBox(u"Run-time error '75':\n\nPath/File access error");
+    ExpectFatalBox(u"Run-time error '75':\n\nPath/File access error",
+                   u"This can't be opened, made, changed or removed:\n"_s + Home.Path(u"AliasList.cfg"));
 
     P.form9->Check1.Value = true;
     Click(P.form9->Check1.Click);

@@ -66,9 +66,11 @@ void SmallDisk::Fill()
         while (filler.write(QByteArray(block, 'x')) == block) {}
 }
 
-QString SmallDisk::Refusal() const
+QString SmallDisk::Refusal(const QString& subject) const
 {
-    return isMounted_ ? u"Run-time error '61':\n\nDisk full"_s : u"Run-time error '57':\n\nDevice I/O error"_s;
+    const QString text = isMounted_ ? u"Run-time error '61':\n\nDisk full\n\nThe disk has no room left for this:\n"_s
+                                    : u"Run-time error '57':\n\nDevice I/O error\n\nThe disk failed at this:\n"_s;
+    return text + subject;
 }
 
 } // namespace lineforge

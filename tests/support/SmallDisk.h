@@ -27,7 +27,7 @@ public:
     void Fill();
 
     // What the platform says of a write that is refused then.
-    QString Refusal() const;
+    QString Refusal(const QString& subject) const;
 
 private:
     QString directory_;

@@ -62,15 +62,15 @@ void MediaPlayer::Open()
     Close();
     const QFileInfo file(control_.FileName);
     if (!file.exists())
-        throw RuntimeError(ErrorNumber::FileNotFound);
+        throw RuntimeError(ErrorNumber::FileNotFound, control_.FileName);
     if (!file.isFile())
-        throw RuntimeError(ErrorNumber::InvalidFileFormat);
+        throw RuntimeError(ErrorNumber::InvalidFileFormat, control_.FileName);
     Load(file.absoluteFilePath());
     if (!machine_)
         return;
     if (!machine_->IsPlayable()) {
         Close();
-        throw RuntimeError(ErrorNumber::InvalidFileFormat);
+        throw RuntimeError(ErrorNumber::InvalidFileFormat, control_.FileName);
     }
     Follow();
     control_.Length = static_cast<int>(machine_->Player.duration());
