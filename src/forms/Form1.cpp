@@ -10,6 +10,9 @@ Form1::Form1() : Form(u"Form1", u"Lineforge", MainWindowClient)
     Command5.Visible = false; // until a comparison has begun
     Shape3.Kind = Shape::Outline::Rectangle;
     Shape3.Dotted = true;
+    Picture1.SpokenName = QStringLiteral("Family tree map");
+    Image1.SpokenName = QStringLiteral("Subject picture");
+    Frame4.SpokenName = QStringLiteral("Drawing tools");
     for (const ToolImage& tool : Tools) {
         for (Image Form1::*image : {tool.Button, tool.Raised, tool.Sunken})
             (this->*image).Visible = false;

@@ -12,6 +12,7 @@ Form12::Form12() : Form(u"Form12", u"Create GEDCOM file", {11880, 7500})
         box->Text.Show(box->Name);
     Text7.Text.Show(u"X010"_s);
     Option2.Value = true;
+    Frame5.SpokenName = u"Address"_s;
     Text3.ToolTipText = u"Address, second line"_s;
     Text4.ToolTipText = u"Address, third line"_s;
     Picture1.ToolTipText = u"Progress"_s;

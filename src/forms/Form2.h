@@ -7,7 +7,7 @@ namespace lineforge::forms
 
 // A picture on its own.
 struct Form2 : Form {
-    Form2() : Form(u"Form2", {}, {7500, 6000}) {}
+    Form2() : Form(u"Form2", {}, {7500, 6000}) { Image1.SpokenName = QStringLiteral("Enlarged subject picture"); }
 
     MenuItem mnuPrin{Menus, u"mnuPrin", u"&Print"};
     MenuItem mnuPrSetup{mnuPrin, u"mnuPrSetup", u"Printer &Setup"};

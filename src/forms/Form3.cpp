@@ -11,6 +11,9 @@ Form3::Form3() : Form(u"Form3", u"Family Tree Data", {11880, 7500})
 {
     BindBoxes();
     DrawFaces();
+    Image1.SpokenName = u"Subject picture"_s;
+    Frame1.SpokenName = u"Record scanner"_s;
+    Data1.SpokenName = u"Records"_s;
 }
 
 void Form3::BindBoxes()

@@ -7,7 +7,7 @@ namespace lineforge::forms
 
 // The list of tree branches.
 struct Form8 : Form {
-    Form8() : Form(u"Form8", u"Open Tree Branch", {6300, 4200}) {}
+    Form8() : Form(u"Form8", u"Open Tree Branch", {6300, 4200}) { List1.SpokenName = QStringLiteral("Tree branches"); }
 
     Label Label1{*this, u"Label1", {180, 150, 5940, 480}};
     ListBox List1{*this, u"List1", {180, 690, 4140, 3330}};

@@ -108,6 +108,8 @@ struct Control {
     QProperty<bool> Visible{true};
     QProperty<bool> Enabled{true};
     QString ToolTipText;
+    // What it is called where it is read aloud, for one that nothing to be seen beside it names well.
+    QString SpokenName;
 
     void Move(Point place)
     {

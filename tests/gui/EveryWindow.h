@@ -117,6 +117,15 @@ inline constexpr ProgramWindow all[] = {
     {"Form11", Conversion},
     {"Form12", GedcomFile},
 };
+
+// Those with menus.
+inline constexpr ProgramWindow withMenus[] = {
+    {"Form1", [](Program& p) -> Form& { return *p.Form1; }},
+    {"Form2", EnlargedPicture},
+    {"Form3", RecordForm},
+    {"Form5", Gallery},
+    {"Form6", Comparison},
+};
 } // namespace every_window
 
 // All windows of the program in turn, with two branches to work on.
@@ -148,13 +157,14 @@ protected:
     }
 
     // The window of this turn, with the keyboard.
-    QWidget& Open()
+    Form& OpenForm()
     {
-        const Form& form = GetParam().Open(P);
+        Form& form = GetParam().Open(P);
         ServeEvents();
         Activate(form);
-        return ViewOf(form);
+        return form;
     }
+    QWidget& Open() { return ViewOf(OpenForm()); }
 };
 
 } // namespace lineforge

@@ -37,6 +37,11 @@ protected:
     }
     QWidget& Tile(int index) { return Find<QWidget>(*P.Form5, u"Image1(%1)"_s.arg(index)); }
     void ClickTile(int index) { Click(*P.Form5, u"Image1(%1)"_s.arg(index)); }
+    void Type(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+    {
+        QTest::keyClick(ViewOf(*P.Form5).windowHandle(), key, modifiers);
+        ServeEvents();
+    }
     QWidget& Client() { return *Tile(0).parentWidget(); }
 
     static bool IsLike(const QColor& a, const QColor& b)
@@ -123,6 +128,32 @@ TEST_F(GalleryWindowTest, TileDroppedOnAnother_RearrangesTheFiles)
     EXPECT_TRUE(Shows(0, Qt::blue));
     EXPECT_TRUE(Shows(1, Qt::red));
     EXPECT_EQ(Home.ReadFile(u"LfgDat_A/LfgGal_A/A001_01.jpg"), PictureBytes(Qt::blue, {4000, 300}));
+}
+
+TEST_F(GalleryWindowTest, TileDraggedByKeys_RearrangesTheFiles)
+{
+    P.Files.ChDir(Home.Path(u"LfgDat_A/LfgGal_A"));
+    Tile(0).setFocus(Qt::TabFocusReason);
+    Type(Qt::Key_Space, Qt::ShiftModifier);
+    Type(Qt::Key_Right);
+    Type(Qt::Key_Space);
+    EXPECT_TRUE(Shows(0, Qt::blue));
+    EXPECT_TRUE(Shows(1, Qt::red));
+    EXPECT_EQ(Home.ReadFile(u"LfgDat_A/LfgGal_A/A001_01.jpg"), PictureBytes(Qt::blue, {4000, 300}));
+}
+
+TEST_F(GalleryWindowTest, Keys_OpenAPicture_MoveItAbout_AndPutItBack)
+{
+    Tile(1).setFocus(Qt::TabFocusReason);
+    const QRect place = Tile(1).geometry();
+    Type(Qt::Key_Space);
+    EXPECT_EQ(Tile(1).size(), QSize(4000, 300));
+    const int before = Tile(1).x();
+    Type(Qt::Key_Left);
+    EXPECT_EQ(Tile(1).x(), before + 40);
+    Type(Qt::Key_Space);
+    EXPECT_EQ(Tile(1).geometry(), place);
+    EXPECT_TRUE(Tile(1).hasFocus());
 }
 
 TEST_F(GalleryWindowTest, DeletionByMenu_TakesTheTileThatIsClicked)

@@ -1,14 +1,20 @@
 #include "forms/Form1.h"
+#include "forms/Form3.h"
+#include "forms/Form5.h"
 #include "forms/Form7.h"
 #include "gui/qt/WindowTest.h"
+#include "platform/qt/ScaledStyle.h"
 #include "platform/qt/WindowView.h"
 
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QResizeEvent>
+#include <QScrollBar>
 #include <QStyle>
 #include <QStyleOptionButton>
+#include <QStyleOptionSlider>
 
 namespace lineforge
 {
@@ -26,6 +32,7 @@ protected:
         QFont font = QApplication::font();
         font.setPixelSize(scale.FontPixels(usualPoints));
         QApplication::setFont(font);
+        QApplication::setStyle(new ScaledStyle(scale.Magnification()));
     }
 
     // Never shown: the places are what counts.
@@ -34,11 +41,12 @@ protected:
         return std::make_unique<WindowView>(form, scale, std::make_shared<Gate>(handlers));
     }
 
-    const Scale scale{GetParam()};
+    // Screens that ask for less than the design's size have several dots for a pixel.
+    const Scale scale{GetParam(), GetParam() > designTwipsAPixel ? 2.0 : 1.0};
     Handlers handlers;
 };
 
-INSTANTIATE_TEST_SUITE_P(TwipsAPixel, WindowLayoutTest, testing::Values(3, 4, 5, 6, 8, 10, 12, 15));
+INSTANTIATE_TEST_SUITE_P(TwipsAPixel, WindowLayoutTest, testing::Values(3, 4, 5, 6, 8, 10, 12, 15, 18, 20));
 
 bool IsInsideItsParent(const QWidget& widget)
 {
@@ -82,6 +90,73 @@ TEST_P(WindowLayoutTest, TheMarkOfAnOption_IsAsLargeAsItsText)
 
     EXPECT_GE(mark.height(), option->fontMetrics().height());
     EXPECT_EQ(mark.width(), mark.height());
+}
+
+// The first column that has something of a letter.
+int FirstInk(const QImage& picture, QRect within)
+{
+    for (int x = within.left(); x <= within.right(); ++x)
+        for (int y = within.top(); y <= within.bottom(); ++y)
+            if (qGray(picture.pixel(x, y)) < 128)
+                return x - within.left();
+    return within.width();
+}
+
+TEST_P(WindowLayoutTest, WhatIsWrittenInABox_StandsOffItsEdge)
+{
+    forms::Form3 form;
+    form.Text2.Text = u"HHHH"_s;  // of one line
+    form.Text12.Text = u"HHHH"_s; // of several
+    const auto window = Build(form);
+    constexpr int edge = 2;
+    const int leastDistance = scale.ToPixels(45);
+
+    for (const TextBox* box : {&form.Text2, &form.Text12}) {
+        const QImage picture = window->findChild<QWidget*>(box->Name)->grab().toImage();
+        const QRect within = picture.rect().adjusted(edge, edge + 2, -edge, -edge - 2);
+        EXPECT_GE(FirstInk(picture, within) + edge, leastDistance) << qUtf8Printable(box->Name);
+        EXPECT_LE(FirstInk(picture, within) + edge, 3 * leastDistance) << qUtf8Printable(box->Name);
+    }
+}
+
+TEST_P(WindowLayoutTest, TheButtonsOfTheScrollBar_AreAboutAsHighAsItIsWide)
+{
+    forms::Form1 form;
+    const auto window = Build(form);
+    const auto* bar = window->findChild<QScrollBar*>(form.VScroll1.Name);
+    ASSERT_TRUE(bar);
+    QStyleOptionSlider look;
+    look.initFrom(bar);
+    look.orientation = Qt::Vertical;
+
+    const QRect button = bar->style()->subControlRect(QStyle::CC_ScrollBar, &look, QStyle::SC_ScrollBarAddLine, bar);
+
+    EXPECT_NEAR(button.height(), bar->width(), bar->width() / 3);
+}
+
+// There is room for more than the time and the buttons.
+class RoomyWindowTest : public WindowLayoutTest
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(TwipsAPixel, RoomyWindowTest, testing::Values(3, 4, 5, 6, 8, 10, 12));
+
+TEST_P(RoomyWindowTest, TheTimeOfAFilm_TouchesNeitherTheFilmNorTheButtons)
+{
+    forms::Form5 form;
+    form.MMControl2.Length = 2000;
+    form.MMControl2.IsOpen = true;
+    const auto window = Build(form);
+    auto* player = window->findChild<QWidget*>(form.MMControl2.Name);
+    ASSERT_TRUE(player);
+    player->ensurePolished();
+    QResizeEvent resize(player->size(), {});
+    QCoreApplication::sendEvent(player, &resize);
+
+    const auto* time = window->findChild<QLabel*>(form.MMControl2.Name + u"Time"_s);
+    ASSERT_TRUE(time);
+    EXPECT_FALSE(time->isHidden());
+    EXPECT_GE(time->height(), 5 * time->fontMetrics().height() / 4);
 }
 
 TEST_P(WindowLayoutTest, Tools_StandSideBySide_EachASquareInTheirFrame)

@@ -41,7 +41,8 @@ std::vector<Stretch> RowsOf(const Tour& tour, const ScreenWindow& popup)
 
 QRect PlaceInMenuBar(const Tour& tour, const MenuItem& menu)
 {
-    constexpr int blankBetweenWords = 7;
+    constexpr double points = 8;
+    const int blankBetweenWords = tour.Places.Pixels().FontPixels(points) / 2;
     const std::vector<MenuItem*>& menus = tour.MainForm.Menus;
     const QRect window = tour.MainWindow().Place;
     const QRect bar = Inside(QRect(window.topLeft(), QSize(window.width(), tour.MenuBarHeight())));

@@ -33,6 +33,36 @@ bool IsAbove(const Label& label, const Control& control)
            Overlap(label.Left, label.Width, control.Left, control.Width);
 }
 
+// What a label is put beside to name it: a field that is filled in or chosen from. A label beside a picture or a button
+// belongs to something else.
+bool IsField(const Control& control)
+{
+    return dynamic_cast<const TextBox*>(&control) || dynamic_cast<const ListBox*>(&control) ||
+           dynamic_cast<const DriveList*>(&control) || dynamic_cast<const DirectoryList*>(&control);
+}
+
+// The nearest one on the left that says something, else the one right above.
+const Label* LabelOf(const Control& field, const Container& container)
+{
+    const Label* nearest = nullptr;
+    const Label* above = nullptr;
+    for (const Control* other : container.Controls()) {
+        const auto* label = dynamic_cast<const Label*>(other);
+        if (!label || label->Caption.Shown().isEmpty())
+            continue;
+        if (IsLeftOf(*label, field) && (!nearest || label->Left.value() > nearest->Left.value()))
+            nearest = label;
+        if (IsAbove(*label, field))
+            above = label;
+    }
+    return nearest ? nearest : above;
+}
+
+QString WithoutColon(const QString& caption)
+{
+    return caption.endsWith(u':') ? caption.chopped(1).trimmed() : caption;
+}
+
 QString WordFor(const Control& control)
 {
     if (dynamic_cast<const Image*>(&control) || dynamic_cast<const PictureBox*>(&control))
@@ -69,22 +99,12 @@ QString SpokenCaption(const QString& caption)
 
 QString BorrowedName(const Control& control, const Container& container)
 {
+    if (!control.SpokenName.isEmpty())
+        return control.SpokenName;
+    if (const Label* label = IsField(control) ? LabelOf(control, container) : nullptr)
+        return WithoutColon(label->Caption.Shown());
     if (!control.ToolTipText.isEmpty())
         return control.ToolTipText;
-    const Label* nearest = nullptr;
-    const Label* above = nullptr;
-    for (const Control* other : container.Controls()) {
-        const auto* label = dynamic_cast<const Label*>(other);
-        if (!label || label == &control || label->Caption.Shown().isEmpty())
-            continue;
-        if (IsLeftOf(*label, control) && (!nearest || label->Left.value() > nearest->Left.value()))
-            nearest = label;
-        if (IsAbove(*label, control))
-            above = label;
-    }
-    const Label* namedBy = nearest ? nearest : above;
-    if (namedBy)
-        return namedBy->Caption.Shown();
     const auto* frame = dynamic_cast<const Frame*>(&container);
     const QString around = frame ? SpokenCaption(frame->Caption).trimmed() : QString();
     return around.isEmpty() ? WordFor(control) : around;

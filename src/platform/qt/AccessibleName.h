@@ -12,8 +12,9 @@ namespace lineforge
 // A caption as it is read aloud: without the mark of its access key.
 QString SpokenCaption(const QString& caption);
 
-// What a control without a caption is called: by its tool tip, else by the nearest label left of it, else by the label
-// right above it, else by the caption of the frame around it, else by what it is. Its name is the last resort.
+// What a control without a caption is called: by its `SpokenName`; a field by the nearest label left of it, else by the
+// label right above it; else by its tool tip, else by the caption of the frame around it, else by what it is. Its name
+// is the last resort. A tool tip that isn't the name is read out as the description.
 QString BorrowedName(const Control& control, const Container& container);
 
 // What readers take a widget of ours for, which to the toolkit is nothing but an area.

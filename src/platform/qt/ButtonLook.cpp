@@ -3,14 +3,11 @@
 #include "platform/PictureBox.h"
 
 #include <QPushButton>
-#include <QStyle>
 
 #include <cmath>
 
 namespace lineforge
 {
-
-using namespace Qt::StringLiterals;
 
 namespace
 {
@@ -23,15 +20,6 @@ bool IsDark(const QColor& colour)
            evenContrast;
 }
 } // namespace
-
-// The toolkit's mark has one size for all sizes of text, and one distance to it.
-void SizeMark(QAbstractButton& button)
-{
-    const int side = button.fontMetrics().height();
-    if (button.style()->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr, &button) < side)
-        button.setStyleSheet(
-            u"* { spacing: %2px; } ::indicator { width: %1px; height: %1px; }"_s.arg(side).arg(side / 3));
-}
 
 void ShowOnButton(QPushButton& button, const QImage& picture)
 {

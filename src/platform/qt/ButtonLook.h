@@ -7,14 +7,10 @@
 
 #include <optional>
 
-class QAbstractButton;
 class QPushButton;
 
 namespace lineforge
 {
-
-// Makes the mark of an option or a check box, and its distance to the text, as large as the text asks for.
-void SizeMark(QAbstractButton& button);
 
 // The picture in the place of a caption; a button that is a picture has no border of its own.
 void ShowOnButton(QPushButton& button, const QImage& picture);

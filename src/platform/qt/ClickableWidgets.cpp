@@ -1,7 +1,9 @@
 #include "platform/qt/ClickableWidgets.h"
 
 #include "platform/qt/AccessibleName.h"
+#include "platform/qt/Keys.h"
 #include "platform/qt/Outlines.h"
+#include "platform/qt/ScrollBarView.h"
 
 #include <QAccessibleWidget>
 #include <QApplication>
@@ -9,7 +11,6 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QScrollBar>
 #include <QStyleOption>
 #include <QWheelEvent>
 
@@ -75,12 +76,10 @@ void ClientArea::mouseReleaseEvent(QMouseEvent* event)
 
 void ClientArea::wheelEvent(QWheelEvent* event)
 {
-    for (QScrollBar* bar : findChildren<QScrollBar*>(Qt::FindDirectChildrenOnly))
-        if (bar->isVisible() && bar->isEnabled()) {
-            QCoreApplication::sendEvent(bar, event);
-            return;
-        }
-    event->ignore();
+    if (QScrollBar* bar = ScrollBarIn(*this))
+        QCoreApplication::sendEvent(bar, event);
+    else
+        event->ignore();
 }
 
 void FrameView::paintEvent(QPaintEvent*)
@@ -100,8 +99,8 @@ void FrameView::paintEvent(QPaintEvent*)
     const QString text = fontMetrics().elidedText(title(), Qt::ElideRight, width() - 2 * (indent + gap));
     const QRect place(indent + gap, 0, fontMetrics().horizontalAdvance(text), fontMetrics().height());
     painter.fillRect(place.adjusted(-gap, 0, gap, 0), palette().brush(QPalette::Window));
-    style()->drawItemText(&painter, place, Qt::AlignCenter | Qt::TextHideMnemonic, palette(), isEnabled(), text,
-                          QPalette::WindowText);
+    style()->drawItemText(&painter, place, Qt::AlignCenter | Qt::TextHideMnemonic | Qt::TextDontClip, palette(),
+                          isEnabled(), text, QPalette::WindowText);
 }
 
 void FrameView::mousePressEvent(QMouseEvent* event)
@@ -180,8 +179,7 @@ void ImageView::mouseReleaseEvent(QMouseEvent* event)
 
 void ImageView::keyPressEvent(QKeyEvent* event)
 {
-    const bool presses =
-        event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool presses = IsPressKey(event->key());
     event->setAccepted(presses);
     if (presses && !event->isAutoRepeat())
         Press();

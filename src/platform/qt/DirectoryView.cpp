@@ -1,6 +1,7 @@
 #include "platform/qt/DirectoryView.h"
 
 #include "platform/DirectoryRows.h"
+#include "platform/qt/Keys.h"
 
 #include <QKeyEvent>
 #include <QStyle>
@@ -54,10 +55,11 @@ void DirectoryView::Choose(const QListWidgetItem* item)
 
 void DirectoryView::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    if (!IsPressKey(event->key()))
+        return QListWidget::keyPressEvent(event);
+    Clicked();
+    if (event->key() != Qt::Key_Space)
         Choose(currentItem());
-    else
-        QListWidget::keyPressEvent(event);
 }
 
 void DirectoryView::showEvent(QShowEvent* event)

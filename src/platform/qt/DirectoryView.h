@@ -7,7 +7,8 @@
 namespace lineforge
 {
 
-// Shows a directory with those above it and those in it. A double click on a line, or Enter, chooses it.
+// Shows a directory with those above it and those in it. A double click on a line, or Enter, chooses it. Space is a
+// click, and so is the first half of Enter.
 class DirectoryView : public QListWidget
 {
 public:

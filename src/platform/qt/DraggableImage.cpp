@@ -1,5 +1,7 @@
 #include "platform/qt/DraggableImage.h"
 
+#include "platform/FileSystem.h"
+#include "platform/qt/Keys.h"
 #include "platform/qt/Outlines.h"
 
 #include <QApplication>
@@ -9,12 +11,19 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <cstdlib>
+#include <limits>
 
 namespace lineforge
 {
 
+using namespace Qt::StringLiterals;
+
 namespace
 {
+constexpr int pixelsAStep = 40; // of a picture that is moved about
+constexpr int asideWeighs = 4;
+
 // As near to where it is wanted as leaves no bare strip; what fits stays in its place.
 int Slid(int place, int by, int length, int room)
 {
@@ -29,6 +38,25 @@ DraggableImage::DraggableImage(QWidget* parent, Image& control) : ImageView(pare
     Clicked = [this] { Dropped(*this); };
 }
 
+// The tag of one without a file is a number of the program's own.
+void DraggableImage::TakeTag()
+{
+    const QString name = control_.Tag.value().section(PathSeparator, -1);
+    const bool isFile = name.contains(u'.');
+    setAccessibleName(isFile ? name : u"Empty tile"_s);
+    setToolTip(isFile ? name.toHtmlEscaped() : QString());
+}
+
+void DraggableImage::LieBelowThoseThere()
+{
+    for (QObject* child : parentWidget()->children()) {
+        auto* widget = qobject_cast<QWidget*>(child);
+        const auto* image = dynamic_cast<DraggableImage*>(child);
+        if (widget && widget != this && (!image || image->geometry().intersects(geometry())))
+            return stackUnder(widget);
+    }
+}
+
 void DraggableImage::paintEvent(QPaintEvent* event)
 {
     if (Picture().isNull()) {
@@ -41,6 +69,8 @@ void DraggableImage::paintEvent(QPaintEvent* event)
 
 void DraggableImage::mousePressEvent(QMouseEvent* event)
 {
+    if (DraggableImage* held = Held())
+        held->LetGo();
     isHeld_ = event->button() == Qt::LeftButton;
     heldAt_ = event->position().toPoint();
     event->setAccepted(isHeld_);
@@ -51,12 +81,18 @@ void DraggableImage::mouseMoveEvent(QMouseEvent* event)
     const QPoint here = event->position().toPoint();
     if (!isHeld_ || (!outline_ && (here - heldAt_).manhattanLength() < QApplication::startDragDistance()))
         return;
-    if (!outline_) {
+    // It takes the keyboard, so that Escape comes here.
+    if (!outline_)
+        setFocus(Qt::MouseFocusReason);
+    Outline(geometry().translated(here - heldAt_));
+}
+
+void DraggableImage::Outline(const QRect& place)
+{
+    if (!outline_)
         outline_ = new QRubberBand(QRubberBand::Rectangle, parentWidget());
-        outline_->resize(size());
-        outline_->show();
-    }
-    outline_->move(mapToParent(here - heldAt_));
+    outline_->setGeometry(place);
+    outline_->show();
 }
 
 void DraggableImage::mouseReleaseEvent(QMouseEvent* event)
@@ -71,10 +107,94 @@ void DraggableImage::mouseReleaseEvent(QMouseEvent* event)
 
 void DraggableImage::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape && isHeld_)
-        LetGo();
+    DraggableImage* held = Held();
+    const bool isPress = IsPressKey(event->key()) && !event->isAutoRepeat();
+    const bool isTake = event->key() == Qt::Key_Space && event->modifiers().testFlag(Qt::ShiftModifier);
+    if (event->key() == Qt::Key_Escape && held)
+        held->LetGo();
+    else if (Step(DirectionOf(event->key())))
+        event->accept();
+    else if (isPress && held)
+        DropByKey(*held);
+    else if (isPress && isTake)
+        TakeByKey();
     else
-        ImageView::keyPressEvent(event);
+        Click(event);
+}
+
+// The focus comes back to what the click has hidden for a moment.
+void DraggableImage::Click(QKeyEvent* event)
+{
+    ImageView::keyPressEvent(event);
+    if (event->isAccepted() && isVisible())
+        setFocus(Qt::OtherFocusReason);
+}
+
+void DraggableImage::TakeByKey()
+{
+    isHeld_ = true;
+    setAccessibleDescription(u"Taken"_s);
+    Outline(geometry());
+}
+
+// On itself it is only put down: whoever wants a click has an easier way to it.
+void DraggableImage::DropByKey(DraggableImage& held)
+{
+    held.LetGo();
+    if (&held != this)
+        Dropped(held);
+}
+
+// Moves what is larger than its room, else leads to the next one.
+bool DraggableImage::Step(QPoint direction)
+{
+    if (direction.isNull())
+        return false;
+    if (!Slide(-direction * pixelsAStep))
+        if (DraggableImage* next = Neighbour(direction))
+            next->setFocus(Qt::TabFocusReason);
+    return true;
+}
+
+// What is held lies where the focus is.
+void DraggableImage::focusInEvent(QFocusEvent* event)
+{
+    if (DraggableImage* held = Held(); held && event->reason() != Qt::MouseFocusReason)
+        held->Outline(geometry());
+    ImageView::focusInEvent(event);
+}
+
+QList<DraggableImage*> DraggableImage::Group() const
+{
+    QList<DraggableImage*> group;
+    for (QObject* child : parentWidget()->children())
+        if (auto* image = dynamic_cast<DraggableImage*>(child); image && image->isVisible())
+            group += image;
+    return group;
+}
+
+DraggableImage* DraggableImage::Held() const
+{
+    const QList<DraggableImage*> group = Group();
+    const auto held = std::ranges::find_if(group, &DraggableImage::isHeld_);
+    return held == group.end() ? nullptr : *held;
+}
+
+// One straight ahead comes before one that is nearer but aside.
+DraggableImage* DraggableImage::Neighbour(QPoint direction) const
+{
+    DraggableImage* nearest = nullptr;
+    int least = std::numeric_limits<int>::max();
+    for (DraggableImage* image : Group()) {
+        const QPoint way = image->geometry().center() - geometry().center();
+        const int ahead = QPoint::dotProduct(way, direction);
+        const int aside = std::abs(QPoint::dotProduct(way, direction.transposed()));
+        if (ahead > 0 && ahead + asideWeighs * aside < least) {
+            least = ahead + asideWeighs * aside;
+            nearest = image;
+        }
+    }
+    return nearest;
 }
 
 // What is hidden while it is held can't be dropped any more.
@@ -86,17 +206,24 @@ void DraggableImage::hideEvent(QHideEvent* event)
 
 void DraggableImage::wheelEvent(QWheelEvent* event)
 {
+    event->setAccepted(Slide(event->angleDelta()));
+}
+
+bool DraggableImage::Slide(QPoint by)
+{
     const QSize room = parentWidget()->size();
-    const QPoint by = event->angleDelta();
     const QPoint wanted(Slid(x(), by.x(), width(), room.width()), Slid(y(), by.y(), height(), room.height()));
-    event->setAccepted(wanted != pos());
-    if (event->isAccepted() && Moved)
+    if (wanted == pos())
+        return false;
+    if (Moved)
         Moved(wanted);
+    return true;
 }
 
 void DraggableImage::LetGo()
 {
     isHeld_ = false;
+    setAccessibleDescription({});
     delete outline_;
 }
 

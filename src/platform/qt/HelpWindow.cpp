@@ -79,7 +79,7 @@ HelpWindow::~HelpWindow() = default;
 void HelpWindow::BuildMiddle()
 {
     Describe(*browser_, u"HelpText"_s, tr("Page"));
-    browser_->document()->setDocumentMargin(16);
+    browser_->document()->setDocumentMargin(12);
     // Links lead through the manual and nowhere else.
     browser_->setOpenLinks(false);
     connect(browser_, &QTextBrowser::anchorClicked, this, &HelpWindow::GoTo);

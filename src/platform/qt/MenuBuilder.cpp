@@ -1,5 +1,7 @@
 #include "platform/qt/MenuBuilder.h"
 
+#include "platform/qt/AccessibleName.h"
+
 #include <QMenu>
 #include <QMenuBar>
 
@@ -48,6 +50,7 @@ private:
     {
         QMenu* menu = to.addMenu(item.Caption);
         menu->setObjectName(item.Name);
+        menu->setAccessibleName(SpokenCaption(item.Caption));
         QObject::connect(menu, &QMenu::aboutToShow, menu, [gate = gate_, &item] { gate->Run(item.Click); });
         Add(*menu, item.Items);
         return menu->menuAction();

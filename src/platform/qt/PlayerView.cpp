@@ -148,9 +148,12 @@ void PlayerView::ShowTime(int position, int length)
 void PlayerView::resizeEvent(QResizeEvent*)
 {
     const int screen = std::min(screenHeight_, height());
-    const int timeHeight = time_->fontMetrics().height();
+    const int letters = time_->fontMetrics().height();
     const int smallestRow = smallestButton + 2 * buttonMargin;
-    const bool hasTime = height() - screen >= timeHeight + smallestRow;
+    const int spare = height() - screen - letters - smallestRow;
+    const bool hasTime = spare >= 0;
+    // Where there is room for it, the time touches neither film nor buttons.
+    const int timeHeight = letters + std::clamp(spare, 0, letters / 3);
     const int row = screen + (hasTime ? timeHeight : 0);
     if (film_)
         film_->setGeometry(0, 0, width(), screen);

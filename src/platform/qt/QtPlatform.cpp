@@ -1,5 +1,7 @@
 #include "platform/qt/QtPlatform.h"
 
+#include "platform/qt/ScaledStyle.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QFontDatabase>
@@ -19,7 +21,8 @@ constexpr double usualPoints = 8;
 Scale ScaleFor(Size mainWindow)
 {
     const int title = QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight);
-    return FittingScale(mainWindow, QGuiApplication::primaryScreen()->availableSize(), title);
+    const QScreen& screen = *QGuiApplication::primaryScreen();
+    return FittingScale(mainWindow, screen.availableSize(), title, screen.devicePixelRatio());
 }
 
 // The places of all texts were measured with the design's own font. The system's font takes its part, unless it runs so
@@ -49,6 +52,7 @@ QtPlatform::QtPlatform(Size mainWindow, std::function<QString()> currentDirector
       prompts_(loop_, printers_, std::move(currentDirectory)), windows_(scale_, media_)
 {
     QApplication::setFont(UsualFont(scale_));
+    QApplication::setStyle(new ScaledStyle(scale_.Magnification()));
     QApplication::setQuitOnLastWindowClosed(false);
 }
 

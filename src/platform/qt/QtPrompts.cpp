@@ -14,7 +14,10 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
+#include <QScreen>
+#include <QStyle>
 
+#include <algorithm>
 #include <utility>
 
 namespace lineforge
@@ -101,6 +104,23 @@ TextFont ChosenFont(const TextFont& present, const QFont& shown, const QFont& ch
         font.Size = chosen.pointSizeF();
     return font;
 }
+
+// The toolkit would break lines at half of the width that it allows a box, whatever the size of the letters.
+void WidenFor(const QString& text, QMessageBox& box)
+{
+    const int screen = box.screen()->availableSize().width();
+    const int widestBox = std::min(1000, std::max(screen - 480, screen / 2)); // no more than the toolkit allows
+    const int besides = 2 * box.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &box);
+    auto* label = box.findChild<QLabel*>(u"qt_msgbox_label"_s);
+    label->setMinimumWidth(std::min(widestBox - besides, box.fontMetrics().size(0, text).width()));
+}
+
+// To a size in lines of text: the toolkit has its file box as large for all sizes of letters.
+void Enlarge(QDialog& box, QSize lines)
+{
+    const QSize wanted = (lines * box.fontMetrics().lineSpacing()).expandedTo(box.size());
+    box.resize(wanted.boundedTo(box.screen()->availableSize()));
+}
 } // namespace
 
 QtPrompts::QtPrompts(const QtEventLoop& loop, QtPrintSystem& printers, std::function<QString()> currentDirectory)
@@ -117,6 +137,7 @@ Answer QtPrompts::MsgBox(const QString& title, const QString& text, Buttons butt
     QMessageBox box(set.Icon, title, {}, set.First | set.Last, QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
     box.setText(text);
+    WidenFor(text, box);
     box.setDefaultButton(set.Default);
     box.setEscapeButton(set.Last);
     const ArrowMeanwhile arrow;
@@ -163,6 +184,7 @@ std::optional<QString> QtPrompts::AskFile(QFileDialog& box, const FileQuestion& 
     box.setOption(QFileDialog::DontUseNativeDialog);
     if (const QStringList filters = ToFileFilters(question.Filter); !filters.isEmpty())
         box.setNameFilters(filters);
+    Enlarge(box, {52, 34});
     const ArrowMeanwhile arrow;
     const bool chosen = box.exec() == QDialog::Accepted;
     loop_.ThrowIfEnded();

@@ -42,9 +42,7 @@ public:
     {
         Serve(form);
         visible_ = form.Visible.addNotifier([this] { FollowVisible(); });
-        form_.Grab = [this, gate = gate_] {
-            return gate->IsOpen() && view_ ? view_->centralWidget()->grab().toImage() : QImage();
-        };
+        form_.Grab = [this, gate = gate_] { return gate->IsOpen() && view_ ? view_->Picture() : QImage(); };
         form_.Measure = [this, gate = gate_] {
             return gate->IsOpen() && view_ ? scale_.ToTwips(view_->centralWidget()->size())
                                            : Size{form_.Width, form_.Height};

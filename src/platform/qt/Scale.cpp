@@ -10,9 +10,8 @@ namespace lineforge
 namespace
 {
 constexpr int twipsPerPoint = 20;
-constexpr int smallestFontPixels = 10;
-constexpr int coarsest = 15;
-constexpr std::array<int, 8> finestFirst{3, 4, 5, 6, 8, 10, 12, coarsest};
+constexpr int smallestFontDots = 10;
+constexpr std::array<int, 10> finestFirst{3, 4, 5, 6, 8, 10, 12, designTwipsAPixel, 18, 20};
 
 // A menu bar isn't made yet when the scale is chosen; this is what the usual styles give it.
 int MenuBarPixels(const Scale& scale)
@@ -35,18 +34,24 @@ QRect Scale::ToPixels(Rectangle twips) const
 
 int Scale::FontPixels(double points) const
 {
-    return std::max(smallestFontPixels, static_cast<int>(std::lround(points * twipsPerPoint / twipsAPixel_)));
+    const int smallest = static_cast<int>(std::ceil(smallestFontDots / dots_));
+    return std::max(smallest, static_cast<int>(std::lround(points * twipsPerPoint / twipsAPixel_)));
 }
 
-Scale FittingScale(Size client, QSize available, int titlePixels)
+Scale FittingScale(Size client, QSize available, int titlePixels, double dots)
 {
+    // The design's own size is readable on any screen, a smaller one where a pixel has more than one dot.
+    const double coarsest = designTwipsAPixel * std::max(1.0, dots);
+    Scale scale(designTwipsAPixel, dots);
     for (const int twipsAPixel : finestFirst) {
-        const Scale scale(twipsAPixel);
+        if (twipsAPixel > coarsest)
+            break;
+        scale = Scale(twipsAPixel, dots);
         const QSize window = scale.ToPixels(client) + QSize(0, MenuBarPixels(scale) + titlePixels);
         if (window.width() <= available.width() && window.height() <= available.height())
-            return scale;
+            break;
     }
-    return Scale(coarsest);
+    return scale;
 }
 
 } // namespace lineforge

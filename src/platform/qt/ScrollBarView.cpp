@@ -49,4 +49,20 @@ void ScrollBarView::paintEvent(QPaintEvent* event)
     PaintFocusMark(*this);
 }
 
+QScrollBar* ScrollBarIn(const QWidget& container)
+{
+    for (QScrollBar* bar : container.findChildren<QScrollBar*>(Qt::FindDirectChildrenOnly))
+        if (!bar->isHidden() && bar->isEnabled())
+            return bar;
+    return nullptr;
+}
+
+QScrollBar* ScrollBarAround(const QWidget& widget)
+{
+    for (const QWidget* outer = widget.parentWidget(); outer; outer = outer->parentWidget())
+        if (QScrollBar* bar = ScrollBarIn(*outer))
+            return bar;
+    return nullptr;
+}
+
 } // namespace lineforge

@@ -27,4 +27,10 @@ private:
     FramePacer pacer_;
 };
 
+// The bar that scrolls what stands directly in a container; null when there is none that can be used.
+QScrollBar* ScrollBarIn(const QWidget& container);
+
+// The bar that scrolls a widget: of the nearest container around it that has one.
+QScrollBar* ScrollBarAround(const QWidget& widget);
+
 } // namespace lineforge

@@ -1,8 +1,8 @@
+#include "platform/qt/ScrollBarView.h"
 #include "platform/qt/TextPanelView.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
-#include <QScrollBar>
 
 namespace lineforge
 {
@@ -105,7 +105,7 @@ void TextPanelView::timerEvent(QTimerEvent* event)
 {
     if (event->timerId() != scrolling_.timerId())
         return QWidget::timerEvent(event);
-    if (QScrollBar* bar = Bar(); bar && (pointer_.y() < 0 || pointer_.y() >= height()))
+    if (QScrollBar* bar = ScrollBarAround(*this); bar && (pointer_.y() < 0 || pointer_.y() >= height()))
         bar->triggerAction(pointer_.y() < 0 ? QScrollBar::SliderSingleStepSub : QScrollBar::SliderSingleStepAdd);
     if (pointer_.x() < 0 || pointer_.x() >= width())
         ShiftSidewards(pointer_.x() < 0 ? -pixelsAStep : pixelsAStep);
@@ -150,7 +150,7 @@ bool TextPanelView::Scroll(QKeyEvent& event)
         Reveal(EndOf(Lines()).Line);
         return true;
     }
-    QScrollBar* bar = Bar();
+    QScrollBar* bar = ScrollBarAround(*this);
     return bar && QCoreApplication::sendEvent(bar, &event);
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/qt/AccessibleName.h"
 #include "platform/qt/Outlines.h"
+#include "platform/qt/ScrollBarView.h"
 
 #include <QAccessible>
 #include <QClipboard>
@@ -9,7 +10,6 @@
 #include <QGuiApplication>
 #include <QMenu>
 #include <QPainter>
-#include <QScrollBar>
 
 #include <algorithm>
 #include <cmath>
@@ -196,18 +196,9 @@ QRect TextPanelView::PlaceOf(TextPosition position) const
             TopOf(position.Line + 1) - TopOf(position.Line)};
 }
 
-QScrollBar* TextPanelView::Bar() const
-{
-    for (const QWidget* outer = parentWidget(); outer; outer = outer->parentWidget())
-        for (QScrollBar* bar : outer->findChildren<QScrollBar*>(Qt::FindDirectChildrenOnly))
-            if (bar->isEnabled())
-                return bar;
-    return nullptr;
-}
-
 void TextPanelView::Reveal(qsizetype line)
 {
-    QScrollBar* bar = Bar();
+    QScrollBar* bar = ScrollBarAround(*this);
     if (!bar)
         return;
     const int present = bar->value();

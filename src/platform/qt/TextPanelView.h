@@ -12,8 +12,6 @@
 
 #include <memory>
 
-class QScrollBar;
-
 namespace lineforge
 {
 
@@ -65,7 +63,6 @@ private:
     void LayOut(QTextLayout& layout, qsizetype line) const;
     QList<QTextLayout::FormatRange> MarksOf(const QTextLayout& layout, qsizetype line) const;
     void PaintLine(QPainter& painter, qsizetype line);
-    QScrollBar* Bar() const;
     void DrawSelectionTo(QPoint point);
     bool ShiftSidewards(int pixels);
     bool MoveCaret(const QKeyEvent& event);

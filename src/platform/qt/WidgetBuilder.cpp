@@ -1,7 +1,6 @@
 #include "platform/qt/WidgetBuilder.h"
 
 #include "platform/DataControl.h"
-#include "platform/FileSystem.h"
 #include "platform/PictureBox.h"
 #include "platform/TextPanel.h"
 #include "platform/qt/AccessibleName.h"
@@ -9,6 +8,7 @@
 #include "platform/qt/ClickableWidgets.h"
 #include "platform/qt/DirectoryView.h"
 #include "platform/qt/DraggableImage.h"
+#include "platform/qt/KeyboardPointer.h"
 #include "platform/qt/LabelView.h"
 #include "platform/qt/PictureView.h"
 #include "platform/qt/PlayerView.h"
@@ -37,9 +37,10 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-// The pixel of the days when widths of outlines were counted in them.
-constexpr int designTwipsAPixel = 15;
 constexpr int thinnestOutline = 2;
+// From the edge of a text box to its text; of which the toolkit gives these pixels to a text of one line by itself.
+constexpr int textMargin = 60; // twips
+constexpr int ownTextMargin = 2;
 // From this many lines on a text box holds several.
 constexpr double linesForSeveral = 2.2;
 
@@ -164,7 +165,9 @@ void WidgetBuilder::Dress(QWidget* widget, Control& control, const std::function
 void WidgetBuilder::NameForReaders(QWidget* widget, const Control& control)
 {
     const auto name = [widget, &control, &container = *container_] {
-        widget->setAccessibleName(BorrowedName(control, container));
+        const QString spoken = BorrowedName(control, container);
+        widget->setAccessibleName(spoken);
+        widget->setAccessibleDescription(spoken == control.ToolTipText ? QString() : control.ToolTipText);
     };
     name();
     if (frame_)
@@ -187,11 +190,10 @@ void WidgetBuilder::Visit(Label& label)
     view->setFont(FontOf(label.Font, view->font(), scale_));
     if (label.Centred)
         view->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
-    const QString otherwise = BorrowedName(label, *container_);
-    bindings_.Follow(label.Caption, [view, &label, otherwise] {
+    bindings_.Follow(label.Caption, [view, &label] {
         const QString& text = label.Caption.Shown();
         view->setText(text);
-        view->setAccessibleName(text.isEmpty() ? otherwise : text);
+        view->setAccessibleName(text);
     });
     Dress(view, label);
 }
@@ -208,6 +210,8 @@ void WidgetBuilder::Visit(TextBox& box)
 void WidgetBuilder::VisitLine(TextBox& box)
 {
     auto* line = new QLineEdit(parent_);
+    const int margin = scale_.ToPixels(textMargin) - ownTextMargin;
+    line->setTextMargins(margin, 0, margin, 0);
     if (box.MaxLength > 0)
         line->setMaxLength(box.MaxLength);
     bindings_.Follow(box.Text, [line, &box] { ShowInLine(*line, box.Text.Shown()); });
@@ -234,6 +238,7 @@ void WidgetBuilder::VisitLine(TextBox& box)
 void WidgetBuilder::VisitLines(TextBox& box)
 {
     auto* lines = new TextView(parent_, box.MaxLength);
+    lines->document()->setDocumentMargin(scale_.ToPixels(textMargin));
     lines->Edited = [gate = gate_, &box](const QString& typed) { gate->Run([&box, typed] { box.Text = typed; }); };
     new ClickWatcher(lines->viewport(), [gate = gate_, &box] { gate->Run(box.Click); });
     const auto keepSelection = [gate = gate_, lines, &box] {
@@ -278,7 +283,6 @@ void WidgetBuilder::Visit(Button& button)
 void WidgetBuilder::Visit(CheckBox& box)
 {
     auto* view = new QCheckBox(parent_);
-    SizeMark(*view);
     bindings_.Follow(box.Caption, [view, &box] { view->setText(box.Caption); });
     bindings_.Follow(box.Value, [view, &box] { view->setChecked(box.Value); });
     QObject::connect(view, &QCheckBox::clicked, view, [gate = gate_, &box](bool checked) {
@@ -294,7 +298,6 @@ void WidgetBuilder::Visit(CheckBox& box)
 void WidgetBuilder::Visit(OptionButton& option)
 {
     auto* view = new QRadioButton(parent_);
-    SizeMark(*view);
     bindings_.Follow(option.Caption, [view, &option] { view->setText(option.Caption); });
     bindings_.Follow(option.Value, [view, &option] { Show(*view, option.Value); });
     QObject::connect(view, &QRadioButton::clicked, view, [gate = gate_, view, &option, &container = *container_] {
@@ -310,7 +313,9 @@ void WidgetBuilder::Visit(Frame& frame)
     auto* view = new FrameView(parent_);
     bindings_.Follow(frame.Caption, [view, &frame] { view->setTitle(frame.Caption); });
     view->Clicked = [gate = gate_, &frame] { gate->Run(frame.Click); };
-    bindings_.Follow(frame.Caption, [view, &frame] { view->setAccessibleName(SpokenCaption(frame.Caption)); });
+    bindings_.Follow(frame.Caption, [view, &frame] {
+        view->setAccessibleName(frame.SpokenName.isEmpty() ? SpokenCaption(frame.Caption) : frame.SpokenName);
+    });
     Dress(view, frame);
     Frame* outer = std::exchange(frame_, &frame);
     Build(frame, view);
@@ -383,13 +388,7 @@ void WidgetBuilder::Visit(Image& image)
 void WidgetBuilder::VisitDraggable(Image& image)
 {
     auto* view = new DraggableImage(parent_, image);
-    view->lower(); // of two in one place the earlier one takes the mouse
     bindings_.Follow(image.Picture, [view, &image] { view->Show(image.Picture); });
-    bindings_.Follow(image.Tag, [view, &image] {
-        const QString name = image.Tag.value().section(PathSeparator, -1);
-        view->setAccessibleName(name.isEmpty() ? u"Empty tile"_s : name);
-        view->setToolTip(name.toHtmlEscaped());
-    });
     view->Dropped = [gate = gate_, &image](DraggableImage& source) {
         gate->Run([&image, dropped = &source.Control()] {
             if (image.DragDrop)
@@ -401,6 +400,8 @@ void WidgetBuilder::VisitDraggable(Image& image)
             image.Move({scale.ToTwips(topLeft.x()), scale.ToTwips(topLeft.y())});
     };
     Dress(view, image);
+    bindings_.Follow(image.Tag, [view] { view->TakeTag(); });
+    view->LieBelowThoseThere();
 }
 
 void WidgetBuilder::Visit(Shape& shape)
@@ -464,12 +465,14 @@ void WidgetBuilder::Visit(TextPanel& panel)
 void WidgetBuilder::Visit(PictureBox& picture)
 {
     auto* view = new PictureView(parent_, picture, scale_, gate_);
-    TakeFor(*view, QAccessible::Canvas);
+    TakeFor(*view, picture.MouseDown ? QAccessible::Canvas : QAccessible::Grouping);
     NameForReaders(view, picture);
     Dress(view, picture);
     Frame* outer = std::exchange(frame_, nullptr);
     Build(picture, view);
     frame_ = outer;
+    if (picture.MouseDown)
+        new KeyboardPointer(*view);
     FollowChildren(picture, view);
 }
 
@@ -485,7 +488,7 @@ void WidgetBuilder::Visit(DataControl& data)
         });
     };
     TakeFor(*view, QAccessible::Grouping);
-    view->setAccessibleName(data.Caption.isEmpty() ? data.Name : data.Caption);
+    view->setAccessibleName(data.SpokenName.isEmpty() ? data.Caption : data.SpokenName);
     Dress(view, data);
 }
 

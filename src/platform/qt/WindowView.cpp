@@ -1,20 +1,25 @@
 #include "platform/qt/WindowView.h"
 
 #include "platform/qt/ClickableWidgets.h"
+#include "platform/qt/KeyboardPointer.h"
 #include "platform/qt/MenuBuilder.h"
 #include "platform/qt/WidgetBuilder.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMenuBar>
 #include <QScreen>
 #include <QStyle>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace lineforge
 {
+
+using namespace Qt::StringLiterals;
 
 WindowView::WindowView(Form& form, const Scale& scale, std::shared_ptr<const Gate> gate)
     : form_(form), scale_(scale), gate_(std::move(gate))
@@ -42,7 +47,7 @@ void WindowView::FollowForm()
 {
     bindings_.Follow(form_.Caption, [this] {
         setWindowTitle(form_.Caption);
-        setAccessibleName(form_.Caption.value().isEmpty() ? form_.Name : form_.Caption.value());
+        setAccessibleName(form_.Caption.value().isEmpty() ? u"Lineforge"_s : form_.Caption.value());
     });
     bindings_.Follow(form_.Enabled, [this] { setEnabled(form_.Enabled); });
     TakePlace();
@@ -104,6 +109,17 @@ void WindowView::Appear()
     activateWindow();
 }
 
+QImage WindowView::Picture() const
+{
+    const QList<QWidget*> pointers = findChildren<QWidget*>(KeyboardPointer::Name);
+    QList<QWidget*> seen;
+    std::ranges::copy_if(pointers, std::back_inserter(seen), &QWidget::isVisible);
+    std::ranges::for_each(seen, &QWidget::hide);
+    const QImage picture = centralWidget()->grab().toImage();
+    std::ranges::for_each(seen, &QWidget::show);
+    return picture;
+}
+
 void WindowView::Detach()
 {
     bindings_ = {};
@@ -117,6 +133,14 @@ void WindowView::closeEvent(QCloseEvent* event)
 {
     event->ignore();
     gate_->Run(form_.CloseByFrame);
+}
+
+void WindowView::keyPressEvent(QKeyEvent* event)
+{
+    if (form_.Frameless && event->key() == Qt::Key_Escape)
+        close();
+    else
+        QMainWindow::keyPressEvent(event);
 }
 
 } // namespace lineforge

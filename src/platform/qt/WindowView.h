@@ -5,6 +5,7 @@
 #include "platform/qt/Handlers.h"
 #include "platform/qt/Scale.h"
 
+#include <QImage>
 #include <QMainWindow>
 
 #include <memory>
@@ -22,11 +23,15 @@ public:
 
     // Before all other windows.
     void Appear();
+    // What it shows below its menus, without a pointer, which belongs to the hand and not to the window.
+    QImage Picture() const;
     // For good: the window goes from the screen and nothing follows the form any more.
     void Detach();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    // Escape closes a window whose missing frame has no button for that.
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void BuildClient();

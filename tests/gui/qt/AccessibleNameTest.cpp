@@ -21,6 +21,10 @@ struct NamedForm : Form {
     Frame Framed{*this, u"Framed", {0, 1500, 2000, 1000}, u"&Field"};
     TextBox Inside{Framed, u"Inside", {100, 300, 900, 315}};
     Image Portrait{*this, u"Portrait", {4500, 1700, 900, 900}};
+    Label Titled{*this, u"Titled", {3000, 1600, 900, 240}, u"Surname :"};
+    TextBox Titling{*this, u"Titling", {4000, 1600, 300, 315}};
+    DirectoryList Folders{*this, u"Folders", {3000, 1260, 900, 315}};
+    Button Tool{*this, u"Tool", {4500, 1000, 900, 240}};
     ScrollBar Bar{*this, u"Bar", {8700, 1500, 255, 1500}, 100, 1, 10};
 };
 
@@ -55,11 +59,41 @@ TEST(AccessibleNameTest, ElseItsOwnName)
     EXPECT_EQ(BorrowedName(form.Alone, form), u"Alone"_s);
 }
 
-TEST(AccessibleNameTest, AToolTipSaysMoreThanANeighbour)
+TEST(AccessibleNameTest, AFieldIsCalledByItsLabel_WhateverItsToolTipTells)
 {
     NamedForm form;
-    form.Beside.ToolTipText = u"Draw a box"_s;
-    EXPECT_EQ(BorrowedName(form.Beside, form), u"Draw a box"_s);
+    form.Beside.ToolTipText = form.Folders.ToolTipText = u"Double Click to change"_s;
+    EXPECT_EQ(BorrowedName(form.Beside, form), u"Near"_s);
+    EXPECT_EQ(BorrowedName(form.Folders, form), u"Head"_s);
+}
+
+TEST(AccessibleNameTest, AFieldWithoutALabel_IsCalledByItsToolTip)
+{
+    NamedForm form;
+    form.Alone.ToolTipText = u"Address, second line"_s;
+    EXPECT_EQ(BorrowedName(form.Alone, form), u"Address, second line"_s);
+}
+
+TEST(AccessibleNameTest, ALabelBesideAButtonOrAPicture_IsNotTheirs)
+{
+    NamedForm form;
+    EXPECT_EQ(BorrowedName(form.Portrait, form), u"Picture"_s);
+    form.Tool.ToolTipText = u"Draw a box"_s;
+    EXPECT_EQ(BorrowedName(form.Tool, form), u"Draw a box"_s);
+}
+
+TEST(AccessibleNameTest, ANameOfItsOwnComesBeforeAll)
+{
+    NamedForm form;
+    form.Beside.ToolTipText = u"Double Click to change"_s;
+    form.Beside.SpokenName = u"Surname, current branch"_s;
+    EXPECT_EQ(BorrowedName(form.Beside, form), u"Surname, current branch"_s);
+}
+
+TEST(AccessibleNameTest, TheColonBehindALabelIsNotSpoken)
+{
+    const NamedForm form;
+    EXPECT_EQ(BorrowedName(form.Titling, form), u"Surname"_s);
 }
 
 TEST(AccessibleNameTest, TheMarkOfAnAccessKeyIsNotSpoken)

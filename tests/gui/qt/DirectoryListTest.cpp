@@ -98,6 +98,20 @@ TEST_F(DirectoryListTest, Enter_GoesToTheCurrentLine)
     EXPECT_EQ(Places->Dir1.Path.value(), Home.Path(u"here/alpha"));
 }
 
+TEST_F(DirectoryListTest, SpaceIsAClick_AndEnterADoubleClick)
+{
+    QStringList story;
+    Places->Dir1.Click = [&story] { story += u"click"_s; };
+    Places->Dir1.Change = [&story] { story += u"change"_s; };
+    View().setFocus();
+    QTest::keyClick(&View(), Qt::Key_Down);
+    EXPECT_EQ(story, QStringList());
+    QTest::keyClick(&View(), Qt::Key_Space);
+    EXPECT_EQ(story, QStringList{u"click"_s});
+    QTest::keyClick(&View(), Qt::Key_Return);
+    EXPECT_EQ(story, QStringList({u"click"_s, u"click"_s, u"change"_s}));
+}
+
 TEST_F(DirectoryListTest, DirectoryThatHasGone_IsNotEntered)
 {
     const QPoint place = PlaceOf(u"beta"_s);

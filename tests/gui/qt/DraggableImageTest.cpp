@@ -135,6 +135,12 @@ TEST_F(DraggableImageTest, OfTwoInOnePlace_TheEarlierOneTakesTheMouse)
     EXPECT_EQ(ViewOf(*Tiles).childAt(One().mapTo(&ViewOf(*Tiles), Middle(One()))), &One());
 }
 
+TEST_F(DraggableImageTest, ReadersMeetTheTilesInTheirOrder)
+{
+    const QList<QObject*> children = One().parentWidget()->children();
+    EXPECT_LT(children.indexOf(&One()), children.indexOf(&Two()));
+}
+
 TEST_F(DraggableImageTest, KeyboardAndReaders_ClickIt)
 {
     One().setFocus();
@@ -148,12 +154,167 @@ TEST_F(DraggableImageTest, KeyboardAndReaders_ClickIt)
     EXPECT_EQ(Tiles->Drops.size(), 4);
 }
 
+TEST_F(DraggableImageTest, Escape_PutsItBack_WhereverTheKeyboardWasBefore)
+{
+    Activate(*Tiles);
+    Find<QWidget>(*Tiles, u"Command1"_s).setFocus();
+    Press();
+    MoveTo(Two());
+    QTest::keyClick(ViewOf(*Tiles).windowHandle(), Qt::Key_Escape);
+    EXPECT_EQ(Outline(), nullptr);
+    ReleaseOn(Two());
+    EXPECT_EQ(Tiles->Drops, QStringList());
+}
+
+struct DraggedByKeysTest : DraggableImageTest {
+    void SetUp() override
+    {
+        DraggableImageTest::SetUp();
+        Tiles->Behind.Move({300, 1200}); // below the first
+        Activate(*Tiles);
+        One().setFocus(Qt::TabFocusReason);
+    }
+    void Type(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+    {
+        QTest::keyClick(ViewOf(*Tiles).windowHandle(), key, modifiers);
+    }
+    DraggableImage& Below() { return View(u"Image1(2)"_s); }
+};
+
+TEST_F(DraggedByKeysTest, Arrows_LeadToTheNeighbours)
+{
+    Type(Qt::Key_Right);
+    EXPECT_TRUE(Two().hasFocus());
+    Type(Qt::Key_Right);
+    EXPECT_TRUE(Two().hasFocus());
+    Type(Qt::Key_Left);
+    EXPECT_TRUE(One().hasFocus());
+    Type(Qt::Key_Down);
+    EXPECT_TRUE(Below().hasFocus());
+    Type(Qt::Key_Up);
+    EXPECT_TRUE(One().hasFocus());
+    EXPECT_EQ(Tiles->Drops, QStringList());
+}
+
+TEST_F(DraggedByKeysTest, Arrows_PassOverATileThatIsHidden)
+{
+    Tiles->Two.Visible = false;
+    Type(Qt::Key_Right);
+    EXPECT_TRUE(One().hasFocus());
+}
+
+TEST_F(DraggedByKeysTest, ShiftSpaceTakes_SpaceDrops)
+{
+    Type(Qt::Key_Space, Qt::ShiftModifier);
+    Type(Qt::Key_Right);
+    Type(Qt::Key_Space);
+    EXPECT_EQ(Tiles->Drops, QStringList{u"Image1(0) on Image1(1)"_s});
+    Type(Qt::Key_Space);
+    EXPECT_EQ(Tiles->Drops.last(), u"Image1(1) on Image1(1)"_s);
+}
+
+TEST_F(DraggedByKeysTest, TabAndEnter_DoTheSame)
+{
+    Type(Qt::Key_Space, Qt::ShiftModifier);
+    Type(Qt::Key_Tab);
+    EXPECT_TRUE(Two().hasFocus());
+    Type(Qt::Key_Return);
+    EXPECT_EQ(Tiles->Drops, QStringList{u"Image1(0) on Image1(1)"_s});
+}
+
+TEST_F(DraggedByKeysTest, Outline_LiesWhereTheFocusIs_AndTheTileSaysThatItIsTaken)
+{
+    Type(Qt::Key_Space, Qt::ShiftModifier);
+    ASSERT_NE(Outline(), nullptr);
+    EXPECT_EQ(Outline()->geometry(), One().geometry());
+    EXPECT_EQ(One().accessibleDescription(), u"Taken"_s);
+    Type(Qt::Key_Down);
+    EXPECT_EQ(Outline()->geometry(), Below().geometry());
+    Type(Qt::Key_Return);
+    EXPECT_EQ(Outline(), nullptr);
+    EXPECT_EQ(One().accessibleDescription(), QString());
+}
+
+TEST_F(DraggedByKeysTest, DroppedOnItself_IsOnlyPutDown)
+{
+    Type(Qt::Key_Space, Qt::ShiftModifier);
+    Type(Qt::Key_Space);
+    EXPECT_EQ(Outline(), nullptr);
+    EXPECT_EQ(Tiles->Drops, QStringList());
+}
+
+TEST_F(DraggedByKeysTest, Escape_GivesUp_OnWhicheverTile)
+{
+    Type(Qt::Key_Space, Qt::ShiftModifier);
+    Type(Qt::Key_Right);
+    Type(Qt::Key_Escape);
+    EXPECT_EQ(Outline(), nullptr);
+    Type(Qt::Key_Space);
+    EXPECT_EQ(Tiles->Drops, QStringList{u"Image1(1) on Image1(1)"_s});
+}
+
+TEST_F(DraggedByKeysTest, KeysHeldDown_TakeAndDropOnce)
+{
+    const auto repeat = [this](Qt::KeyboardModifiers modifiers) {
+        QKeyEvent event(QEvent::KeyPress, Qt::Key_Space, modifiers, {}, true);
+        QCoreApplication::sendEvent(QApplication::focusWidget(), &event);
+    };
+    Type(Qt::Key_Space, Qt::ShiftModifier);
+    repeat(Qt::ShiftModifier);
+    EXPECT_NE(Outline(), nullptr);
+    Type(Qt::Key_Right);
+    Type(Qt::Key_Space);
+    repeat({});
+    EXPECT_EQ(Tiles->Drops.size(), 1);
+}
+
+TEST_F(DraggedByKeysTest, TheMouse_TakesOver)
+{
+    Type(Qt::Key_Space, Qt::ShiftModifier);
+    QTest::mouseClick(&Two(), Qt::LeftButton);
+    EXPECT_EQ(Outline(), nullptr);
+    EXPECT_EQ(Tiles->Drops, QStringList{u"Image1(1) on Image1(1)"_s});
+}
+
+TEST_F(DraggedByKeysTest, ATileThatItsClickHidesForAMoment_KeepsTheKeyboard)
+{
+    Tiles->One.DragDrop = [this](const Image&) {
+        Tiles->One.Visible = false;
+        Tiles->One.Visible = true;
+    };
+    Type(Qt::Key_Space);
+    EXPECT_TRUE(One().hasFocus());
+}
+
+TEST_F(DraggedByKeysTest, Arrows_MoveWhatIsLargerThanTheWindow)
+{
+    Tiles->One.Move({0, 0});
+    Tiles->One.Height = 9000;
+    Type(Qt::Key_Down);
+    EXPECT_EQ(Tiles->One.Top, -PixelScale().ToTwips(40));
+    EXPECT_TRUE(One().hasFocus());
+    Type(Qt::Key_Up);
+    EXPECT_EQ(Tiles->One.Top, 0);
+}
+
 TEST_F(DraggableImageTest, IsNamedAfterItsTag_WithoutTheWayToIt)
 {
     EXPECT_EQ(One().accessibleName(), u"Empty tile"_s);
+    Tiles->One.Tag = u"17"_s;
+    EXPECT_EQ(One().accessibleName(), u"Empty tile"_s);
+    EXPECT_EQ(One().toolTip(), QString());
     Tiles->One.Tag = u"/home/somebody/LfgDat_A/LfgGal_A/A001_01.jpg"_s;
     EXPECT_EQ(One().accessibleName(), u"A001_01.jpg"_s);
     EXPECT_EQ(One().toolTip(), u"A001_01.jpg"_s);
+}
+
+TEST_F(DraggableImageTest, TagThatStoodBeforeTheWindowWasShown_IsToldToo)
+{
+    Window<TilesForm> other(System());
+    other->One.Tag = u"/home/somebody/A001_01.jpg"_s;
+    other->Visible = true;
+    EXPECT_EQ(Find<QWidget>(*other, u"Image1(0)"_s).accessibleName(), u"A001_01.jpg"_s);
+    EXPECT_EQ(Find<QWidget>(*other, u"Image1(0)"_s).toolTip(), u"A001_01.jpg"_s);
 }
 
 TEST_F(DraggableImageTest, WithoutAPicture_ItsPlaceCanBeSeen)

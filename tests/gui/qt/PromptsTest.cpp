@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 
 namespace lineforge
@@ -108,6 +109,32 @@ TEST_F(PromptsTest, ABoxStandsAboveTheActiveWindow)
     });
     Ask().MsgBox(u"t"_s, u"x"_s, Buttons::Plain);
     EXPECT_EQ(parent, &ViewOf(*behind));
+}
+
+// Half of what the screen of the tests has room for, and more than the toolkit gives a text there by itself.
+TEST_F(PromptsTest, ALineOfAMessage_IsNotBrokenWhereThereIsRoomForIt)
+{
+    const QString line(20, u'H');
+    const NextDialog dialog([&line](QDialog& box) {
+        auto* label = box.findChild<QLabel*>(u"qt_msgbox_label"_s);
+        ASSERT_TRUE(label);
+        EXPECT_GE(label->width(), label->fontMetrics().horizontalAdvance(line));
+        EXPECT_LT(label->height(), 2 * label->fontMetrics().height());
+        EXPECT_TRUE(box.screen()->availableGeometry().contains(box.geometry()));
+        box.reject();
+    });
+    Ask().MsgBox(u"t"_s, line, Buttons::Information);
+}
+
+TEST_F(PromptsTest, TheFileDialog_HasRoomForNamesAndDates)
+{
+    const NextDialog dialog([](QDialog& box) {
+        const int line = box.fontMetrics().lineSpacing();
+        EXPECT_GE(box.width(), 50 * line);
+        EXPECT_GE(box.height(), 30 * line);
+        box.reject();
+    });
+    Ask().OpenFile({u"t"_s, u"Texts (*.txt)|*.txt"_s});
 }
 
 TEST_F(PromptsTest, InputBoxGivesWhatWasEntered)

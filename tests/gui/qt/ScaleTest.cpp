@@ -11,6 +11,7 @@ struct FittingRow {
     int ScreenWidth;
     int ScreenHeight;
     int TwipsAPixel;
+    double Dots = 1; // of the screen for one pixel
 };
 
 class FittingScaleTest : public testing::TestWithParam<FittingRow>
@@ -21,7 +22,7 @@ TEST_P(FittingScaleTest, TakesTheFewestTwipsAPixelAtWhichTheMainWindowFits)
 {
     const FittingRow& row = GetParam();
     const QSize available(row.ScreenWidth, row.ScreenHeight);
-    EXPECT_EQ(FittingScale(MainWindowSize, available, 24).TwipsAPixel(), row.TwipsAPixel);
+    EXPECT_EQ(FittingScale(MainWindowSize, available, 24, row.Dots).TwipsAPixel(), row.TwipsAPixel);
 }
 
 INSTANTIATE_TEST_SUITE_P(Screens, FittingScaleTest,
@@ -38,7 +39,19 @@ INSTANTIATE_TEST_SUITE_P(Screens, FittingScaleTest,
                                          FittingRow{3000, 1800, 5},   //
                                          FittingRow{3840, 2130, 4},   //
                                          FittingRow{5120, 2880, 3},   //
-                                         FittingRow{9000, 9000, 3})); // finer is never taken
+                                         FittingRow{9000, 9000, 3},   // finer is never taken
+                                         FittingRow{960, 540, 15},    // doesn't fit, but could not be read otherwise
+                                         FittingRow{960, 540, 18, 2}, // where a pixel has several dots it can
+                                         FittingRow{683, 450, 20, 2},
+                                         FittingRow{640, 360, 20, 3},    // coarser is never taken
+                                         FittingRow{683, 450, 18, 1.25}, // could not be read at 20
+                                         FittingRow{1536, 834, 12, 1.25}));
+
+TEST(ScaleTest, MagnifiesWhatWasDesignedForFifteenTwipsAPixel)
+{
+    EXPECT_DOUBLE_EQ(Scale(15).Magnification(), 1);
+    EXPECT_DOUBLE_EQ(Scale(6).Magnification(), 2.5);
+}
 
 TEST(ScaleTest, MousePointsAreWholeTwips)
 {
@@ -59,6 +72,8 @@ TEST(ScaleTest, EightPointsAreAHundredAndSixtyTwips_ButNeverUnreadable)
     EXPECT_EQ(Scale(5).FontPixels(8), 32);
     EXPECT_EQ(Scale(15).FontPixels(8), 11);
     EXPECT_EQ(Scale(15).FontPixels(4), 10);
+    EXPECT_EQ(Scale(18, 2).FontPixels(8), 9);
+    EXPECT_EQ(Scale(18, 2).FontPixels(2), 5);
 }
 } // namespace
 

@@ -158,6 +158,21 @@ TEST_F(WindowViewTest, TopmostAndFramelessAreFlags)
     EXPECT_EQ(View().size(), PixelScale().ToPixels(Size{4500, 3600}));
 }
 
+TEST_F(WindowViewTest, Escape_ClosesAWindowWithoutAFrame_AndNoOther)
+{
+    Plain->Visible = true;
+    Activate(*Plain);
+    QTest::keyClick(View().windowHandle(), Qt::Key_Escape);
+    EXPECT_TRUE(Plain.IsLoaded());
+
+    Plain.Unload();
+    Plain->Frameless = true;
+    Plain->Visible = true;
+    Activate(*Plain);
+    QTest::keyClick(View().windowHandle(), Qt::Key_Escape);
+    EXPECT_FALSE(Plain.IsLoaded());
+}
+
 TEST_F(WindowViewTest, OnlyAClickOnTheBareWindowIsItsOwn)
 {
     int clicks = 0;

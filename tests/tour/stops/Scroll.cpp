@@ -9,7 +9,11 @@ using namespace Qt::StringLiterals;
 namespace
 {
 // From the ends of the bar, past the arrow: there the handle begins, while it stands at that end.
-constexpr int pastArrow = 30;
+int PastArrow(const Tour& tour)
+{
+    constexpr int twips = 300;
+    return tour.Places.Pixels().ToPixels(twips);
+}
 
 QRect Bar(const Tour& tour)
 {
@@ -18,12 +22,12 @@ QRect Bar(const Tour& tour)
 
 QPoint TopOfBar(const Tour& tour)
 {
-    return QPoint(Bar(tour).center().x(), Bar(tour).top() + pastArrow);
+    return QPoint(Bar(tour).center().x(), Bar(tour).top() + PastArrow(tour));
 }
 
 QPoint BottomOfBar(const Tour& tour)
 {
-    return QPoint(Bar(tour).center().x(), Bar(tour).bottom() - pastArrow);
+    return QPoint(Bar(tour).center().x(), Bar(tour).bottom() - PastArrow(tour));
 }
 
 // The lower map is where the upper was, and the upper is off the window.
@@ -61,14 +65,14 @@ void ClickMovesMapDown(Tour& tour)
 void DragGoesToTheEnd(Tour& tour)
 {
     const QImage start = MapPicture(tour);
-    tour.Hands.Drag(TopOfBar(tour), BottomOfBar(tour) + QPoint(0, pastArrow));
+    tour.Hands.Drag(TopOfBar(tour), BottomOfBar(tour) + QPoint(0, PastArrow(tour)));
     tour.Await(u"the map at its end"_s, [&] { return IsMovedUp(start, MapPicture(tour), WholeWay(tour)); });
 }
 
 void DragGoesBackToTheStart(Tour& tour)
 {
     const QImage end = MapPicture(tour);
-    tour.Hands.Drag(BottomOfBar(tour), TopOfBar(tour) - QPoint(0, pastArrow));
+    tour.Hands.Drag(BottomOfBar(tour), TopOfBar(tour) - QPoint(0, PastArrow(tour)));
     tour.Await(u"the map back at its start"_s, [&] { return IsMovedUp(MapPicture(tour), end, WholeWay(tour)); });
 }
 } // namespace
