@@ -39,7 +39,7 @@ bool PointAtCompareDatabase(Program& p, const QString& path)
         PointAtDatabase(p, p.Form6->Data1, path);
         return true;
     } catch (const RuntimeError& refusal) {
-        TellDatabaseRefused(p, refusal);
+        TellDatabaseRefused(p, path, refusal);
         return false;
     }
 }

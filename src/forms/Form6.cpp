@@ -17,6 +17,8 @@ Form6::Form6() : Form(u"Form6", u"Comparison of Databases", {11820, 7500})
     Text3.SpokenName = u"Surname, compare branch"_s;
     Text6.SpokenName = u"Forename, compare branch"_s;
     Image2.SpokenName = u"Picture, compare branch"_s;
+    Text2.SpokenName = u"Field, current branch"_s;
+    Text4.SpokenName = u"Field, compare branch"_s;
 }
 
 } // namespace lineforge::forms

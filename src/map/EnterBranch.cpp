@@ -24,12 +24,13 @@ bool OpenDatabase(Program& p, const QString& directory)
     p.Branch.WorkDir = p.Branch.HomeDir + directory;
     p.Branch.WorkDirLen = static_cast<int>(p.Branch.WorkDir.size());
     p.Branch.sDbaseName = DatabaseName(BranchLetter(p.Branch.WorkDir));
+    const QString path = p.Branch.WorkDir + PathSeparator + p.Branch.sDbaseName;
     try {
         p.Files.ChDir(p.Branch.WorkDir);
-        PointAtDatabase(p, p.Branch.WorkDir + PathSeparator + p.Branch.sDbaseName);
+        PointAtDatabase(p, path);
         return true;
     } catch (const RuntimeError& refusal) {
-        TellDatabaseRefused(p, refusal);
+        TellDatabaseRefused(p, path, refusal);
         return false;
     }
 }

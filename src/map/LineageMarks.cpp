@@ -12,11 +12,14 @@ using namespace Qt::StringLiterals;
 namespace
 {
 constexpr int frameOffset = 40; // twips left of the box and above it
+const QString frames = u"The frames of a surname's line"_s;
 
 void RemoveFrames(Program& p)
 {
-    for (int index = 1; index <= p.Map.MarkCount; ++index)
-        p.Form1->Shape2.Unload(index);
+    Concerning(frames, [&p] {
+        for (int index = 1; index <= p.Map.MarkCount; ++index)
+            p.Form1->Shape2.Unload(index);
+    });
     // The count stays, so that a second clearing in a row asks for frames that are gone; so it is meant to be.
 }
 
@@ -31,7 +34,7 @@ void AddFrame(Program& p)
     form.Picture1.Mode = DrawMode::Copy;
     form.Picture1.DrawWidth = 1;
     p.Map.MarkCount += 1;
-    Shape& frame = form.Shape2.Load(p.Map.MarkCount);
+    Shape& frame = Concerning(frames, [&]() -> Shape& { return form.Shape2.Load(p.Map.MarkCount); });
     frame.Move({p.Mouse.BoxX - frameOffset, p.Mouse.BoxY - frameOffset});
     frame.Visible = true;
 }

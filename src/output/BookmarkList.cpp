@@ -54,19 +54,19 @@ void PutOutRecord(Program& p, Pairs& pairs)
     pairs.Add();
 }
 
-// A record of a branch that isn't there, or can't be opened, is passed over as one that is gone. False when the
-// branch's database is none, whatever record is looked for.
+// A record of a branch that isn't there, or can't be opened, is passed over as one that is gone. False when what stands
+// for the branch's records is no database.
 bool PutOutRecordOfSibling(Program& p, const QString& entry, Pairs& pairs)
 {
     const auto goBack = qScopeGuard([&p] { p.Errors.Ignoring([&p] { ReturnFromSibling(p); }); });
-    bool isThere = false;
     try {
         SwitchToSibling(p, entry.left(1));
-        isThere = Records(p).Seek(u"File", entry);
     } catch (const RuntimeError& refusal) {
         p.Errors.Last = refusal;
         return refusal.Number != ErrorNumber::NotADatabase;
     }
+    bool isThere = false;
+    p.Errors.Ignoring([&] { isThere = Records(p).Seek(u"File", entry); });
     if (isThere)
         PutOutRecord(p, pairs);
     return true;

@@ -79,7 +79,7 @@ void DataControl::Refresh(Databases& databases, const FileSystem& files)
 Recordset& DataControl::Records()
 {
     if (!records_)
-        throw RuntimeError(ErrorNumber::ObjectNotSet);
+        throw RuntimeError(ErrorNumber::ObjectNotSet, Caption.isEmpty() ? Name : Caption);
     return *records_;
 }
 

@@ -42,6 +42,11 @@ int NumberOfRefusal(sqlite3* database)
     }
 }
 
+QString PathOf(sqlite3* database)
+{
+    return QString::fromUtf8(sqlite3_db_filename(database, "main"));
+}
+
 int CollateSameText(void*, int lengthA, const void* a, int lengthB, const void* b)
 {
     return CompareText(QByteArrayView(static_cast<const char*>(a), lengthA),
@@ -63,7 +68,7 @@ Statement::~Statement()
 
 void Statement::Fail() const
 {
-    throw RuntimeError(NumberOfRefusal(database_), QString::fromUtf8(sqlite3_db_filename(database_, "main")));
+    throw RuntimeError(NumberOfRefusal(database_), PathOf(database_));
 }
 
 void Statement::Bind(int parameter, std::int64_t value)
@@ -164,7 +169,7 @@ std::unique_ptr<Statement> Database::Prepare(const QByteArray& sql) const
 
 QString Database::Path() const
 {
-    return QString::fromUtf8(sqlite3_db_filename(handle_, "main"));
+    return PathOf(handle_);
 }
 
 std::int64_t Database::Changes() const

@@ -14,7 +14,7 @@ Colour QbColor(int number)
         Rgb(128, 128, 0), Rgb(192, 192, 192), Rgb(128, 128, 128), Rgb(0, 0, 255),    Rgb(0, 255, 0), Rgb(0, 255, 255),
         Rgb(255, 0, 0),   Rgb(255, 0, 255),   Rgb(255, 255, 0),   Rgb(255, 255, 255)};
     if (number < 0 || number >= static_cast<int>(palette.size()))
-        throw RuntimeError(ErrorNumber::InvalidCall);
+        throw RuntimeError(ErrorNumber::InvalidCall, QString::number(number));
     return palette[static_cast<std::size_t>(number)];
 }
 

@@ -19,11 +19,12 @@ void SwapBranchDirs(Program& p)
 
 bool TakeOldSibling(Program& p, QStringView letter)
 {
+    const QString database = DatabasePath(SiblingDirectory(p.Branch.WorkDir, letter));
     try {
-        ConvertIfOld(p, DatabasePath(SiblingDirectory(p.Branch.WorkDir, letter)), OldDatabaseUse::Command);
+        ConvertIfOld(p, database, OldDatabaseUse::Command);
         return true;
     } catch (const RuntimeError& refusal) {
-        TellDatabaseRefused(p, refusal);
+        TellDatabaseRefused(p, database, refusal);
         return false;
     }
 }

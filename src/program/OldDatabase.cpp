@@ -23,6 +23,9 @@ namespace
 {
 constexpr std::chrono::seconds readingTime{30};
 
+const QString noReader = QStringLiteral("This build can't read the databases of older installations.\n"
+                                        "It was made without the library that reads them.");
+
 DatabaseFormat FormatOfFile(const QString& file)
 {
     // Opening what is no file may wait for ever.
@@ -55,7 +58,7 @@ bool HasReader(const Program& p)
 JetRows ReadRows(Program& p, const QString& file)
 {
     if (!HasReader(p))
-        Refuse(ErrorNumber::NotADatabase, file);
+        Refuse(ErrorNumber::NotADatabase, file + u'\n' + noReader);
     Meanwhile meanwhile(p);
     std::optional<JetRows> rows = ReadOldDatabase(OldDatabaseReader(p.ExecutableDirectory), file, readingTime,
                                                   [&meanwhile] { meanwhile.KeepPainted(); });
@@ -119,14 +122,11 @@ void ConvertIfOld(Program& p, const QString& path, OldDatabaseUse use)
     }
 }
 
-void TellDatabaseRefused(Program& p, const RuntimeError& refusal)
+void TellDatabaseRefused(Program& p, const QString& path, const RuntimeError& refusal)
 {
     const bool lacksReader =
-        refusal.Number == ErrorNumber::NotADatabase && IsToBeTaken(p, refusal.Subject) && !HasReader(p);
-    p.Prompts.MsgBox(u"Read Only or Incorrect Database"_s,
-                     lacksReader ? u"This build can't read the databases of older installations.\n"
-                                   u"It was made without the library that reads them."_s
-                                 : u"Cannot open this database"_s,
+        refusal.Number == ErrorNumber::NotADatabase && IsToBeTaken(p, p.Files.Resolve(path)) && !HasReader(p);
+    p.Prompts.MsgBox(u"Read Only or Incorrect Database"_s, lacksReader ? noReader : u"Cannot open this database"_s,
                      Buttons::Information);
 }
 

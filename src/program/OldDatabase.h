@@ -20,7 +20,8 @@ enum class OldDatabaseUse {
 // with its losses, and whatever the disk refuses; nothing has changed then.
 void ConvertIfOld(Program& p, const QString& path, OldDatabaseUse use);
 
-// Shows the box for a database that could not be opened, with the reason where the user can do something about it.
-void TellDatabaseRefused(Program& p, const RuntimeError& refusal);
+// Shows the box for a database of that path that could not be opened, with the reason where the user can do something
+// about it.
+void TellDatabaseRefused(Program& p, const QString& path, const RuntimeError& refusal);
 
 } // namespace lineforge

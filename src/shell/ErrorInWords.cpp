@@ -17,22 +17,22 @@ struct Words {
 
 constexpr std::array<Words, 27> words{{
     {ErrorNumber::InvalidCall, u"The program can do nothing with this:"},
-    {ErrorNumber::Overflow, u"This number is too large for its place:"},
+    {ErrorNumber::Overflow, u"This number is out of range:"},
     {ErrorNumber::OutOfMemory, u"The memory isn't enough for this:"},
     {ErrorNumber::Subscript, u"The list or table that is needed has no place of this number:"},
     {ErrorNumber::TypeMismatch, u"A number should stand where this stands:"},
-    {ErrorNumber::BadFileNumber, u"This file isn't open:"},
     {ErrorNumber::FileNotFound, u"There is no such file:"},
-    {ErrorNumber::FileAlreadyOpen, u"The program is using this file already:"},
     {ErrorNumber::DeviceIo, u"The disk failed at this:"},
     {ErrorNumber::FileAlreadyExists, u"A file of this name is there already:"},
     {ErrorNumber::DiskFull, u"The disk has no room left for this:"},
     {ErrorNumber::InputPastEnd, u"This file ends too early:"},
-    {ErrorNumber::PermissionDenied, u"You don't have the permission to use this:"},
+    {ErrorNumber::PermissionDenied, u"This isn't permitted with:"},
     {ErrorNumber::PathFileAccess, u"This can't be opened, made, changed or removed:"},
     {ErrorNumber::PathNotFound, u"There is no such directory:"},
+    {ErrorNumber::ObjectNotSet, u"No database is open for this:"},
     {ErrorNumber::InvalidUseOfNull, u"This field has never been filled in:"},
-    {ErrorNumber::InvalidFileFormat, u"This file can't be played:"},
+    {ErrorNumber::ArrayElementMissing, u"This isn't in the window:"},
+    {ErrorNumber::ArrayElementLoaded, u"This is in the window already:"},
     {ErrorNumber::InvalidPicture, u"This file is no picture that can be shown:"},
     {ErrorNumber::UpdateWithoutEdit, u"There is no change to store in this database:"},
     {ErrorNumber::NoCurrentRecord, u"No record is on show of this database:"},
@@ -42,7 +42,7 @@ constexpr std::array<Words, 27> words{{
     {ErrorNumber::RecordDeleted, u"The record has been deleted from this database:"},
     {ErrorNumber::DatabaseBusy, u"Another program is working on this database:"},
     {ErrorNumber::ItemNotFound, u"The records have no such field:"},
-    {ErrorNumber::NotADatabase, u"This is no database, or a damaged one:"},
+    {ErrorNumber::NotADatabase, u"This can't be read as a database of records:"},
 }};
 
 QString InWords(const RuntimeError& error)

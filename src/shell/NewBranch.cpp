@@ -115,10 +115,12 @@ void MakeBranch(Program& p, const QString& name, const QString& directory)
 
     ShowNoSubject(p);
     AddAlias(p, name, directory);
-    ReadMapFile(p);
-    ParseBoxes(p);
-    ParseLines(p);
-    ParseTexts(p);
+    Concerning(p.Branch.HomeDir + stem + u".cfg", [&p] {
+        ReadMapFile(p);
+        ParseBoxes(p);
+        ParseLines(p);
+        ParseTexts(p);
+    });
     EnableBranchUI(p);
     TellIfEmpty(p);
 }

@@ -70,7 +70,8 @@ TEST_F(CompareFaultTest, CutAndPasteWithoutAComparedBranch_TakeTheFatalPath)
     P.Form6.Unload();
     Click(P.Form1->mnuComp.Click);
     P.Form6->Text3.Click();
-    ExpectFatalBox(u"Run-time error '91':\n\nObject variable not set");
+    ExpectFatalBox(u"Run-time error '91':\n\nObject variable not set",
+                   u"No database is open for this:\nManual Compare Search"_s);
     Click(P.Form6->mnuCut.Click);
     EXPECT_TRUE(ExitCode().has_value());
 }
@@ -79,7 +80,8 @@ TEST_F(CompareFaultTest, SearchWithoutAComparedBranch_TakesTheFatalPath)
 {
     P.Form6.Unload();
     Click(P.Form1->mnuComp.Click);
-    ExpectFatalBox(u"Run-time error '91':\n\nObject variable not set");
+    ExpectFatalBox(u"Run-time error '91':\n\nObject variable not set",
+                   u"No database is open for this:\nManual Compare Search"_s);
     Search();
     EXPECT_TRUE(ExitCode().has_value());
 }

@@ -108,6 +108,18 @@ TEST_F(CompareWindowTest, RecordBar_MovesTheComparedSideByHand)
     EXPECT_EQ(P.Form6->Label4.Caption.value(), u"A001"_s);
 }
 
+TEST_F(CompareWindowTest, SelectionMadeByKeys_IsCutAfterAClickByKeys)
+{
+    QPlainTextEdit& field = Lines(u"Text2"_s);
+    field.setFocus();
+    QTest::keyClick(ViewOf(*P.Form6).windowHandle(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(ViewOf(*P.Form6).windowHandle(), Qt::Key_Space, Qt::ControlModifier);
+
+    P.Form6->mnuCopy.Click();
+
+    EXPECT_EQ(P.Clipboard.GetText(), u"Smith"_s);
+}
+
 TEST_F(CompareWindowTest, SelectionMadeByTheMouse_IsWhatCutPutsOnTheClipboard)
 {
     QPlainTextEdit& box = Lines(u"Text2"_s);

@@ -28,7 +28,9 @@ protected:
         WriteAliasList(Home, {{u"Smiths", u"LfgDat_A"}});
         OpenBranch(u"Smiths"_s);
         Activate(*P.Form1);
-        Type(Qt::Key_Right); // the map has the keyboard from the start; a key brings out the pointer
+        for (int round = 0; !Map().hasFocus() && round < 100; ++round)
+            Type(Qt::Key_Tab);
+        Type(Qt::Key_Right); // brings out the pointer
     }
 
     QWidget& Map() { return Find<QWidget>(*P.Form1, u"Picture1"_s); }

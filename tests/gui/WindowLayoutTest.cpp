@@ -46,7 +46,7 @@ protected:
     Handlers handlers;
 };
 
-INSTANTIATE_TEST_SUITE_P(TwipsAPixel, WindowLayoutTest, testing::Values(3, 4, 5, 6, 8, 10, 12, 15, 18, 20));
+INSTANTIATE_TEST_SUITE_P(TwipsAPixel, WindowLayoutTest, testing::Values(3, 4, 5, 6, 8, 10, 12, 15, 18, 20, 24, 30));
 
 bool IsInsideItsParent(const QWidget& widget)
 {
@@ -63,7 +63,8 @@ TEST_P(WindowLayoutTest, MappingOptions_ShowAllTheirWords)
     for (const QRadioButton* option : options) {
         EXPECT_TRUE(IsInsideItsParent(*option)) << qUtf8Printable(option->text());
         EXPECT_LE(option->sizeHint().width(), option->width()) << qUtf8Printable(option->text());
-        EXPECT_LE(option->sizeHint().height(), option->height()) << qUtf8Printable(option->text());
+        EXPECT_LE(option->fontMetrics().height(), option->height()) << qUtf8Printable(option->text());
+        EXPECT_LE(option->style()->pixelMetric(QStyle::PM_ExclusiveIndicatorHeight, nullptr, option), option->height());
     }
     for (const QLabel* label : window->findChildren<QLabel*>())
         EXPECT_LE(label->fontMetrics().horizontalAdvance(label->text()), label->width());

@@ -241,7 +241,7 @@ TEST_F(OldDatabaseTest, TemplateThatCantBeTaken_EndsTheProgram_WithTheRegistryAs
     AnswerName(u"Browns");
     Confirm(u"Browns", u"LfgDat_A");
     ExpectFatalBox(u"Run-time error '3343':\n\nUnrecognized database format.",
-                   u"This is no database, or a damaged one:\n"_s + Home.Path(u"LfgDat_A/LfgDat_A.mdb"));
+                   u"This can't be read as a database of records:\n"_s + Home.Path(u"LfgDat_A/LfgDat_A.mdb"));
 
     Click(P.Form1->New.Click);
 

@@ -25,7 +25,7 @@ protected:
         try {
             PointAtDatabase(P, path);
         } catch (const RuntimeError& refusal) {
-            TellDatabaseRefused(P, refusal);
+            TellDatabaseRefused(P, path, refusal);
         }
         Prompts.Verify();
         EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
@@ -41,6 +41,21 @@ TEST_F(OldDatabaseWithoutReaderTest, OldDatabase_IsRefused_AndTheBoxSaysWhy)
                       u"This build can't read the databases of older installations.\n"
                       u"It was made without the library that reads them.");
     }
+}
+
+TEST_F(OldDatabaseWithoutReaderTest, RefusalItself_SaysWhyToo)
+{
+    const QString path = Home.WriteFile(u"LfgDat_A/LfgDat_A.mdb", oldBeginning + QByteArray(4096, 'x'));
+    QString subject;
+
+    try {
+        PointAtDatabase(P, path);
+    } catch (const RuntimeError& refusal) {
+        subject = refusal.Subject;
+    }
+
+    EXPECT_EQ(subject, path + u"\nThis build can't read the databases of older installations.\n"
+                              u"It was made without the library that reads them.");
 }
 
 TEST_F(OldDatabaseWithoutReaderTest, AnythingElse_IsRefusedAsEver)

@@ -228,7 +228,7 @@ TEST_F(RecordFaultTest, Rubbish_AStepOfTheScanEndsTheProgram)
     P.Form3->Picture2.Click();
     WriteRubbish();
     ExpectFatalBox(u"Run-time error '3343':\n\nUnrecognized database format.",
-                   u"This is no database, or a damaged one:\n"_s + Home.Path(database));
+                   u"This can't be read as a database of records:\n"_s + Home.Path(database));
 
     Click(P.Form3->Timer1.Tick);
 

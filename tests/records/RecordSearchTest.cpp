@@ -194,7 +194,7 @@ TEST_P(AnySearchTest, RubbishInTheDatabase_EndsTheProgram)
     file.close();
     ExpectAnswer(GetParam().Prompt, u"Smith");
     ExpectFatalBox(u"Run-time error '3343':\n\nUnrecognized database format.",
-                   u"This is no database, or a damaged one:\n"_s + Home.Path(u"LfgDat_A/LfgDat_A.mdb"));
+                   u"This can't be read as a database of records:\n"_s + Home.Path(u"LfgDat_A/LfgDat_A.mdb"));
 
     Click(((*P.Form3).*GetParam().Entry).Click);
 

@@ -35,19 +35,15 @@ INSTANTIATE_TEST_SUITE_P(
         Fatality{RuntimeError(5, u"x"_s), u"Run-time error '5':\n\nInvalid procedure call or argument\n\n"
                                           u"The program can do nothing with this:\nx"},
         Fatality{RuntimeError(6, u"40000"_s),
-                 u"Run-time error '6':\n\nOverflow\n\nThis number is too large for its place:\n40000"},
+                 u"Run-time error '6':\n\nOverflow\n\nThis number is out of range:\n40000"},
         Fatality{RuntimeError(7, u"x"_s),
                  u"Run-time error '7':\n\nOut of memory\n\nThe memory isn't enough for this:\nx"},
         Fatality{RuntimeError(9, u"101"_s), u"Run-time error '9':\n\nSubscript out of range\n\n"
                                             u"The list or table that is needed has no place of this number:\n101"},
         Fatality{RuntimeError(13, u"xx"_s),
                  u"Run-time error '13':\n\nType mismatch\n\nA number should stand where this stands:\nxx"},
-        Fatality{RuntimeError(52, u"x"_s),
-                 u"Run-time error '52':\n\nBad file name or number\n\nThis file isn't open:\nx"},
         Fatality{RuntimeError(53, u"/a%1/b.jpg"_s),
                  u"Run-time error '53':\n\nFile not found\n\nThere is no such file:\n/a%1/b.jpg"},
-        Fatality{RuntimeError(55, u"x"_s), u"Run-time error '55':\n\nFile already open\n\n"
-                                           u"The program is using this file already:\nx"},
         Fatality{RuntimeError(57, u"x\nRecord A001"_s),
                  u"Run-time error '57':\n\nDevice I/O error\n\nThe disk failed at this:\nx\nRecord A001"},
         Fatality{RuntimeError(58, u"x"_s), u"Run-time error '58':\n\nFile already exists\n\n"
@@ -57,14 +53,18 @@ INSTANTIATE_TEST_SUITE_P(
         Fatality{RuntimeError(62, u"x"_s),
                  u"Run-time error '62':\n\nInput past end of file\n\nThis file ends too early:\nx"},
         Fatality{RuntimeError(70, u"x"_s), u"Run-time error '70':\n\nPermission denied\n\n"
-                                           u"You don't have the permission to use this:\nx"},
+                                           u"This isn't permitted with:\nx"},
         Fatality{RuntimeError(75, u"x"_s), u"Run-time error '75':\n\nPath/File access error\n\n"
                                            u"This can't be opened, made, changed or removed:\nx"},
         Fatality{RuntimeError(76, u"x"_s), u"Run-time error '76':\n\nPath not found\n\nThere is no such directory:\nx"},
+        Fatality{RuntimeError(91, u"x"_s), u"Run-time error '91':\n\nObject variable not set\n\n"
+                                           u"No database is open for this:\nx"},
         Fatality{RuntimeError(94, u"Forename"_s),
                  u"Run-time error '94':\n\nInvalid use of Null\n\nThis field has never been filled in:\nForename"},
-        Fatality{RuntimeError(321, u"x"_s),
-                 u"Run-time error '321':\n\nInvalid file format\n\nThis file can't be played:\nx"},
+        Fatality{RuntimeError(340, u"x"_s), u"Run-time error '340':\n\nControl array element doesn't exist\n\n"
+                                            u"This isn't in the window:\nx"},
+        Fatality{RuntimeError(360, u"x"_s), u"Run-time error '360':\n\nObject already loaded\n\n"
+                                            u"This is in the window already:\nx"},
         Fatality{RuntimeError(481, u"x"_s), u"Run-time error '481':\n\nInvalid picture\n\n"
                                             u"This file is no picture that can be shown:\nx"},
         Fatality{RuntimeError(482, u"x"_s), u"Run-time error '482':\n\nPrinter error\n\nx"},
@@ -90,7 +90,7 @@ INSTANTIATE_TEST_SUITE_P(
                                              u"Item not found in this collection.\n\n"
                                              u"The records have no such field:\nx"},
         Fatality{RuntimeError(3343, u"x"_s), u"Run-time error '3343':\n\nUnrecognized database format.\n\n"
-                                             u"This is no database, or a damaged one:\nx"}));
+                                             u"This can't be read as a database of records:\nx"}));
 
 } // namespace
 } // namespace lineforge

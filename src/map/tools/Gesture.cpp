@@ -27,7 +27,7 @@ int Carried(int place, int delta)
 {
     const long long sum = static_cast<long long>(place) + delta;
     if (sum < std::numeric_limits<int>::min() || sum > std::numeric_limits<int>::max())
-        throw RuntimeError(ErrorNumber::Overflow);
+        throw RuntimeError(ErrorNumber::Overflow, QString::number(sum));
     return static_cast<int>(sum);
 }
 

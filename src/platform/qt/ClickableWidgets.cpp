@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QShortcut>
 #include <QStyleOption>
 #include <QWheelEvent>
 
@@ -204,6 +205,12 @@ bool ClickWatcher::eventFilter(QObject* watched, QEvent* event)
     widget.installEventFilter(this);
     clicked_();
     return true;
+}
+
+void ClickByKey(QWidget& field, std::function<void()> clicked)
+{
+    const auto* keys = new QShortcut(Qt::CTRL | Qt::Key_Space, &field, nullptr, nullptr, Qt::WidgetShortcut);
+    QObject::connect(keys, &QShortcut::activated, &field, std::move(clicked));
 }
 
 } // namespace lineforge

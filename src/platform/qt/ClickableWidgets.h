@@ -89,4 +89,7 @@ private:
     std::function<void()> clicked_;
 };
 
+// The same by Ctrl and the space bar, for a field of text; what is selected in it stays so.
+void ClickByKey(QWidget& field, std::function<void()> clicked);
+
 } // namespace lineforge

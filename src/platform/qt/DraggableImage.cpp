@@ -141,7 +141,7 @@ void DraggableImage::TakeByKey()
 void DraggableImage::DropByKey(DraggableImage& held)
 {
     held.LetGo();
-    if (&held != this)
+    if (&held != this && Dropped)
         Dropped(held);
 }
 

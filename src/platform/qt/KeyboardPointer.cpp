@@ -5,6 +5,7 @@
 #include "platform/qt/ScrollBarView.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -107,7 +108,8 @@ bool KeyboardPointer::eventFilter(QObject*, QEvent* event)
 
 bool KeyboardPointer::TakeKey(QKeyEvent& event)
 {
-    if (event.modifiers() & (Qt::AltModifier | Qt::MetaModifier))
+    // Two drags at once would be none.
+    if (event.modifiers() & (Qt::AltModifier | Qt::MetaModifier) || QGuiApplication::mouseButtons() != Qt::NoButton)
         return false;
     if (const QPoint direction = DirectionOf(event.key()); !direction.isNull()) {
         Appear();

@@ -11,7 +11,7 @@ namespace
 {
 constexpr int twipsPerPoint = 20;
 constexpr int smallestFontDots = 10;
-constexpr std::array<int, 10> finestFirst{3, 4, 5, 6, 8, 10, 12, designTwipsAPixel, 18, 20};
+constexpr std::array<int, 12> finestFirst{3, 4, 5, 6, 8, 10, 12, designTwipsAPixel, 18, 20, 24, 30};
 
 // A menu bar isn't made yet when the scale is chosen; this is what the usual styles give it.
 int MenuBarPixels(const Scale& scale)

@@ -38,7 +38,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 constexpr int thinnestOutline = 2;
-// From the edge of a text box to its text; of which the toolkit gives these pixels to a text of one line by itself.
+// From the edge of a text box to its text. The toolkit itself leaves these pixels of it free where there is one line.
 constexpr int textMargin = 60; // twips
 constexpr int ownTextMargin = 2;
 // From this many lines on a text box holds several.
@@ -217,7 +217,9 @@ void WidgetBuilder::VisitLine(TextBox& box)
     bindings_.Follow(box.Text, [line, &box] { ShowInLine(*line, box.Text.Shown()); });
     QObject::connect(line, &QLineEdit::textEdited, line,
                      [gate = gate_, &box](const QString& typed) { gate->Run([&box, typed] { box.Text = typed; }); });
-    new ClickWatcher(line, [gate = gate_, &box] { gate->Run(box.Click); });
+    const auto click = [gate = gate_, &box] { gate->Run(box.Click); };
+    new ClickWatcher(line, click);
+    ClickByKey(*line, click);
     const auto keepSelection = [gate = gate_, line, &box] {
         if (!gate->IsOpen())
             return;
@@ -240,7 +242,9 @@ void WidgetBuilder::VisitLines(TextBox& box)
     auto* lines = new TextView(parent_, box.MaxLength);
     lines->document()->setDocumentMargin(scale_.ToPixels(textMargin));
     lines->Edited = [gate = gate_, &box](const QString& typed) { gate->Run([&box, typed] { box.Text = typed; }); };
-    new ClickWatcher(lines->viewport(), [gate = gate_, &box] { gate->Run(box.Click); });
+    const auto click = [gate = gate_, &box] { gate->Run(box.Click); };
+    new ClickWatcher(lines->viewport(), click);
+    ClickByKey(*lines, click);
     const auto keepSelection = [gate = gate_, lines, &box] {
         if (!gate->IsOpen())
             return;

@@ -251,6 +251,23 @@ TEST_F(KeyboardPointerTest, MouseThatIsOnlyMoved_EndsNoDrag)
     QTest::mouseMove(&Picture(), {30, 30});
     ServeEvents();
     EXPECT_EQ(Pointed->Story, QStringList());
+    Type(Qt::Key_Escape);
+    Pointed->Story.clear();
+    QTest::mouseMove(&Picture(), {40, 40});
+    ServeEvents();
+    EXPECT_EQ(Pointed->Story.size(), 1) << "the picture doesn't hear of the mouse at all";
+}
+
+TEST_F(KeyboardPointerTest, WhileTheMouseHoldsItsButton_KeysDoNothing)
+{
+    QTest::mousePress(ViewOf(*Pointed).windowHandle(), Qt::LeftButton, {},
+                      Picture().mapTo(&ViewOf(*Pointed), QPoint(10, 10)));
+    Pointed->Story.clear();
+    Type(Qt::Key_Right);
+    Type(Qt::Key_Space);
+    EXPECT_EQ(Pointed->Story, QStringList());
+    QTest::mouseRelease(ViewOf(*Pointed).windowHandle(), Qt::LeftButton, {},
+                        Picture().mapTo(&ViewOf(*Pointed), QPoint(10, 10)));
 }
 
 TEST_F(KeyboardPointerTest, OtherKeys_AreLeftToTheWindow)

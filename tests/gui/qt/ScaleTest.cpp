@@ -42,8 +42,9 @@ INSTANTIATE_TEST_SUITE_P(Screens, FittingScaleTest,
                                          FittingRow{9000, 9000, 3},   // finer is never taken
                                          FittingRow{960, 540, 15},    // doesn't fit, but could not be read otherwise
                                          FittingRow{960, 540, 18, 2}, // where a pixel has several dots it can
-                                         FittingRow{683, 450, 20, 2},
-                                         FittingRow{640, 360, 20, 3},    // coarser is never taken
+                                         FittingRow{683, 450, 20, 2}, FittingRow{600, 420, 24, 2},
+                                         FittingRow{400, 300, 30, 2},
+                                         FittingRow{320, 200, 30, 3},    // coarser is never taken
                                          FittingRow{683, 450, 18, 1.25}, // could not be read at 20
                                          FittingRow{1536, 834, 12, 1.25}));
 

@@ -152,6 +152,7 @@ TEST_F(ScaledStyleTest, TheProgramsStyle_HasTheSizeOfItsWindows)
 {
     const QWidget widget;
     const double scale = PixelScale().Magnification();
+    EXPECT_NE(dynamic_cast<const ScaledStyle*>(QApplication::style()), nullptr);
 
     for (const QStyle::PixelMetric metric : {QStyle::PM_IndicatorWidth, QStyle::PM_ScrollBarExtent})
         EXPECT_NEAR(QApplication::style()->pixelMetric(metric, nullptr, &widget),

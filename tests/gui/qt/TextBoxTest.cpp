@@ -40,6 +40,23 @@ struct TextBoxTest : WindowTest {
     QPlainTextEdit& Lines() { return Find<QPlainTextEdit>(*Texts, u"Text3"_s); }
 };
 
+TEST_F(TextBoxTest, CtrlAndTheSpaceBar_AreAClick_ThatLeavesTheSelection)
+{
+    for (TextBox* box : {&Texts->Text2, &Texts->Text3}) {
+        QString selected;
+        box->Text = u"Smith"_s;
+        box->Click = [&selected, box] { selected += box->SelText + u'|'; };
+        auto& field = Find<QWidget>(*Texts, box->Name);
+        field.setFocus();
+        QTest::keyClick(ViewOf(*Texts).windowHandle(), Qt::Key_Home, Qt::ControlModifier);
+        for (int step = 0; step < 2; ++step)
+            QTest::keyClick(ViewOf(*Texts).windowHandle(), Qt::Key_Right, Qt::ShiftModifier);
+        QTest::keyClick(ViewOf(*Texts).windowHandle(), Qt::Key_Space, Qt::ControlModifier);
+        EXPECT_EQ(selected, u"Sm|"_s);
+        EXPECT_EQ(box->Text.value(), u"Smith"_s);
+    }
+}
+
 TEST_F(TextBoxTest, ShowsWhatTheProgramSets)
 {
     Texts->Text1.Text = u"Smith"_s;
