@@ -16,12 +16,6 @@ namespace
 {
 using namespace Qt::StringLiterals;
 
-// The parts of which the toolkit makes up a widget of ours have no name of their own.
-bool IsOurs(const QWidget& widget)
-{
-    return !widget.objectName().isEmpty() && !widget.objectName().startsWith(u"qt_"_s);
-}
-
 // A frame without a caption only orders what is in it.
 bool SaysNothing(const QWidget& widget)
 {

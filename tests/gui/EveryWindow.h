@@ -23,6 +23,12 @@ inline std::string NameOf(const testing::TestParamInfo<ProgramWindow>& info)
     return info.param.Name;
 }
 
+// The parts of which the toolkit makes up a widget of ours have no name of their own.
+inline bool IsOurs(const QWidget& widget)
+{
+    return !widget.objectName().isEmpty() && !widget.objectName().startsWith(QStringLiteral("qt_"));
+}
+
 namespace every_window
 {
 template <class FormType>

@@ -11,13 +11,11 @@ namespace
 {
 using namespace Qt::StringLiterals;
 
-// The parts of which the toolkit makes up a widget of ours have no name of their own; a label without a text is passed
-// over.
+// A label without a text is passed over.
 bool IsListed(const QWidget& widget)
 {
     const auto* label = qobject_cast<const QLabel*>(&widget);
-    return !widget.objectName().isEmpty() && !widget.objectName().startsWith(u"qt_"_s) &&
-           !(label && label->text().isEmpty());
+    return IsOurs(widget) && !(label && label->text().isEmpty());
 }
 
 // One line for each widget that readers meet, in the order in which they meet them: its object name, what it is, what
