@@ -102,7 +102,8 @@ void PictureView::PaintDrawing(QPainter& painter, const QRect& exposed)
 
 void PictureView::Tell(const PictureBox::MouseEvent& handler, int button, const QMouseEvent& event) const
 {
-    if (!handler)
+    // The picture may be gone before this is, which then still hears that it is hidden.
+    if (!gate_->IsOpen() || !handler)
         return;
     const double x = scale_.ToTwips(static_cast<int>(std::floor(event.position().x())));
     const double y = scale_.ToTwips(static_cast<int>(std::floor(event.position().y())));
