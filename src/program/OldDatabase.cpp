@@ -42,9 +42,8 @@ bool IsInBranch(const Program& p, const QString& file)
 }
 
 // Whether an older installation wrote it, and it may become a database of ours.
-bool IsToBeTaken(const Program& p, const QString& file)
+bool IsToBeTaken(const Program& p, const QString& file, DatabaseFormat format)
 {
-    const DatabaseFormat format = FormatOfFile(file);
     const bool isOld = format == DatabaseFormat::Jet3 || format == DatabaseFormat::Jet4;
     return isOld && OwnerCanWrite(file) && IsInBranch(p, file);
 }
@@ -107,9 +106,10 @@ void Convert(Program& p, const FileIdentity& file)
 void ConvertIfOld(Program& p, const QString& path, OldDatabaseUse use)
 {
     const QString file = p.Files.Resolve(path);
-    if (FormatOfFile(file) == DatabaseFormat::Newer)
+    const DatabaseFormat format = FormatOfFile(file);
+    if (format == DatabaseFormat::Newer)
         Refuse(ErrorNumber::NotADatabase, file);
-    if (!IsToBeTaken(p, file))
+    if (!IsToBeTaken(p, file, format))
         return;
     const FileIdentity identity = IdentityOf(file);
     if (use == OldDatabaseUse::Caption && p.RefusedDatabases.contains(identity))
@@ -124,8 +124,9 @@ void ConvertIfOld(Program& p, const QString& path, OldDatabaseUse use)
 
 void TellDatabaseRefused(Program& p, const QString& path, const RuntimeError& refusal)
 {
+    const QString file = p.Files.Resolve(path);
     const bool lacksReader =
-        refusal.Number == ErrorNumber::NotADatabase && IsToBeTaken(p, p.Files.Resolve(path)) && !HasReader(p);
+        refusal.Number == ErrorNumber::NotADatabase && IsToBeTaken(p, file, FormatOfFile(file)) && !HasReader(p);
     p.Prompts.MsgBox(u"Read Only or Incorrect Database"_s, lacksReader ? noReader : u"Cannot open this database"_s,
                      Buttons::Information);
 }
