@@ -5,12 +5,15 @@
 # the examples are the user's from the moment they are there; branches are no files of the package.
 set -eu
 
+package=$(dirname "$(readlink -f "$0")")/../lib/lineforge
+case ${1:-} in
+--help | --version) exec "$package/lineforge" "$1" ;;
+esac
 home=${1:-${HOME:?}/Lineforge}
 if [ $# -gt 1 ] || [ "${home#-}" != "$home" ]; then
-    echo "Usage: lineforge [directory]" >&2
+    echo "Usage: lineforge [--help] [--version] [directory]" >&2
     exit 2
 fi
-package=$(dirname "$(readlink -f "$0")")/../lib/lineforge
 
 mkdir -p "$home"
 home=$(readlink -f "$home")

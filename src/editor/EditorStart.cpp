@@ -17,14 +17,14 @@ void PrepareEditorApplication()
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, u"/dev/null"_s);
 }
 
-void ShowEditor(EditorWindow& window, const QStringList& arguments)
+void ShowEditor(EditorWindow& window, const QString& file)
 {
-    if (arguments.size() < 2) {
+    if (file.isEmpty()) {
         window.show();
         return;
     }
     window.showMaximized();
-    window.OpenOrMake(arguments[1]);
+    window.OpenOrMake(file);
 }
 
 } // namespace lineforge

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QStringList>
+#include <QString>
 
 namespace lineforge
 {
@@ -10,8 +10,7 @@ class EditorWindow;
 // Makes the application the same on every desktop: English numbers, and no dialog that leaves settings on the disk.
 void PrepareEditorApplication();
 
-// Shows the window for the arguments of the command line, the program's own name first: maximised with the file that is
-// named there, else an empty text.
-void ShowEditor(EditorWindow& window, const QStringList& arguments);
+// Shows the window: maximised with the file that was named, or, when none was, with an empty text.
+void ShowEditor(EditorWindow& window, const QString& file);
 
 } // namespace lineforge

@@ -193,6 +193,7 @@ struct Program {
     lineforge::Processes& Processes;
     lineforge::Printer Printer;
     QString ExecutableDirectory;
+    QString FirstHome; // in which the run begins, with a trailing separator
     FileSystem Files;
     lineforge::Databases Databases;
     // Databases of older installations that could not be taken in this run, so that a map which shows their people

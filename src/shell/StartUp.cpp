@@ -45,14 +45,18 @@ void ShowSplash(Program& p)
 }
 } // namespace
 
-void StartProgram(Program& p)
+void StartProgram(Program& p, const QString& home)
 {
+    if (!home.isEmpty()) {
+        p.FirstHome = home;
+        p.Files.ChDir(home);
+    }
     p.form9.Load();
 }
 
 void LoadSplash(Program& p)
 {
-    p.Branch.HomeDir = p.ExecutableDirectory;
+    p.Branch.HomeDir = p.FirstHome;
     p.Scratch.sPath = p.Branch.HomeDir;
     ReadAliasConfig(p);
 
@@ -83,7 +87,7 @@ void LoadMainWindow(Program& p)
     form.Height = p.Screen.Height - 400;
     form.Centre(p.Screen.Area(), 200);
 
-    p.Branch.HomeDir = p.ExecutableDirectory;
+    p.Branch.HomeDir = p.FirstHome;
     ReadAliasList(p);
     DisableBranchUI(p);
     p.Gallery.FirstShow = 1;

@@ -5,8 +5,9 @@
 namespace lineforge
 {
 
-// Starts the program: loads the splash, which does the rest.
-void StartProgram(Program& p);
+// Starts the program: loads the splash, which does the rest. In the home of that path, with a trailing separator, or,
+// when none is named, in the executable's own directory.
+void StartProgram(Program& p, const QString& home = {});
 
 // The splash's load: home directory, setting, splash and sound, then the main window.
 void LoadSplash(Program& p);

@@ -20,7 +20,7 @@ TEST_F(EditorStartTest, FileOfTheCommandLine_IsOpenedMaximised)
 {
     const QString path = Home.WriteFile(u"my \u00E9t\u00E9/-some notes.txt", "hello");
     EditorWindow started;
-    ShowEditor(started, {u"Notepad.exe"_s, path});
+    ShowEditor(started, path);
     EXPECT_TRUE(started.isMaximized());
     EXPECT_TRUE(started.isVisible());
     EXPECT_EQ(started.windowTitle(), u"-some notes.txt[*] - Lineforge Editor"_s);
@@ -29,7 +29,7 @@ TEST_F(EditorStartTest, FileOfTheCommandLine_IsOpenedMaximised)
 TEST_F(EditorStartTest, NoFile_IsAnEmptyText)
 {
     EditorWindow started;
-    ShowEditor(started, {u"Notepad.exe"_s});
+    ShowEditor(started, {});
     EXPECT_TRUE(started.isVisible());
     EXPECT_EQ(started.windowTitle(), u"Untitled[*] - Lineforge Editor"_s);
 }
@@ -41,7 +41,7 @@ TEST_F(EditorStartTest, MissingFile_IsAskedForAboveTheMaximisedWindow)
         EXPECT_TRUE(started.isMaximized());
         Press(AsMessageBox(dialog), QMessageBox::No);
     });
-    ShowEditor(started, {u"Notepad.exe"_s, Home.Path(u"gone.txt")});
+    ShowEditor(started, Home.Path(u"gone.txt"));
     EXPECT_FALSE(Home.Exists(u"gone.txt"));
 }
 

@@ -170,10 +170,21 @@ TEST_F(LauncherTest, FileThatCannotBePutInPlace_StopsTheStart_AndLeavesNothingHa
 
 TEST_F(LauncherTest, WhatIsNoDirectory_IsToldHowToStart_AndMakesNothing)
 {
-    for (const QStringList& arguments : {QStringList{u"--help"_s}, QStringList{u"one"_s, u"two"_s}}) {
+    for (const QStringList& arguments : {QStringList{u"--halp"_s}, QStringList{u"one"_s, u"two"_s}}) {
         const Outcome outcome = Launch(arguments);
         EXPECT_EQ(outcome.ExitCode, 2);
-        EXPECT_EQ(outcome.Output, u"Usage: lineforge [directory]\n");
+        EXPECT_EQ(outcome.Output, u"Usage: lineforge [--help] [--version] [directory]\n");
+    }
+    EXPECT_TRUE(FilesBelow(User({})).isEmpty());
+}
+
+TEST_F(LauncherTest, QuestionsAboutTheProgram_AreTheProgramsToAnswer_AndMakeNothing)
+{
+    for (const QString& question : {u"--help"_s, u"--version"_s}) {
+        PackageProgram("asked $1");
+        const Outcome outcome = Launch({question});
+        EXPECT_EQ(outcome.ExitCode, 0);
+        EXPECT_TRUE(outcome.Output.startsWith(u"asked "_s + question)) << qUtf8Printable(outcome.Output);
     }
     EXPECT_TRUE(FilesBelow(User({})).isEmpty());
 }

@@ -3,6 +3,7 @@
 
 #include <QFileInfo>
 #include <QImage>
+#include <QProcess>
 
 #include <gmock/gmock.h>
 
@@ -12,20 +13,28 @@ namespace
 {
 
 using namespace Qt::StringLiterals;
+using testing::HasSubstr;
 using testing::IsSupersetOf;
+using testing::StartsWith;
 
 const QString deb = QStringLiteral(LINEFORGE_PACKAGES "/deb/");
 const QString tar = QStringLiteral(LINEFORGE_PACKAGES "/tar/");
 const QString metainfo = deb + u"usr/share/metainfo/technology.tarnwick.Lineforge.metainfo.xml";
 const QString desktopEntry = deb + u"usr/share/applications/lineforge.desktop";
 
+constexpr const char* programs[]{"Notepad.exe", "lineforge"
+#ifdef LINEFORGE_HAS_JET
+                                 ,
+                                 "lineforge-jet"
+#endif
+};
+
 QStringList Programs()
 {
-#ifdef LINEFORGE_HAS_JET
-    return {u"Notepad.exe"_s, u"lineforge"_s, u"lineforge-jet"_s};
-#else
-    return {u"Notepad.exe"_s, u"lineforge"_s};
-#endif
+    QStringList names;
+    for (const char* name : programs)
+        names += QLatin1StringView(name);
+    return names;
 }
 
 QStringList Below(const QString& directory, QStringList files)
@@ -116,6 +125,67 @@ TEST_P(PackageTest, NoTextTellsWhereItWasBuilt)
     }
 }
 
+// Each program of the package on its command line, on a machine without a display.
+class CommandLineTest : public testing::TestWithParam<const char*>
+{
+protected:
+    struct Answer {
+        int ExitCode = -1;
+        std::string Output;
+        std::string Errors;
+    };
+
+    static Answer Ask(const QStringList& arguments)
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const QString& name : {u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"QT_QPA_PLATFORM"_s})
+            environment.remove(name);
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        process.start(tar + QLatin1StringView(GetParam()), arguments);
+        if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
+            return {};
+        return {process.exitCode(), process.readAllStandardOutput().toStdString(),
+                process.readAllStandardError().toStdString()};
+    }
+};
+
+TEST_P(CommandLineTest, Version)
+{
+    const Answer answer = Ask({u"--version"_s});
+    EXPECT_EQ(answer.ExitCode, 0);
+    EXPECT_EQ(answer.Output, "Lineforge " LINEFORGE_VERSION "\n");
+    EXPECT_EQ(answer.Errors, "");
+}
+
+TEST_P(CommandLineTest, Help_TellsUsageAndPurpose)
+{
+    const Answer answer = Ask({u"--help"_s});
+    EXPECT_EQ(answer.ExitCode, 0);
+    EXPECT_THAT(answer.Output, StartsWith(std::string("Usage: ") + GetParam() + " [--help] [--version] "));
+    EXPECT_THAT(answer.Output, HasSubstr("\n\n"));
+    EXPECT_EQ(answer.Errors, "");
+}
+
+TEST_P(CommandLineTest, UnknownOption_OrTooManyNames_AreToldOnTheErrorOutput)
+{
+    for (const QStringList& arguments : {QStringList{u"--halp"_s}, QStringList{u"-x"_s}, QStringList{u"a"_s, u"b"_s}}) {
+        const Answer answer = Ask(arguments);
+        EXPECT_EQ(answer.ExitCode, 2);
+        EXPECT_EQ(answer.Output, "");
+        EXPECT_THAT(answer.Errors, HasSubstr(std::string("Usage: ") + GetParam()));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Programs, CommandLineTest, testing::ValuesIn(programs));
+
+TEST(ProgramCommandLineTest, HomeThatIsNoDirectory_IsToldWithoutADisplay)
+{
+    const Outcome outcome = RunCommand(tar + u"/lineforge"_s, {u"gone"_s});
+    EXPECT_EQ(outcome.ExitCode, 2);
+    EXPECT_EQ(outcome.Output, u"lineforge: gone is no directory\n");
+}
+
 TEST(TarTest, IsTheHomeAndNothingElse)
 {
     EXPECT_EQ(FilesBelow(tar), Sorted(HomeFiles()));
@@ -167,7 +237,8 @@ TEST(DebTest, DesktopEntry_IsValid_AndStartsTheLauncherUnderTheIcon)
 {
     const Outcome verdict = RunCommand(u"desktop-file-validate"_s, {desktopEntry});
     EXPECT_EQ(verdict.ExitCode, 0) << qUtf8Printable(verdict.Output);
-    EXPECT_THAT(Contents(desktopEntry).split('\n'), IsSupersetOf({"Exec=lineforge", "Icon=lineforge"}));
+    EXPECT_THAT(Contents(desktopEntry).split('\n'),
+                IsSupersetOf({"Exec=lineforge %f", "TryExec=lineforge", "Icon=lineforge"}));
 }
 
 TEST(DebTest, Metainfo_IsValid_AndTellsOfThisVersionFirst)

@@ -67,6 +67,17 @@ private:
     }
 };
 
+TEST_F(StartUpTest, NamedHome_IsTheHomeFromTheFirstReadingOn)
+{
+    GivenSplashIsOff();
+    Home.WriteFile(u"elsewhere/AliasList.cfg", "header\r\n[Alias]\r\n[Jones=LfgDat_B,]\r\n[CFG]\r\n[1,]\r\n");
+    StartProgram(P, Home.Path(u"elsewhere/"));
+    EXPECT_EQ(P.Branch.HomeDir, Home.Path(u"elsewhere/"));
+    EXPECT_EQ(P.Alias.sAliasList, u"Jones=LfgDat_B,");
+    EXPECT_EQ(P.Files.CurDir(), Home.Path(u"elsewhere"));
+    EXPECT_EQ(P.Scratch.sPath, Home.Path(u"elsewhere/"));
+}
+
 TEST_F(StartUpTest, Windows_ComeInTheirOrder_AndNoOthers)
 {
     GivenSplashIsOn();

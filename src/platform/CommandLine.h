@@ -1,0 +1,29 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace lineforge
+{
+
+// What a program of ours tells of itself on the command line.
+struct CommandDescription {
+    const char* Name;     // by which it is started
+    const char* Operands; // as the usage shows them
+    const char* Purpose;  // whole lines
+    int LeastOperands = 0;
+    int MostOperands = 1;
+    bool HasWindows = true; // and so takes the two options that desktops and toolkits give such a program
+};
+
+struct CommandLine {
+    std::vector<std::string> Operands; // in the bytes in which they were given
+    std::optional<int> ExitStatus;     // set when there is nothing more to do
+};
+
+// Answers --help and --version on the output; an option that isn't known, or the wrong number of operands, is told on
+// the error output and ends with 2. Needs no display. Options are moved before the operands in `argv`.
+CommandLine ReadCommandLine(int argc, char* argv[], const CommandDescription& description);
+
+} // namespace lineforge
