@@ -1,6 +1,8 @@
 #include "compare/CompareBranch.h"
 
 #include "compare/CompareKeys.h"
+#include "compare/CompareSearch.h"
+#include "compare/FieldDifference.h"
 #include "compare/SearchButton.h"
 #include "compare/Sides.h"
 #include "program/AlternateBranch.h"
@@ -16,20 +18,13 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-// Unlike a step to a record this takes a forename that is Null.
+// The surname stands in the field's box, but no field is chosen by that.
 void ShowFirstCurrentRecord(Program& p)
 {
-    forms::Form6& form = *p.Form6;
-    const Recordset& record = Records(p);
-    const QString file = record.Text(u"File");
-    const QString surname = record.Text(u"Surname");
-    form.Label4.Caption = file;
-    ShowPicture(p, CurrentSide, file);
-    ShowField(p, CurrentSide, surname);
-    form.Text1.Text = surname;
-    form.Text5.Text = record.Text(u"Forename");
-    form.Frame5.Caption = u"Field: Surname"_s;
-    p.Compare.sCompField = u"Surname"_s;
+    const PersonTexts person = ReadPerson(p, CurrentSide, NullForename::Empty);
+    ShowPerson(p, CurrentSide, person);
+    ShowField(p, CurrentSide, person.Surname);
+    p.Form6->Frame5.Caption = u"Field: Surname"_s;
 }
 
 // False, with a box, when there is no such database; what was compared before stays then.
@@ -47,14 +42,12 @@ bool PointAtCompareDatabase(Program& p, const QString& path)
 void ShowFirstPair(Program& p, const QString& name)
 {
     p.Compare.sCompName = name;
-    p.Form6->Label7.Caption = name;
     Records(p).MoveFirst();
     CompareRecords(p).MoveFirst();
     p.Scratch.ScanState = ComparePair::None;
     p.Compare.FieldStep = 1;
     p.Compare.ResetDone = 0;
-    ShowRecord(p, CurrentSide);
-    ShowRecord(p, CompareSide);
+    ShowComparePair(p);
     SetFieldCaptions(p, u"Field: Surname"_s, u"Field: Surname"_s);
     ShowFields(p, p.Form6->Text1.Text, p.Form6->Text3.Text);
     p.Compare.sCompField = u"Surname"_s;
@@ -89,8 +82,10 @@ void ReturnToComparison(Program& p)
     if (TellIfComparesAlternate(p))
         return;
     // What is copied or cut is the record at which the cursor stands, wherever it has gone meanwhile.
-    if (Records(p).HasRow() && Records(p).Text(u"File") != p.Form6->Label4.Caption.value())
-        p.Errors.Ignoring([&] { ShowStepped(p, CurrentSide); });
+    if (Records(p).HasRow() && !IsOnShow(p, CurrentSide)) {
+        ForgetPair(p);
+        ShowStepped(p, CurrentSide, NullForename::Empty);
+    }
     p.Form6->Show();
 }
 
@@ -121,20 +116,18 @@ void WithdrawCompareRequest(Program& p)
 void OpenCompareBranch(Program& p, const QString& name, const QString& entry)
 {
     WithdrawCompareRequest(p);
+    if (Records(p).IsEmpty())
+        return TellNoRecords(p);
     const QString directory = p.Branch.HomeDir + DirectoryName(entry);
     if (!PointAtCompareDatabase(p, DatabasePath(directory)))
         return;
     p.Compare.sCompDbFile = DirectoryName(entry) + u".mdb";
     p.Compare.sCompDir = directory + PathSeparator;
-    if (CompareRecords(p).IsEmpty()) {
-        p.Form6->Label7.Caption = QString();
-        ShowNothing(p, CompareSide);
-        p.Prompts.MsgBox(u"No Database records"_s, u"No Records in this Database"_s, Buttons::Information);
-    } else if (Records(p).IsEmpty()) {
-        TellNoRecords(p);
-    } else {
-        ShowFirstPair(p, name);
-    }
+    if (!CompareRecords(p).IsEmpty())
+        return ShowFirstPair(p, name);
+    p.Form6->Label7.Caption = QString();
+    ShowNothing(p, CompareSide);
+    p.Prompts.MsgBox(u"No Database records"_s, u"No Records in this Database"_s, Buttons::Information);
 }
 
 void LeaveComparison(Program& p)

@@ -1,5 +1,6 @@
 #include "compare/CompareEnds.h"
 
+#include "compare/SearchButton.h"
 #include "compare/Sides.h"
 
 namespace lineforge
@@ -40,6 +41,7 @@ void EndOfRecords(Program& p)
 void EndOfFieldSearch(Program& p)
 {
     Tell(p, u"Database End of File"_s, u"End of Database Records"_s);
+    ShowSearchState(p, SearchState::Ready);
     CaptionEndOfFieldSearch(p);
     EmptyFields(p);
     p.Compare.SearchEnded = 1;

@@ -11,7 +11,8 @@ namespace lineforge
 void EndAtCurrent(Program& p);
 void EndAtCompare(Program& p);
 
-// No pair, or no field, is left; the frames say which. The second ends the search until Reset.
+// No pair, or no field, is left; the frames say which. The second ends the search until Reset, with the button green
+// all the same.
 void EndOfRecords(Program& p);
 void EndOfFieldSearch(Program& p);
 

@@ -22,15 +22,6 @@ int MaskOfBoxes(const forms::Form6& form)
            (form.Check3.Value ? CompareKey::BirthDate : 0);
 }
 
-// The upper bound is meant: beyond the row of the death certificate the search goes on where it was.
-void ForgetPair(Program& p)
-{
-    if (p.Scratch.ScanState == ComparePair::InHand)
-        p.Scratch.ScanState = ComparePair::None;
-    if (p.Compare.FieldStep >= 2 && p.Compare.FieldStep <= 18)
-        p.Compare.FieldStep = 0;
-}
-
 void Next(Program& p, const Side& side, void (*end)(Program& p))
 {
     if (p.Compare.SearchEnded == 1)
@@ -45,7 +36,7 @@ void Next(Program& p, const Side& side, void (*end)(Program& p))
         ShowSearchState(p, SearchState::Busy);
         return;
     }
-    ShowStepped(p, side);
+    ShowStepped(p, side, NullForename::Refused);
     ShowSearchState(p, SearchState::Ready);
 }
 } // namespace
@@ -100,7 +91,16 @@ void ShowSteppedRecord(Program& p)
 {
     ForgetPair(p);
     if (CompareRecords(p).HasRow())
-        ShowStepped(p, CompareSide);
+        ShowStepped(p, CompareSide, NullForename::Empty);
+}
+
+// The upper bound is meant: beyond the row of the death certificate the search goes on where it was.
+void ForgetPair(Program& p)
+{
+    if (p.Scratch.ScanState == ComparePair::InHand)
+        p.Scratch.ScanState = ComparePair::None;
+    if (p.Compare.FieldStep >= 2 && p.Compare.FieldStep <= 18)
+        p.Compare.FieldStep = 0;
 }
 
 } // namespace lineforge

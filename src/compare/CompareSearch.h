@@ -19,4 +19,7 @@ void NextCurrent(Program& p);
 // The compared branch's record bar has been used: shows its record.
 void ShowSteppedRecord(Program& p);
 
+// One of the two cursors has left the pair at hand: the next search begins with the pair that stands then.
+void ForgetPair(Program& p);
+
 } // namespace lineforge

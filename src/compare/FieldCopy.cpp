@@ -107,6 +107,7 @@ void CopyField(Program& p)
 {
     const Direction& way = DirectionOf(p);
     const QString& field = p.Compare.sCompField;
+    const QString before = ((*p.Form6).*way.To.Field).Text;
     try {
         Recordset& to = way.To.Records(p);
         // Nothing that was refused may stay behind for the next saving.
@@ -114,9 +115,10 @@ void CopyField(Program& p)
         const FieldValue value = way.From.Records(p).Value(field);
         to.Edit();
         to.Put(field, value);
-        to.Update();
         ShowField(p, way.To, value.value_or(QString()));
+        to.Update();
     } catch (const RuntimeError&) {
+        ShowField(p, way.To, before);
         p.Prompts.MsgBox(u"Copy Error"_s, u"There is no record to copy across."_s, Buttons::Information);
     }
 }

@@ -9,8 +9,8 @@
 #include "program/Meanwhile.h"
 #include "program/WorkDatabase.h"
 
+#include <algorithm>
 #include <array>
-#include <optional>
 
 namespace lineforge
 {
@@ -51,58 +51,50 @@ constexpr std::array<ComparedField, 22> ComparedFields{{
     {u"Notes", u"Field: Notes(2)", u"Notes"},
 }};
 
-// What a walk over many pairs would show of each is shown of the last alone: nobody sees it before the press has ended.
+// A pair that a walk has come to. All of it is read before any is shown; and of the pairs that one press walks over the
+// last alone is shown, since nobody sees the others before the press has ended.
 struct WalkedPair {
-    std::optional<QString> CurrentFile;
-    std::optional<QString> CompareFile;
-    std::optional<QString> CurrentSurname;
-    std::optional<QString> CompareSurname;
+    PersonTexts Current;
+    PersonTexts Compare;
+    bool IsOnShow = false; // already, from the press before
+    std::size_t Field = 0; // the first that differs, or behind the last
+    QString Ours;
+    QString Theirs;
+
+    bool Differs() const { return Field < ComparedFields.size(); }
 };
 
-void Show(Program& p, const WalkedPair& pair)
+WalkedPair WalkPair(Program& p)
 {
-    forms::Form6& form = *p.Form6;
-    if (pair.CurrentFile) {
-        form.Label4.Caption = *pair.CurrentFile;
-        form.Label9.Caption = *pair.CompareFile;
-        ShowPicture(p, CurrentSide, *pair.CurrentFile);
-        ShowPicture(p, CompareSide, *pair.CompareFile);
-    }
-    if (pair.CurrentSurname) {
-        form.Text1.Text = *pair.CurrentSurname;
-        form.Text3.Text = *pair.CompareSurname;
-    }
-}
-
-// The index of the first field from `FieldStep` on that differs, or that behind the last.
-std::size_t FindDifference(Program& p, WalkedPair& pair)
-{
-    const Recordset& current = Records(p);
-    const Recordset& compare = CompareRecords(p);
-    std::size_t at = static_cast<std::size_t>(std::max(0, p.Compare.FieldStep - 1));
-    for (; at < ComparedFields.size(); ++at) {
-        const QString ours = current.Text(ComparedFields[at].Field);
-        const QString theirs = compare.Text(ComparedFields[at].Field);
-        if (at == 0) {
-            pair.CurrentSurname = ours;
-            pair.CompareSurname = theirs;
-        }
-        if (!SameText(ours, theirs))
+    WalkedPair pair;
+    pair.Current = ReadPerson(p, CurrentSide, NullForename::Empty);
+    pair.Compare = ReadPerson(p, CompareSide, NullForename::Empty);
+    // The record form may have gone elsewhere since the press before.
+    pair.IsOnShow = p.Compare.FieldStep > 1 && IsOnShow(p, CurrentSide) && IsOnShow(p, CompareSide);
+    for (pair.Field = static_cast<std::size_t>(std::max(0, p.Compare.FieldStep - 1)); pair.Differs(); ++pair.Field) {
+        pair.Ours = Records(p).Text(ComparedFields[pair.Field].Field);
+        pair.Theirs = CompareRecords(p).Text(ComparedFields[pair.Field].Field);
+        if (!SameText(pair.Ours, pair.Theirs))
             break;
     }
-    return at;
+    return pair;
 }
 
-void ShowDifference(Program& p, std::size_t at)
+void ShowPersons(Program& p, const PersonTexts& current, const PersonTexts& compare)
 {
-    const ComparedField& field = ComparedFields[at];
-    forms::Form6& form = *p.Form6;
+    ShowPerson(p, CurrentSide, current);
+    ShowPerson(p, CompareSide, compare);
+}
+
+void ShowDifference(Program& p, const WalkedPair& pair)
+{
+    const ComparedField& field = ComparedFields[pair.Field];
     SetFieldCaptions(p, field.Caption.toString(), field.Caption.toString());
     p.Compare.sCompField = field.CompField.toString();
-    p.Compare.FieldStep = static_cast<int>(at) + 2;
-    ShowFields(p, Records(p).Text(field.Field), CompareRecords(p).Text(field.Field));
-    form.Text5.Text = Records(p).Text(u"Forename");
-    form.Text6.Text = CompareRecords(p).Text(u"Forename");
+    p.Compare.FieldStep = static_cast<int>(pair.Field) + 2;
+    ShowFields(p, pair.Ours, pair.Theirs);
+    p.Form6->Text5.Text = pair.Current.Forename;
+    p.Form6->Text6.Text = pair.Compare.Forename;
     ShowSearchState(p, SearchState::Found);
 }
 
@@ -142,27 +134,36 @@ bool EndsAtOnce(Program& p)
     return true;
 }
 
-// Walks pair by pair. What comes of it when no field differs any more; nothing when one does, which is shown then.
-std::optional<NextPair> WalkPairs(Program& p, WalkedPair& pair)
+// Whether the walk stops at the pair, which is shown then. A pair that was searched for is stopped at in any case.
+bool StopsAt(Program& p, const WalkedPair& pair)
+{
+    const bool isEnd = !pair.Differs();
+    if (isEnd)
+        p.Compare.FieldStep = 0;
+    if (isEnd && p.Scratch.ScanState != ComparePair::InHand)
+        return false;
+    if (!pair.IsOnShow)
+        ShowPersons(p, pair.Current, pair.Compare);
+    if (isEnd)
+        ShowEndOfPair(p);
+    else
+        ShowDifference(p, pair);
+    return true;
+}
+
+// Walks pair by pair, to a stop or to the end of a round, whose last pair is shown.
+NextPair WalkPairs(Program& p)
 {
     Meanwhile meanwhile(p);
     for (;;) {
-        if (p.Compare.FieldStep == 0) {
-            pair.CurrentFile = Records(p).Text(u"File");
-            pair.CompareFile = CompareRecords(p).Text(u"File");
-        }
-        const std::size_t at = FindDifference(p, pair);
-        if (at < ComparedFields.size()) {
-            ShowDifference(p, at);
-            return std::nullopt;
-        }
-        p.Compare.FieldStep = 0;
-        if (p.Scratch.ScanState == ComparePair::InHand) {
-            ShowEndOfPair(p);
-            return std::nullopt;
-        }
-        if (const NextPair next = MoveToNextPair(p); next != NextPair::Stands)
+        const WalkedPair pair = WalkPair(p);
+        if (StopsAt(p, pair))
+            return NextPair::Stands;
+        const NextPair next = MoveToNextPair(p);
+        if (next != NextPair::Stands) {
+            ShowPersons(p, pair.Current, pair.Compare);
             return next;
+        }
         meanwhile.KeepPainted();
     }
 }
@@ -172,22 +173,23 @@ void FieldDifferenceSearch(Program& p)
 {
     if (p.Scratch.ScanState == ComparePair::Ended || p.Compare.SearchEnded == 1 || EndsAtOnce(p))
         return;
-    WalkedPair pair;
-    const std::optional<NextPair> next = WalkPairs(p, pair);
-    Show(p, pair);
-    if (!next)
+    switch (WalkPairs(p)) {
+    case NextPair::Stands:
         return;
-    ShowSearchState(p, SearchState::Ready);
-    if (*next == NextPair::BeginsRound)
+    case NextPair::BeginsRound:
+        ShowSearchState(p, SearchState::Ready);
         ShowComparePair(p);
-    else
+        return;
+    case NextPair::Missing:
         EndOfFieldSearch(p);
+        return;
+    }
 }
 
 void ShowComparePair(Program& p)
 {
-    ShowRecord(p, CurrentSide);
-    ShowRecord(p, CompareSide);
+    const PersonTexts current = ReadPerson(p, CurrentSide, NullForename::Refused);
+    ShowPersons(p, current, ReadPerson(p, CompareSide, NullForename::Refused));
     p.Form6->Label7.Caption = p.Compare.sCompName;
 }
 

@@ -55,9 +55,9 @@ void ShowNothing(Program& p, const Side& side)
     ShowField(p, side, {});
 }
 
-void ShowStepped(Program& p, const Side& side)
+void ShowStepped(Program& p, const Side& side, NullForename null)
 {
-    ShowRecord(p, side);
+    ShowPerson(p, side, ReadPerson(p, side, null));
     ((*p.Form6).*side.FieldFrame).Caption = u"Field:"_s;
     ShowField(p, side, {});
 }
@@ -69,18 +69,29 @@ void ShowPicture(Program& p, const Side& side, const QString& file)
     p.Errors.Ignoring([&] { image.Picture = p.Pictures.Load(p.Files, SubjectPictureFile(side.Directory(p), file)); });
 }
 
-void ShowRecord(Program& p, const Side& side)
+PersonTexts ReadPerson(Program& p, const Side& side, NullForename null)
 {
-    forms::Form6& form = *p.Form6;
     const Recordset& record = side.Records(p);
     const QString file = record.Text(u"File");
-    (form.*side.Number).Caption = file;
-    ShowPicture(p, side, file);
-    (form.*side.Surname).Text = record.Text(u"Surname");
     const FieldValue forename = record.Value(u"Forename");
-    if (!forename)
+    if (!forename && null == NullForename::Refused)
         throw RuntimeError(ErrorNumber::InvalidUseOfNull, u"Forename\nRecord "_s + file + u'\n' + side.Directory(p));
-    (form.*side.Forename).Text = *forename;
+    return {file, record.Text(u"Surname"), forename.value_or(QString())};
+}
+
+void ShowPerson(Program& p, const Side& side, const PersonTexts& person)
+{
+    forms::Form6& form = *p.Form6;
+    (form.*side.Number).Caption = person.File;
+    ShowPicture(p, side, person.File);
+    (form.*side.Surname).Text = person.Surname;
+    (form.*side.Forename).Text = person.Forename;
+}
+
+bool IsOnShow(Program& p, const Side& side)
+{
+    const Recordset& record = side.Records(p);
+    return record.HasRow() && record.Text(u"File") == ((*p.Form6).*side.Number).Caption.value();
 }
 
 void SetFieldCaptions(Program& p, const QString& current, const QString& compare)

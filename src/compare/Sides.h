@@ -24,14 +24,30 @@ extern const Side CompareSide;
 
 Recordset& CompareRecords(Program& p);
 
-// Number, picture, surname and forename of the side's record. A picture that can't be had leaves its place empty. Error
-// 3021 without a record, 94 for a forename that is Null.
-void ShowRecord(Program& p, const Side& side);
+// What a side tells of its record beside the field on show.
+struct PersonTexts {
+    QString File;
+    QString Surname;
+    QString Forename;
+};
+
+// Whether a forename that is Null is error 94, as in the steps of the search's own buttons, or empty text.
+enum class NullForename { Refused, Empty };
+
+// Read whole before any of it is shown, so that the window never holds one person's number over another's name. Error
+// 3021 without a record.
+PersonTexts ReadPerson(Program& p, const Side& side, NullForename null);
+
+// Number, picture, surname and forename. A picture that can't be had leaves its place empty.
+void ShowPerson(Program& p, const Side& side, const PersonTexts& person);
+
+// Whether the side shows the number of its record; false without a record.
+bool IsOnShow(Program& p, const Side& side);
 
 void ShowPicture(Program& p, const Side& side, const QString& file);
 
-// The same, as a step by hand leaves the side: with no field on show.
-void ShowStepped(Program& p, const Side& side);
+// The side's record as a step by hand leaves the side: with no field on show.
+void ShowStepped(Program& p, const Side& side, NullForename null);
 
 // A side that has no record.
 void ShowNothing(Program& p, const Side& side);

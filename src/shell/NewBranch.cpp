@@ -112,6 +112,8 @@ void MakeBranch(Program& p, const QString& name, const QString& directory)
     p.Files.FileCopy(p.Branch.HomeDir + u"LfgEmpt.~Md", stem + u".mdb");
     p.Branch.sDbaseName = p.Branch.HomeDir + stem + u".mdb";
     PointAtDatabase(p, p.Branch.sDbaseName);
+    if (p.Form6.IsLoaded())
+        p.Form6->Label2.Caption = name;
 
     ShowNoSubject(p);
     AddAlias(p, name, directory);

@@ -41,7 +41,19 @@ TEST_F(CompareBranchTest, Command_BeginsWithTheFirstRecord_WhereverTheFormStood)
     EXPECT_TRUE(P.Form6->Visible);
     EXPECT_TRUE(P.Form1->Command5.Visible);
     EXPECT_EQ(P.Compare.ResetDone, 0);
-    EXPECT_EQ(P.Compare.sCompField, u"Surname"_s);
+    EXPECT_EQ(P.Compare.sCompField, u"Notes"_s);
+}
+
+TEST_F(CompareBranchTest, Command_SelectsNoField_SoThatCutTakesTheFatalPath)
+{
+    GivenOpenBranch();
+    Compare();
+    P.Form6->Text2.Click();
+    ExpectFatalBox(u"Run-time error '3265':\n\nItem not found in this collection.",
+                   u"The records have no such field:\n\n"_s + Home.Path(u"LfgDat_A/LfgDat_A.mdb"));
+    Click(P.Form6->mnuCut.Click);
+    EXPECT_TRUE(ExitCode().has_value());
+    EXPECT_EQ(Stored(u'A', "Surname", "A001"), u"Smith"_s);
 }
 
 TEST_F(CompareBranchTest, NullNames_AreShownEmpty)
@@ -179,15 +191,86 @@ TEST_F(CompareBranchTest, BranchWithoutRecords_ForComparison_IsTold_AndTheSideIs
     EXPECT_EQ(ExitCode(), std::nullopt);
 }
 
-TEST_F(CompareBranchTest, CurrentBranchWithoutRecords_BehindTheWindow_IsTold)
+TEST_F(CompareBranchTest, CurrentBranchWithoutRecords_BehindTheWindow_IsTold_BeforeTheComparedOneIsLeft)
+{
+    GivenOpenBranch();
+    Compare();
+    ChooseCompare(u"Jones");
+    ExpectEmptyBox();
+    Choose(u"Nobody");
+    Tell(u"Database Empty", u"The Database has no records to access");
+    ChooseCompare(u"Smiths");
+    EXPECT_EQ(ExitCode(), std::nullopt);
+    EXPECT_EQ(P.Compare.sCompDir, QString(Home.Path(u"LfgDat_B") + u'/'));
+    EXPECT_EQ(P.Form6->Data1.DatabaseName, DatabaseOf(u'B'));
+    EXPECT_EQ(P.Form6->Label7.Caption.value(), u"Jones"_s);
+    EXPECT_EQ(P.Form6->Label9.Caption.value(), u"B001"_s);
+}
+
+TEST_F(CompareBranchTest, BothWithoutRecords_TheOpenOneIsTold)
 {
     GivenOpenBranch();
     Compare();
     ExpectEmptyBox();
     Choose(u"Nobody");
     Tell(u"Database Empty", u"The Database has no records to access");
-    ChooseCompare(u"Jones");
+    ChooseCompare(u"Nobody");
     EXPECT_EQ(ExitCode(), std::nullopt);
+}
+
+TEST_F(CompareBranchTest, ComparedRecordWithoutAPicture_IsShownWithoutOne)
+{
+    GivenOpenBranch();
+    P.Files.Kill(Home.Path(u"LfgDat_B/B002Sub.jpg"));
+    Compare();
+    ChooseCompare(u"Jones");
+    ASSERT_EQ(Pictures(), u"A001 B001"_s);
+    NextCompare();
+    EXPECT_EQ(Pictures(), u"A001 none"_s);
+}
+
+TEST_F(CompareBranchTest, NullForenameOfTheFirstPair_EndsTheProgram_OverThePairThatWasShown)
+{
+    GivenOpenBranch();
+    Compare();
+    ChooseCompare(u"Jones");
+    Records(P).Edit();
+    Records(P).Put(u"Forename", std::nullopt);
+    Records(P).Update();
+    const QString text = u"Run-time error '94':\n\nInvalid use of Null\n\n"
+                         u"This field has never been filled in:\nForename\nRecord A001\n"_s +
+                         Home.Path(u"LfgDat_A");
+    Prompts.Expect(u"Lineforge", text, Buttons::Error, Answer::Ok, [&] {
+        EXPECT_EQ(ShownPair(), u"A001 B001"_s);
+        EXPECT_EQ(Surnames(), u"Smith|Smythe"_s);
+        EXPECT_EQ(P.Form6->Label7.Caption.value(), u"Jones"_s);
+    });
+    ChooseCompare(u"Smiths");
+    EXPECT_TRUE(ExitCode().has_value());
+}
+
+TEST_F(CompareBranchTest, NewBranch_IsNamedAsTheOpenOne)
+{
+    GivenOpenBranch();
+    Compare();
+    AnswerName(u"Browns");
+    Confirm(u"Browns", u"LfgDat_D");
+    ExpectEmptyBox();
+    Click(P.Form1->New.Click);
+    EXPECT_EQ(P.Form6->Label2.Caption.value(), u"Browns"_s);
+}
+
+TEST_F(CompareBranchTest, NewBranch_OpensNoComparison)
+{
+    GivenOpenBranch();
+    P.Form6.Unload();
+    P.Scratch.ScanState = 1;
+    AnswerName(u"Browns");
+    Confirm(u"Browns", u"LfgDat_D");
+    ExpectEmptyBox();
+    Click(P.Form1->New.Click);
+    EXPECT_FALSE(P.Form6.IsLoaded());
+    EXPECT_EQ(State(), 1);
 }
 
 TEST_F(CompareBranchTest, SearchWhileTheListIsOpen_DoesntTurnTheChoiceIntoAnOpening)
@@ -310,6 +393,53 @@ TEST_F(CompareBranchTest, Tree_ShowsTheMap_AndTheButtonBringsTheWindowBack_AtThe
     EXPECT_EQ(Texts(), u"|Smythe"_s);
 }
 
+TEST_F(CompareBranchTest, ButtonOnAnotherRecord_ForgetsThePair_AsAStepByHandDoes)
+{
+    GivenOpenBranch();
+    Compare();
+    ChooseCompare(u"Jones");
+    Search();
+    P.Scratch.ScanState = 2;
+    ASSERT_EQ(P.Compare.FieldStep, 2);
+    Records(P).MoveLast();
+    Click(P.Form1->Command5.Click);
+    EXPECT_EQ(P.Compare.FieldStep, 0);
+    EXPECT_EQ(State(), 0);
+    Search();
+    EXPECT_EQ(ShownPair(), u"A002 B001"_s);
+    EXPECT_EQ(Texts(), u"Jones|Smythe"_s);
+}
+
+TEST_F(CompareBranchTest, ButtonOnTheSameRecord_KeepsThePair)
+{
+    GivenOpenBranch();
+    Compare();
+    ChooseCompare(u"Jones");
+    Search();
+    Click(P.Form6->Command4.Click);
+    Click(P.Form1->Command5.Click);
+    EXPECT_EQ(P.Compare.FieldStep, 2);
+    EXPECT_EQ(Texts(), u"Smith|Smythe"_s);
+    Search();
+    EXPECT_EQ(Texts(), u"John|Jon"_s);
+}
+
+TEST_F(CompareBranchTest, ButtonOnARecordWithANullForename_ShowsItWhole)
+{
+    GivenOpenBranch();
+    Compare();
+    ChooseCompare(u"Jones");
+    ChangeOutside(u'A', "UPDATE Tree99 SET Forename = NULL WHERE File = 'A002'");
+    Records(P).MoveLast();
+    Click(P.Form1->Command5.Click);
+    EXPECT_EQ(ExitCode(), std::nullopt);
+    EXPECT_EQ(ShownPair(), u"A002 B001"_s);
+    EXPECT_EQ(PersonOn(P.Form6->Image1), u"A002"_s);
+    EXPECT_EQ(Surnames(), u"Jones|Smythe"_s);
+    EXPECT_EQ(Forenames(), u"|Jon"_s);
+    EXPECT_EQ(Texts(), u"|Smythe"_s);
+}
+
 TEST_F(CompareBranchTest, Exit_ClosesTheComparedBranch_AndHidesTheButton)
 {
     GivenOpenBranch();
@@ -357,6 +487,20 @@ TEST_F(CompareBranchTest, RecordBar_ShowsTheRecordThatItGoesTo)
     EXPECT_EQ(Forenames(), u"John|Ann"_s);
     EXPECT_EQ(P.Form6->Frame6.Caption.value(), u"Field:"_s);
     EXPECT_EQ(Texts(), u"Smith|"_s);
+}
+
+TEST_F(CompareBranchTest, RecordBar_OnARecordWithANullForename_ShowsItWithout)
+{
+    GivenOpenBranch();
+    Compare();
+    ChooseCompare(u"Jones");
+    ChangeOutside(u'B', "UPDATE Tree99 SET Forename = NULL WHERE File = 'B002'");
+    CompareRecords(P).MoveNext();
+    Click(P.Form6->Data1.Stepped);
+    EXPECT_EQ(ExitCode(), std::nullopt);
+    EXPECT_EQ(ShownPair(), u"A001 B002"_s);
+    EXPECT_EQ(Surnames(), u"Smith|Brown"_s);
+    EXPECT_EQ(Forenames(), u"John|"_s);
 }
 
 } // namespace

@@ -127,6 +127,21 @@ TEST_F(CompareClipboardTest, PasteOfNoText_OrWithoutABox_DoesNothing)
     EXPECT_EQ(P.Form6->Text2.Text.value(), u"John"_s);
 }
 
+TEST_P(BoxTest, PasteFromAWhollyEmptyClipboard_DoesNothing)
+{
+    const auto ours = Rows(u'A');
+    const auto theirs = Rows(u'B');
+    const QString before = TheBox().Text;
+    Select(TheBox(), u"");
+    Machine.Clipboard.Clear();
+    Paste();
+    EXPECT_EQ(TheBox().Text.value(), before);
+    EXPECT_EQ(Rows(u'A'), ours);
+    EXPECT_EQ(Rows(u'B'), theirs);
+    EXPECT_FALSE(Machine.Clipboard.HasText());
+    EXPECT_EQ(ExitCode(), std::nullopt);
+}
+
 TEST_F(CompareClipboardTest, WhatIsTyped_IsNotStored)
 {
     P.Form6->Text2.Text = u"Typed"_s;

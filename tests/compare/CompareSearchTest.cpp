@@ -157,6 +157,53 @@ TEST_F(CompareSearchTest, NullForenameOnAStep_EndsTheProgram)
     EXPECT_EQ(Light(), ByHand);
 }
 
+// Nothing of a record that can't be shown whole.
+TEST_F(CompareSearchTest, NullForenameOnAStep_LeavesTheRecordBeforeInTheWindow)
+{
+    ChangeOutside(u'B', "UPDATE Tree99 SET Forename = NULL WHERE File = 'B002'");
+    const QString text = u"Run-time error '94':\n\nInvalid use of Null\n\n"
+                         u"This field has never been filled in:\nForename\nRecord B002\n"_s +
+                         Home.Path(u"LfgDat_B");
+    Prompts.Expect(u"Lineforge", text, Buttons::Error, Answer::Ok, [&] {
+        EXPECT_EQ(ShownPair(), u"A001 B001"_s);
+        EXPECT_EQ(Pictures(), u"A001 B001"_s);
+        EXPECT_EQ(Surnames(), u"Smith|Smith"_s);
+        EXPECT_EQ(Forenames(), u"John|Jon"_s);
+    });
+    NextCompare();
+}
+
+TEST_F(CompareSearchTest, NullForenameAtReset_LeavesTheSidesAsTheyWere)
+{
+    CompareRecords(P).Edit();
+    CompareRecords(P).Put(u"Forename", std::nullopt);
+    CompareRecords(P).Update();
+    NextCurrent();
+    NextCompare();
+    const QString text = u"Run-time error '94':\n\nInvalid use of Null\n\n"
+                         u"This field has never been filled in:\nForename\nRecord B001\n"_s +
+                         Home.Path(u"LfgDat_B");
+    Prompts.Expect(u"Lineforge", text, Buttons::Error, Answer::Ok, [&] {
+        EXPECT_EQ(ShownPair(), u"A002 B002"_s);
+        EXPECT_EQ(Forenames(), u"Mary|Ann"_s);
+    });
+    Reset();
+}
+
+// The record form is a window beside this one.
+TEST_F(CompareSearchTest, CursorThatTheRecordFormHasMoved_IsShownWithTheFieldThatDiffers)
+{
+    Search();
+    Records(P).MoveLast();
+    P.Compare.FieldStep = 1;
+    Search();
+    EXPECT_EQ(ShownPair(), u"A002 B001"_s);
+    EXPECT_EQ(Pictures(), u"A002 B001"_s);
+    EXPECT_EQ(Surnames(), u"Jones|Smith"_s);
+    EXPECT_EQ(Forenames(), u"Mary|Jon"_s);
+    EXPECT_EQ(Texts(), u"Jones|Smith"_s);
+}
+
 TEST_F(CompareSearchTest, RecordForm_FollowsEveryMove)
 {
     NextCurrent();

@@ -214,6 +214,19 @@ TEST_F(FieldCopyTest, CopyThatTheDatabaseRefuses_LeavesNothingForTheNextSaving)
     EXPECT_EQ(Stored(u'B', "Surname", "B001"), u"their Surname"_s);
 }
 
+TEST_F(FieldCopyTest, CopyThatIsRefused_ShowsTheOldValueAgain_BeforeItIsTold)
+{
+    GivenPair();
+    ChangeOutside(u'B', "CREATE TRIGGER Refusal BEFORE UPDATE ON Tree99 BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    QStringList shown;
+    const auto watch = P.Form6->Text4.Text.OnChange([&] { shown += P.Form6->Text4.Text.value(); });
+    Prompts.Expect(u"Copy Error", u"There is no record to copy across.", Buttons::Information, Answer::Ok,
+                   [&] { EXPECT_EQ(Texts(), u"our Surname|their Surname"_s); });
+    CopyOne();
+    EXPECT_EQ(shown, QStringList({u"our Surname"_s, u"their Surname"_s}));
+    EXPECT_EQ(P.Form6->Text4.Marked.value(), TextRange(0, 4));
+}
+
 TEST_F(FieldCopyTest, SecondAppend_IsNotRecognised)
 {
     GivenPair();

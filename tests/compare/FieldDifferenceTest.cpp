@@ -62,7 +62,11 @@ TEST_F(FieldDifferenceTest, EachPress_ShowsTheNextDifferingField_InTheOrderOfThe
         EXPECT_EQ(Pair(), u"A001 B001"_s);
         EXPECT_EQ(State(), 0);
     }
-    ExpectEndOfRecords();
+    const QString last = Captions();
+    Prompts.Expect(u"Database End of File", u"End of Database Records", Buttons::Information, Answer::Ok, [&] {
+        EXPECT_EQ(Light(), Busy);
+        EXPECT_EQ(Captions(), last);
+    });
     Search();
     EXPECT_EQ(Captions(), u"End of Records Field search |End of Records Field search"_s);
     EXPECT_EQ(Texts(), u"|"_s);
@@ -120,6 +124,35 @@ TEST_F(FieldDifferenceTest, EqualRecords_AreWalkedOverInOnePress_ToTheNextDiffer
     EXPECT_EQ(Pictures(), u"A001 B003"_s);
 }
 
+// Numbers, pictures and names are of the pair that was walked last, also where none of its fields differs.
+TEST_F(FieldDifferenceTest, EndOfAWalkedPair_ShowsThatPairWhole)
+{
+    GivenComparison({Plain(u"A001"), Plain(u"A002", u"Mary")},
+                    {Plain(u"B001", u"Jack"), Plain(u"B002", u"Mary"), Plain(u"B003", u"Jim")});
+    P.Form6->Check2.Value = true;
+    NextCompare();
+    NextCurrent();
+    P.Form6->Text5.Text = u"typed"_s;
+    P.Form6->Text6.Text = u"typed"_s;
+    Search();
+    EXPECT_EQ(State(), 1);
+    EXPECT_EQ(ShownPair(), u"A002 B002"_s);
+    EXPECT_EQ(Pictures(), u"A002 B002"_s);
+    EXPECT_EQ(Surnames(), u"Smith|Smith"_s);
+    EXPECT_EQ(Forenames(), u"Mary|Mary"_s);
+}
+
+TEST_F(FieldDifferenceTest, EndOfAllPairs_ShowsTheLastPairWhole)
+{
+    GivenComparison({Plain(u"A001")}, {Plain(u"B001", u"Jack"), Plain(u"B002")});
+    Search();
+    ASSERT_EQ(Forenames(), u"John|Jack"_s);
+    ExpectEndOfRecords();
+    Search();
+    EXPECT_EQ(ShownPair(), u"A001 B002"_s);
+    EXPECT_EQ(Forenames(), u"John|John"_s);
+}
+
 TEST_F(FieldDifferenceTest, BehindTheLastCompareRecord_TheNextCurrentOneBeginsWithTheFirst)
 {
     GivenComparison({Plain(u"A001"), Plain(u"A002", u"Mary")}, {Plain(u"B001"), Plain(u"B002")});
@@ -160,11 +193,16 @@ TEST_F(FieldDifferenceTest, NullForename_IsShownEmptyAtADifference)
     EXPECT_EQ(ExitCode(), std::nullopt);
 }
 
-TEST_F(FieldDifferenceTest, NullForenameOfTheNextRound_EndsTheProgram)
+TEST_F(FieldDifferenceTest, NullForenameOfTheNextRound_EndsTheProgram_OverThePairBefore)
 {
-    GivenComparison({Plain(u"A001"), {{u"File", u"A002"}, {u"Surname", u"Smith"}}}, {Plain(u"B001")});
-    ExpectFatalBox(u"Run-time error '94':\n\nInvalid use of Null",
-                   u"This field has never been filled in:\n"_s + u"Forename\nRecord A002\n" + Home.Path(u"LfgDat_A"));
+    GivenComparison({Plain(u"A001"), {{u"File", u"A002"}, {u"Surname", u"Smith"}}}, {Plain(u"B001"), Plain(u"B002")});
+    const QString text = u"Run-time error '94':\n\nInvalid use of Null\n\n"
+                         u"This field has never been filled in:\nForename\nRecord A002\n"_s +
+                         Home.Path(u"LfgDat_A");
+    Prompts.Expect(u"Lineforge", text, Buttons::Error, Answer::Ok, [&] {
+        EXPECT_EQ(ShownPair(), u"A001 B002"_s);
+        EXPECT_EQ(Forenames(), u"John|John"_s);
+    });
     Search();
     EXPECT_TRUE(ExitCode().has_value());
 }
