@@ -37,7 +37,9 @@ void TextBox::ReplaceSelection(const QString& text)
     const qsizetype room =
         MaxLength > 0 ? std::max<qsizetype>(0, MaxLength - (start + before.size() - rest)) : text.size();
     const QString taken = text.left(room);
-    Text = QString(before.first(start) + taken + before.sliced(rest));
+    // Nothing put in the place of nothing is no edit: a field that was never filled in stays so.
+    if (const QString after = before.first(start) + taken + before.sliced(rest); after != before)
+        Text = after;
     SelStart = static_cast<int>(start + taken.size());
     SelText.clear();
     Fire(CaretMoved);

@@ -122,6 +122,12 @@ void DataControl::DropEdits()
         binding.IsEdited = false;
 }
 
+void DataControl::GiveUpEdits()
+{
+    DropEdits();
+    MarkStale();
+}
+
 void DataControl::MarkStale()
 {
     if (!std::exchange(stale_, true))

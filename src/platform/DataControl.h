@@ -36,6 +36,9 @@ public:
     // Brings the bound controls up to date and lets a walk rest. Called by the event loop.
     void Settle() override;
 
+    // Gives up what is typed and pending; the bound controls show the record again.
+    void GiveUpEdits();
+
     // The user has moved to another record by the control's own buttons.
     Event Stepped;
 

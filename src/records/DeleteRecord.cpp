@@ -8,7 +8,7 @@
 #include "program/AlternateBranch.h"
 #include "program/BranchPaths.h"
 #include "program/BranchUi.h"
-#include "program/WorkDatabase.h"
+#include "program/Position.h"
 #include "records/RecordPicture.h"
 
 namespace lineforge
@@ -82,7 +82,8 @@ bool TakeOut(Program& p)
     return false;
 }
 
-// The files go last, so that a record which can't be deleted keeps its own.
+// The files go last, so that a record which can't be deleted keeps its own. What is typed goes with the record, or
+// stays pending with it.
 void DeleteWithFiles(Program& p)
 {
     const QString file = Records(p).Text(u"File");
@@ -102,20 +103,19 @@ void DeleteRecord(Program& p)
         ClearMapCursor(p);
     if (!Records(p).HasRow())
         return;
-    // A scan that runs on under the questions must not choose another record.
     const Bookmark asked = Records(p).GetBookmark();
     if (p.Branch.UsingAlternate == 1) {
         if (!ConfirmUnlinking(p))
             return;
-        Records(p).SetBookmark(asked);
+        StandOn(p, asked);
         Unlink(p);
     } else {
         if (!ConfirmDeletion(p))
             return;
-        Records(p).SetBookmark(asked);
+        StandOn(p, asked);
         DeleteWithFiles(p);
     }
-    ShowRecordPicture(p);
+    p.Errors.Ignoring([&] { ShowRecordPicture(p); });
 }
 
 } // namespace lineforge

@@ -10,6 +10,7 @@
 #include "program/BranchUi.h"
 #include "program/WorkDatabase.h"
 #include "records/RecordForm.h"
+#include "records/RecordPicture.h"
 
 namespace lineforge
 {
@@ -82,7 +83,7 @@ void LeaveGalleryForTree(Program& p)
 void LeaveGalleryForRecords(Program& p)
 {
     forms::Form3& form = *p.Form3;
-    p.Errors.Ignoring([&] { LoadSubjectPicture(p, form.Image1); });
+    ShowNamedPicture(p);
     form.Show();
     p.Form5->Hide();
     if (p.Branch.UsingAlternate == 1)

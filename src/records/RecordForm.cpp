@@ -10,6 +10,7 @@
 #include "program/AlternateBranch.h"
 #include "program/BranchUi.h"
 #include "program/WorkDatabase.h"
+#include "records/RecordPicture.h"
 
 namespace lineforge
 {
@@ -104,7 +105,7 @@ void ShowRecordForm(Program& p)
     if (p.Branch.UsingAlternate == 1)
         for (Button forms::Form3::*transport : forms::Form3::Transport)
             (form.*transport).Enabled = false;
-    p.Errors.Ignoring([&] { LoadSubjectPicture(p, form.Image1); });
+    ShowNamedPicture(p);
     p.Record.sShownName = form.Text3.Text;
     form.Show();
     ClearMapCursor(p);

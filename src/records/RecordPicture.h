@@ -12,4 +12,7 @@ void ShowRecordPicture(Program& p, const QString& directory);
 // From the branch's own directory.
 void ShowRecordPicture(Program& p);
 
+// The picture that `sPicFile` names, in the same way.
+void ShowNamedPicture(Program& p);
+
 } // namespace lineforge

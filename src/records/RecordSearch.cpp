@@ -125,22 +125,11 @@ void SearchByBirthPlace(Program& p)
         {u"Enter the BirthPlace"_s, u"No Match Found for BirthPlace: "_s, {u"BirthPlace"}, Picture::AfterTheQuestion});
 }
 
-// In the order in which they are tested. The number, the gender and the spouse's number are left out.
 void SearchByWord(Program& p)
 {
     Run(p, {u"Enter the search Word or partial Word "_s,
             u"No Match Found for search Word: "_s,
-            {u"FatherRec",        u"MotherRec",
-             u"Surname",          u"Forename",
-             u"Nationality",      u"BirthDate",
-             u"BirthPlace",       u"Spouse",
-             u"Children",         u"Education",
-             u"Profession",       u"Deceased",
-             u"BirthCertificate", u"MarriageCertificate",
-             u"DeathCertificate", u"Notes",
-             u"Medical",          u"Maiden",
-             u"PrevChildren",     u"Partner",
-             u"Wedding",          u"WedDate"},
+            {WordFields.begin(), WordFields.end()},
             Picture::BeforeTheQuestion});
 }
 

@@ -11,10 +11,11 @@
 #include "platform/Text.h"
 #include "program/AlternateBranch.h"
 #include "program/BranchPaths.h"
+#include "program/Position.h"
 #include "program/RecordFields.h"
-#include "program/WorkDatabase.h"
 
 #include <array>
+#include <optional>
 
 namespace lineforge
 {
@@ -48,13 +49,26 @@ QString AskDestination(Program& p)
     return {};
 }
 
-// Null becomes empty text.
-FieldTexts ReadFields(const Recordset& source)
+struct Source {
+    QString File;
+    FieldTexts Texts; // Null becomes empty text
+};
+
+// The record that was current when the user was asked. Nothing when it can't be read any more: the destination would be
+// emptied.
+std::optional<Source> ReadSource(Program& p, const Bookmark& asked)
 {
-    FieldTexts texts;
-    for (std::size_t at = 0; at < CopyFieldList.size(); ++at)
-        texts[at] = source.Text(CopyFieldList[at]);
-    return texts;
+    try {
+        StandOn(p, asked);
+        const Recordset& records = Records(p);
+        Source source{records.Text(u"File"), {}};
+        for (std::size_t at = 0; at < CopyFieldList.size(); ++at)
+            source.Texts[at] = records.Text(CopyFieldList[at]);
+        return source;
+    } catch (const RuntimeError& error) {
+        p.Errors.Last = error;
+        return std::nullopt;
+    }
 }
 
 QString PictureFile(const QString& workDir, const QString& file)
@@ -153,21 +167,19 @@ void TransferRecord(Program& p)
                         u"that Tree Branch to Transfer this Record."_s))
         return;
     p.Errors.Ignoring([&] { Records(p).Update(); });
-    // Without a source the destination would be emptied.
     if (!Records(p).HasRow())
         return;
-    // A scan that runs on under the questions must not choose another one.
     const Bookmark asked = Records(p).GetBookmark();
     const QString destination = AskDestination(p);
     if (destination.isEmpty())
         return;
 
-    Records(p).SetBookmark(asked);
-    const QString source = Records(p).Text(u"File");
-    const FieldTexts texts = ReadFields(Records(p));
-    const QString picture = PictureFile(p.Branch.WorkDir, source);
+    const std::optional<Source> source = ReadSource(p, asked);
+    if (!source)
+        return;
+    const QString picture = PictureFile(p.Branch.WorkDir, source->File);
     QString directory = p.Branch.WorkDir;
-    if (const QString letter = destination.first(1); !SameText(letter, source.left(1))) {
+    if (const QString letter = destination.first(1); !SameText(letter, source->File.left(1))) {
         directory = SiblingDirectory(directory, letter);
         LeaveToolsIfOpen(p);
         if (OpenBranchOf(p, letter)) {
@@ -177,7 +189,7 @@ void TransferRecord(Program& p)
         }
     }
     if (CopyPicture(p, picture, PictureFile(directory, destination)) && FindDestination(p, destination))
-        OverwriteRecord(p, texts);
+        OverwriteRecord(p, source->Texts);
 }
 
 } // namespace lineforge

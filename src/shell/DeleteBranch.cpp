@@ -84,8 +84,11 @@ void DeleteBranch(Program& p)
     const QString directory = p.Branch.WorkDir;
     RemoveDirectory(p, GalleryDirectory(directory));
     p.Errors.Ignoring([&] { RemoveAlias(p, p.Branch.sBranchName); });
-    if (p.Form3.IsLoaded())
+    if (p.Form3.IsLoaded()) {
         p.Form3->Caption = u"Lineforge. "_s;
+        // What is typed goes with its record; refused by the database, it would hold the form and the file.
+        p.Form3->Data1.GiveUpEdits();
+    }
     // Before the labels are emptied, which hang on its records.
     p.Errors.Ignoring([&] { p.Form3.Unload(); });
     ShowNoBranch(p);

@@ -1,5 +1,6 @@
 #include "records/AddRecord.h"
 
+#include "gedcom/Lineage.h"
 #include "records/RecordTest.h"
 #include "support/Pixels.h"
 
@@ -110,6 +111,44 @@ TEST_F(AddRecordTest, NewRecord_HasNoBox_AndTheMapStaysAsItWas)
     EXPECT_EQ(ShownRef(), ref);
     for (int row = 0; row < 4; ++row)
         EXPECT_NE(P.Map.BoxArr[row][BoxColumn::File].Text(), u"A004"_s);
+}
+
+TEST_F(AddRecordTest, RecordWithoutABox_IsReachedBySearch_AndShownOnTheMapWithoutAMarker)
+{
+    Add(u"A004");
+    P.Form3->Text3.Text = u"Unmapped"_s;
+    Records(P).MoveFirst();
+    P.Form3->Command2.Click();
+    ASSERT_TRUE(P.Form1->Shape1.Visible);
+    GivenRecordForm();
+    Prompts.ExpectInput(u"Search Database", u"Enter the Data Reference number", u"a004");
+    P.Form3->mnuSearchDataRef.Click();
+    EXPECT_EQ(P.Form3->Text3.Text.value(), u"Unmapped"_s);
+    EXPECT_EQ(ColourOf(P.Form3->Image1), u"blue"_s);
+
+    P.Form3->Command2.Click();
+
+    EXPECT_EQ(ShownRef(), u"Ref  A004"_s);
+    EXPECT_EQ(P.Form1->Label9.Caption.value(), u"Unmapped"_s);
+    EXPECT_EQ(ColourOf(P.Form1->Image1), u"blue"_s);
+    EXPECT_FALSE(P.Form1->Shape1.Visible);
+}
+
+TEST_F(AddRecordTest, RecordWithoutABox_IsReachedByALinkFromAnother)
+{
+    Add(u"A004");
+    P.Form3->Text21.Text = u"A003"_s;
+    Records(P).MoveFirst();
+    P.Form3->Text21.Text = u"a004"_s;
+    Records(P).MoveNext();
+    P.Form12->Text7.Text = u"A001"_s;
+
+    CollectLineage(P);
+
+    EXPECT_EQ(P.Lineage.LineageArr[0][LineageColumn::Indi], u"A001"_s);
+    EXPECT_EQ(P.Lineage.LineageArr[0][LineageColumn::Pa].toUpper(), u"A004"_s);
+    EXPECT_EQ(P.Lineage.LineageArr[1][LineageColumn::Indi].toUpper(), u"A004"_s);
+    EXPECT_EQ(P.Lineage.LineageArr[1][LineageColumn::Pa], u"A003"_s);
 }
 
 TEST_F(AddRecordTest, OnlyTheDatabaseAndThePicture_Change)

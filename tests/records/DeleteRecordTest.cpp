@@ -57,6 +57,16 @@ TEST_F(DeleteRecordTest, BoxIsEmptied_InTheMapFileToo_AndOthersKeepTheirs)
     EXPECT_TRUE(MapOf(u'A').contains("1200,600,255,A001,John,3000,600,255,0,Mary,5000,600,255,A003,Peter,"));
 }
 
+TEST_F(DeleteRecordTest, ForenameTypedAndNotYetStored_TheOneInTheBoxIsWiped)
+{
+    P.Form3->Text3.Text = u"Christopher"_s;
+
+    Delete();
+
+    EXPECT_EQ(CaptionPixels(1200), 0);
+    EXPECT_EQ(Numbers(), QStringList({u"A002"_s, u"A003"_s}));
+}
+
 TEST_F(DeleteRecordTest, BoxIsWipedOfItsCaption_AndTheOthersKeepTheirs)
 {
     Records(P).MoveNext();
@@ -301,15 +311,85 @@ TEST_F(DeleteRecordTest, ReadOnlyDirectory_PicturesAndMapStayWhole)
     EXPECT_EQ(AllRows("File <> 'A001'"), others);
 }
 
-TEST_F(DeleteRecordTest, RefusedByTheDatabase_TheRecordStays_WithoutAWord)
+// What is there of the first record: row, files, and the box in memory, on the screen and on disk.
+class RefusedDeletionTest : public DeleteRecordTest
 {
-    Execute("CREATE TRIGGER Refusal BEFORE DELETE ON Tree99 BEGIN SELECT RAISE(ABORT, 'refused'); END");
-    const auto before = AllRows();
+protected:
+    void RefuseDeletion()
+    {
+        Execute("CREATE TRIGGER Kept BEFORE DELETE ON Tree99 BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    }
+    void RefuseChanges()
+    {
+        Execute("CREATE TRIGGER Refusal BEFORE UPDATE ON Tree99 BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    }
+    void DeleteInVain()
+    {
+        const auto rows = AllRows();
+        const Tree files = Home.Snapshot();
+        const QImage map = ShownBy(P.Form1->Picture1).copy();
+        const auto boxes = P.Map.BoxArr;
+        Delete();
+        EXPECT_EQ(AllRows(), rows);
+        EXPECT_EQ(Differences(files, Home.Snapshot()), QStringList());
+        EXPECT_TRUE(ShownBy(P.Form1->Picture1) == map);
+        for (int row = 0; row <= LastFiledBox; ++row)
+            for (int column = 0; column < BoxColumn::Count; ++column)
+                EXPECT_EQ(P.Map.BoxArr[row][column].Text(), boxes[row][column].Text()) << row << ' ' << column;
+        EXPECT_EQ(Current(), u"A001"_s);
+    }
+};
+
+TEST_F(RefusedDeletionTest, NothingIsLost_AndNothingIsTold)
+{
+    Home.WriteFile(u"LfgDat_A/LfgGal_A/A001_01.jpg", "hers");
+    P.Files.ChDir(Home.Path(u"LfgDat_A/LfgGal_A"));
+    RefuseDeletion();
+
+    DeleteInVain();
+}
+
+TEST_F(RefusedDeletionTest, WithTextsPending_NothingIsLost_AndTheyAreStoredLater)
+{
+    P.Form3->Text2.Text = u"Brown"_s;
+    P.Form3->Text3.Text = u"Christopher"_s;
+    RefuseDeletion();
+    RefuseChanges();
+
+    DeleteInVain();
+
+    EXPECT_EQ(P.Form3->Text2.Text.value(), u"Brown"_s);
+    Execute("DROP TRIGGER Refusal");
+    Records(P).MoveNext();
+    EXPECT_EQ(Stored("Surname"), u"Brown"_s);
+    EXPECT_EQ(Stored("Forename"), u"Christopher"_s);
+}
+
+TEST_F(DeleteRecordTest, ChangesRefused_WithTextsPending_TheRecordGoesAllTheSame)
+{
+    P.Form3->Text3.Text = u"Christopher"_s;
+    Execute("CREATE TRIGGER Refusal BEFORE UPDATE ON Tree99 BEGIN SELECT RAISE(ABORT, 'refused'); END");
 
     Delete();
 
+    EXPECT_EQ(Numbers(), QStringList({u"A002"_s, u"A003"_s}));
+    EXPECT_EQ(CaptionPixels(1200), 0);
+    EXPECT_EQ(P.Form3->Text3.Text.value(), u"Mary"_s);
+}
+
+TEST_F(DeleteRecordTest, LockedByAnotherProgram_WithTextsPending_TheRecordStays_WithoutAWord)
+{
+    const auto before = AllRows();
+    P.Form3->Text2.Text = u"Brown"_s;
+    SqliteFile other(Home.Path(DatabaseFile));
+    other.Execute("BEGIN IMMEDIATE");
+
+    Delete();
+
+    other.Execute("ROLLBACK");
     EXPECT_EQ(AllRows(), before);
-    EXPECT_EQ(Current(), u"A001"_s);
+    EXPECT_TRUE(HasPicture(u"A001"));
+    EXPECT_EQ(P.Form3->Text2.Text.value(), u"Brown"_s);
 }
 
 TEST_F(DeleteRecordTest, LockedByAnotherProgram_TheRecordStays_WithoutAWord)

@@ -126,12 +126,14 @@ TEST_F(GalleryDoorsTest, RecordsButton_ShowsTheRecordWithItsPicture)
     EXPECT_TRUE(TransportIsShown());
 }
 
-TEST_F(GalleryDoorsTest, RecordsButton_WithoutThePicture_ShowsTheRecordAllTheSame)
+TEST_F(GalleryDoorsTest, RecordsButton_WithoutThePicture_ShowsTheRecordAllTheSame_AndNobodyElse)
 {
     PressOnMap();
+    P.Form3->Image1.Picture = P.Form1->Image1.Picture.value();
     P.Files.Kill(Home.Path(u"LfgDat_A/A001Sub.jpg"));
     PressRecords();
     EXPECT_TRUE(P.Form3->Visible);
+    EXPECT_EQ(ColourOf(P.Form3->Image1), u"none"_s);
     EXPECT_EQ(ExitCode(), std::nullopt);
 }
 

@@ -109,6 +109,40 @@ TEST_F(RecordClipboardTest, CutOnABoxThatLostItsSelection_RemovesNothing_ButTheS
     EXPECT_EQ(SurnameText(), u"Smith"_s);
 }
 
+// What has never been filled in stays so.
+TEST_F(RecordClipboardTest, CutOnABoxThatLostItsSelection_LeavesTheStoredField)
+{
+    Records(P).MoveLast();
+    Select(Surname(), 0, u"");
+
+    P.Form3->mnuCut.Click();
+
+    Records(P).MoveFirst();
+    EXPECT_EQ(Stored("Surname", "A003"), std::nullopt);
+}
+
+TEST_F(RecordClipboardTest, PasteOfNothingWithoutSelection_LeavesTheStoredField)
+{
+    Records(P).MoveLast();
+    Text() = QString();
+    Select(Surname(), 0, u"");
+
+    P.Form3->mnuPaste.Click();
+
+    Records(P).MoveFirst();
+    EXPECT_EQ(Stored("Surname", "A003"), std::nullopt);
+}
+
+TEST_F(RecordClipboardTest, PasteOfNothingAtAll_DoesNothing)
+{
+    Machine.Clipboard.Clear();
+    Select(Surname(), 0, u"Smith");
+
+    P.Form3->mnuPaste.Click();
+
+    EXPECT_EQ(SurnameText(), u"Smith"_s);
+}
+
 TEST_F(RecordClipboardTest, CutWithAnotherSelectionByNow_RemovesThat_AndCopiesTheStoredText)
 {
     Select(Surname(), 1, u"mit");

@@ -105,14 +105,32 @@ TEST_P(OpenFormTest, EndsAPendingMappingOrRepositioning)
     }
 }
 
-TEST_P(OpenFormTest, MissingPicture_IsPassedOver)
+TEST_P(OpenFormTest, MissingPicture_LeavesItsPlaceEmpty_NotWithThePersonBefore)
 {
-    RemovePicture(u"A001");
+    Open();
+    ASSERT_EQ(ColourOf(P.Form3->Image1), u"red"_s);
+    RemovePicture(u"A002");
+    Records(P).MoveNext();
 
     Open();
 
     EXPECT_TRUE(P.Form3->Visible);
-    EXPECT_EQ(P.Record.sPicFile, u"A001Sub.Jpg"_s);
+    EXPECT_EQ(P.Record.sPicFile, u"A002Sub.Jpg"_s);
+    EXPECT_EQ(ColourOf(P.Form3->Image1), u"none"_s);
+}
+
+TEST_P(OpenFormTest, BranchWithoutRecords_ShowsNobodysPicture)
+{
+    Open();
+    ASSERT_EQ(ColourOf(P.Form3->Image1), u"red"_s);
+    ExpectEmptyBox();
+    Choose(u"Nobody");
+
+    Open();
+
+    EXPECT_EQ(ColourOf(P.Form3->Image1), u"none"_s);
+    EXPECT_EQ(ColourOf(P.Form1->Image1), u"none"_s);
+    EXPECT_EQ(P.Form3->Text3.Text.value(), QString());
 }
 
 TEST_P(OpenFormTest, OwnRecord_LeavesTheScannersButtonsOn)

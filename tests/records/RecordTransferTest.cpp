@@ -367,6 +367,50 @@ TEST_F(RecordTransferTest, RefusedByTheDatabase_EndsTheProgram_WithTheRecordsWho
     EXPECT_EQ(Rows("1"), before);
 }
 
+// The steps up to the copying of the picture pass over what is refused; the record can't be left then.
+TEST_F(RecordTransferTest, TextsPendingThatCannotBeStored_EndTheProgramNoSoonerThanTheWalk)
+{
+    P.Form3->Text2.Text = u"Brown"_s;
+    const auto before = Rows("1");
+    Execute("CREATE TRIGGER Refusal BEFORE UPDATE ON Tree99 BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    ExpectTransferTo(u"A002");
+    ExpectFatalBox(u"Run-time error '57':\n\nDevice I/O error",
+                   u"The disk failed at this:\n"_s + Home.Path(u"LfgDat_A/LfgDat_A.mdb") + u"\nRecord A001");
+
+    Click(P.Form3->MnuRecTransfer.Click);
+
+    EXPECT_EQ(PictureOf(u"A002"), Red);
+    EXPECT_EQ(Rows("1"), before);
+}
+
+TEST_F(RecordTransferTest, TextsPendingThatCannotBeStored_StayPending_WhenTheUserGivesUp)
+{
+    P.Form3->Text2.Text = u"Brown"_s;
+    Execute("CREATE TRIGGER Refusal BEFORE UPDATE ON Tree99 BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    TransferTo(u"");
+
+    EXPECT_EQ(P.Form3->Text2.Text.value(), u"Brown"_s);
+    Execute("DROP TRIGGER Refusal");
+    Records(P).MoveNext();
+    EXPECT_EQ(Stored("Surname"), u"Brown"_s);
+}
+
+// The scan has gone on under the question, so that the record must be read anew.
+TEST_F(RecordTransferTest, RecordThatIsGoneByThen_IsNotTransferred_WithoutAWord)
+{
+    ExpectConfirmation(Answer::Ok);
+    Prompts.ExpectInput(u"Data Record Destination.", u"Enter Destination Data Ref Number.", u"A002", [&] {
+        Records(P).MoveNext();
+        Records(P).Rest();
+        Execute("DELETE FROM Tree99 WHERE File = 'A001'");
+    });
+
+    Press();
+
+    EXPECT_EQ(Stored("Forename", "A002"), u"Mary"_s);
+    EXPECT_EQ(PictureOf(u"A002"), Green);
+}
+
 TEST_F(RecordTransferTest, DatabaseTurnedReadOnly_WhatIsOpenIsStillWritten)
 {
     const auto others = Rows("File <> 'A002'");

@@ -3,6 +3,7 @@
 #include "program/AlternateBranch.h"
 #include "program/WorkDatabase.h"
 #include "support/Pixels.h"
+#include "support/SqliteFile.h"
 
 #include <QDir>
 
@@ -172,6 +173,23 @@ TEST_F(DeleteBranchTest, FileThatCantBeRemoved_StaysWithItsDirectory_InSilence)
     EXPECT_FALSE(Home.Exists(u"LfgDat_A/LfgDat_A.mdb"));
     EXPECT_FALSE(Registry().contains("Smiths"));
     EXPECT_EQ(ExitCode(), std::nullopt);
+}
+
+// What is typed and can't be stored would hold the form, and with it the database that is being removed.
+TEST_F(DeleteBranchTest, TextPendingThatCannotBeStored_GoesWithTheBranch_AndAnotherOpensAfterwards)
+{
+    Click(P.Form1->Command1.Click);
+    SqliteFile(Home.Path(u"LfgDat_A/LfgDat_A.mdb"))
+        .Execute("CREATE TRIGGER Refusal BEFORE UPDATE ON Tree99 BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    P.Form3->Text2.Text = u"Brown"_s;
+
+    DeleteForGood();
+
+    EXPECT_FALSE(P.Form3.IsLoaded());
+    EXPECT_FALSE(Home.Exists(u"LfgDat_A"));
+    Choose(u"Jones");
+    EXPECT_EQ(Records(P).Text(u"File"), u"B001"_s);
+    EXPECT_EQ(Records(P).Text(u"Surname"), u"Smith"_s);
 }
 
 TEST_F(DeleteBranchTest, LetterThatIsLeftOnTheDisk_CountsAsTaken)
