@@ -4,7 +4,7 @@ include(GNUInstallDirs)
 
 # What a user's work has changed in a home is never touched: the registry and the example home are put down only where
 # there is none yet, and branch directories are none of our files.
-install(TARGETS lineforge lineforge_notepad RUNTIME DESTINATION . COMPONENT home)
+install(TARGETS lineforge lineforge_notepad lineforge_check RUNTIME DESTINATION . COMPONENT home)
 if(TARGET lineforge_jet)
     install(TARGETS lineforge_jet RUNTIME DESTINATION . COMPONENT home)
 endif()
@@ -27,5 +27,9 @@ install_on_system(FILES data/desktop/lineforge.desktop ${CMAKE_INSTALL_DATADIR}/
 install_on_system(FILES data/desktop/technology.tarnwick.Lineforge.metainfo.xml ${CMAKE_INSTALL_DATADIR}/metainfo)
 install_on_system(FILES data/lineforge.svg ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install_on_system(DIRECTORY ${CMAKE_BINARY_DIR}/theme-icons/ ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
+# The check asks nothing of where it stands.
+file(CREATE_LINK ../lib/lineforge/lineforge-check ${CMAKE_BINARY_DIR}/lineforge-check.link SYMBOLIC)
+install_on_system(FILES ${CMAKE_BINARY_DIR}/lineforge-check.link ${CMAKE_INSTALL_BINDIR} RENAME lineforge-check)
 install_on_system(FILES ${CMAKE_BINARY_DIR}/lineforge.1.gz ${CMAKE_INSTALL_MANDIR}/man1)
+install_on_system(FILES ${CMAKE_BINARY_DIR}/lineforge-check.1.gz ${CMAKE_INSTALL_MANDIR}/man1)
 install_on_system(FILES packaging/copyright ${CMAKE_INSTALL_DATADIR}/doc/lineforge)

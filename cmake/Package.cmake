@@ -28,11 +28,13 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # What the program loads or reads by name, so that no look at its libraries shows it.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation, gstreamer1.0-plugins-good, qt6-qpa-plugins")
 
-add_custom_command(
-    OUTPUT ${CMAKE_BINARY_DIR}/lineforge.1.gz
-    COMMAND gzip -9cn ${PROJECT_SOURCE_DIR}/data/desktop/lineforge.1 > ${CMAKE_BINARY_DIR}/lineforge.1.gz
-    DEPENDS ${PROJECT_SOURCE_DIR}/data/desktop/lineforge.1
-    VERBATIM)
-add_custom_target(manual_page ALL DEPENDS ${CMAKE_BINARY_DIR}/lineforge.1.gz)
+foreach(page lineforge.1 lineforge-check.1)
+    add_custom_command(
+        OUTPUT ${CMAKE_BINARY_DIR}/${page}.gz
+        COMMAND gzip -9cn ${PROJECT_SOURCE_DIR}/data/desktop/${page} > ${CMAKE_BINARY_DIR}/${page}.gz
+        DEPENDS ${PROJECT_SOURCE_DIR}/data/desktop/${page}
+        VERBATIM)
+endforeach()
+add_custom_target(manual_pages ALL DEPENDS ${CMAKE_BINARY_DIR}/lineforge.1.gz ${CMAKE_BINARY_DIR}/lineforge-check.1.gz)
 
 include(CPack)

@@ -55,7 +55,7 @@ bool NextSectionIs(TextReader& reader, QStringView rest)
 }
 
 // After a name that isn't the expected one the search goes on for the first section, in what is left of the file.
-void ReadLists(TextReader& reader, MapState& map)
+bool ReadLists(TextReader& reader, MapState& map)
 {
     while (reader.SkipPast(u"[Boxes]")) {
         ReadUpToBracket(reader, map.sBoxesText);
@@ -65,8 +65,9 @@ void ReadLists(TextReader& reader, MapState& map)
         if (!NextSectionIs(reader, u"Text]"))
             continue;
         ReadToEnd(reader, map.sTextsText);
-        return;
+        return true;
     }
+    return false;
 }
 
 void WarnOfFirstEmptyList(Program& p)
@@ -122,9 +123,14 @@ void ReadMapFile(Program& p)
                          u"You need to create a new Ancestral Map for this Database."_s, Buttons::Information);
         return;
     }
-    TextReader reader(p.Files, file);
-    ReadLists(reader, p.Map);
+    ReadMapLists(p.Files, file, p.Map);
     WarnOfFirstEmptyList(p);
+}
+
+bool ReadMapLists(const FileSystem& files, const QString& path, MapState& map)
+{
+    TextReader reader(files, path);
+    return ReadLists(reader, map);
 }
 
 void WriteMapFile(Program& p)

@@ -2,6 +2,7 @@
 
 #include "map/BoxCaptions.h"
 #include "map/MapItems.h"
+#include "map/MapValues.h"
 #include "platform/Number.h"
 #include "program/WorkDatabase.h"
 
@@ -10,27 +11,6 @@ namespace lineforge
 
 namespace
 {
-constexpr qsizetype shortestList = 9; // characters; what is shorter counts as empty, without a word
-
-// Calls store(row, column, value) for each value that a comma ends, `columns` values to a row; returns how many rows
-// were filled.
-template <class Store>
-int ForEachValue(const QString& list, int columns, Store&& store)
-{
-    int row = 0;
-    int column = 0;
-    qsizetype start = 0;
-    for (qsizetype comma = list.indexOf(u','); comma >= 0; comma = list.indexOf(u',', start)) {
-        store(row, column, list.mid(start, comma - start));
-        start = comma + 1;
-        if (++column == columns) {
-            column = 0;
-            ++row;
-        }
-    }
-    return row;
-}
-
 // The highest row that `rows` filled rows can have reached in an array.
 int HighestRow(int rows)
 {
@@ -50,7 +30,7 @@ void DrawAllCaptions(Program& p)
 
 void ParseBoxes(Program& p)
 {
-    if (p.Map.sBoxesText.size() < shortestList)
+    if (CountsAsEmpty(p.Map.sBoxesText))
         return;
     const int rows = ForEachValue(p.Map.sBoxesText, BoxColumn::Count, [&](int row, int column, const QString& value) {
         if (row > LastMapRow)
@@ -67,7 +47,7 @@ void ParseBoxes(Program& p)
 void ParseLines(Program& p)
 {
     MapSurface(p).ForeColor = Black;
-    if (p.Map.sLinesText.size() < shortestList)
+    if (CountsAsEmpty(p.Map.sLinesText))
         return;
     const int rows = ForEachValue(p.Map.sLinesText, LineColumn::Count, [&](int row, int column, const QString& value) {
         p.Map.LineArr[row][column] = ToLong(value);
@@ -80,7 +60,7 @@ void ParseLines(Program& p)
 void ParseTexts(Program& p)
 {
     p.Map.STexts = -1;
-    if (p.Map.sTextsText.size() < shortestList)
+    if (CountsAsEmpty(p.Map.sTextsText))
         return;
     const int rows = ForEachValue(p.Map.sTextsText, TextColumn::Count, [&](int row, int column, const QString& value) {
         if (row > LastMapRow)

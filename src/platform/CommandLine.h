@@ -14,11 +14,13 @@ struct CommandDescription {
     const char* Purpose;  // whole lines
     int LeastOperands = 0;
     int MostOperands = 1;
-    bool HasWindows = true; // and so takes the two options that desktops and toolkits give such a program
+    bool HasWindows = true;     // and so takes the two options that desktops and toolkits give such a program
+    const char* Flag = nullptr; // the name of an option of its own
 };
 
 struct CommandLine {
     std::vector<std::string> Operands; // in the bytes in which they were given
+    bool HasFlag = false;              // its own option is among them
     std::optional<int> ExitStatus;     // set when there is nothing more to do
 };
 

@@ -3,10 +3,9 @@
 #include "platform/Number.h"
 #include "platform/Text.h"
 #include "platform/TextFile.h"
+#include "program/AliasFile.h"
 
 #include <algorithm>
-#include <functional>
-#include <utility>
 
 namespace lineforge
 {
@@ -42,21 +41,6 @@ bool CanRead(Program& p)
     return true;
 }
 
-// Hands over each value of a section that a comma ends. Brackets and line ends between values don't count, so that
-// the bracket which opens the section's line is passed over, and with it any that stands in a value.
-void ReadSection(TextReader& reader, QStringView section, const std::function<void(const QString&)>& take)
-{
-    if (!reader.SkipPast(section))
-        return;
-    QString value;
-    for (QChar character = reader.Next(); character != u']'; character = reader.Next()) {
-        if (character == u',')
-            Concerning(reader.Path(), [&] { take(std::exchange(value, QString())); });
-        else if (character != u'[' && character != u'\n' && character != u'\r')
-            value += character;
-    }
-}
-
 // Where the entry of that name begins in the list; -1 for none.
 qsizetype EntryOf(const QString& aliasList, const QString& name)
 {
@@ -82,8 +66,8 @@ void ReadAliasConfig(Program& p)
 {
     if (!CanRead(p))
         return;
-    TextReader reader(p.Files, ListPath(p));
-    ReadSection(reader, u"[CFG]", [&](const QString& value) { p.Alias.NoSplash = ToInteger(value); });
+    ReadAliasSection(p.Files, ListPath(p), AliasSection::Settings,
+                     [&](const QString& value) { p.Alias.NoSplash = ToInteger(value); });
 }
 
 void ReadAliasList(Program& p)
@@ -92,9 +76,8 @@ void ReadAliasList(Program& p)
         return;
     p.Alias.AliasTable.Erase();
     p.Alias.sAliasList.clear();
-    TextReader reader(p.Files, ListPath(p));
     int index = 0;
-    ReadSection(reader, u"[Alias]", [&](const QString& entry) {
+    ReadAliasSection(p.Files, ListPath(p), AliasSection::Branches, [&](const QString& entry) {
         p.Alias.AliasTable[index++] = entry;
         p.Alias.sAliasList += entry + u',';
     });

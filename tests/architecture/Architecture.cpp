@@ -22,6 +22,7 @@ const QString main = u"main"_s;
 const QString qtFolder = u"platform/qt"_s;
 const QString editor = u"editor"_s;
 const QString jet = u"jet"_s;
+const QString check = u"check"_s;
 
 // The tower, from the ground up; folders of one storey know nothing of each other.
 const QList<QStringList> storeys{{u"platform"_s},
@@ -31,7 +32,7 @@ const QList<QStringList> storeys{{u"platform"_s},
                                  {u"output"_s, u"interchange"_s},
                                  {u"records"_s},
                                  {u"shell"_s},
-                                 {qtFolder, editor, jet, main}};
+                                 {qtFolder, editor, jet, check, main}};
 
 // The folder that a file counts to: the first part of its path, but platform/qt is one of its own.
 QString FolderOf(const QString& file)

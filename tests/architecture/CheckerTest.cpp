@@ -115,6 +115,12 @@ INSTANTIATE_TEST_SUITE_P(
            Step{u"platform/qt/A.h"_s, u"editor/B.h"_s, false}, Step{u"shell/A.h"_s, u"editor/B.h"_s, false},
            Step{u"main.cpp"_s, u"editor/B.h"_s, false}));
 
+INSTANTIATE_TEST_SUITE_P(OfTheCheckOfAHome, TowerTest,
+                         Values(Step{u"check/A.h"_s, u"map/B.h"_s, true}, Step{u"check/A.h"_s, u"check/B.h"_s, true},
+                                Step{u"check/A.h"_s, u"platform/qt/B.h"_s, false},
+                                Step{u"check/A.h"_s, u"jet/B.h"_s, false}, Step{u"main.cpp"_s, u"check/B.h"_s, false},
+                                Step{u"shell/A.h"_s, u"check/B.h"_s, false}));
+
 TEST(TowerEdgeTest, UnknownFolder_HasNoPlace)
 {
     EXPECT_EQ(IncludesAgainstTheTower({{u"helpers/A.h"_s, u""_s}}),

@@ -41,6 +41,7 @@ TEST_F(InstallTest, PutsTheHomeIntoOneDirectory_AndNothingOfTheMachines)
     Install(In(u"home"_s));
     EXPECT_TRUE(QFileInfo(In(u"home/lineforge"_s)).isExecutable());
     EXPECT_TRUE(QFileInfo(In(u"home/Notepad.exe"_s)).isExecutable());
+    EXPECT_TRUE(QFileInfo(In(u"home/lineforge-check"_s)).isExecutable());
     EXPECT_TRUE(QFileInfo::exists(In(u"home/AliasList.cfg"_s)));
     EXPECT_TRUE(QFileInfo::exists(In(u"home/examples/LfgDat_A/LfgDat_A.mdb"_s)));
     EXPECT_FALSE(QFileInfo::exists(In(u"home/bin"_s)));

@@ -22,7 +22,7 @@ const QString tar = QStringLiteral(LINEFORGE_PACKAGES "/tar/");
 const QString metainfo = deb + u"usr/share/metainfo/technology.tarnwick.Lineforge.metainfo.xml";
 const QString desktopEntry = deb + u"usr/share/applications/lineforge.desktop";
 
-constexpr const char* programs[]{"Notepad.exe", "lineforge"
+constexpr const char* programs[]{"Notepad.exe", "lineforge", "lineforge-check"
 #ifdef LINEFORGE_HAS_JET
                                  ,
                                  "lineforge-jet"
@@ -67,7 +67,8 @@ struct Unpacked {
 Unpacked Deb()
 {
     return {deb, deb + u"usr/lib/lineforge",
-            Below(u"usr/lib/lineforge"_s, Programs()) + QStringList{u"usr/bin/lineforge"_s}};
+            Below(u"usr/lib/lineforge"_s, Programs()) +
+                QStringList{u"usr/bin/lineforge"_s, u"usr/bin/lineforge-check"_s}};
 }
 
 Unpacked Tar()
@@ -186,6 +187,20 @@ TEST(ProgramCommandLineTest, HomeThatIsNoDirectory_IsToldWithoutADisplay)
     EXPECT_EQ(outcome.Output, u"lineforge: gone is no directory\n");
 }
 
+TEST_P(PackageTest, HomeAsItIsGivenAway_IsInOrder)
+{
+    for (const QString& directory : {package.Home, QString(package.Home + u"/examples")}) {
+        const Outcome verdict = RunCommand(package.Home + u"/lineforge-check", {directory});
+        EXPECT_EQ(verdict.ExitCode, 0) << qUtf8Printable(verdict.Output);
+    }
+}
+
+TEST(DebTest, CheckOfAHome_IsACommand)
+{
+    EXPECT_EQ(QFileInfo(deb + u"usr/bin/lineforge-check").symLinkTarget(),
+              QFileInfo(deb + u"usr/lib/lineforge/lineforge-check").absoluteFilePath());
+}
+
 TEST(TarTest, IsTheHomeAndNothingElse)
 {
     EXPECT_EQ(FilesBelow(tar), Sorted(HomeFiles()));
@@ -197,9 +212,11 @@ TEST(DebTest, HoldsAHomeForTheLauncherAndWhatADesktopAsksFor)
     for (const int edge : {16, 22, 24, 32, 48, 64, 128, 256})
         files += u"usr/share/icons/hicolor/%1x%1/apps/lineforge.png"_s.arg(edge);
     files += {u"usr/bin/lineforge"_s,
+              u"usr/bin/lineforge-check"_s,
               u"usr/share/applications/lineforge.desktop"_s,
               u"usr/share/doc/lineforge/copyright"_s,
               u"usr/share/icons/hicolor/scalable/apps/lineforge.svg"_s,
+              u"usr/share/man/man1/lineforge-check.1.gz"_s,
               u"usr/share/man/man1/lineforge.1.gz"_s,
               u"usr/share/metainfo/technology.tarnwick.Lineforge.metainfo.xml"_s};
     EXPECT_EQ(FilesBelow(deb), Sorted(files));

@@ -1,0 +1,72 @@
+#include "check/LeftoverCheck.h"
+
+#include "gallery/GalleryFile.h"
+
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace lineforge::check
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+struct Sign {
+    QRegularExpression Name;
+    QString Text;
+};
+
+// By whom a file was left is seen by its name alone.
+const std::vector<Sign>& Signs()
+{
+    const auto named = [](const QString& pattern) {
+        return QRegularExpression(QRegularExpression::anchoredPattern(pattern),
+                                  QRegularExpression::CaseInsensitiveOption |
+                                      QRegularExpression::DotMatchesEverythingOption);
+    };
+    static const std::vector<Sign> signs{
+        {named(uR"(\.lineforge-.*)"_s), u"left by a copy that was cut off"_s},
+        {named(uR"(\.arriving-.*)"_s), u"left by a start that was cut off"_s},
+        {named(uR"(.*\.(mdb|jet)\.new(-journal)?)"_s), u"left by a conversion that was cut off"_s},
+        {named(uR"(.*-(journal|wal|shm))"_s),
+         u"left by a change that was cut off, or that is just being made; the next opening sees to it"_s},
+        // What a file of the program's is written to before it takes its name.
+        {named(uR"((|AliasList|(LfgDat|Import)_.|Gedcom|.*Sub|.{4,5}_\d\d?)\.[~a-z]{2,3}\.[a-z]{6})"_s),
+         u"left by a writing that was cut off"_s},
+    };
+    return signs;
+}
+
+const Sign* SignOf(const QString& name)
+{
+    const auto found =
+        std::ranges::find_if(Signs(), [&](const Sign& sign) { return sign.Name.match(name).hasMatch(); });
+    return found == Signs().end() ? nullptr : &*found;
+}
+
+void CheckDirectory(Home& home, const QString& directory)
+{
+    for (const QString& name : home.Files.Files(directory) + home.Files.Directories(directory))
+        if (const Sign* sign = SignOf(name))
+            home.Add(Kind::Leftover, directory + name, sign->Text);
+}
+} // namespace
+
+void CheckLeftovers(Home& home)
+{
+    CheckDirectory(home, home.Path);
+    for (const Branch& branch : home.Branches) {
+        CheckDirectory(home, branch.Path + PathSeparator);
+        CheckDirectory(home, home.Files.Resolve(GalleryDirectory(branch.Path)) + PathSeparator);
+    }
+}
+
+bool IsLeftover(const QString& name)
+{
+    return SignOf(name) != nullptr;
+}
+
+} // namespace lineforge::check
