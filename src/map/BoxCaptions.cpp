@@ -1,6 +1,7 @@
 #include "map/BoxCaptions.h"
 
 #include "map/CurrentBox.h"
+#include "map/MapFile.h"
 #include "map/MapItems.h"
 #include "platform/Text.h"
 #include "program/AlternateBranch.h"
@@ -38,43 +39,48 @@ Point CaptionPlace(const Program& p, Point offset, int below)
     return OnPaper(p) ? OnMapSurface(p, InBox(p, {offset.X, 0}), below) : InBox(p, offset);
 }
 
-Surface& CaptionSurface(Program& p, Colour pen)
+Surface& CaptionSurface(Program& p)
 {
     Surface& surface = MapSurface(p);
     if (!OnPaper(p))
         ResetMapFont(surface);
-    surface.ForeColor = pen;
+    surface.ForeColor = Black;
     return surface;
 }
 
-// Whether the box of the record is looked for while a subject is being mapped or moved.
-enum class Search { WhilePlacing, Never };
-
-void DrawRecord(Program& p, const Recordset& row, Colour pen, Search search = Search::WhilePlacing)
+void PrintCaption(Program& p, Point place, const QString& text)
 {
-    if (row.Eof())
+    PrintOnMap(CaptionSurface(p), place, text);
+    if (OnPaper(p) || text.isEmpty())
         return;
-    FitForename(p, row);
-    if (search == Search::WhilePlacing && IsPlacingSubject(p))
-        FindBoxOfRecord(p);
-    Surface& surface = CaptionSurface(p, pen);
-    PrintOnMap(surface, CaptionPlace(p, NumberInBox, 10), row.Text(u"File"));
-    surface.PrintAt(CaptionPlace(p, ForenameInBox, 130), p.Record.sForeName);
-    if (OnPaper(p))
-        surface.PrintAt(CaptionPlace(p, ForenameInBox, 260), u"B :"_s + row.Text(u"BirthDate").right(4));
+    QStringList& there = p.Map.Captions[{place.X, place.Y}];
+    if (!there.contains(text))
+        there += text;
 }
 
-void DrawNumber(Program& p, Colour pen)
+// Prints what stands at that place once more, in the colour of the paper. The pen is black afterwards.
+void WipeTexts(Program& p, Point place)
 {
-    if (IsPlacingSubject(p))
-        FindBoxOfRecord(p);
-    PrintOnMap(CaptionSurface(p, pen), CaptionPlace(p, NumberInBox, 40),
-               p.Map.BoxArr[p.Scratch.IdxA][BoxColumn::File].Text());
+    PictureBox& picture = p.Form1->Picture1;
+    const auto there = p.Map.Captions.extract({place.X, place.Y});
+    if (there.empty())
+        return;
+    ResetMapFont(picture);
+    picture.ForeColor = picture.BackColor;
+    for (const QString& text : there.mapped())
+        PrintOnMap(picture, place, text);
+    picture.ForeColor = Black;
 }
 
 QString FiledNumber(const Program& p, int row)
 {
     return p.Map.BoxArr[row][BoxColumn::File].Text();
+}
+
+Point PlaceIn(const Program& p, int row, Point offset)
+{
+    const auto& box = p.Map.BoxArr[row];
+    return {box[BoxColumn::X].Number() + offset.X, box[BoxColumn::Y].Number() + offset.Y};
 }
 
 // The cursors on sibling branches of one pass over the boxes, so that each database is opened once.
@@ -106,7 +112,7 @@ private:
 };
 
 // A record of another branch: the program points there for the time of the drawing.
-void DrawForeignCaption(Program& p, Siblings& siblings, int row, Colour pen)
+void DrawForeignCaption(Program& p, Siblings& siblings, int row)
 {
     const QString file = FiledNumber(p, row);
     KeepOwnDirectories(p);
@@ -117,13 +123,13 @@ void DrawForeignCaption(Program& p, Siblings& siblings, int row, Colour pen)
 
     TakeBoxPosition(p, row);
     if (const Recordset* record = siblings.Find(file))
-        DrawRecord(p, *record, pen);
+        DrawRecordInBox(p, *record);
     else
-        DrawNumber(p, pen);
+        DrawBoxNumber(p);
 }
 
 // The caption of a box by its number alone: without a walk through the own branch's table.
-void DrawCaption(Program& p, Siblings& siblings, int row, Colour pen)
+void DrawCaption(Program& p, Siblings& siblings, int row)
 {
     p.Scratch.IdxA = row;
     const QString letter = FiledNumber(p, row).left(1);
@@ -132,12 +138,12 @@ void DrawCaption(Program& p, Siblings& siblings, int row, Colour pen)
     const bool isOwn = SameText(letter, BranchLetter(p.Branch.WorkDir));
     // A box at no possible place costs its own caption, not those of the boxes behind it.
     p.Errors.Ignoring([&] {
-        // The neighbours of an imported branch can't be reached.
+        // The neighbours of an imported branch can't be reached. Their numbers, too, stand in their own boxes.
         if (isOwn || IsImported(p.Branch.WorkDir)) {
             TakeBoxPosition(p, row);
-            DrawNumber(p, pen);
+            DrawBoxNumber(p);
         } else {
-            DrawForeignCaption(p, siblings, row, pen);
+            DrawForeignCaption(p, siblings, row);
         }
     });
 }
@@ -156,10 +162,11 @@ QMultiHash<QString, int> BoxesByRecord(const MapState& map)
 QString FittedForename(const QString& forename)
 {
     constexpr qsizetype room = 8;
-    if (forename.size() < room)
-        return forename;
-    const qsizetype blank = forename.indexOf(u' ');
-    const QString first = blank < 0 ? forename : forename.first(blank);
+    const QString filed = FiledForename(forename);
+    if (filed.size() < room)
+        return filed;
+    const qsizetype blank = filed.indexOf(u' ');
+    const QString first = blank < 0 ? filed : filed.first(blank);
     return first.size() < room ? first : first.first(5) + u'\'' + first.back();
 }
 
@@ -173,18 +180,17 @@ void FitForename(Program& p)
     FitForename(p, Records(p));
 }
 
-void PrintForename(Program& p, Point corner, const QString& forename, Colour pen)
-{
-    PictureBox& picture = p.Form1->Picture1;
-    picture.Font = {};
-    picture.ForeColor = pen;
-    picture.PrintAt({corner.X + ForenameInBox.X, corner.Y + ForenameInBox.Y}, forename);
-    picture.ForeColor = Black;
-}
-
 void DrawRecordInBox(Program& p, const Recordset& row)
 {
-    DrawRecord(p, row, Black);
+    if (row.Eof())
+        return;
+    FitForename(p, row);
+    if (IsPlacingSubject(p))
+        FindBoxOfRecord(p);
+    PrintCaption(p, CaptionPlace(p, NumberInBox, 10), row.Text(u"File"));
+    PrintCaption(p, CaptionPlace(p, ForenameInBox, 130), p.Record.sForeName);
+    if (OnPaper(p))
+        PrintCaption(p, CaptionPlace(p, ForenameInBox, 260), u"B :"_s + row.Text(u"BirthDate").right(4));
 }
 
 void DrawRecordInBox(Program& p)
@@ -194,27 +200,16 @@ void DrawRecordInBox(Program& p)
 
 void DrawBoxNumber(Program& p)
 {
-    DrawNumber(p, Black);
+    if (IsPlacingSubject(p))
+        FindBoxOfRecord(p);
+    PrintCaption(p, CaptionPlace(p, NumberInBox, 40), FiledNumber(p, p.Scratch.IdxA));
 }
 
 void DrawBoxCaptions(Program& p)
 {
     Siblings siblings(p);
     for (int row = 0; row <= LastFiledBox; ++row)
-        DrawCaption(p, siblings, row, Black);
-}
-
-void WipeCaption(Program& p, int row)
-{
-    const Colour paper = p.Form1->Picture1.BackColor;
-    if (Records(p).HasRow()) {
-        // Another box may hold the same record, and come first.
-        TakeBoxPosition(p, row);
-        DrawRecord(p, Records(p), paper, Search::Never);
-        return;
-    }
-    Siblings siblings(p);
-    DrawCaption(p, siblings, row, paper);
+        DrawCaption(p, siblings, row);
 }
 
 void DrawRecordsInBoxes(Program& p)
@@ -237,29 +232,38 @@ void DrawRecordsInBoxes(Program& p)
     }
 }
 
+void WipeCaption(Program& p, int row)
+{
+    WipeTexts(p, PlaceIn(p, row, NumberInBox));
+    WipeTexts(p, PlaceIn(p, row, ForenameInBox));
+}
+
+void RenameBox(Program& p, int row, const QString& forename)
+{
+    const Point place = PlaceIn(p, row, ForenameInBox);
+    p.Form1->Picture1.Font = {};
+    WipeTexts(p, place);
+    p.Map.BoxArr[row][BoxColumn::Forename] = FiledForename(forename);
+    PrintCaption(p, place, FittedForename(forename));
+}
+
 void EraseBoxCaption(Program& p)
 {
-    const bool isAlternate = p.Branch.UsingAlternate == 1;
-    if (!isAlternate) {
+    if (p.Branch.UsingAlternate == 1) {
+        p.Scratch.IdxA = p.Mouse.BoxIdx;
+        TakeBoxPosition(p, p.Mouse.BoxIdx);
+        p.Record.sForeName = FittedForename(p.Record.sAltName);
+    } else {
         FindBoxOfRecord(p);
         // A record without a box has no caption. The last box can't be erased this way either; so it is meant to be.
         if (p.Scratch.IdxA >= LastFiledBox)
             return;
         FitForename(p);
-    } else {
-        p.Scratch.IdxA = p.Mouse.BoxIdx;
-        TakeBoxPosition(p, p.Mouse.BoxIdx);
-        p.Record.sForeName = FittedForename(p.Record.sAltName);
     }
-    const QString number = isAlternate ? FiledNumber(p, p.Scratch.IdxA) : Records(p).Text(u"File");
+    WipeCaption(p, p.Scratch.IdxA);
     p.Map.BoxArr[p.Scratch.IdxA][BoxColumn::File] = 0;
-
-    PictureBox& picture = p.Form1->Picture1;
-    ResetMapFont(picture);
-    picture.ForeColor = picture.BackColor;
-    PrintOnMap(picture, InBox(p, NumberInBox), number);
-    picture.PrintAt(InBox(p, ForenameInBox), p.Record.sForeName);
-    picture.ForeColor = Black;
+    ResetMapFont(p.Form1->Picture1);
+    p.Form1->Picture1.ForeColor = Black;
 }
 
 } // namespace lineforge

@@ -12,16 +12,14 @@ namespace lineforge
 inline constexpr Point NumberInBox{100, 0};
 inline constexpr Point ForenameInBox{50, 100};
 
-// A forename as a box has room for it: fewer than 8 characters stay whole, blanks and all; a longer one is cut before
-// its first blank; what still has 8 or more becomes its first five, an apostrophe and its last.
+// A forename as a box has room for it, without what would break the map file: fewer than 8 characters stay whole,
+// blanks and all; a longer one is cut before its first blank; what still has 8 or more becomes its first five, an
+// apostrophe and its last.
 QString FittedForename(const QString& forename);
 
 // `sForeName` from the current row; Null gives empty text.
 void FitForename(Program& p, const Recordset& row);
 void FitForename(Program& p);
-
-// A fitted forename alone, in that colour, in the box at that corner. The pen is black afterwards.
-void PrintForename(Program& p, Point corner, const QString& forename, Colour pen);
 
 // Prints number and forename of that cursor's row in the box at `BoxX`, `BoxY`; nothing at `Eof`. While a subject is
 // being mapped or moved the box is looked for first. On paper the year of birth follows.
@@ -38,12 +36,15 @@ void DrawBoxCaptions(Program& p);
 // Walks the open branch's table once and prints each record in every box that holds it; ends at `Eof`.
 void DrawRecordsInBoxes(Program& p);
 
-// Wipes what stands in the box of that row, before the box is dragged or goes: number and forename of the current
-// record, or without one what `DrawBoxCaptions` has printed there. The row keeps its number.
+// Overprints in the background colour what stands in the box of that row. The row keeps its number.
 void WipeCaption(Program& p, int row);
 
-// Overprints the caption of the current record's box in the background colour and empties the box. While a record of
-// another branch is shown the box is the one that the mouse hit, and the forename is `sAltName`.
+// The one way in which a box gets another forename: in its row, and on the picture in the place of what stands there.
+// The list of boxes follows when it is rebuilt. The pen is black afterwards.
+void RenameBox(Program& p, int row, const QString& forename);
+
+// Wipes the caption of the current record's box and empties the box. While a record of another branch is shown the box
+// is the one that the mouse hit, and the forename `sAltName`.
 void EraseBoxCaption(Program& p);
 
 } // namespace lineforge

@@ -3,6 +3,9 @@
 #include "platform/Text.h"
 #include "program/WorkDatabase.h"
 
+#include <cstdint>
+#include <limits>
+
 namespace lineforge
 {
 
@@ -19,6 +22,11 @@ Colour MarkerColour(const QString& gender)
     return QbColor(13);
 }
 
+bool FitsPlace(const Cell& cell)
+{
+    using Places = std::numeric_limits<std::int16_t>;
+    return cell.IsNumber() && cell.Number() >= Places::min() && cell.Number() <= Places::max();
+}
 } // namespace
 
 int RowOfRecord(const MapState& map, const FieldValue& file)
@@ -27,9 +35,15 @@ int RowOfRecord(const MapState& map, const FieldValue& file)
     if (!file || file->isEmpty())
         return LastFiledBox + 1;
     int row = 0;
-    while (row <= LastFiledBox && !SameText(map.BoxArr[row][BoxColumn::File].Text(), *file))
+    while (row <= LastFiledBox && !(SameText(map.BoxArr[row][BoxColumn::File].Text(), *file) && HasPlace(map, row)))
         ++row;
     return row;
+}
+
+bool HasPlace(const MapState& map, int row)
+{
+    const auto& box = map.BoxArr[row];
+    return FitsPlace(box[BoxColumn::X]) && FitsPlace(box[BoxColumn::Y]);
 }
 
 void TakeBoxPosition(Program& p, int row)

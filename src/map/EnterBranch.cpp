@@ -38,7 +38,7 @@ bool OpenDatabase(Program& p, const QString& directory)
 
 void PutMapAway(Program& p)
 {
-    p.Form1->Picture1.Cls();
+    ClearMapPicture(p);
     ResetMapFont(p.Form1->Picture1);
     EraseMap(p);
     if (p.Branch.UsingAlternate == 1)
@@ -48,9 +48,7 @@ void PutMapAway(Program& p)
 void DrawBranchMap(Program& p)
 {
     p.Errors.Ignoring([&] { ReadMapFile(p); });
-    p.Errors.Ignoring([&] { ParseBoxes(p); });
-    p.Errors.Ignoring([&] { ParseLines(p); });
-    p.Errors.Ignoring([&] { ParseTexts(p); });
+    ParseWhatIsThere(p);
 }
 
 bool EnterBranch(Program& p, const QString& name, const QString& directory)

@@ -19,15 +19,37 @@ bool PressIsInBox(const Program& p, int row)
     return IsPressInside(p, box[BoxColumn::X], box[BoxColumn::Y], {BoxWidth, BoxHeight});
 }
 
+namespace
+{
+// The first box under the press, or the row behind `SBoxes`.
+int PressedRow(const Program& p)
+{
+    int row = 0;
+    while (row <= p.Map.SBoxes && !PressIsInBox(p, row))
+        ++row;
+    return row;
+}
+} // namespace
+
+bool IsAnyBoxPressed(const Program& p)
+{
+    return p.Map.SBoxes != 0 && PressedRow(p) <= p.Map.SBoxes;
+}
+
 void HitBox(Program& p)
 {
     if (p.Map.SBoxes == 0)
         return;
-    int row = 0;
-    while (row <= p.Map.SBoxes && !PressIsInBox(p, row))
-        ++row;
-    p.Mouse.BoxMiss = row > p.Map.SBoxes ? 1 : 0;
-    p.Mouse.BoxIdx = row;
+    p.Mouse.BoxIdx = PressedRow(p);
+    p.Mouse.BoxMiss = p.Mouse.BoxIdx > p.Map.SBoxes ? 1 : 0;
+}
+
+bool FindsBox(Program& p)
+{
+    HitBox(p);
+    if (p.Mouse.BoxMiss == 0 && p.Map.BoxArr[p.Mouse.BoxIdx][BoxColumn::X].IsZero())
+        p.Mouse.BoxMiss = 1;
+    return p.Mouse.BoxMiss == 0;
 }
 
 } // namespace lineforge

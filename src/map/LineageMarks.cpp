@@ -2,7 +2,7 @@
 
 #include "map/CurrentBox.h"
 #include "program/BranchUi.h"
-#include "program/WorkDatabase.h"
+#include "program/Position.h"
 
 namespace lineforge
 {
@@ -74,10 +74,9 @@ void LineageView(Program& p)
         TellNoRecords(p);
         return;
     }
-    p.Record.SavedBookmark = Records(p).HasRow() ? Records(p).GetBookmark() : Bookmark();
+    KeepPosition(p);
     FrameLine(p, surname);
-    if (p.Record.SavedBookmark)
-        Records(p).SetBookmark(p.Record.SavedBookmark);
+    ComeBack(p);
 }
 
 void ViewLineage(Program& p)

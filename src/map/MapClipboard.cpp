@@ -11,10 +11,12 @@ void CopyMapPicture(Program& p)
 
 void PasteMapPicture(Program& p)
 {
-    if (!p.Clipboard.HasPicture())
+    const QImage picture = p.Clipboard.HasPicture() ? p.Clipboard.GetPicture() : QImage();
+    if (picture.isNull())
         return;
-    if (const QImage picture = p.Clipboard.GetPicture(); !picture.isNull())
-        p.Form1->Picture1.ShowPicture(picture);
+    p.Form1->Picture1.ShowPicture(picture);
+    // They don't stand on it any more.
+    p.Map.Captions.clear();
 }
 
 } // namespace lineforge

@@ -4,7 +4,7 @@
 #include "map/MapItems.h"
 #include "map/Pointer.h"
 #include "platform/Text.h"
-#include "program/WorkDatabase.h"
+#include "program/Position.h"
 
 namespace lineforge
 {
@@ -27,12 +27,10 @@ void RedrawMap(Program& p)
     for (int row = 0; row <= p.Map.SLines; ++row)
         DrawLine(p, row);
 
-    Recordset& records = Records(p);
-    p.Record.SavedBookmark = records.HasRow() ? records.GetBookmark() : Bookmark();
+    KeepPosition(p);
     DrawRecordsInBoxes(p);
     DrawBoxCaptions(p);
-    if (p.Record.SavedBookmark)
-        records.SetBookmark(p.Record.SavedBookmark);
+    ComeBack(p);
 }
 
 void ShowCoordinates(Program& p, double x, double y)

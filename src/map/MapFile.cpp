@@ -37,14 +37,6 @@ void ReadToEnd(TextReader& reader, QString& list)
         Append(list, reader.Next());
 }
 
-// A comma would end the value too early and shift all that follow, and a bracket the whole list.
-QString FiledForename(QString forename)
-{
-    for (const QChar breaking : u",[\r\n")
-        forename.remove(breaking);
-    return forename;
-}
-
 // The "[" that ended the list before is the first letter of the name, and has been read.
 bool NextSectionIs(TextReader& reader, QStringView rest)
 {
@@ -103,15 +95,32 @@ void WriteLists(Program& p)
 }
 } // namespace
 
-void EraseMap(Program& p)
+void EraseItems(Program& p)
 {
-    p.Map.Erase();
+    p.Map.EraseItems();
     p.Mouse.BoxIdx = 0;
     p.Mouse.BoxMiss = 0;
     p.Tools.TextIdx = 0;
     p.Tools.TextMiss = 0;
     p.Tools.LineMiss = 0;
     p.Tools.ChainTop = 0;
+    p.Tools.ZoneTexts.Erase();
+    p.Tools.ZoneBoxes.Erase();
+    p.Tools.ZoneLines.Erase();
+}
+
+void EraseMap(Program& p)
+{
+    EraseItems(p);
+    p.Map.Erase();
+    p.Tools.ToolBookmark.reset();
+}
+
+QString FiledForename(QString forename)
+{
+    for (const QChar breaking : u",[\r\n")
+        forename.remove(breaking);
+    return forename;
 }
 
 void ReadMapFile(Program& p)

@@ -7,9 +7,16 @@ namespace lineforge
 
 // The map file: eight lines, the last of each pair a list of values with a comma after every one.
 
-// Empties the map before another branch's is read; the counts keep their values. What the mouse has hit on it is
-// forgotten with it.
+// Empties the three arrays, with all that a gesture has found in them: a hit may not outlive what it points at. The
+// counts keep their values.
+void EraseItems(Program& p);
+
+// Empties the whole map before another branch's is read. Where the records stood when tools were opened is forgotten.
 void EraseMap(Program& p);
+
+// A forename without what would break the file: a comma ends a value too early and shifts all that follow, a bracket
+// or the end of a line breaks the whole list. It stands so in the array and in its box, too.
+QString FiledForename(QString forename);
 
 // Fills the three lists of the branch in `WorkDir`, and says which of them came out empty. A file that isn't there
 // leaves the lists as they were. Error 62 when it ends inside the boxes or the lines.

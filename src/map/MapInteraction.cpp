@@ -12,7 +12,7 @@
 #include "program/AlternateBranch.h"
 #include "program/BranchPaths.h"
 #include "program/BranchUi.h"
-#include "program/WorkDatabase.h"
+#include "program/Position.h"
 
 namespace lineforge
 {
@@ -31,11 +31,13 @@ bool IsTransferPending(const Program& p)
     return p.Tools.MapCursorMode == MapCursor::Repositioning && p.Screen.Pointer == MousePointer::Cross;
 }
 
-// Puts the current record's number into the box that was pressed, and takes it out of its old one.
+// Puts the current record's number into the box that was pressed, in the place of whatever it holds, and takes it out
+// of its old one.
 void MoveLinkToPressedBox(Program& p)
 {
     EraseBoxCaption(p);
     HitBox(p);
+    WipeCaption(p, p.Mouse.BoxIdx);
     p.Map.BoxArr[p.Mouse.BoxIdx][BoxColumn::File] = Records(p).Text(u"File");
 }
 
@@ -52,7 +54,8 @@ void SaveBoxesOfOwnBranch(Program& p)
     p.Branch.UsingAlternate = 1;
 }
 
-// False when there is no record to be transferred.
+// False when there is no record to be transferred. Beside all boxes the transfer waits for a better double click, with
+// its cross and the old box.
 bool FinishTransfer(Program& p)
 {
     if (Records(p).IsEmpty()) {
@@ -60,6 +63,8 @@ bool FinishTransfer(Program& p)
         ClearMapCursor(p);
         return false;
     }
+    if (!IsAnyBoxPressed(p))
+        return false;
     if (p.Branch.UsingAlternate == 1) {
         p.Record.sAltName = Records(p).Text(u"ForeName");
         MoveLinkToPressedBox(p);
@@ -98,15 +103,13 @@ bool GoToBranchOf(Program& p, const QString& file)
 }
 
 // Remembers where the cursor stands; false, and a box, when the branch has no records.
-bool KeepPosition(Program& p)
+bool KeepPositionInBranch(Program& p)
 {
-    const Recordset& records = Records(p);
-    if (records.IsEmpty()) {
+    if (Records(p).IsEmpty()) {
         Tell(p, u"Database Empty"_s, u"This Tree Branch has no records to access"_s);
         return false;
     }
-    // A search without a hit has left the cursor behind the last row, where there is nothing to come back to.
-    p.Record.SavedBookmark = records.HasRow() ? records.GetBookmark() : Bookmark();
+    KeepPosition(p);
     return true;
 }
 
@@ -116,8 +119,7 @@ bool FindPressedRecord(Program& p)
     if (Records(p).Seek(u"File", p.Record.sCurFile))
         return true;
     Tell(p, u"Database Searched"_s, u"No File data found"_s);
-    if (p.Record.SavedBookmark)
-        Records(p).SetBookmark(p.Record.SavedBookmark);
+    ComeBack(p);
     return false;
 }
 
@@ -125,7 +127,7 @@ bool FindPressedRecord(Program& p)
 void MapPressedBox(Program& p)
 {
     const bool isEmptyBox = p.Record.sCurFile.startsWith(u'0');
-    if (!isEmptyBox && (!GoToBranchOf(p, p.Record.sCurFile) || !KeepPosition(p)))
+    if (!isEmptyBox && (!GoToBranchOf(p, p.Record.sCurFile) || !KeepPositionInBranch(p)))
         return;
     if (Records(p).Seek(u"File", p.Record.sCurFile))
         AskSubjectPicture(p);
@@ -147,7 +149,7 @@ void MarkSubject(Program& p)
 void ShowPressedSubject(Program& p)
 {
     const bool isEmptyBox = p.Record.sCurFile == u"0" && p.Tools.MapCursorMode == MapCursor::Normal;
-    if (isEmptyBox || !GoToBranchOf(p, p.Record.sCurFile) || !KeepPosition(p) || !FindPressedRecord(p))
+    if (isEmptyBox || !GoToBranchOf(p, p.Record.sCurFile) || !KeepPositionInBranch(p) || !FindPressedRecord(p))
         return;
     ShowRecordOnMap(p);
     p.Form1->Image1.Visible = true;
@@ -163,12 +165,9 @@ void PressOnMap(Program& p, double x, double y)
     if (p.Map.SBoxes == 0)
         return;
     p.Mouse.BoxMiss = 0;
-    for (int row = 0; row <= p.Map.SBoxes; ++row) {
-        if (PressIsInBox(p, row)) {
-            p.Form1->MMControl1.Command(u"Sound");
-            p.Loop.DoEvents();
-            return;
-        }
+    if (IsAnyBoxPressed(p)) {
+        p.Form1->MMControl1.Command(u"Sound");
+        p.Loop.DoEvents();
     }
 }
 

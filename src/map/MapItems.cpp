@@ -127,6 +127,12 @@ void ResetMapFont(Surface& surface)
     surface.Font.Bold = false;
 }
 
+void ClearMapPicture(Program& p)
+{
+    p.Form1->Picture1.Cls();
+    p.Map.Captions.clear();
+}
+
 void DrawBox(Program& p, int row)
 {
     const auto& box = p.Map.BoxArr[row];

@@ -39,4 +39,7 @@ void PrintOnMap(Surface& surface, Point place, const QString& text);
 // The drawing font between operations: Arial, 8 points, not bold.
 void ResetMapFont(Surface& surface);
 
+// Wipes the whole picture of the map.
+void ClearMapPicture(Program& p);
+
 } // namespace lineforge

@@ -4,7 +4,7 @@
 #include "map/MapItems.h"
 #include "map/MapValues.h"
 #include "platform/Number.h"
-#include "program/WorkDatabase.h"
+#include "program/Position.h"
 
 namespace lineforge
 {
@@ -19,12 +19,26 @@ int HighestRow(int rows)
 
 void DrawAllCaptions(Program& p)
 {
-    // With no current row there is none to come back to, least of all one saved in the branch before.
-    p.Record.SavedBookmark.reset();
-    p.Errors.Ignoring([&] { p.Record.SavedBookmark = Records(p).GetBookmark(); });
+    p.Errors.Ignoring([&] { KeepPosition(p); });
     p.Errors.Ignoring([&] { DrawBoxCaptions(p); });
     p.Errors.Ignoring([&] { DrawRecordsInBoxes(p); });
-    p.Errors.Ignoring([&] { Records(p).SetBookmark(p.Record.SavedBookmark); });
+    p.Errors.Ignoring([&] { ComeBack(p); });
+}
+
+// How many lines can be read before the list breaks off.
+int WholeLines(const QString& list)
+{
+    int whole = 0;
+    try {
+        ForEachValue(list, LineColumn::Count, [&](int row, int column, const QString& value) {
+            ToLong(value);
+            if (column == LineColumn::Colour)
+                whole = row + 1;
+        });
+    } catch (const RuntimeError&) {
+        // That is the end of them.
+    }
+    return std::min(whole, LastMapRow + 1);
 }
 } // namespace
 
@@ -71,6 +85,21 @@ void ParseTexts(Program& p)
     });
     p.Map.STexts = HighestRow(rows);
     ResetMapFont(p.Form1->Picture1);
+}
+
+void ParseWhatIsThere(Program& p)
+{
+    p.Errors.Ignoring([&] { ParseBoxes(p); });
+    try {
+        ParseLines(p);
+    } catch (const RuntimeError&) {
+        const int whole = WholeLines(p.Map.sLinesText);
+        for (int row = whole; row <= LastMapRow; ++row)
+            p.Map.LineArr[row].Erase();
+        // So that a new line takes the place of none.
+        p.Map.SLines = whole - 1;
+    }
+    p.Errors.Ignoring([&] { ParseTexts(p); });
 }
 
 } // namespace lineforge

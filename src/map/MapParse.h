@@ -14,4 +14,7 @@ void ParseBoxes(Program& p);
 void ParseLines(Program& p);
 void ParseTexts(Program& p);
 
+// All three, whatever is spoilt: a list of lines that breaks off costs the lines from there on, and nothing else.
+void ParseWhatIsThere(Program& p);
+
 } // namespace lineforge

@@ -11,6 +11,8 @@
 
 #include <QScopeGuard>
 
+#include <optional>
+
 namespace lineforge
 {
 
@@ -53,19 +55,24 @@ void TellNotPresent(Program& p, const QString& text)
     StopMapping(p);
 }
 
-// Beside all boxes the number goes into none.
-void LinkPressedBox(Program& p, const QString& file)
-{
-    if (p.Mouse.BoxMiss == 0)
-        p.Map.BoxArr[p.Mouse.BoxIdx][BoxColumn::File] = file;
-    p.Mapping.NewFile = file;
-}
-
-void FindPressedBox(Program& p)
+// The row of the pressed box; none beside all boxes. A lone box isn't searched for: wherever the press was, it is the
+// one.
+std::optional<int> PressedBox(Program& p)
 {
     p.Mouse.BoxX = p.Mouse.BoxLeft;
     p.Mouse.BoxY = p.Mouse.BoxTop;
-    HitBox(p);
+    return FindsBox(p) ? std::optional<int>(p.Mouse.BoxIdx) : std::nullopt;
+}
+
+// Without a box the number goes into none. Whatever stood in it is wiped; the new caption comes with the return from
+// the record form.
+void LinkBox(Program& p, std::optional<int> row, const QString& file)
+{
+    p.Mapping.NewFile = file;
+    if (!row)
+        return;
+    WipeCaption(p, *row);
+    p.Map.BoxArr[*row][BoxColumn::File] = file;
 }
 
 void FillNewRecord(Program& p)
@@ -82,8 +89,7 @@ void MapFirstRecord(Program& p)
 {
     p.Record.sCurFile = p.Mapping.sBranchLetter + u"001";
     Records(p).AddNew();
-    FindPressedBox(p);
-    LinkPressedBox(p, p.Record.sCurFile);
+    LinkBox(p, PressedBox(p), p.Record.sCurFile);
     SaveBoxes(p);
     FillNewRecord(p);
 }
@@ -108,9 +114,9 @@ QString NextFreeNumber(Program& p)
 void MapNewRecord(Program& p)
 {
     const QString file = NextFreeNumber(p);
-    FindPressedBox(p);
+    const std::optional<int> row = PressedBox(p);
     Records(p).AddNew();
-    LinkPressedBox(p, file);
+    LinkBox(p, row, file);
     FillNewRecord(p);
     SaveBoxes(p);
 }
@@ -138,9 +144,10 @@ bool MapUnmappedRecord(Program& p)
 {
     if (!TakeEnteredNumber(p) || !StandOnEnteredRecord(p))
         return false;
-    FindPressedBox(p);
-    LinkPressedBox(p, p.Record.sCurFile);
-    p.Map.BoxArr[p.Mouse.BoxIdx][BoxColumn::Forename] = Records(p).Text(u"Forename");
+    const std::optional<int> row = PressedBox(p);
+    LinkBox(p, row, p.Record.sCurFile);
+    if (row)
+        p.Map.BoxArr[*row][BoxColumn::Forename] = FiledForename(Records(p).Text(u"Forename"));
     p.Mapping.MapOption = newRecord;
     SaveBoxes(p);
     return true;
@@ -154,9 +161,9 @@ bool MapAlternateRecord(Program& p)
     if (!TakeOldSibling(p, p.Record.sCurFile.first(1)))
         return false;
     Records(p).Seek(u"File", p.Record.sCurFile);
-    FindPressedBox(p);
+    const std::optional<int> row = PressedBox(p);
     p.Screen.Pointer = MousePointer::Hourglass;
-    LinkPressedBox(p, p.Record.sCurFile);
+    LinkBox(p, row, p.Record.sCurFile);
     p.Mapping.PictureOption = leaveUntilLater;
     DrawBoxCaptions(p);
     SaveBoxes(p);
@@ -289,8 +296,11 @@ void MapNewSubject(Program& p)
         MapFirstRecord(p);
     else if (!MapByOption(p))
         return;
-    // The record form stays in front: the new record is to be written now.
     GiveNewSubjectItsPicture(p);
+    // The record form stays in front, for the new record is to be written now; one of another branch stands there
+    // already.
+    if (p.Branch.UsingAlternate == 1)
+        p.Form1->Show();
 }
 
 void AskSubjectPicture(Program& p)

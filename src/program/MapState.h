@@ -4,10 +4,13 @@
 #include "platform/Number.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <cmath>
 #include <limits>
+#include <map>
 #include <optional>
+#include <utility>
 
 namespace lineforge
 {
@@ -103,19 +106,30 @@ struct MapState {
     QString sLinesText;
     QString sTextsText;
 
+    // What stands in the boxes on the picture: texts by the X and Y at which they begin. To wipe one it is printed
+    // again in the colour of the paper, whatever its record or row may say by then.
+    std::map<std::pair<int, int>, QStringList> Captions;
+
     Integer16 MarkCount; // frames of the last lineage view
 
     // The branch directory whose map this is; empty when none has been read since the arrays were erased. A map is
     // written to no other branch.
     QString Owner;
 
-    // Before another branch's map is read; the counts keep their values.
-    void Erase()
+    // Before the arrays are filled again from the lists; the counts keep their values.
+    void EraseItems()
     {
         BoxArr.Erase();
         LineArr.Erase();
         TextArr.Erase();
         LineChain.Erase();
+    }
+
+    // Before another branch's map is read.
+    void Erase()
+    {
+        EraseItems();
+        Captions.clear();
         sBoxesText.clear();
         sLinesText.clear();
         sTextsText.clear();

@@ -25,6 +25,8 @@ void PointAtDatabase(Program& p, DataControl& data, const QString& path)
 void PointAtDatabase(Program& p, const QString& path)
 {
     PointAtDatabase(p, p.Form3->Data1, path);
+    // It was a place in the database before.
+    p.Record.SavedBookmark.reset();
 }
 
 void OpenWorkDatabase(Program& p)

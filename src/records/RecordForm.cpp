@@ -19,22 +19,10 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-void PrintFiledForename(Program& p, int row, Colour pen)
+void RenameBoxOfRecord(Program& p, const QString& forename)
 {
-    const auto& box = p.Map.BoxArr[row];
-    PrintForename(p, {box[BoxColumn::X].Number(), box[BoxColumn::Y].Number()},
-                  FittedForename(box[BoxColumn::Forename].Text()), pen);
-}
-
-// The name in the box was printed from the forename column, and is wiped by printing it again.
-void RewriteNameInBox(Program& p)
-{
-    const int row = RowOfRecord(p.Map, Records(p).Value(u"File"));
-    if (row > LastFiledBox)
-        return;
-    PrintFiledForename(p, row, p.Form1->Picture1.BackColor);
-    p.Map.BoxArr[row][BoxColumn::Forename] = p.Form3->Text3.Text.value();
-    PrintFiledForename(p, row, Black);
+    if (const int row = RowOfRecord(p.Map, Records(p).Value(u"File")); row <= LastFiledBox)
+        RenameBox(p, row, forename);
 }
 
 // A forename changed only in its letters' case counts as unchanged.
@@ -42,7 +30,7 @@ void CarryForenameToMap(Program& p)
 {
     if (SameText(p.Form3->Text3.Text.value(), p.Record.sShownName))
         return;
-    p.Errors.Ignoring([&] { RewriteNameInBox(p); });
+    p.Errors.Ignoring([&] { RenameBoxOfRecord(p, p.Form3->Text3.Text); });
     p.Errors.Ignoring([&] { p.Map.sBoxesText = ListOfBoxes(p.Map); });
 }
 
@@ -68,6 +56,7 @@ void FinishMapping(Program& p)
     p.Errors.Ignoring([&] { Records(p).Update(); });
     p.Errors.Ignoring([&] { Records(p).SetBookmark(p.Record.SavedBookmark); });
     p.Errors.Ignoring([&] { DrawRecordInBox(p); });
+    p.Errors.Ignoring([&] { RenameBoxOfRecord(p, Records(p).Text(u"Forename")); });
     p.Tools.MapCursorMode = MapCursor::Normal;
 }
 

@@ -131,12 +131,6 @@ bool FindDestination(Program& p, const QString& file)
     return false;
 }
 
-void PrintForenameInBox(Program& p, Colour pen)
-{
-    FitForename(p);
-    PrintForename(p, {p.Mouse.BoxX, p.Mouse.BoxY}, p.Record.sForeName, pen);
-}
-
 void WriteFields(Program& p, const FieldTexts& texts)
 {
     Recordset& records = Records(p);
@@ -149,13 +143,12 @@ void WriteFields(Program& p, const FieldTexts& texts)
 void OverwriteRecord(Program& p, const FieldTexts& texts)
 {
     FindBoxOfRecord(p);
-    const bool hasBox = p.Scratch.IdxA <= LastFiledBox;
-    if (hasBox)
-        PrintForenameInBox(p, p.Form1->Picture1.BackColor);
+    const int row = p.Scratch.IdxA;
     WriteFields(p, texts);
     FillSubjectLabels(p);
-    if (hasBox)
-        PrintForenameInBox(p, Black);
+    FitForename(p);
+    if (row <= LastFiledBox)
+        RenameBox(p, row, Records(p).Text(u"Forename"));
     MarkCurrentBox(p);
 }
 } // namespace

@@ -221,7 +221,7 @@ TEST_F(BoxToolTest, MoveBoxWhoseRecordHasGone_KeepsItsNumber_AndLeavesNoTrace)
     Release({4300, 1600});
 
     EXPECT_EQ(Box(3), (RowTexts{u"4000"_s, u"1500"_s, u"0"_s, u"A009"_s, u"Gone"_s}));
-    EXPECT_TRUE(SameImage(Shown(), Afresh()));
+    EXPECT_TRUE(IsAsPaintedAfresh());
 }
 
 TEST_F(BoxToolTest, MoveBoxOfAnotherBranch_TakesNumberAndNameAlong)
@@ -257,7 +257,7 @@ TEST_F(BoxToolTest, MoveInAnEmptyBranch_Works)
     Drag({{2300, 600}, {2300, 1600}});
 
     EXPECT_EQ(Box(1), (RowTexts{u"2000"_s, u"1500"_s, u"0"_s, u"C001"_s, u""_s}));
-    EXPECT_TRUE(SameImage(Shown(), Afresh()));
+    EXPECT_TRUE(IsAsPaintedAfresh());
 }
 
 TEST_F(BoxToolTest, MovePressAndRelease_ChangesNothing)

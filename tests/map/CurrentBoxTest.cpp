@@ -105,6 +105,40 @@ TEST_F(CurrentBoxTest, Take_PositionOutsideSixteenBits_IsOverflow)
     EXPECT_EQ(RefusalOf([&] { TakeBoxPosition(P, 0); }), ErrorNumber::Overflow);
 }
 
+TEST_F(CurrentBoxTest, BoxAtNoPossiblePlace_IsNoBoxOfTheRecord)
+{
+    givenRecord();
+    for (const QString& place : {u"abc"_s, u""_s, u"99999"_s}) {
+        SCOPED_TRACE(place.toStdString());
+        for (const int column : {BoxColumn::X, BoxColumn::Y}) {
+            givenBox(0, {1000, 500}, u"A001");
+            P.Map.BoxArr[0][column] = place;
+            givenPosition({11, 12});
+            Marker.Visible = true;
+
+            FindBoxOfRecord(P);
+            EXPECT_EQ(P.Scratch.IdxA, 100);
+            MarkCurrentBox(P);
+
+            EXPECT_EQ(Position(), (Point{11, 12}));
+            EXPECT_FALSE(Marker.Visible);
+        }
+    }
+}
+
+TEST_F(CurrentBoxTest, BoxAtNoPossiblePlace_AnotherBoxOfTheRecordIsFound)
+{
+    givenRecord();
+    givenBox(0, {1000, 500}, u"A001");
+    P.Map.BoxArr[0][BoxColumn::X] = u"abc"_s;
+    givenBox(1, {2000, 700}, u"A001");
+
+    MarkCurrentBox(P);
+
+    EXPECT_TRUE(Marker.Visible);
+    EXPECT_EQ(Marker.Left, 2000 + 307 - 60);
+}
+
 TEST_F(CurrentBoxTest, Marker_StandsInTheMiddleOfTheBox_AndShows)
 {
     givenRecord();

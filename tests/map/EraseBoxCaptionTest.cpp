@@ -198,5 +198,35 @@ TEST_F(EraseBoxCaptionTest, RecordOfSiblingShown_LastBoxRowIsErasedToo)
     EXPECT_EQ(FileOf(99), u"0"_s);
 }
 
+TEST_F(EraseBoxCaptionTest, BoxInRow100_IsLeftAlone)
+{
+    givenRecord(u"John");
+    givenBox(100, {1000, 500}, u"A001");
+    Picture.Line({1000, 650}, {1600, 650});
+    const QImage before = ShownBy(Picture);
+
+    EraseBoxCaption(P);
+
+    EXPECT_EQ(FileOf(100), u"A001"_s);
+    EXPECT_TRUE(ShownBy(Picture) == before);
+}
+
+TEST_F(EraseBoxCaptionTest, RecordWithoutABox_NothingIsErased)
+{
+    givenRecord(u"John");
+    givenBox(0, {1000, 500}, u"A002");
+    Picture.Line({1000, 650}, {1600, 650});
+    P.Mouse.BoxX = 1000;
+    P.Mouse.BoxY = 500;
+    const QImage before = ShownBy(Picture);
+
+    EraseBoxCaption(P);
+
+    EXPECT_EQ(FileOf(0), u"A002"_s);
+    for (int row = 1; row <= LastMapRow; ++row)
+        EXPECT_EQ(FileOf(row), QString()) << row;
+    EXPECT_TRUE(ShownBy(Picture) == before);
+}
+
 } // namespace
 } // namespace lineforge

@@ -59,6 +59,16 @@ TEST_F(HitTestTest, FreeRow_AndOneAtNoPlace_AreNeverHit)
     EXPECT_FALSE(PressIsInBox(P, 0));
 }
 
+TEST_F(HitTestTest, RowWithXOfZero_IsNeverHit_WhateverElseItHolds)
+{
+    givenBox(0, {0, 500}, u"A001");
+    GivenPress({300, 600});
+    EXPECT_FALSE(PressIsInBox(P, 0));
+
+    givenBox(0, {1, 500}, u"A001");
+    EXPECT_TRUE(PressIsInBox(P, 0));
+}
+
 TEST_F(HitTestTest, Hit_GivesTheRow)
 {
     givenBox(0, {4000, 4000});

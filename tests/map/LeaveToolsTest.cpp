@@ -1,3 +1,4 @@
+#include "map/EnterBranch.h"
 #include "map/ToolsTest.h"
 #include "shell/FatalPath.h"
 
@@ -337,6 +338,52 @@ TEST_F(LeaveToolsTest, TheMouseIsTheMapsAgain)
 
     EXPECT_EQ(sounds, QStringList{u"Sound"_s});
     EXPECT_EQ(P.Map.SBoxes, 2);
+}
+
+class SpoiltLinesTest : public ToolsTest
+{
+protected:
+    SpoiltLinesTest()
+    {
+        BranchA.Boxes(boxes).Texts(texts).Lines(QString(lines + u"1000,4000,two thousand,4000,0,1,2,3,4,5,"));
+        givenOpen(BranchA);
+        DrawBranchMap(P);
+        P.Form1->mnuTreeTools.Click();
+    }
+};
+
+TEST_F(SpoiltLinesTest, No_WhatCanBeReadOfTheLinesIsThere_AndAllElse)
+{
+    const QByteArray before = MapBytes();
+
+    Leave(Answer::No);
+
+    EXPECT_EQ(Line(0), (std::vector<int>{1000, 2000, 2000, 2000, 255}));
+    EXPECT_EQ(Line(1), std::vector<int>(5, 0));
+    EXPECT_EQ(P.Map.SLines, 0);
+    EXPECT_EQ(Text(0)[TextColumn::Text], u"One"_s);
+    EXPECT_EQ(Box(2)[BoxColumn::X], u"3000"_s);
+    EXPECT_EQ(P.Tools.ToolMode, 0);
+    EXPECT_EQ(MapBytes(), before);
+}
+
+TEST_F(SpoiltLinesTest, LineDrawn_CostsNoneThatCouldBeRead)
+{
+    DrawNewLine({1000, 6000}, {2000, 6000});
+
+    Leave(Answer::Yes);
+
+    EXPECT_EQ(MapBytes(), BytesOf(boxes, QString(lines + u"1000,6000,2000,6000,0,"), texts));
+}
+
+TEST_F(SpoiltLinesTest, Yes_CostsTheLinesThatCannotBeRead)
+{
+    Leave(Answer::Yes);
+
+    // Nothing is left of the one that broke off.
+    EXPECT_EQ(MapBytes(), BytesOf(boxes, lines, texts));
+    EXPECT_EQ(Text(0)[TextColumn::Text], u"One"_s);
+    EXPECT_EQ(P.Tools.ToolMode, 0);
 }
 
 TEST_F(LeaveToolsTest, ReadOnlyMap_TheErrorIsRaised_AndTheOldMapStays)

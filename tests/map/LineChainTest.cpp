@@ -318,6 +318,33 @@ TEST_F(LineChainTest, EndsThatAreOneTwipApart_DoNotHang)
     EXPECT_EQ(Chain(), (Rows{1}));
 }
 
+TEST_F(LineChainTest, LineWithStartXOfZero_IsNeitherHitNorCarried)
+{
+    GivenLines({{{0, 1000}, A}, {A, B}});
+
+    Press({500, 1000});
+    EXPECT_EQ(P.Tools.LineMiss, 1);
+    Release({500, 1000});
+    Drag({OnAB, {1600, 1100}});
+
+    EXPECT_EQ(Line(1), (Rows{0, 1000, 1000, 1000, 0}));
+    EXPECT_EQ(Line(2), (Rows{1100, 1100, 2100, 1100, 0}));
+}
+
+TEST_F(LineChainTest, LineThatEndsInTheCorner_MakesNoLinesOfFreeRows)
+{
+    GivenLines({{{500, 500}, {0, 0}}, {{3000, 500}, {4000, 500}}, {{3000, 900}, {4000, 900}}});
+    Choose(27);
+    PressAndRelease({3500, 500});
+    P.Map.SLines = 3;
+    Choose(17);
+
+    Drag({{250, 250}, {350, 350}});
+
+    EXPECT_EQ(Line(1), (Rows{600, 600, 100, 100, 0}));
+    EXPECT_EQ(Line(2), Rows(5, 0));
+}
+
 TEST_F(LineChainTest, Miss_IsTold)
 {
     GivenLines({{A, B}});

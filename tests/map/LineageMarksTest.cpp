@@ -132,7 +132,7 @@ TEST_F(LineageMarksTest, View_LeavesTheCurrentRecord)
     EXPECT_EQ(Records(P).Text(u"File"), u"A002"_s);
 }
 
-TEST_F(LineageMarksTest, View_CursorBehindTheLastRow_IsLeftThere)
+TEST_F(LineageMarksTest, View_CursorBehindTheLastRow_AndNoPositionSaved_IsLeftThere)
 {
     GivenSmiths();
     Records(P).Seek(u"File", u"nobody"_s);

@@ -152,9 +152,23 @@ TEST_F(RedrawMapTest, CurrentRecord_PositionSavedForAnotherWalkLongAgo_DoesNotCo
     EXPECT_EQ(Records(P).Text(u"File"), u"A002"_s);
 }
 
-TEST_F(RedrawMapTest, BehindTheLastRecord_StaysThere)
+TEST_F(RedrawMapTest, BehindTheLastRecord_GoesBackToThePositionSavedBefore)
 {
     givenTwoRecords();
+    Records(P).MoveNext();
+    P.Record.SavedBookmark = Records(P).GetBookmark();
+    Records(P).MoveNext();
+
+    RedrawMap(P);
+
+    EXPECT_EQ(Records(P).Text(u"File"), u"A002"_s);
+}
+
+TEST_F(RedrawMapTest, BehindTheLastRecord_NoPositionSavedInThisDatabase_StaysThere)
+{
+    givenTwoRecords();
+    P.Record.SavedBookmark = Records(P).GetBookmark();
+    OpenWorkDatabase(P);
     Records(P).MoveLast();
     Records(P).MoveNext();
 

@@ -346,7 +346,7 @@ TEST_F(LocalDoubleClickTest, NoSuchRecord_IsTold_AndTheCurrentRecordStays)
     EXPECT_TRUE(IsMarkerUntouched());
 }
 
-TEST_F(LocalDoubleClickTest, NoSuchRecord_CursorBehindTheLastRow_StaysThere)
+TEST_F(LocalDoubleClickTest, NoSuchRecord_CursorBehindTheLastRow_AndNoPositionSaved_StaysThere)
 {
     givenBox(0, {1000, 500}, u"A009");
     Records(P).Seek(u"File", u"nobody"_s);

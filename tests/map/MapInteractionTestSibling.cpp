@@ -188,6 +188,37 @@ TEST_F(SiblingDoubleClickTest, SameBoxAgain_ReturnsFirst_AndOpensTheOtherBranchA
     EXPECT_EQ(ShownNumber(), u"Ref  B002"_s);
 }
 
+TEST_F(SiblingDoubleClickTest, SameBoxAgain_ReturnsToTheOwnBranchFirst_WhichMustBeThere)
+{
+    BranchB.Build();
+    GivenMap();
+    DoubleClickBox(siblingsBox);
+    P.Files.Kill(Home.Path(u"LfgDat_A/LfgDat_A.mdb"));
+
+    EXPECT_EQ(RefusalOf([&] { DoubleClickBox(siblingsBox); }), ErrorNumber::DatabaseNotFound);
+}
+
+TEST_F(SiblingDoubleClickTest, SameBoxAgain_TheRecordIsReadFromTheFileThatIsThereNow)
+{
+    BranchB.Build();
+    GivenMap();
+    DoubleClickBox(siblingsBox);
+    ASSERT_EQ(P.Form1->Label9.Caption.value(), u"Tom"_s);
+    P.Files.Kill(Home.Path(u"LfgDat_B/LfgDat_B.mdb"));
+    BranchBuilder(Home, u'B')
+        .Row({{u"File", u"B009"}})
+        .Row({{u"File", u"B002"}, {u"Forename", u"Theo"}, {u"Gender", u"Male"}})
+        .Picture(u"B002", Qt::green)
+        .Build();
+
+    DoubleClickBox(siblingsBox);
+
+    ExpectOn(u"LfgDat_B", 1);
+    EXPECT_EQ(Current(), u"B002"_s);
+    EXPECT_EQ(P.Form1->Label9.Caption.value(), u"Theo"_s);
+    EXPECT_TRUE(IsMarkerOnBox(siblingsBox));
+}
+
 TEST_F(SiblingDoubleClickTest, SameBoxAgain_TheOtherBranchGoneMeanwhile_EndsOnTheLocalOne)
 {
     BranchB.Build();

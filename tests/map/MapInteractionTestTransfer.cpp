@@ -240,5 +240,55 @@ TEST_F(TransferTest, SubjectOfASibling_ThirdDoubleClick_ReturnsToTheOwnBranch)
     EXPECT_EQ(ShownNumber(), u"Ref  A001"_s);
 }
 
+TEST_F(TransferTest, LocalSubject_BesideAllBoxes_NothingMoves_AndTheTransferStaysPending)
+{
+    GivenCrossFor(0);
+    const Tree before = Home.Snapshot();
+
+    DoubleClick(Nowhere);
+
+    EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
+    EXPECT_EQ(FileOf(0), u"A001"_s);
+    EXPECT_EQ(FileOf(3), QString());
+    EXPECT_EQ(P.Tools.MapCursorMode, 2);
+    EXPECT_EQ(P.Screen.Pointer, MousePointer::Cross);
+
+    DoubleClickBox(2);
+    EXPECT_EQ(FileOf(0), u"0"_s);
+    EXPECT_EQ(FileOf(2), u"A001"_s);
+    ExpectCursorGone();
+}
+
+TEST_F(TransferTest, SubjectOfASibling_BesideAllBoxes_NothingMoves_AndTheTransferStaysPending)
+{
+    GivenCrossFor(1);
+    const Tree before = Home.Snapshot();
+
+    DoubleClick(Nowhere);
+
+    EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
+    EXPECT_EQ(FileOf(1), u"B002"_s);
+    EXPECT_EQ(Current(), u"B002"_s);
+    EXPECT_EQ(P.Branch.UsingAlternate, 1);
+    EXPECT_EQ(P.Tools.MapCursorMode, 2);
+    EXPECT_EQ(P.Screen.Pointer, MousePointer::Cross);
+
+    DoubleClickBox(2);
+    EXPECT_EQ(FileOf(1), u"0"_s);
+    EXPECT_EQ(FileOf(2), u"B002"_s);
+    ExpectCursorGone();
+}
+
+TEST_F(TransferTest, AllRowsInUse_BesideAllBoxes_IsNoError)
+{
+    GivenCrossFor(0);
+    P.Map.SBoxes = LastMapRow;
+
+    DoubleClick(Nowhere);
+
+    EXPECT_EQ(FileOf(0), u"A001"_s);
+    EXPECT_EQ(P.Screen.Pointer, MousePointer::Cross);
+}
+
 } // namespace
 } // namespace lineforge

@@ -164,6 +164,79 @@ TEST_F(AlternateMappingTest, OptionsKeepTheChoice_AndTheNextOkTakesItAgain)
     EXPECT_EQ(P.Mapping.MapOption, 2);
 }
 
+// Which window is brought before the others last.
+class MappingInFrontTest : public AlternateMappingTest
+{
+protected:
+    MappingInFrontTest()
+    {
+        P.Form1->ToFront = [&] { InFront = u"Form1"_s; };
+        P.Form3->ToFront = [&] { InFront = u"Form3"_s; };
+    }
+
+    QString InFront;
+};
+
+TEST_F(MappingInFrontTest, RecordOfAnotherBranch_TheMapIs)
+{
+    GivenSibling();
+
+    Map(u"B002");
+
+    EXPECT_EQ(InFront, u"Form1"_s);
+    EXPECT_TRUE(P.Form3->Visible);
+}
+
+TEST_F(MappingInFrontTest, RecordOfAnotherBranchWithoutPicture_TheMapIs)
+{
+    GivenSibling();
+
+    Map(u"B001");
+
+    EXPECT_EQ(InFront, u"Form1"_s);
+}
+
+TEST_F(MappingInFrontTest, RecordUnknownInTheOtherBranch_TheRecordFormIs)
+{
+    GivenSibling();
+    Choose(&Form7::Option3, u"B009");
+    ExpectNotPresent(u"Record not Found: B009");
+
+    DoubleClickBox(0);
+
+    EXPECT_EQ(InFront, u"Form3"_s);
+}
+
+TEST_F(MappingInFrontTest, NewRecord_TheRecordFormIs)
+{
+    ChooseNewRecord();
+
+    DoubleClickBox(0);
+
+    EXPECT_EQ(InFront, u"Form3"_s);
+}
+
+TEST_F(MappingInFrontTest, UnmappedRecord_TheRecordFormIs)
+{
+    Choose(&Form7::Option2, u"A001");
+
+    DoubleClickBox(0);
+
+    EXPECT_EQ(InFront, u"Form3"_s);
+}
+
+TEST_F(MappingInFrontTest, FirstRecordWithTheOtherBranchChosen_TheRecordFormIs)
+{
+    SqliteFile(Home.Path(BranchA.DatabaseFile())).Execute("DELETE FROM Tree99");
+    OpenWorkDatabase(P);
+    P.Form3->ToFront = [&] { InFront = u"Form3"_s; };
+
+    Map(u"B002");
+
+    EXPECT_EQ(FileOf(0), u"A001"_s);
+    EXPECT_EQ(InFront, u"Form3"_s);
+}
+
 // `ReMapSubject`: A001 stands in row 1, the rows 0 and 2 are empty.
 class RemapTest : public SubjectMappingTest
 {

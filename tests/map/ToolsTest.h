@@ -153,6 +153,12 @@ protected:
         RedrawMap(P);
         return Shown();
     }
+    // Whether the picture was, until now, what that gives.
+    testing::AssertionResult IsAsPaintedAfresh()
+    {
+        const QImage shown = Shown();
+        return SameImage(shown, Afresh());
+    }
 
     static constexpr int LeftButton = 1;
     static constexpr int RightButton = 2;

@@ -232,7 +232,7 @@ TEST_F(ZoneDragTest, Release_ClearsThePicture_SoThatNoTraceStays)
     Drag({{1000, 1000}, {1200, 1100}});
 
     EXPECT_EQ(CountPixels(Picture, Green), 0);
-    EXPECT_TRUE(SameImage(Shown(), Afresh()));
+    EXPECT_TRUE(IsAsPaintedAfresh());
 }
 
 TEST_F(ZoneDragTest, PressAndReleaseWithoutAMove_ChangesNothing_AndTheZoneStaysFixed)
@@ -386,6 +386,53 @@ TEST_F(ZoneToolTest, SecondZone_CarriesItsOwnItemsOnly)
     EXPECT_EQ(Box(0)[BoxColumn::Y], u"1000"_s);
     EXPECT_EQ(Box(1)[BoxColumn::X], u"5000"_s);
     EXPECT_EQ(Box(1)[BoxColumn::Y], u"1200"_s);
+}
+
+TEST_F(ZoneToolTest, ItemsAtNoPossiblePlace_StayOut_EvenWhenTheZoneReachesOverTheEdge)
+{
+    BranchA.Boxes(u"1000,here,255,0,,there,1000,255,0,,").Texts(u"1000,here,One,Arial,8,0,there,1000,Two,Arial,8,0,");
+    GivenTools();
+    DrawZone({3000, 3000}, {-500, -500});
+
+    Drag({{100, 100}, {200, 300}});
+
+    EXPECT_EQ(Box(0), (RowTexts{u"1000"_s, u"here"_s, u"255"_s, u"0"_s, u""_s}));
+    EXPECT_EQ(Box(1), (RowTexts{u"there"_s, u"1000"_s, u"255"_s, u"0"_s, u""_s}));
+    EXPECT_EQ(Text(0)[TextColumn::Y], u"here"_s);
+    EXPECT_EQ(Text(1)[TextColumn::X], u"there"_s);
+    EXPECT_TRUE(IsBlank(Picture));
+}
+
+class ZonePutAwayTest : public ZoneToolTest, public WithParamInterface<Image forms::Form1::*>
+{
+};
+
+TEST_P(ZonePutAwayTest, AnItemToolChosen_HidesTheRectangle)
+{
+    GivenTools();
+    DrawZone({500, 500}, {2000, 2000});
+
+    Click(GetParam());
+
+    EXPECT_FALSE(Shape3.Visible);
+}
+
+INSTANTIATE_TEST_SUITE_P(ItemTools, ZonePutAwayTest,
+                         testing::Values(&forms::Form1::Image6, &forms::Form1::Image7, &forms::Form1::Image9));
+
+TEST_F(ZoneToolTest, ToolsClosed_HideTheRectangle)
+{
+    GivenMap();
+    for (const Answer answer : {Answer::Yes, Answer::No}) {
+        P.Form1->mnuTreeTools.Click();
+        DrawZone({500, 500}, {2000, 2000});
+
+        ExpectSaveQuestion(answer, [&] { EXPECT_FALSE(Shape3.Visible); });
+        Click(&forms::Form1::Image8);
+
+        EXPECT_FALSE(Shape3.Visible);
+        EXPECT_EQ(P.Tools.ToolSel, 0);
+    }
 }
 
 TEST_F(ZoneToolTest, MoveButton_PutsTheZoneAway)

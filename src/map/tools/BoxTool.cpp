@@ -24,23 +24,24 @@ void DrawNewOutline(Program& p)
     p.Form1->Picture1.Box({corner.X, corner.Y, BoxWidth, BoxHeight});
 }
 
-bool HitsBox(Program& p)
-{
-    HitBox(p);
-    // With the count at 0 the hit before stands, maybe on a box that is gone.
-    if (p.Mouse.BoxMiss == 0 && p.Map.BoxArr[p.Mouse.BoxIdx][BoxColumn::X].IsZero())
-        p.Mouse.BoxMiss = 1;
-    return p.Mouse.BoxMiss == 0;
-}
-
 QString NumberInHitBox(const Program& p)
 {
     return p.Map.BoxArr[p.Mouse.BoxIdx][BoxColumn::File].Text();
 }
 
-bool StandOnRecordOfHitBox(Program& p)
+// What is to become of the cursor where the box has a record; without one it stays where it is.
+enum class Cursor { GoesThere, Stays };
+
+bool HasRecord(Program& p, Cursor cursor)
 {
-    return !Records(p).IsEmpty() && Records(p).Seek(u"File", NumberInHitBox(p));
+    Recordset& records = Records(p);
+    if (records.IsEmpty())
+        return false;
+    const Bookmark before = records.HasRow() ? records.GetBookmark() : Bookmark();
+    const bool isFound = records.Seek(u"File", NumberInHitBox(p));
+    if (before && (!isFound || cursor == Cursor::Stays))
+        records.SetBookmark(before);
+    return isFound;
 }
 
 Pressed TakeHitBox(Program& p, const Pointing& pointing)
@@ -80,9 +81,9 @@ Released EndBox(Program& p)
 
 Pressed TakeBox(Program& p, const Pointing& pointing)
 {
-    if (!HitsBox(p))
+    if (!FindsBox(p))
         return Pressed::No;
-    if (StandOnRecordOfHitBox(p)) {
+    if (HasRecord(p, Cursor::GoesThere)) {
         p.Record.sCurFile = NumberInHitBox(p);
         p.Record.SavedBookmark = Records(p).GetBookmark();
         p.Tools.MapCursorMode = MapCursor::MovingSubject;
@@ -93,9 +94,9 @@ Pressed TakeBox(Program& p, const Pointing& pointing)
 Pressed TakeBoxToDelete(Program& p, const Pointing& pointing)
 {
     // An empty box has no caption to be wiped; the release deletes it.
-    if (!HitsBox(p) || NumberInHitBox(p) == u"0")
+    if (!FindsBox(p) || NumberInHitBox(p) == u"0")
         return Pressed::No;
-    if (StandOnRecordOfHitBox(p)) {
+    if (HasRecord(p, Cursor::Stays)) {
         p.Prompts.MsgBox(u"Tree Box deletion"_s,
                          u"You must delete or transfer the Record for this subject \n"
                          u"before deleting the subject box."_s,

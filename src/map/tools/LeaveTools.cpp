@@ -7,6 +7,7 @@
 #include "map/tools/ToolImages.h"
 #include "map/tools/ToolMouse.h"
 #include "map/tools/ToolSelection.h"
+#include "program/AlternateBranch.h"
 #include "program/BranchUi.h"
 #include "program/WorkDatabase.h"
 
@@ -37,17 +38,10 @@ void SaveMap(Program& p)
 
 void ReadBackFromLists(Program& p)
 {
-    p.Form1->Picture1.Cls();
+    ClearMapPicture(p);
     ResetMapFont(p.Form1->Picture1);
-    p.Map.BoxArr.Erase();
-    p.Map.LineArr.Erase();
-    p.Map.TextArr.Erase();
-    p.Map.LineChain.Erase();
-    p.Tools.ChainTop = 0;
-    // A spoilt list has been read as far as it goes once before.
-    p.Errors.Ignoring([&] { ParseBoxes(p); });
-    p.Errors.Ignoring([&] { ParseLines(p); });
-    p.Errors.Ignoring([&] { ParseTexts(p); });
+    EraseItems(p);
+    ParseWhatIsThere(p);
 }
 
 void ReturnToRecord(Program& p)
@@ -73,6 +67,9 @@ void LeaveTools(Program& p)
         PutToolsDown(p);
         return;
     }
+    // The tools left to themselves, somebody may be looking at a subject of another branch: the map is the own one's.
+    if (p.Branch.UsingAlternate == 1)
+        ReturnFromSibling(p);
     const Answer save =
         p.Prompts.MsgBox(u"Closing Graphics Tools"_s, u"Save the Tree Graphic changes ?"_s, Buttons::InformationYesNo);
     p.Screen.Pointer = MousePointer::Hourglass;

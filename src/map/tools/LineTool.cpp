@@ -160,11 +160,7 @@ Released EndLine(Program& p)
 
 Pressed TakeChain(Program& p, const Pointing& pointing)
 {
-    HitLine(p);
-    // With the count at 0 the hit before stands, maybe on a line that is gone.
-    if (p.Tools.LineMiss == 0 && p.Map.LineArr[p.Map.LineChain[0]] == FixedArray<int, 0, 4>())
-        p.Tools.LineMiss = 1;
-    if (p.Tools.LineMiss != 0)
+    if (!FindsLine(p))
         return Pressed::No;
     KeepLast(p, pointing.At);
     return Pressed::Yes;

@@ -91,7 +91,6 @@ void OpenTools(Program& p)
     p.Form1->Picture1.ForeColor = p.Tools.ToolColour;
     ShowTools(p);
     p.Form1->Shape1.Visible = false;
-    p.Tools.ToolBookmark.reset();
     p.Errors.Ignoring([&] { p.Tools.ToolBookmark = p.Form3->Data1.Records().GetBookmark(); });
 }
 

@@ -14,10 +14,12 @@ namespace lineforge
 namespace
 {
 // Free rows stay out, and so do items at no possible place.
-bool IsInZone(const Program& p, int x, int y)
+bool IsInZone(const Program& p, const Cell& x, const Cell& y)
 {
-    return x != 0 && x > p.Tools.ZoneLeft && x < p.Tools.ZoneLeft + p.Tools.ZoneWidth && y > p.Tools.ZoneTop &&
-           y < p.Tools.ZoneTop + p.Tools.ZoneHeight;
+    if (x.IsZero() || !x.IsNumber() || !y.IsNumber())
+        return false;
+    return x.Number() > p.Tools.ZoneLeft && x.Number() < p.Tools.ZoneLeft + p.Tools.ZoneWidth &&
+           y.Number() > p.Tools.ZoneTop && y.Number() < p.Tools.ZoneTop + p.Tools.ZoneHeight;
 }
 
 void TakeWhatLiesInside(Program& p)
@@ -26,10 +28,18 @@ void TakeWhatLiesInside(Program& p)
         const auto& text = p.Map.TextArr[row];
         const auto& box = p.Map.BoxArr[row];
         const auto& line = p.Map.LineArr[row];
-        p.Tools.ZoneTexts[row] = IsInZone(p, text[TextColumn::X].NumberOr(0), text[TextColumn::Y].NumberOr(0));
-        p.Tools.ZoneBoxes[row] = IsInZone(p, box[BoxColumn::X].NumberOr(0), box[BoxColumn::Y].NumberOr(0));
+        p.Tools.ZoneTexts[row] = IsInZone(p, text[TextColumn::X], text[TextColumn::Y]);
+        p.Tools.ZoneBoxes[row] = IsInZone(p, box[BoxColumn::X], box[BoxColumn::Y]);
         p.Tools.ZoneLines[row] = IsInZone(p, line[LineColumn::X1], line[LineColumn::Y1]);
     }
+}
+
+// On its way a box shows the name in its row. What stands in it at first may be another.
+void WipeCaptionsInside(Program& p)
+{
+    for (int row = 0; row <= p.Tools.ZoneBoxes.Last(); ++row)
+        if (p.Tools.ZoneBoxes[row])
+            WipeCaption(p, row);
 }
 
 void PrintBoxTexts(Program& p, int row, Colour pen)
@@ -121,11 +131,13 @@ void DragZone(Program& p, const Pointing& pointing)
     p.Tools.DeltaX = zone.Left - p.Tools.ZoneLeft;
     p.Tools.DeltaY = zone.Top - p.Tools.ZoneTop;
 
-    if (p.Tools.ToolSel == ToolSelection::ZoneFixed)
-        TakeWhatLiesInside(p);
     PictureBox& picture = p.Form1->Picture1;
     const Colour pen = picture.ForeColor;
     const TextFont font = picture.Font;
+    if (p.Tools.ToolSel == ToolSelection::ZoneFixed) {
+        TakeWhatLiesInside(p);
+        WipeCaptionsInside(p);
+    }
     for (int row = 0; row <= p.Tools.ZoneTexts.Last(); ++row) {
         if (p.Tools.ZoneTexts[row])
             CarryTextAlong(p, row);
@@ -147,7 +159,7 @@ Released DropZone(Program& p)
     p.Tools.ToolSel = ToolSelection::None;
     p.Form1->Shape3.Visible = false;
     RaiseTool(p, &forms::Form1::Image2);
-    p.Form1->Picture1.Cls();
+    ClearMapPicture(p);
     RedrawMap(p);
     p.Tools.MapCursorMode = MapCursor::Normal;
     p.Screen.Pointer = MousePointer::Default;
