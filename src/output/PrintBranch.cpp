@@ -23,13 +23,15 @@ void SetUpPage(Program& p)
     p.Printer.Landscape = true;
 }
 
-// An item that fails costs its own drawing; the last of the failures is told.
+// An item that fails costs its own drawing; the first of the failures is told. A printer that isn't there goes before
+// them all, whichever item would have been the first to need it.
 void DrawOnPaper(Program& p)
 {
+    p.Printer.Begin();
     p.Errors.Clear();
     RedrawMap(p);
-    if (p.Errors.Last)
-        throw RuntimeError(*p.Errors.Last);
+    if (p.Errors.First)
+        throw RuntimeError(*p.Errors.First);
 }
 
 // Two records to a page; a page is begun only for records that follow.

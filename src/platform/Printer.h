@@ -47,6 +47,8 @@ public:
     // A picture in the top left corner, so many twips wide; made smaller when the page is.
     void PrintPicture(const QImage& picture, int width);
 
+    // Begins a job before anything is put on it.
+    void Begin() { Begun(); }
     void NewPage();
     // Nothing when no job is under way. Error 482 when it can't be sent off.
     void EndDoc();

@@ -70,7 +70,8 @@ inline constexpr int NotADatabase = 3343;
 // The platform's own text for an error number, in the words that users of such systems know.
 QString RuntimeErrorText(int number);
 
-// Remembers the last error of a stretch of statements that go on regardless of failures.
+// Remembers the last error of a stretch of statements that go on regardless of failures, and the first since it was
+// cleared.
 class ErrorState
 {
 public:
@@ -82,12 +83,19 @@ public:
             std::forward<Statement>(statement)();
         } catch (const RuntimeError& error) {
             Last = error;
+            if (!First)
+                First = error;
         }
     }
 
-    void Clear() { Last.reset(); }
+    void Clear()
+    {
+        Last.reset();
+        First.reset();
+    }
 
     std::optional<RuntimeError> Last;
+    std::optional<RuntimeError> First;
 };
 
 } // namespace lineforge

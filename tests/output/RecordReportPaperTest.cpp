@@ -27,6 +27,19 @@ protected:
         return lines.sliced(std::max<qsizetype>(0, lines.indexOf(u"Notes(1):"_s)));
     }
 
+    // From the second heading of the notes to the record that follows on the same page.
+    double RoomOfNotes(const QString& notes)
+    {
+        GivenRecords({{{u"File", u"A001"}, {u"Notes", notes}}, {{u"File", u"A002"}}});
+        GivenBookmarks({u"A001"_s, u"A002"_s});
+        P.Form1->mnuPrinList.Click();
+        double heading = 0;
+        for (const PrintedWord& word : WordsOn(Jobs().value(0)))
+            if (word.Text == u"ANCESTRAL")
+                heading = word.Place.top();
+        return heading - WordOn(Jobs().value(0), u"Notes(2):").Place.top();
+    }
+
     // The lines between the two headings, empty ones too.
     int LinesUsedByNote(int length)
     {
@@ -171,6 +184,26 @@ TEST_F(RecordReportPaperTest, NoteOf79Characters_TakesTwoLines)
 {
     EXPECT_EQ(LinesUsedByNote(79), 2);
 }
+
+TEST_F(RecordReportPaperTest, EmptyNotes_TakeALineLikeAWordWould)
+{
+    EXPECT_EQ(LinesUsedByNote(0), 1);
+}
+
+struct EmptyNotesTest : RecordReportPaperTest, testing::WithParamInterface<QStringView> {
+};
+
+TEST_P(EmptyNotesTest, BeforeTheNextRecord_AreOneLineOfBlanks_AndTwoEmptyOnes)
+{
+    const double room = RoomOfNotes(GetParam().toString());
+    const double line =
+        WordOn(Jobs().value(0), u"ForeNames:").Place.top() - WordOn(Jobs().value(0), u"Surname:").Place.top();
+
+    // The label's own line, the empty one below it, the notes, and the two empty ones.
+    EXPECT_NEAR(room / line, 5, 0.3);
+}
+
+INSTANTIATE_TEST_SUITE_P(Notes, EmptyNotesTest, testing::Values(u"", u"Cats"));
 
 TEST_F(RecordReportPaperTest, LineBreaksInNotes_BreakTheLineOnPaper)
 {
