@@ -2,6 +2,7 @@
 
 #include "gallery/DeleteFile.h"
 #include "gallery/GalleryFile.h"
+#include "gallery/GalleryPage.h"
 #include "gallery/Rearrange.h"
 #include "platform/Number.h"
 #include "platform/Picture.h"
@@ -36,9 +37,9 @@ Image& SelectedTile(Program& p)
 // "of" is followed by one blank while an item is open and by two when it has been closed.
 QString ItemCaption(Program& p, QStringView of)
 {
-    const forms::Form3& record = *p.Form3;
-    return record.Label25.Caption.value() + u" Gallery " + of + record.Text3.Text.value() + u"  " +
-           record.Text2.Text.value();
+    TakePageNames(p);
+    const GalleryState& gallery = p.Gallery;
+    return gallery.PageRecord + u" Gallery " + of + gallery.PageForename + u"  " + gallery.PageSurname;
 }
 
 void ShowPage(Program& p, bool isShown)

@@ -2,6 +2,7 @@
 
 #include "gallery/GalleryFile.h"
 #include "gallery/GalleryItem.h"
+#include "platform/Text.h"
 #include "program/BranchPaths.h"
 
 #include <algorithm>
@@ -140,11 +141,27 @@ void LoadImageGrid(Program& p)
     PlacePlayers(p, form);
 }
 
+bool IsPageOfRecord(Program& p)
+{
+    return p.Gallery.PageDirectory == GalleryDirectory(p.Branch.WorkDir) &&
+           SameText(p.Gallery.PageRecord, p.Form3->Label25.Caption.value());
+}
+
+void TakePageNames(Program& p)
+{
+    if (!p.Form3.IsLoaded() || !IsPageOfRecord(p))
+        return;
+    p.Gallery.PageForename = p.Form3->Text3.Text;
+    p.Gallery.PageSurname = p.Form3->Text2.Text;
+}
+
 void ForgetPage(Program& p)
 {
     ++p.Gallery.Page;
     p.Gallery.PageRecord.clear();
     p.Gallery.PageDirectory.clear();
+    p.Gallery.PageForename.clear();
+    p.Gallery.PageSurname.clear();
     p.Gallery.EnlargedTile.reset();
 }
 
@@ -152,11 +169,11 @@ void BuildGalleryPage(Program& p)
 {
     const int page = ++p.Gallery.Page;
     p.Gallery.FirstShow = 0;
-    const forms::Form3& record = *p.Form3;
-    p.Gallery.PageRecord = record.Label25.Caption;
+    p.Gallery.PageRecord = p.Form3->Label25.Caption;
     p.Gallery.PageDirectory = GalleryDirectory(p.Branch.WorkDir);
+    TakePageNames(p);
     p.Form5->Caption = p.Branch.sBranchName + u" Tree Branch. Gallery " + p.Gallery.PageRecord + u" of " +
-                       record.Text3.Text.value() + u' ' + record.Text2.Text.value();
+                       p.Gallery.PageForename + u' ' + p.Gallery.PageSurname;
     CancelDeletion(p);
     PutItemAway(p);
     ClearPage(p);

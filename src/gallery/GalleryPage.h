@@ -8,6 +8,12 @@ namespace lineforge
 // The load of the gallery window: sizes it to the screen, and places its tiles in 7 rows of 14, 100 twips apart.
 void LoadImageGrid(Program& p);
 
+// Whether the page on show is that of the record form's record: behind the window the cursor may have gone on.
+bool IsPageOfRecord(Program& p);
+
+// Keeps the names of the page's record, which the captions tell, as long as the record form shows them.
+void TakePageNames(Program& p);
+
 // The window goes, and its page with it; one that is still being built stops.
 void ForgetPage(Program& p);
 

@@ -106,6 +106,8 @@ struct GalleryState {
     // since: what is opened, added or deleted goes by what the user sees.
     QString PageRecord;
     QString PageDirectory;
+    QString PageForename; // of that record, and its surname, as the record form last showed them
+    QString PageSurname;
 };
 
 // The comparison of the open branch with another one.

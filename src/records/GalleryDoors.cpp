@@ -1,12 +1,10 @@
 #include "records/GalleryDoors.h"
 
-#include "gallery/GalleryFile.h"
 #include "gallery/GalleryItem.h"
 #include "gallery/GalleryPage.h"
 #include "map/CurrentBox.h"
 #include "map/SubjectPanel.h"
 #include "map/tools/LeaveTools.h"
-#include "platform/Text.h"
 #include "program/BranchUi.h"
 #include "program/WorkDatabase.h"
 #include "records/RecordForm.h"
@@ -21,8 +19,7 @@ namespace
 // must not be taken for this one's.
 bool NeedsPage(Program& p)
 {
-    return p.Gallery.FirstShow == 1 || p.Gallery.PageDirectory != GalleryDirectory(p.Branch.WorkDir) ||
-           !SameText(p.Gallery.PageRecord, p.Form3->Label25.Caption.value());
+    return p.Gallery.FirstShow == 1 || !IsPageOfRecord(p);
 }
 
 void ShowGallery(Program& p)

@@ -113,6 +113,27 @@ TEST_F(DeleteFileTest, FileOfOneDigit_Goes)
     EXPECT_EQ(FilesInGallery(), QStringList{u"A001_05.jpg"_s});
 }
 
+// Of the two names with one digit the tile names the later one; the other is no file of the subscript.
+TEST_F(DeleteFileTest, FileOfOneDigitThatTheTileNames_GoesBesideThoseOfTwo)
+{
+    OpenGallery({u"A001_02.jpg"_s, u"A001_2.jpg"_s, u"A001_2.wav"_s, u"A001_05.jpg"_s});
+    ASSERT_EQ(Page().at(1), u"1 A001_2.wav sound"_s);
+    BeginDeletion();
+    ClickTile(1);
+    EXPECT_EQ(FilesInGallery(), QStringList({u"A001_05.jpg"_s, u"A001_2.jpg"_s}));
+}
+
+TEST_F(DeleteFileTest, FileOfOneDigitJustMoved_GoesByItsPath)
+{
+    OpenGallery({u"A001_01.wav"_s, u"A001_05.jpg"_s});
+    Tile(0).Tag = GalleryPathOf(u"A001_01.wav");
+    Drop(0, 2);
+    ASSERT_EQ(FilesInGallery(), QStringList({u"A001_05.jpg"_s, u"A001_3.wav"_s}));
+    BeginDeletion();
+    ClickTile(2);
+    EXPECT_EQ(FilesInGallery(), QStringList{u"A001_05.jpg"_s});
+}
+
 TEST_F(DeleteFileTest, BranchChangedBehindThePage_KeepsItsFiles)
 {
     OpenGallery({u"A001_01.jpg"_s, u"A001_02.jpg"_s});

@@ -1,6 +1,7 @@
 #include "gallery/GalleryItem.h"
 
 #include "gallery/GalleryTest.h"
+#include "program/AlternateBranch.h"
 
 namespace lineforge
 {
@@ -187,6 +188,59 @@ TEST_F(GalleryItemTest, BranchChangedBehindThePage_TheItemIsThatOfThePage)
     P.Branch.WorkDir = Home.Path(u"LfgDat_B");
     ClickTile(0);
     EXPECT_EQ(Page(), QStringList{u"0 A001_01.jpg red"_s});
+}
+
+// The scanner goes on behind the window.
+TEST_F(GalleryItemTest, CursorThatHasGoneOn_LeavesTheCaptionsToThePagesRecord)
+{
+    OpenGallery({u"A001_01.jpg"_s});
+    P.Form3->Data1.Records().MoveNext();
+    ASSERT_EQ(P.Form3->Text3.Text.value(), u"Mary"_s);
+
+    ClickTile(0);
+    EXPECT_EQ(Caption(), u"A001 Gallery of John  Smith   A001_01.jpg"_s);
+    ClickTile(0);
+    EXPECT_EQ(Caption(), u"A001 Gallery of  John  Smith"_s);
+    ClickTile(1);
+    EXPECT_EQ(Caption(), u"A001 Gallery of John  Smith   2"_s);
+}
+
+TEST_F(GalleryItemTest, CursorOfAnotherBranch_LeavesTheCaptionsToThePagesRecord)
+{
+    OpenGallery({u"A001_01.jpg"_s});
+    SwitchToSibling(P, u"B");
+    ASSERT_EQ(P.Form3->Label25.Caption.value(), u"B001"_s);
+
+    ClickTile(0);
+
+    EXPECT_EQ(Caption(), u"A001 Gallery of John  Smith   A001_01.jpg"_s);
+}
+
+TEST_F(GalleryItemTest, ForenameChangedSinceThePageWasBuilt_IsInTheCaptions)
+{
+    OpenGallery({u"A001_01.jpg"_s});
+    Recordset& records = P.Form3->Data1.Records();
+    records.Edit();
+    records.Put(u"Forename", u"Jack"_s);
+    records.Update();
+
+    ClickTile(0);
+
+    EXPECT_EQ(Caption(), u"A001 Gallery of Jack  Smith   A001_01.jpg"_s);
+}
+
+TEST_F(GalleryItemTest, PictureReplacedSinceThePageWasBuilt_OpensAsItIsNow)
+{
+    OpenGallery({u"A001_01.jpg"_s});
+    Home.WriteFile(InGallery(u"A001_01.jpg"), PictureBytes(Qt::red, {400, 300}));
+
+    ClickTile(0);
+    EXPECT_EQ(Page(), QStringList{u"0 A001_01.jpg red"_s});
+    EXPECT_EQ(Tile(0).Picture.value().size(), QSize(400, 300));
+
+    // The tile goes on showing what the page was built of.
+    ClickTile(0);
+    EXPECT_EQ(Page(), QStringList({u"0 A001_01.jpg blue"_s, u"1 2 empty"_s}));
 }
 
 TEST_F(GalleryItemTest, CloseWithNothingOpen_DoesNothing)

@@ -144,6 +144,19 @@ TEST_P(GalleryPlayerTest, FileThatIsGone_IsTold_WithButtonsAndTilesHidden_AndExi
     EXPECT_EQ(State(), 0);
 }
 
+TEST_P(GalleryPlayerTest, FileReplacedSinceThePageWasBuilt_IsPlayedAsItIsNow)
+{
+    Home.WriteFile(InGallery(GetParam().File), "another clip");
+    QByteArray played;
+    Player().Act = [&](QStringView command) {
+        QFile file(Player().FileName);
+        if (command == u"Open" && file.open(QFile::ReadOnly))
+            played = file.readAll();
+    };
+    ClickTile(0);
+    EXPECT_EQ(played, "another clip");
+}
+
 TEST_P(GalleryPlayerTest, ClipAddedAMomentAgo_IsFoundByTheEndOfItsTag)
 {
     Tile(0).Tag = GalleryPathOf(GetParam().File);

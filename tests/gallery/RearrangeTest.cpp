@@ -79,6 +79,39 @@ TEST_F(RearrangeTest, FileOfOneDigit_MovesAndSwapsByIt)
     EXPECT_EQ(Page(), QStringList({u"0 A001_01.avi video"_s, u"1 2 empty"_s, u"2 A001_3.wav sound"_s, u"3 4 empty"_s}));
 }
 
+TEST_F(RearrangeTest, LongName_KeepsAllThatFollowsItsSubscript)
+{
+    OpenGallery({u"A001_01 Leeds, 1901 (2).wav"_s, u"A001_03 York.avi"_s});
+    GivenCurrentDirectoryInTheGallery();
+    Drop(0, 1);
+    EXPECT_EQ(FilesInGallery(), QStringList({u"A001_03 York.avi"_s, u"A001_2 Leeds, 1901 (2).wav"_s}));
+}
+
+TEST_F(RearrangeTest, LongNames_ChangePlacesByTheirSubscriptsAlone)
+{
+    OpenGallery({u"A001_01 Leeds.wav"_s, u"A001_12 York Minster.avi"_s});
+    GivenCurrentDirectoryInTheGallery();
+    Drop(0, 11);
+    EXPECT_EQ(FilesInGallery(), QStringList({u"A001_01 York Minster.avi"_s, u"A001_12 Leeds.wav"_s}));
+    EXPECT_EQ(In(u"A001_12 Leeds.wav"), "A001_01 Leeds.wav");
+}
+
+// A swap is three renames: none of them is done when one of the files isn't there.
+TEST_F(RearrangeTest, SwapWithAFileThatHasGone_RenamesNothing)
+{
+    for (const QStringView gone : {u"A001_01.wav", u"A001_02.avi"}) {
+        GivenFiles({u"A001_01.wav"_s, u"A001_02.avi"_s});
+        P.Gallery.FirstShow = 1;
+        OpenGallery();
+        GivenCurrentDirectoryInTheGallery();
+        P.Files.Kill(GalleryPathOf(gone));
+        const Tree before = Home.Snapshot();
+        ExpectFatalBox(u"Run-time error '53':\n\nFile not found", u"There is no such file:\n"_s + GalleryPathOf(gone));
+        Drop(0, 1);
+        EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
+    }
+}
+
 TEST_F(RearrangeTest, EmptyTileOnAFileWithAPath_BringsTheFileToIt)
 {
     OpenGallery({u"A001_01.wav"_s, u"A001_04.txt"_s});
