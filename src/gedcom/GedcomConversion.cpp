@@ -55,7 +55,7 @@ bool AreOneFile(const Program& p, const QString& a, const QString& b)
 
 void OpenReport(Program& p, const QString& path)
 {
-    if (p.Gedcom.Report || AreOneFile(p, p.Gedcom.sGedFile, path))
+    if (AreOneFile(p, p.Gedcom.sGedFile, path))
         throw RuntimeError(ErrorNumber::FileAlreadyOpen, path);
     p.Gedcom.Report = std::make_unique<SequentialFile>(p.Files, path);
 }
@@ -136,12 +136,14 @@ void ConvertGedcom(Program& p)
     if (!chosen || !Accept(p, *chosen))
         return;
     const QString report = chosen->chopped(extension.size()) + u"txt";
-    p.Gedcom.sGedFile = *chosen;
     p.Scratch.sFileB = report;
     p.Prompts.MsgBox(
         *chosen + u" Gedcom file selected.",
         u"The selected Gedcom file will be re formatted and\nplaced in the above directory as a text file."_s,
         Buttons::Information);
+    // Chosen in a yield of another run, whose files and window these are: it is the one that goes on.
+    if (p.Gedcom.Report)
+        return;
     bool isComplete = true;
     p.Errors.Ignoring([&] { isComplete = Convert(p, *chosen, report); });
     if (isComplete)

@@ -117,6 +117,15 @@ void CloseGedcomFile(Program& p)
     const std::unique_ptr<SequentialFile> file = std::move(p.Lineage.GedcomFile);
     file->Close();
 }
+
+// Without its last lines it would pass for a whole one; with the branch it may have gone already.
+void DropUnfinished(Program& p, const QString& path)
+{
+    p.Lineage.GedcomFile.reset();
+    p.Errors.Ignoring([&] { p.Files.Kill(path); });
+    p.Prompts.MsgBox(u"GedCom File"_s, u"The Tree Branch was left before the GedCom file was complete."_s,
+                     Buttons::Information);
+}
 } // namespace
 
 void ShowGedcomForm(Program& p)
@@ -154,20 +163,21 @@ void CreateGedcomFile(Program& p)
 
 void WriteGedcomFile(Program& p)
 {
-    p.Scratch.sFileA = p.Branch.WorkDir + PathSeparator + u"Gedcom.tmp";
+    const QString path = p.Branch.WorkDir + PathSeparator + u"Gedcom.tmp";
+    p.Scratch.sFileA = path;
     p.Form12->Picture1.Cls();
-    p.Form12->Picture1.Print(QString(u"   Data placed in directory " + p.Scratch.sFileA));
+    p.Form12->Picture1.Print(QString(u"   Data placed in directory " + path));
     p.Form12->Picture1.Print();
-    p.Lineage.GedcomFile = std::make_unique<SequentialFile>(p.Files, p.Scratch.sFileA);
+    p.Lineage.GedcomFile = std::make_unique<SequentialFile>(p.Files, path);
     try {
         PutLines(p, head);
         CollectLineage(p);
         PutLines(p, tail);
         KeepLastLineInView(p.Form12->Picture1, p.Form12->VScroll1);
+        CloseGedcomFile(p);
     } catch (const LineageAbandoned&) {
-        // Without its last line, the sign of success.
+        DropUnfinished(p, path);
     }
-    CloseGedcomFile(p);
 }
 
 } // namespace lineforge

@@ -16,9 +16,9 @@ void ResetGedcomForm(forms::Form12& form);
 // Create File: tells what is missing, or writes the file. A press while a file is being written does nothing.
 void CreateGedcomFile(Program& p);
 
-// `Gedcom.tmp` in the open branch's directory, as it goes, and the same lines in the panel. Ends early, with what was
-// written, when the branch is left in one of its yields. Errors of the disk and of `CollectLineage`; the file is still
-// open then.
+// `Gedcom.tmp` in the open branch's directory, as it goes, and the same lines in the panel. Ends early, without a file
+// and with a box, when the branch is left in one of its yields. Errors of the disk and of `CollectLineage`; the file is
+// still open then.
 void WriteGedcomFile(Program& p);
 
 } // namespace lineforge

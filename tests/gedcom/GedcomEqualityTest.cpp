@@ -197,12 +197,40 @@ TEST_F(GedcomEqualityTest, ARunThatEndsByTheCountOfChildren_IsTheSameToTheLastBy
     EXPECT_TRUE(IsCompleted());
 }
 
-TEST_F(GedcomEqualityTest, ASourceThatEndsInNothing_CountsTheChildrenOutToo)
+struct EndInNothing {
+    const char* Name;
+    const char* Tail; // behind a family; it has no line end
+    int Nobodies;     // people of whom nothing is known
+    bool HasPassOfNothing;
+};
+
+// The line that has no end isn't parsed, and no seek asks for a character behind it. What stops the search for children
+// is the next record's first line: where that is the one without an end the family itself never ends, else the pass
+// behind it, which finds a husband, a wife, a marriage and children of nothing.
+class EndInNothingTest : public GedcomEqualityTest, public testing::WithParamInterface<EndInNothing>
 {
-    ConvertBytes(QByteArray(Crlf(SmallFamily + "1 NOTE x0\n") + "0 TRLR"));
+};
+
+TEST_P(EndInNothingTest, CountsTheChildrenOut)
+{
+    const QByteArray source = Crlf(SmallFamily + "1 NOTE x0\n") + GetParam().Tail;
+    ConvertBytes(source);
+    LiteralMachine literal(source);
+    EXPECT_TRUE(literal.Convert());
+    EXPECT_EQ(literal.Error, ErrorNumber::Overflow);
     EXPECT_EQ(P.Errors.Last->Number, ErrorNumber::Overflow);
+    EXPECT_TRUE(Report() == literal.Report);
+    EXPECT_EQ(Report().count("             Name:       \r\n          Gender:     Female\r\r\n\r\r\n"),
+              GetParam().Nobodies);
+    EXPECT_EQ(Report().contains("   MARRIAGE\r\n            Date:    \r\r\n           Place:    \r\r\n"),
+              GetParam().HasPassOfNothing);
     EXPECT_TRUE(IsCompleted());
 }
+
+INSTANTIATE_TEST_SUITE_P(Tails, EndInNothingTest,
+                         testing::Values(EndInNothing{"Trailer", "0 TRLR", 32767 - 1, false},
+                                         EndInNothing{"LineBehindTheTrailer", "0 TRLR\r\n1 NOTE y", 2 + 32767, true}),
+                         [](const auto& end) { return std::string(end.param.Name); });
 
 } // namespace
 } // namespace lineforge

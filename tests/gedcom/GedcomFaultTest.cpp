@@ -25,6 +25,12 @@ protected:
         Machine.Loop.AtNextYield(action);
     }
 
+    void ExpectLeftBox(ScriptedPrompts::WhileOpen whileOpen = {})
+    {
+        Prompts.Expect(u"GedCom File", u"The Tree Branch was left before the GedCom file was complete.",
+                       Buttons::Information, Answer::Ok, std::move(whileOpen));
+    }
+
     // What the loop does once the program has been told to end.
     [[noreturn]] static void Ended() { throw ProgramEnded{}; }
 
@@ -225,7 +231,7 @@ class LeavingTest : public GedcomFaultTest, public testing::WithParamInterface<L
 {
 };
 
-TEST_P(LeavingTest, BranchThatIsLeft_EndsTheRun_QuietlyAndWithoutTheLastLine)
+TEST_P(LeavingTest, BranchThatIsLeft_EndsTheRun_IsTold_AndNoUnfinishedFileIsLeft)
 {
     Home.WriteFile(u"LfgDat_B/Gedcom.tmp", "of the other branch");
     Tree before;
@@ -233,14 +239,17 @@ TEST_P(LeavingTest, BranchThatIsLeft_EndsTheRun_QuietlyAndWithoutTheLastLine)
         Click([&] { GetParam().Leave(P); });
         before = Home.Snapshot();
     });
+    ExpectLeftBox([&] {
+        EXPECT_FALSE(P.Lineage.GedcomFile);
+        EXPECT_FALSE(Home.Exists(u"LfgDat_A/Gedcom.tmp"));
+    });
 
     CreateFile();
 
     EXPECT_EQ(ExitCode(), std::nullopt);
     EXPECT_FALSE(P.Lineage.GedcomFile);
-    EXPECT_TRUE(File().endsWith("2 PHON Text5\r\n"));
     EXPECT_FALSE(Panel().contains(u"0 TRLR"_s));
-    EXPECT_LE(Differences(before, Home.Snapshot()).size(), 1);
+    EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList{u"gone: LfgDat_A/Gedcom.tmp"_s});
     EXPECT_EQ(Home.ReadFile(u"LfgDat_B/Gedcom.tmp"), "of the other branch");
 }
 
@@ -249,6 +258,40 @@ INSTANTIATE_TEST_SUITE_P(Yields, LeavingTest,
                                          Leaving{"close", 9, CloseIt}, Leaving{"open", 1, OpenAnother},
                                          Leaving{"open", 2, OpenAnother}, Leaving{"open", 7, OpenAnother},
                                          Leaving{"sibling", 4, GoToASibling}));
+
+TEST_F(GedcomFaultTest, BranchDeletedDuringARun_IsTold_AndItsDirectoryIsGone)
+{
+    AtYield(amongTheLineage, [&] {
+        const QString text = u"All files in %1\n'Smiths' Ancestral Tree Branch will be deleted.\n"
+                             u"This includes the Database, Gallery and its Directories\n"
+                             u"Are you sure this is what you want ? "_s.arg(Home.Path(u"LfgDat_A"));
+        Prompts.Expect(u"Delete 'Smiths' DataBase and Galleries",
+                       u"Do you really want to delete the Database\nand Gallery files in 'Smiths' Tree Branch ?",
+                       Buttons::QuestionYesNo, Answer::Yes);
+        Prompts.Expect(u"Deletion of 'Smiths' Database, Gallery and Files", text, Buttons::ErrorYesNo, Answer::Yes);
+        Click(P.Form1->mnuDelSub.Click);
+        ExpectLeftBox();
+    });
+
+    CreateFile();
+
+    EXPECT_FALSE(Home.Exists(u"LfgDat_A"));
+    EXPECT_EQ(ExitCode(), std::nullopt);
+}
+
+TEST_F(GedcomFaultTest, AfterALeftRun_TheNextOneWritesItsFile)
+{
+    AtYield(amongTheLineage, [&] {
+        Click(P.Form1->mnuCloseDB.Click);
+        ExpectLeftBox();
+    });
+    CreateFile();
+    Choose(u"Smiths");
+
+    CreateFile();
+
+    EXPECT_TRUE(File().endsWith("0 TRLR\r\n"));
+}
 
 TEST_F(GedcomFaultTest, SameBranchOpenedAgainDuringARun_IsWalkedOn)
 {

@@ -75,26 +75,42 @@ TEST_F(SecondConversionTest, BeforeTheFilesAreOpen_BothReportsAreWhole)
     EXPECT_TRUE(IsCompleted());
 }
 
-// The files are open, which refuses them to the second run; its end closes them for both.
-TEST_F(SecondConversionTest, OnceTheyAreOpen_EndsBothRuns)
+// The files are open, which refuses them to the second run.
+TEST_F(SecondConversionTest, OnceTheyAreOpen_LeavesTheFirstWhole_InItsFileAndItsWindow)
 {
     const QByteArray whole = ReportOf(SmallFamily + Trailer);
+    const QStringList panel = Panel();
     ConvertTwo(afterTheFirstName);
     EXPECT_TRUE(IsCompleted());
     EXPECT_EQ(P.Screen.Pointer, MousePointer::Default);
     EXPECT_FALSE(Home.Exists(u"other.txt"));
-    EXPECT_TRUE(whole.startsWith(Report()));
-    EXPECT_TRUE(Report().endsWith("John  Smith\r\n"));
-    EXPECT_EQ(P.Errors.Last->Number, ErrorNumber::BadFileNumber);
+    EXPECT_EQ(Report(), whole);
+    EXPECT_EQ(Panel(), panel);
+    EXPECT_EQ(P.Errors.Last->Number, ErrorNumber::InputPastEnd);
     P.Scratch.ScanState = 0;
     EXPECT_EQ(ReportOf(SmallFamily + Trailer), whole);
 }
 
-TEST_F(SecondConversionTest, AtAnyYield_NothingIsLeftOpen)
+TEST_F(SecondConversionTest, WhileTheFirstGoesOn_ItsWindowSaysSo)
 {
+    ExpectChoice(Home.WriteFile(u"family.ged", Crlf(SmallFamily + Trailer)));
+    ExpectAnnouncement(SourcePath());
+    AtYield(afterTheFirstName, [&] {
+        Convert(Home.WriteFile(u"other.ged", Crlf(SmallFamily + Trailer)));
+        EXPECT_EQ(Caption(), QString(u"Processing: " + SourcePath()));
+        EXPECT_EQ(P.Screen.Pointer, MousePointer::Hourglass);
+    });
+    Click(P.Form1->mnuImpGedcom.Click);
+    EXPECT_TRUE(IsCompleted());
+}
+
+TEST_F(SecondConversionTest, AtAnyYield_TheFirstIsWhole_AndNothingIsLeftOpen)
+{
+    const QByteArray whole = ReportOf(SmallFamily + Trailer);
     for (int yield = 1; yield <= 22; ++yield) {
         P.Scratch.ScanState = 0;
         ConvertTwo(yield);
+        EXPECT_EQ(Report(), whole) << yield;
         EXPECT_EQ(P.Gedcom.Report, nullptr);
         EXPECT_EQ(P.Gedcom.Source, nullptr);
         EXPECT_EQ(P.Screen.Pointer, MousePointer::Default);
