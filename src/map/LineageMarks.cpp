@@ -81,12 +81,16 @@ void LineageView(Program& p)
 
 void ViewLineage(Program& p)
 {
+    if (TellIfNoBranch(p))
+        return;
     p.Tools.ToolMode = 1;
     LineageView(p);
 }
 
 void ClearLineage(Program& p)
 {
+    if (TellIfNoBranch(p))
+        return;
     p.Tools.ToolMode = 0;
     LineageView(p);
 }

@@ -238,15 +238,20 @@ void GiveNewSubjectItsPicture(Program& p)
         ShowMappedPicture(p);
     });
 }
+
+bool TellIfNothingToMap(Program& p)
+{
+    const bool isNone = p.Branch.sDbaseName.isEmpty();
+    if (isNone)
+        p.Prompts.MsgBox(u"Data not available"_s, u"Cannot Map until database file is Opened"_s, Buttons::Information);
+    return isNone;
+}
 } // namespace
 
 void ShowMappingOptions(Program& p)
 {
-    if (p.Branch.sDbaseName.isEmpty()) {
-        p.Prompts.MsgBox(u"Data not available"_s, u"Cannot Map until database file is Opened"_s, Buttons::Information);
-        return;
-    }
-    p.Form7->Show();
+    if (!TellIfNothingToMap(p))
+        p.Form7->Show();
 }
 
 void ChooseBlankRecord(Program& p)
@@ -326,6 +331,8 @@ void AskSubjectPicture(Program& p)
 
 void RemapSubject(Program& p)
 {
+    if (TellIfNothingToMap(p))
+        return;
     const Answer begin = p.Prompts.MsgBox(u"Subject re Position"_s,
                                           u"You are about to move the position of a subject. \n"
                                           u"Please ensure that an empty subject box position is \n"

@@ -294,6 +294,22 @@ TEST_F(LineageMarksTest, View_WithoutSurname_LeavesFramesToBeCleared)
     EXPECT_EQ(Frames.Count(), 0U);
 }
 
+// The buttons stay enabled when the branch is closed.
+TEST_F(LineageMarksTest, ViewAndClear_WithoutABranch_AreTold_AndChangeNothing)
+{
+    P.Form1->mnuCloseDB.Click();
+    P.Form1->Text1.Text = u"Smith"_s;
+    for (Button* button : {&P.Form1->Command3, &P.Form1->Command4}) {
+        const int mode = P.Tools.ToolMode;
+        Prompts.Expect(u"Data not available", u"Cannot View until database file is Opened", Buttons::Information);
+
+        button->Click();
+
+        EXPECT_EQ(P.Tools.ToolMode, mode);
+        EXPECT_EQ(Frames.Count(), 0U);
+    }
+}
+
 TEST_F(LineageMarksTest, View_EmptyBranch_IsTold)
 {
     givenOpen(BranchA);

@@ -44,6 +44,15 @@ TEST_F(SubjectMappingTest, Menu_NoBranchOpen_IsTold)
     EXPECT_FALSE(P.Form7->Visible);
 }
 
+TEST_F(SubjectMappingTest, Repositioning_NoBranchOpen_IsTold)
+{
+    Prompts.Expect(u"Data not available", u"Cannot Map until database file is Opened", Buttons::Information);
+
+    P.Form1->mnuRemap.Click();
+
+    EXPECT_EQ(P.Tools.MapCursorMode, 0);
+}
+
 TEST_F(SubjectMappingFormTest, Menu_ShowsTheWindow_BeforeTheOthers)
 {
     int times = 0;
