@@ -45,11 +45,4 @@ void CopyDirectory(Program& p, const QString& from, const QString& to)
     CopyFiles(p.Files.Resolve(from), p.Files.Resolve(to), [&meanwhile] { meanwhile.KeepPainted(); });
 }
 
-bool MakeDirectory(Program& p, const QString& directory)
-{
-    p.Errors.Clear();
-    p.Errors.Ignoring([&] { p.Files.MkDir(directory); });
-    return !p.Errors.Last || p.Errors.Last->Number != ErrorNumber::PathFileAccess;
-}
-
 } // namespace lineforge

@@ -21,8 +21,4 @@ QString DatabaseFile(const QString& path);
 // Copies the files of a directory, what can't be copied left out; the windows stay painted meanwhile.
 void CopyDirectory(Program& p, const QString& from, const QString& to);
 
-// Whether the directory can be gone on with: false when one is there already, which has the number of whatever else
-// stands in the way of its making. Any other failure is passed over.
-bool MakeDirectory(Program& p, const QString& directory);
-
 } // namespace lineforge

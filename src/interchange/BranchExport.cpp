@@ -4,6 +4,8 @@
 #include "platform/Drives.h"
 #include "platform/Text.h"
 #include "program/BranchPaths.h"
+#include "program/BranchUi.h"
+#include "program/MakeDirectory.h"
 
 #include <QDir>
 #include <QScopeGuard>
@@ -38,7 +40,8 @@ bool Confirm(Program& p, const QString& directory)
                             Buttons::InformationOkCancel) == Answer::Ok;
 }
 
-// False when the gallery's directory is there already, which an hourglass would hide.
+// False when the gallery's directory is there already; told when the hourglass has gone. Error 75 or 76 when it can't
+// be made.
 bool CopyBranch(Program& p, const QString& source, const QString& directory, const QString& gallery)
 {
     p.Screen.Pointer = MousePointer::Hourglass;
@@ -48,6 +51,18 @@ bool CopyBranch(Program& p, const QString& source, const QString& directory, con
         return false;
     CopyDirectory(p, source + GalleryName(source.right(2).left(1)), gallery);
     return true;
+}
+
+// Into a directory that is made here.
+void PutBranch(Program& p, const QString& database, const QString& directory)
+{
+    if (!MakeDirectory(p, directory))
+        return TellExists(p, directory + u" directory already exists.\nYou must first delete this Directory.");
+    if (!Confirm(p, directory))
+        return;
+    const QString gallery = directory + PathSeparator + GalleryName(directory.right(1));
+    if (!CopyBranch(p, database.chopped(DatabaseFile(database).size()), directory, gallery))
+        TellExists(p, gallery + u" Directory already exists.\nYou must first move or delete this Directory.");
 }
 } // namespace
 
@@ -107,13 +122,11 @@ void ExportBranch(Program& p)
     // The window has left the others free.
     if (TellIfOpen(p, database))
         return;
-    if (!MakeDirectory(p, directory))
-        return TellExists(p, directory + u" directory already exists.\nYou must first delete this Directory.");
-    if (!Confirm(p, directory))
-        return;
-    const QString gallery = directory + PathSeparator + GalleryName(directory.right(1));
-    if (!CopyBranch(p, database.chopped(DatabaseFile(database).size()), directory, gallery))
-        TellExists(p, gallery + u" Directory already exists.\nYou must first move or delete this Directory.");
+    try {
+        PutBranch(p, database, directory);
+    } catch (const RuntimeError& refusal) {
+        ReportError(p, refusal);
+    }
 }
 
 } // namespace lineforge

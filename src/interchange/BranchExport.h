@@ -17,7 +17,8 @@ void TakeExportDirectory(Program& p);
 void CancelExport(Program& p);
 
 // Second stage: makes the directory that `sPath` leads to, asks, and copies. A directory of that name, or its gallery,
-// that is there already ends it with a box; a file that can't be copied is left out without a word.
+// that is there already ends it with a box, one that can't be made by `ReportError`; a file that can't be copied is
+// left out without a word.
 void ExportBranch(Program& p);
 
 // The directory that an export of that database goes to: the path, and what the last 22 characters of the database's

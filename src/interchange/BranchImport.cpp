@@ -5,6 +5,7 @@
 #include "program/AliasList.h"
 #include "program/BranchPaths.h"
 #include "program/BranchUi.h"
+#include "program/MakeDirectory.h"
 
 #include <QScopeGuard>
 
@@ -37,24 +38,32 @@ bool Confirm(Program& p, const QString& name, const QString& directory)
                             Buttons::InformationOkCancel) == Answer::Ok;
 }
 
-// False, and a box, when there is such a directory: there is no third one for a letter.
-bool CopyBranch(Program& p, const QString& source, const QString& directory, const QString& letter)
+// False, and a box, when there is such a directory, there being no third one for a letter, or when it can't be made.
+bool MakeTarget(Program& p, const QString& directory)
 {
-    const QString target = p.Branch.HomeDir + directory;
-    if (!MakeDirectory(p, target)) {
+    try {
+        if (MakeDirectory(p, p.Branch.HomeDir + directory))
+            return true;
         p.Prompts.MsgBox(u"Error Setting New Directory"_s,
                          directory + u" directory already exists. Must first delete this Database.",
                          Buttons::Information);
-        return false;
+    } catch (const RuntimeError& refusal) {
+        ReportError(p, refusal);
     }
+    return false;
+}
+
+void CopyBranch(Program& p, const QString& source, const QString& directory, const QString& letter)
+{
+    const QString target = p.Branch.HomeDir + directory;
     p.Screen.Pointer = MousePointer::Hourglass;
     const QString gallery = PathSeparator + GalleryName(letter);
     p.Errors.Ignoring([&] { p.Files.MkDir(target + gallery); });
     CopyDirectory(p, source + PathSeparator, target); // which is the root where nothing stands before
     CopyDirectory(p, source + gallery, target + gallery);
-    return true;
 }
 
+// A database that can't be opened ends it as it ends Open: with a box, and with the branch named all the same.
 void OpenImported(Program& p, const QString& name, const QString& directory)
 {
     const bool isOpen = EnterBranch(p, name, directory);
@@ -85,9 +94,10 @@ void ImportBranch(Program& p)
 
     const auto pointerBack = qScopeGuard([&p] { p.Screen.Pointer = MousePointer::Default; });
     p.Scratch.sNewDir = directory;
-    if (!CopyBranch(p, source, directory, letter))
+    if (!MakeTarget(p, directory))
         return;
-    p.Errors.Ignoring([&] { AddAlias(p, name, directory); });
+    CopyBranch(p, source, directory, letter);
+    AddAlias(p, name, directory, Refusals::CostTheirStep);
     OpenImported(p, name, directory);
 }
 

@@ -14,8 +14,7 @@ void ReportingErrors(Program& p, Statement&& statement)
     try {
         std::forward<Statement>(statement)();
     } catch (const RuntimeError& error) {
-        p.Errors.Last = error;
-        ReportError(p);
+        ReportError(p, error);
     }
 }
 

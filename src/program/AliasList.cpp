@@ -54,11 +54,33 @@ qsizetype EntryOf(const QString& aliasList, const QString& name)
     return -1;
 }
 
-void PublishAliasList(Program& p)
+void Do(Program& p, void (*step)(Program&), Refusals refusals)
 {
-    WriteAliasList(p);
-    ReadAliasList(p);
-    FillBranchList(p);
+    if (refusals == Refusals::CostTheirStep)
+        p.Errors.Ignoring([&] { step(p); });
+    else
+        step(p);
+}
+
+void PublishAliasList(Program& p, Refusals refusals)
+{
+    for (const auto step : {WriteAliasList, ReadAliasList, FillBranchList})
+        Do(p, step, refusals);
+}
+
+// What the reader makes of a name. A comma and a closing bracket do worse, to the entries around; so it is meant to be.
+QString AsRead(QString name)
+{
+    return name.removeIf([](QChar character) { return character == u'[' || character == u'\n' || character == u'\r'; });
+}
+
+// Whether the branch list can give the name back: the first equals sign ends it there, and a row of nothing but blanks
+// and of what the reader takes for marks of its own isn't seen or isn't there.
+bool IsGivenBack(const QString& name)
+{
+    constexpr QStringView marks = u",[]";
+    const auto isNothing = [&](QChar character) { return character.isSpace() || marks.contains(character); };
+    return !name.contains(u'=') && !std::ranges::all_of(name, isNothing);
 }
 } // namespace
 
@@ -109,25 +131,28 @@ QString AskBranchName(Program& p, const QString& title, const QString& prompt)
 {
     for (;;) {
         QString name = p.Prompts.InputBox(title, prompt);
-        if (name.isEmpty() || !IsNameListed(p, name))
+        if (name.isEmpty() || (IsGivenBack(name) && !IsNameListed(p, AsRead(name))))
             return name;
         p.Prompts.MsgBox(u"Duplicate Name entered."_s, u"Cannot have Tree Branch databases with same name"_s,
                          Buttons::Information);
     }
 }
 
-void AddAlias(Program& p, const QString& name, const QString& directory)
+void AddAlias(Program& p, const QString& name, const QString& directory, Refusals refusals)
 {
-    ReadAliasList(p);
+    Do(p, ReadAliasList, refusals);
     p.Alias.sAliasList += name + u'=' + directory + u',';
-    PublishAliasList(p);
+    PublishAliasList(p, refusals);
 }
 
 void RemoveAlias(Program& p, const QString& name)
 {
-    if (const qsizetype entry = EntryOf(p.Alias.sAliasList, name); entry >= 0)
-        p.Alias.sAliasList.remove(entry, name.size() + 1 + directoryLength + 1);
-    PublishAliasList(p);
+    QString& list = p.Alias.sAliasList;
+    // Up to its comma: in a list that somebody has changed a directory may be of any length, and a name may go on
+    // behind what the branch list shows of it.
+    if (const qsizetype entry = EntryOf(list, name); entry >= 0)
+        list.remove(entry, list.indexOf(u',', entry) - entry + 1);
+    PublishAliasList(p, Refusals::CostTheirStep);
 }
 
 void FillBranchList(Program& p)

@@ -22,11 +22,19 @@ void WriteAliasList(Program& p);
 bool IsNameListed(const Program& p, const QString& name);
 bool IsDirectoryListed(const Program& p, const QString& directory);
 
-// A friendly name that no branch has; empty for a cancelled question.
+// A friendly name that no branch has, and that the branch list gives back as it was typed; others are refused and asked
+// for again. Empty for a cancelled question.
 QString AskBranchName(Program& p, const QString& title, const QString& prompt);
 
-// Brings a branch into the registry and the branch list, or takes it out of both. Errors as above.
-void AddAlias(Program& p, const QString& name, const QString& directory);
+// What a refusal of the disk does to the steps of bringing the registry up to date.
+enum class Refusals {
+    EndIt,         // errors as above
+    CostTheirStep, // none: in the end memory and branch list agree with what the file says
+};
+
+// Brings a branch into the registry and the branch list.
+void AddAlias(Program& p, const QString& name, const QString& directory, Refusals refusals);
+// Takes one out of both; a refusal costs its step.
 void RemoveAlias(Program& p, const QString& name);
 
 // Puts the friendly names into the branch list, in the table's order, and selects the open branch. Does nothing while

@@ -79,4 +79,10 @@ void ReportError(Program& p)
                      Buttons::Plain);
 }
 
+void ReportError(Program& p, const RuntimeError& error)
+{
+    p.Errors.Last = error;
+    ReportError(p);
+}
+
 } // namespace lineforge

@@ -29,5 +29,7 @@ void TellNoRecords(Program& p);
 
 // Shows the last run-time error, if there is one, in a plain box.
 void ReportError(Program& p);
+// The same of an error that has just been met.
+void ReportError(Program& p, const RuntimeError& error);
 
 } // namespace lineforge

@@ -17,20 +17,36 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-// The branch whose map is shown stands in a directory of its own beneath the home directory.
-bool HasBranch(const Program& p)
+// The first question, and what takes its place.
+Answer ShowFirstBox(Program& p, const QString& text, Buttons buttons)
 {
-    const bool isAlternate = p.Branch.UsingAlternate == 1;
-    return IsBranchDirectory(isAlternate ? p.Branch.WorkDirSaved : p.Branch.WorkDir, p.Branch.HomeDir);
+    return p.Prompts.MsgBox(u"Delete '"_s + p.Branch.sBranchName + u"' DataBase and Galleries", text, buttons);
+}
+
+// Whether a branch is open, in a directory of its own beneath the home directory: that may be another one since it was
+// opened, whose registry knows nothing of it. Tells the user when not.
+bool RequireBranch(Program& p)
+{
+    // The one whose map is shown.
+    const QString directory = p.Branch.UsingAlternate == 1 ? p.Branch.WorkDirSaved : p.Branch.WorkDir;
+    if (IsBranchDirectory(directory, p.Branch.HomeDir))
+        return true;
+    if (directory.isEmpty())
+        TellNoBranch(p);
+    else
+        ShowFirstBox(p,
+                     u"Cannot delete '"_s + p.Branch.sBranchName + u"' Tree Branch. Its Directory\n" + directory +
+                         u"\nis not in the Home Directory in use:\n" + p.Branch.HomeDir,
+                     Buttons::Information);
+    return false;
 }
 
 bool Ask(Program& p)
 {
-    const QString& name = p.Branch.sBranchName;
-    return p.Prompts.MsgBox(u"Delete '"_s + name + u"' DataBase and Galleries",
-                            u"Do you really want to delete the Database\nand Gallery files in '"_s + name +
-                                u"' Tree Branch ?",
-                            Buttons::QuestionYesNo) == Answer::Yes;
+    return ShowFirstBox(p,
+                        u"Do you really want to delete the Database\nand Gallery files in '"_s + p.Branch.sBranchName +
+                            u"' Tree Branch ?",
+                        Buttons::QuestionYesNo) == Answer::Yes;
 }
 
 bool AskAgain(Program& p)
@@ -72,18 +88,16 @@ void ShowNoBranch(Program& p)
 
 void DeleteBranch(Program& p)
 {
-    if (!HasBranch(p))
-        return TellNoBranch(p);
-    LeaveToolsIfOpen(p);
-    if (!Ask(p))
+    if (!RequireBranch(p) || !Ask(p))
         return;
     ReturnToOwnBranch(p);
     if (!AskAgain(p))
         return;
+    LeaveToolsIfOpen(p);
 
     const QString directory = p.Branch.WorkDir;
     RemoveDirectory(p, GalleryDirectory(directory));
-    p.Errors.Ignoring([&] { RemoveAlias(p, p.Branch.sBranchName); });
+    RemoveAlias(p, p.Branch.sBranchName);
     if (p.Form3.IsLoaded()) {
         p.Form3->Caption = u"Lineforge. "_s;
         // What is typed goes with its record; refused by the database, it would hold the form and the file.

@@ -10,7 +10,10 @@
 #include "program/AliasList.h"
 #include "program/BranchUi.h"
 #include "program/EmptyTable.h"
+#include "program/MakeDirectory.h"
 #include "program/WorkDatabase.h"
+
+#include <QScopeGuard>
 
 namespace lineforge
 {
@@ -72,11 +75,7 @@ bool Confirm(Program& p, const QString& name, const QString& directory)
 // False, and a box, when the directory is there already.
 bool MakeDirectories(Program& p, const QString& directory)
 {
-    try {
-        p.Files.MkDir(directory);
-    } catch (const RuntimeError& error) {
-        if (error.Number != ErrorNumber::PathFileAccess)
-            throw;
+    if (!MakeDirectory(p, directory)) {
         // The words of the text are meant as they stand.
         p.Prompts.MsgBox(u"Error Setting New Directory"_s, u" sDir & ' directory already exists.'"_s,
                          Buttons::Information);
@@ -98,25 +97,42 @@ void ShowNoSubject(Program& p)
     p.Form4->Hide();
 }
 
-void MakeBranch(Program& p, const QString& name, const QString& directory)
+void NameBranch(Program& p, const QString& name, const QString& directory)
 {
     p.Branch.sBranchName = name;
     p.Branch.WorkDir = p.Branch.HomeDir + directory;
     p.Branch.WorkDirLen = static_cast<int>(p.Branch.WorkDir.size());
     p.Scratch.sNewDir = directory;
+}
+
+// False when the directory is there already: it is what the variables tell then. What the disk refuses leaves the
+// branch that was open in them.
+bool MakeFiles(Program& p, const QString& name, const QString& directory, const QString& stem)
+{
+    auto branchBack = qScopeGuard([&p, before = p.Branch] { p.Branch = before; });
+    NameBranch(p, name, directory);
     // Relative to the current directory, which is the home directory since its branches were listed.
-    if (!MakeDirectories(p, directory))
-        return;
+    const bool isMade = MakeDirectories(p, directory);
+    if (isMade) {
+        p.Files.FileCopy(p.Branch.HomeDir + u"LfgEmpt.~cf", stem + u".cfg");
+        p.Files.FileCopy(p.Branch.HomeDir + u"LfgEmpt.~Md", stem + u".mdb");
+    }
+    branchBack.dismiss();
+    return isMade;
+}
+
+void MakeBranch(Program& p, const QString& name, const QString& directory)
+{
     const QString stem = directory + PathSeparator + directory;
-    p.Files.FileCopy(p.Branch.HomeDir + u"LfgEmpt.~cf", stem + u".cfg");
-    p.Files.FileCopy(p.Branch.HomeDir + u"LfgEmpt.~Md", stem + u".mdb");
+    if (!MakeFiles(p, name, directory, stem))
+        return;
     p.Branch.sDbaseName = p.Branch.HomeDir + stem + u".mdb";
     PointAtDatabase(p, p.Branch.sDbaseName);
     if (p.Form6.IsLoaded())
         p.Form6->Label2.Caption = name;
 
     ShowNoSubject(p);
-    AddAlias(p, name, directory);
+    AddAlias(p, name, directory, Refusals::EndIt);
     Concerning(p.Branch.HomeDir + stem + u".cfg", [&p] {
         ReadMapFile(p);
         ParseBoxes(p);

@@ -310,6 +310,36 @@ TEST_F(BranchExportTest, GalleryThatHasAppearedMeanwhile_EndsIt_WithTheBranchsFi
     EXPECT_EQ(TreeOf(u"stick/LfgDat_A/LfgGal_A"_s), (Tree{{u"mine.txt"_s, "mine"}}));
 }
 
+TEST_F(BranchExportTest, FileInTheWayOfTheDirectory_IsToldByItsNumber_AndStays)
+{
+    Choose(u"Jones");
+    Home.WriteFile(u"stick/LfgDat_A", "a file");
+    const Tree before = Home.Snapshot();
+    GivenChosen();
+    P.Form4->Dir1.GoTo(Home.Path(u"stick"));
+    ExpectPathFileAccessBox();
+
+    P.Form4->Command1.Click();
+
+    EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
+    EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_B"));
+    EXPECT_EQ(P.Branch.sBranchName, u"Jones"_s);
+}
+
+TEST_F(BranchExportTest, GalleryThatCantBeMade_IsToldByItsNumber_WithTheBranchsFilesCopied)
+{
+    GivenChosen();
+    P.Form4->Dir1.GoTo(Home.Path(u"stick"));
+    ExpectExportQuestion(Home.Path(u"stick/LfgDat_A"), Answer::Ok,
+                         [this] { Home.WriteFile(u"stick/LfgDat_A/LfgGal_A", "a file"); });
+    ExpectPathFileAccessBox([this] { EXPECT_EQ(P.Screen.Pointer, MousePointer::Default); });
+
+    P.Form4->Command1.Click();
+
+    EXPECT_EQ(Home.ReadFile(u"stick/LfgDat_A/LfgDat_A.mdb"), Home.ReadFile(u"LfgDat_A/LfgDat_A.mdb"));
+    EXPECT_EQ(Home.ReadFile(u"stick/LfgDat_A/LfgGal_A"), "a file");
+}
+
 TEST_F(BranchExportTest, ImportedBranch_GoesUnderItsOwnDirectoryName)
 {
     BranchOf(u'A').InDirectory(u"Import_A").Gallery({{u"A001_01.jpg"_s, "picture"}}).Build();
@@ -366,7 +396,7 @@ INSTANTIATE_TEST_SUITE_P(
                     // Where the directory's name is of another length the characters are counted all the same.
                     DestinationRow{u"/media/stick", u"/home/Family Trees/LfgDat_A.mdb", u"/media/stickily Trees"}));
 
-// Who may not write there is told that the directory exists, which is the number that such a refusal has.
+// Who may not write there is told so.
 TEST_F(BranchExportTest, AtTheRoot_LetterAndGalleryLoseTheirName)
 {
     const int failed = ExitCodeInChild([this] {
@@ -376,9 +406,7 @@ TEST_F(BranchExportTest, AtTheRoot_LetterAndGalleryLoseTheirName)
         P.Export.sExportSource = hasOwnRoot ? u"/LfgDat_A/LfgDat_A.mdb"_s : Database(u"A");
         P.Scratch.sPath = u"/"_s;
         if (!hasOwnRoot) {
-            Prompts.Expect(u"Error Creating New Directory",
-                           u"//LfgDat_ directory already exists.\nYou must first delete this Directory.",
-                           Buttons::Information);
+            ExpectPathFileAccessBox();
             P.Form4->Command1.Click();
             return HasFailure() ? 1 : 0;
         }

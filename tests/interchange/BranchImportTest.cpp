@@ -6,6 +6,8 @@
 
 #include <QDir>
 
+#include <tuple>
+
 namespace lineforge
 {
 namespace
@@ -175,6 +177,42 @@ TEST_F(BranchImportTest, SecondImportOfALetter_IsRefused)
     EXPECT_EQ(P.Branch.sBranchName, u"Cousins"_s);
 }
 
+TEST_F(BranchImportTest, FileInTheWayOfTheDirectory_IsToldByItsNumber_WithTheOldBranchOpen)
+{
+    Choose(u"Smiths");
+    Home.WriteFile(u"LfgDat_C", "a file");
+    const QString database = OnStick(u'C');
+    const Tree before = Home.Snapshot();
+    ExpectImportDialog(database);
+    ExpectImportName(u"Browns");
+    ExpectImportQuestion(u"Browns"_s, u"LfgDat_C"_s);
+    ExpectPathFileAccessBox();
+
+    Import();
+
+    ExpectNoChange(before);
+    EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_A"));
+    EXPECT_EQ(P.Branch.sBranchName, u"Smiths"_s);
+    EXPECT_EQ(Records(P).Text(u"File"), u"A001"_s);
+}
+
+TEST_F(BranchImportTest, RegistryThatCantBeWritten_IsReadAgain_AndTheBranchOpensUnlisted)
+{
+    const QString database = OnStick(u'C');
+    Home.WriteFile(u"AliasList.bak", "previous generation");
+    Home.MakeReadOnly(u"AliasList.bak");
+    ExpectImportDialog(database);
+    ExpectImportName(u"Browns");
+    ExpectImportQuestion(u"Browns"_s, u"LfgDat_C"_s);
+
+    Import();
+
+    EXPECT_TRUE(Registry().contains("[Smiths=LfgDat_A,Jones=LfgDat_B,]"));
+    EXPECT_EQ(P.Alias.sAliasList, u"Smiths=LfgDat_A,Jones=LfgDat_B,"_s);
+    EXPECT_EQ(P.Form8->List1.Items.value(), (QStringList{u"Smiths"_s, u"Jones"_s}));
+    EXPECT_EQ(Records(P).Text(u"File"), u"C001"_s);
+}
+
 TEST_F(BranchImportTest, EmptyName_EndsIt)
 {
     const QString database = OnStick(u'C');
@@ -193,6 +231,22 @@ TEST_F(BranchImportTest, NameInUse_CaseIgnored_IsToldAndAskedAgain)
     ExpectImportName(u"SMITHS");
     Prompts.Expect(u"Duplicate Name entered.", u"Cannot have Tree Branch databases with same name",
                    Buttons::Information);
+    ExpectImportName(u"Browns");
+    ExpectImportQuestion(u"Browns"_s, u"LfgDat_C"_s);
+
+    Import();
+
+    EXPECT_EQ(P.Branch.sBranchName, u"Browns"_s);
+}
+
+TEST_F(BranchImportTest, NameThatTheListWouldntGiveBack_IsRefusedAsOneInUse)
+{
+    ExpectImportDialog(OnStick(u'C'));
+    for (const QStringView name : {u"Bro=wns", u" ", u"[]", u"[Smiths"}) {
+        ExpectImportName(name);
+        Prompts.Expect(u"Duplicate Name entered.", u"Cannot have Tree Branch databases with same name",
+                       Buttons::Information);
+    }
     ExpectImportName(u"Browns");
     ExpectImportQuestion(u"Browns"_s, u"LfgDat_C"_s);
 
@@ -379,18 +433,37 @@ TEST_F(BranchImportTest, EmptyBranch_OpensWithoutWhatNeedsRecords)
     EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_C"));
 }
 
-TEST_F(BranchImportTest, FileThatIsNoDatabase_IsListed_AndToldAsByOpen)
+TEST_F(BranchImportTest, FileThatIsNoDatabase_IsListed_AndLeavesWhatOpenWouldLeave)
 {
+    const auto left = [this] {
+        return std::tuple(P.Branch.WorkDir, P.Branch.sDbaseName, P.Branch.sBranchName, int(P.Branch.UsingAlternate),
+                          P.Files.CurDir(), P.Form1->Caption.value(), P.Form3->Caption.value(),
+                          P.Form3->Data1.DatabaseName, P.Form1->Label9.Caption.value(), P.Form1->Shape1.Visible.value(),
+                          P.Form1->Image1.Picture.value().isNull(), P.Map.BoxArr[0][BoxColumn::File].Text(),
+                          IsBlank(P.Form1->Picture1), P.Form1->mnuTreeGraphics.Enabled.value(),
+                          P.Screen.Pointer.value());
+    };
+    const auto expectBox = [this] {
+        Prompts.Expect(u"Read Only or Incorrect Database", u"Cannot open this database", Buttons::Information);
+    };
     Home.WriteFile(u"stick/LfgDat_C/LfgDat_C.mdb", "no database");
+    Choose(u"Smiths");
     ExpectImportDialog(Home.Path(u"stick/LfgDat_C/LfgDat_C.mdb"));
     ExpectImportName(u"Browns");
     ExpectImportQuestion(u"Browns"_s, u"LfgDat_C"_s);
-    Prompts.Expect(u"Read Only or Incorrect Database", u"Cannot open this database", Buttons::Information);
+    expectBox();
 
     Import();
 
     EXPECT_TRUE(Registry().contains("Browns=LfgDat_C,"));
+    EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_C"));
+    EXPECT_EQ(P.Branch.sDbaseName, u"LfgDat_C.mdb"_s);
     EXPECT_EQ(P.Screen.Pointer, MousePointer::Default);
+    const auto afterImport = left();
+    Choose(u"Smiths");
+    expectBox();
+    Choose(u"Browns");
+    EXPECT_EQ(afterImport, left());
 }
 
 TEST_F(BranchImportTest, ForeignPeopleInTheOtherFamily_ShowTheirNumberAlone)

@@ -87,34 +87,54 @@ TEST_F(InterchangeFaultTest, NamesThatDifferInCaseAlone_BothGo)
     EXPECT_EQ(Home.ReadFile(u"stick/LfgDat_A/NOTE.txt"), "large");
 }
 
-TEST_F(InterchangeFaultTest, DestinationThatCantBeWritten_IsToldWithTheNumberThatItHas)
+TEST_F(InterchangeFaultTest, DestinationThatCantBeWritten_IsToldByItsNumber)
 {
     Home.MakeReadOnly(u"stick");
     ChooseToExport(Home.Path(u"LfgDat_A/LfgDat_A.mdb"));
     P.Form4->Dir1.GoTo(Home.Path(u"stick"));
-    Prompts.Expect(
-        u"Error Creating New Directory",
-        QString(Home.Path(u"stick/LfgDat_A") + u" directory already exists.\nYou must first delete this Directory."),
-        Buttons::Information);
+    ExpectPathFileAccessBox();
 
-    P.Form4->Command1.Click();
+    Click(P.Form4->Command1.Click);
 
     Home.MakeWritable(u"stick");
     EXPECT_FALSE(Home.Exists(u"stick/LfgDat_A"));
+    EXPECT_EQ(ExitCode(), std::nullopt);
 }
 
-TEST_F(InterchangeFaultTest, DestinationThatHasGone_IsAskedAboutAllTheSame_AndNothingComesOfIt)
+TEST_F(InterchangeFaultTest, DestinationThatHasGone_IsToldByItsNumber_AndNothingComesOfIt)
 {
     ChooseToExport(Home.Path(u"LfgDat_A/LfgDat_A.mdb"));
     P.Form4->Dir1.GoTo(Home.Path(u"stick"));
     ASSERT_TRUE(QDir(Home.Path(u"stick")).removeRecursively());
     const Tree before = Home.Snapshot();
-    ExpectExportQuestion(Home.Path(u"stick/LfgDat_A"));
+    ExpectErrorBox(ErrorNumber::PathNotFound, u"Path not found");
 
-    P.Form4->Command1.Click();
+    Click(P.Form4->Command1.Click);
 
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
     EXPECT_EQ(P.Screen.Pointer, MousePointer::Default);
+    EXPECT_EQ(ExitCode(), std::nullopt);
+}
+
+TEST_F(InterchangeFaultTest, HomeThatCantBeWritten_RefusesAnImportByItsNumber_WithTheOldBranchOpen)
+{
+    Choose(u"Smiths");
+    BranchOf(u'C').InDirectory(u"stick/LfgDat_C").Build();
+    const Tree before = Home.Snapshot();
+    Home.MakeReadOnly({});
+    ExpectImportDialog(Home.Path(u"stick/LfgDat_C/LfgDat_C.mdb"));
+    ExpectImportName(u"Browns");
+    ExpectImportQuestion(u"Browns"_s, u"LfgDat_C"_s);
+    ExpectPathFileAccessBox();
+
+    Click(P.Form1->mnuImpSub.Click);
+
+    Home.MakeWritable({});
+    EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
+    EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_A"));
+    EXPECT_EQ(P.Branch.sBranchName, u"Smiths"_s);
+    EXPECT_EQ(P.Screen.Pointer, MousePointer::Default);
+    EXPECT_EQ(ExitCode(), std::nullopt);
 }
 
 TEST_F(InterchangeFaultTest, TenThousandGalleryFiles_AllGo)

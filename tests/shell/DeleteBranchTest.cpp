@@ -46,10 +46,28 @@ protected:
     }
     void ExpectRefused()
     {
-        const Tree before = Home.Snapshot();
         Prompts.Expect(u"Data not available", u"Cannot View until database file is Opened", Buttons::Information);
+        ExpectNothingRemoved();
+    }
+    void ExpectRefusedElsewhere(const QString& directory)
+    {
+        const QString text =
+            u"Cannot delete '%1' Tree Branch. Its Directory\n%2\n"
+            u"is not in the Home Directory in use:\n%3"_s.arg(P.Branch.sBranchName, directory, P.Branch.HomeDir);
+        Prompts.Expect(u"Delete '%1' DataBase and Galleries"_s.arg(P.Branch.sBranchName), text, Buttons::Information);
+        ExpectNothingRemoved();
+    }
+    void ExpectNothingRemoved()
+    {
+        const Tree before = Home.Snapshot();
         Delete();
         EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
+        EXPECT_EQ(ExitCode(), std::nullopt);
+    }
+    void ExpectToolsQuestion(Answer answer)
+    {
+        Prompts.Expect(u"Closing Graphics Tools", u"Save the Tree Graphic changes ?", Buttons::InformationYesNo,
+                       answer);
     }
     void Link(const QString& target, QStringView name) { ASSERT_TRUE(QFile::link(target, Home.Path(name))); }
 };
@@ -267,17 +285,31 @@ TEST_F(DeleteBranchTest, ImportedBranch_GoesWithItsEntry)
     EXPECT_TRUE(Registry().contains("[Jones=LfgDat_B,]"));
 }
 
-TEST_F(DeleteBranchTest, ToolsThatAreOpen_AreLeftFirst_AndABranchOpensAfterwards)
+TEST_F(DeleteBranchTest, ToolsThatAreOpen_AreLeftBehindBothConfirmations_AndABranchOpensAfterwards)
 {
     P.Form1->mnuTreeTools.Click();
     ASSERT_EQ(P.Tools.ToolMode, 3);
-    Prompts.Expect(u"Closing Graphics Tools", u"Save the Tree Graphic changes ?", Buttons::InformationYesNo,
-                   Answer::No);
-    DeleteForGood();
+    ExpectFirst(Answer::Yes);
+    ExpectSecond(Answer::Yes);
+    ExpectToolsQuestion(Answer::No);
+    Delete();
 
+    EXPECT_FALSE(Home.Exists(u"LfgDat_A"));
     EXPECT_EQ(P.Tools.ToolMode, 0);
     Choose(u"Jones");
     EXPECT_EQ(Records(P).Text(u"File"), u"B001"_s);
+}
+
+TEST_F(DeleteBranchTest, NoAtEither_LeavesTheToolsOpen)
+{
+    P.Form1->mnuTreeTools.Click();
+    ExpectFirst(Answer::No);
+    Delete();
+    ExpectFirst(Answer::Yes);
+    ExpectSecond(Answer::No);
+    Delete();
+
+    EXPECT_EQ(P.Tools.ToolMode, 3);
 }
 
 TEST_F(DeleteBranchTest, WithNoBranchOpen_IsToldAndRemovesNothing)
@@ -304,11 +336,11 @@ TEST_P(DeleteElsewhereTest, DirectoryThatIsNoBranchBeneathTheHome_IsRefused)
     Home.WriteFile(u"other/LfgDat_A/LfgDat_A.mdb", "records");
     P.Branch.WorkDir = QString(GetParam().toString()).replace(u"HOME"_s, Home.Path());
 
-    ExpectRefused();
+    ExpectRefusedElsewhere(P.Branch.WorkDir);
 }
 
 INSTANTIATE_TEST_SUITE_P(Directories, DeleteElsewhereTest,
-                         testing::Values(u"", u"/", u"HOME", u"HOME/", u"HOME/documents", u"HOME/other/LfgDat_A",
+                         testing::Values(u"/", u"HOME", u"HOME/", u"HOME/documents", u"HOME/other/LfgDat_A",
                                          u"HOME/LfgDat_A/..", u"HOME/LfgDat_A/LfgGal_A", u"HOME/LfgDat_", u"/LfgDat_A",
                                          u"HOME/LfgDat_AB"));
 
@@ -317,7 +349,7 @@ TEST_F(DeleteBranchTest, AfterAChangeOfTheHomeDirectory_TheOldOnesBranchStays)
     Home.WriteFile(u"other/AliasList.cfg", Home.ReadFile(u"AliasList.cfg"));
     P.Branch.HomeDir = Home.Path(u"other") + PathSeparator;
 
-    ExpectRefused();
+    ExpectRefusedElsewhere(Home.Path(u"LfgDat_A"));
 }
 
 TEST_F(DeleteBranchTest, AfterAChangeOfTheHomeDirectory_OnARecordOfAnotherBranch_BothRegistriesStay)
@@ -327,7 +359,50 @@ TEST_F(DeleteBranchTest, AfterAChangeOfTheHomeDirectory_OnARecordOfAnotherBranch
     P.Branch.HomeDir = Home.Path(u"other") + PathSeparator;
     ReadAliasList(P);
 
-    ExpectRefused();
+    ExpectRefusedElsewhere(Home.Path(u"LfgDat_A"));
+}
+
+TEST_F(DeleteBranchTest, RecordsOfOtherBranchesThatReferToIt_StayAsTheyAre)
+{
+    ASSERT_TRUE(QFile::remove(Home.Path(u"LfgDat_B/LfgDat_B.mdb")));
+    BranchOf(u'B').Row({{u"File", u"B003"}, {u"FatherRec", u"A001"}, {u"MotherRec", u"A002"}}).Build();
+    const QByteArray database = Home.ReadFile(u"LfgDat_B/LfgDat_B.mdb");
+
+    DeleteForGood();
+
+    EXPECT_EQ(Home.ReadFile(u"LfgDat_B/LfgDat_B.mdb"), database);
+    Choose(u"Jones");
+    ASSERT_TRUE(Records(P).Seek(u"File", u"B003"_s));
+    EXPECT_EQ(Records(P).Text(u"FatherRec"), u"A001"_s);
+    EXPECT_EQ(Records(P).Text(u"MotherRec"), u"A002"_s);
+}
+
+TEST_F(DeleteBranchTest, RegistryThatCantBeWritten_IsReadAgain_AndListsTheBranch)
+{
+    Home.WriteFile(u"AliasList.bak", "previous generation");
+    Home.MakeReadOnly(u"AliasList.bak");
+
+    DeleteForGood();
+
+    EXPECT_FALSE(Home.Exists(u"LfgDat_A"));
+    EXPECT_TRUE(Registry().contains("[Smiths=LfgDat_A,Jones=LfgDat_B,]"));
+    EXPECT_EQ(P.Alias.sAliasList, u"Smiths=LfgDat_A,Jones=LfgDat_B,"_s);
+    EXPECT_EQ(P.Form8->List1.Items.value(), (QStringList{u"Smiths"_s, u"Jones"_s}));
+    EXPECT_EQ(ExitCode(), std::nullopt);
+}
+
+// As older versions took them. The list shows what stands before the first sign.
+TEST_F(DeleteBranchTest, NameWithTheSignThatEndsIt_TakesItsWholeEntryAlong)
+{
+    GivenRegistry({{u"Smi=ths", u"LfgDat_A"}, {u"Jones", u"LfgDat_B"}});
+    Choose(u"Smi");
+    ExpectFirst(Answer::Yes, u"Smi"_s);
+    ExpectSecond(Answer::Yes, u"Smi"_s);
+
+    Delete();
+
+    EXPECT_TRUE(Registry().contains("[Jones=LfgDat_B,]"));
+    EXPECT_EQ(P.Form8->List1.Items.value(), QStringList{u"Jones"_s});
 }
 
 TEST_F(DeleteBranchTest, BoxesOfOtherBranches_KeepTheirPeople_AndShowTheNumberAlone)

@@ -45,6 +45,50 @@ TEST_F(MadeBranchTest, CancelAfterADuplicateName_EndsTheCommand)
     EXPECT_EQ(Registry(), registryOfTwo);
 }
 
+// Names that the branch list couldn't give back as they were typed.
+class LostNameTest : public MadeBranchTest, public testing::WithParamInterface<QStringView>
+{
+};
+
+TEST_P(LostNameTest, IsRefusedAsOneThatExists_AndAskedForAgain)
+{
+    AnswerName(GetParam());
+    ExpectDuplicateBox();
+
+    Make(u"Browns", u"LfgDat_C");
+
+    EXPECT_EQ(Registry(), RegistryWith("Browns=LfgDat_C"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Names, LostNameTest,
+                         testing::Values(u"=", u"Browns=", u"=Browns", u"Browns=Greens", u"Browns, of Leeds=", u" ",
+                                         u"   ", u"\t", u"[", u"]", u",", u"[]", u"[,]", u"[ ]", u" , ",
+                                         // What the list would read of them stands in it already.
+                                         u"[Smiths", u"smi[ths", u"Jones[["));
+
+// And names that it gives back.
+class KeptNameTest : public MadeBranchTest, public testing::WithParamInterface<QStringView>
+{
+};
+
+TEST_P(KeptNameTest, ReadsBackAsItWasTyped_OpensAndGoesByIt)
+{
+    const QString name = GetParam().toString();
+    Make(name, u"LfgDat_C");
+    EXPECT_EQ(P.Form8->List1.Items.value(), (QStringList{u"Smiths"_s, u"Jones"_s, name}));
+
+    Choose(u"Jones");
+    Prompts.Expect(u"Box Config File record corrupt", u"Config Box Record empty", Buttons::Information);
+    ExpectEmptyBox();
+    Choose(name);
+    EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_C"));
+    EXPECT_EQ(P.Branch.sBranchName, name);
+}
+
+INSTANTIATE_TEST_SUITE_P(Names, KeptNameTest,
+                         testing::Values(u" Browns", u"Browns ", u"Browns of Leeds", u"-", u"...", u"***", u"\"'", u"1",
+                                         u"LfgDat_C", u"Gr\u00FC\u00DFe"));
+
 TEST_F(MadeBranchTest, NameWithComma_HidesItselfAndLaterBranchesFromTheList)
 {
     AnswerName(u"Browns, of Leeds");

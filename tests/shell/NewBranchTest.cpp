@@ -96,6 +96,25 @@ TEST_F(MadeBranchTest, DirectoriesAreMadeInTheHome_WhateverTheCurrentDirectoryWa
     EXPECT_EQ(P.Files.CurDir(), Home.Path());
 }
 
+// The directories are relative, the database's path isn't: with the current directory moved meanwhile the branch is
+// made in the wrong place and the rest of the command fails; so it is meant to be.
+TEST_F(MadeBranchTest, DirectoriesAreMadeWhereTheCurrentDirectoryIs_AndTheDatabaseIsNotFoundThere)
+{
+    Home.MakeDirectory(u"elsewhere");
+    const Tree before = Home.Snapshot();
+    AnswerName(u"Browns");
+    Confirm(u"Browns", u"LfgDat_C", Answer::Ok, [&] { P.Files.ChDir(Home.Path(u"elsewhere")); });
+    ExpectFatalBox(u"Run-time error '3024':\n\nCouldn't find the database file.",
+                   u"This database isn't there, or can't be opened:\n"_s + Home.Path(u"LfgDat_C/LfgDat_C.mdb"));
+
+    Click(P.Form1->New.Click);
+
+    EXPECT_EQ(Differences(before, Home.Snapshot()),
+              (QStringList{u"new: elsewhere/LfgDat_C"_s, u"new: elsewhere/LfgDat_C/LfgDat_C.cfg"_s,
+                           u"new: elsewhere/LfgDat_C/LfgDat_C.mdb"_s, u"new: elsewhere/LfgDat_C/LfgGal_C"_s}));
+    EXPECT_EQ(ExitCode(), 1);
+}
+
 TEST_F(MadeBranchTest, TwoInARow_TakeTwoLetters)
 {
     Make(u"Browns", u"LfgDat_C");
@@ -208,19 +227,45 @@ TEST_F(MadeBranchTest, DirectoryThatIsThereAfterAll_StopsTheCommand_AndIsNotTouc
     EXPECT_FALSE(Home.Exists(u"LfgDat_C/LfgDat_C.~cf"));
 }
 
-TEST_F(MadeBranchTest, FileInTheWayOfTheDirectory_StopsTheCommandTheSameWay)
+// What stands in the way of making the directory, other than one that is there.
+class DirectoryThatCantBeMadeTest : public MadeBranchTest
+{
+protected:
+    DirectoryThatCantBeMadeTest() { Choose(u"Smiths"); }
+
+    void ExpectRefused()
+    {
+        const Tree before = Home.Snapshot();
+        AnswerName(u"Browns");
+        Confirm(u"Browns", u"LfgDat_C");
+        ExpectFatalBox(u"Run-time error '75':\n\nPath/File access error",
+                       u"This can't be opened, made, changed or removed:\n"_s + Home.Path(u"LfgDat_C"));
+
+        Click(P.Form1->New.Click);
+
+        EXPECT_EQ(ExitCode(), 1);
+        EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_A"));
+        EXPECT_EQ(P.Branch.WorkDirLen, P.Branch.WorkDir.size());
+        EXPECT_EQ(P.Branch.sBranchName, u"Smiths"_s);
+        // The boxes of the open branch were saved before.
+        EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList{u"new: LfgDat_A/LfgDat_A.~cf"_s});
+    }
+};
+
+TEST_F(DirectoryThatCantBeMadeTest, ForAFileInItsWay_EndsTheProgram_WithTheOldBranchInTheVariables)
 {
     Home.WriteFile(u"LfgDat_C", "a file");
-    AnswerName(u"Browns");
-    Confirm(u"Browns", u"LfgDat_C");
-    ExpectDirectoryThereBox();
 
-    P.Form1->New.Click();
-    Click(P.Form1->mnuExit.Click);
+    ExpectRefused();
+}
 
-    EXPECT_EQ(Home.ReadFile(u"LfgDat_C"), "a file");
-    EXPECT_EQ(Registry(), registryOfTwo);
-    EXPECT_EQ(ExitCode(), 0);
+TEST_F(DirectoryThatCantBeMadeTest, ForAHomeThatCantBeWritten_EndsTheProgram_WithTheOldBranchInTheVariables)
+{
+    Home.MakeReadOnly({});
+
+    ExpectRefused();
+
+    Home.MakeWritable({});
 }
 
 class MissingTemplateTest : public MadeBranchTest, public testing::WithParamInterface<const char16_t*>
@@ -238,6 +283,8 @@ TEST_P(MissingTemplateTest, EndsTheProgram_WithTheRegistryAsItWas)
 
     EXPECT_EQ(ExitCode(), 1);
     EXPECT_EQ(Registry(), registryOfTwo);
+    EXPECT_EQ(P.Branch.WorkDir, QString());
+    EXPECT_EQ(P.Branch.sBranchName, QString());
 }
 
 INSTANTIATE_TEST_SUITE_P(Templates, MissingTemplateTest, testing::Values(u"LfgEmpt.~cf", u"LfgEmpt.~Md"),

@@ -279,6 +279,7 @@ TEST_F(OpenBranchTest, PictureThatIsNone_CountsAsMissing)
 TEST_F(OpenBranchTest, EmptyBranchAfterAnother_OpensWithItsMap_AndShowsNoSubject)
 {
     Choose(u"Smiths");
+    ASSERT_FALSE(P.Form1->Image1.Picture.value().isNull());
     QFile::remove(Home.Path(u"LfgDat_B/LfgDat_B.mdb"));
     BranchBuilder(Home, u'B').Boxes(u"3000,900,255,0,,").Lines(u"1507,817,2307,817,0,").Build();
     ExpectEmptyBox();
@@ -291,6 +292,7 @@ TEST_F(OpenBranchTest, EmptyBranchAfterAnother_OpensWithItsMap_AndShowsNoSubject
                                &P.Form1->Label14, &P.Form1->Label17})
         EXPECT_EQ(label->Caption.value(), QString()) << qUtf8Printable(label->Name);
     EXPECT_EQ(P.Form1->Frame1.Caption.value(), u"Ref  "_s);
+    EXPECT_TRUE(P.Form1->Image1.Picture.value().isNull());
     EXPECT_FALSE(P.Form1->Shape1.Visible);
     EXPECT_FALSE(P.Form8.IsLoaded());
     EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_B"));
