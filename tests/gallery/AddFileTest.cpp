@@ -1,6 +1,7 @@
 #include "gallery/AddFile.h"
 
 #include "gallery/GalleryTest.h"
+#include "program/AlternateBranch.h"
 
 namespace lineforge
 {
@@ -317,6 +318,15 @@ TEST_F(AddPictureTest, PictureOfAnotherFormat_IsCopiedUnderItsOwnEnding)
     OpenGallery();
     Add(Home.WriteFile(u"a.png", png));
     EXPECT_EQ(FilesInGallery(), QStringList{u"A001_01.png"_s});
+}
+
+TEST_F(AddPictureTest, BranchChangedBehindThePage_DoesntGetTheFile)
+{
+    OpenGallery();
+    SwitchToSibling(P, u"B");
+    Add(Home.WriteFile(u"a.jpg", PictureBytes(Qt::red)));
+    EXPECT_EQ(FilesInGallery(), QStringList{u"A001_01.jpg"_s});
+    EXPECT_FALSE(Home.Exists(u"LfgDat_B/LfgGal_B/A001_01.jpg"));
 }
 
 TEST_F(AddPictureTest, RecordTheUserHasGoneOnTo_DoesntGetTheFile)

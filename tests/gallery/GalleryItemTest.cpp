@@ -243,6 +243,14 @@ TEST_F(GalleryItemTest, PictureReplacedSinceThePageWasBuilt_OpensAsItIsNow)
     EXPECT_EQ(Page(), QStringList({u"0 A001_01.jpg blue"_s, u"1 2 empty"_s}));
 }
 
+TEST_F(GalleryItemTest, BranchChangedBehindThePage_TheTextIsThatOfThePage)
+{
+    OpenGallery({u"A001_01.txt"_s});
+    SwitchToSibling(P, u"B");
+    ClickTile(0);
+    EXPECT_EQ(Machine.Processes.Started, QStringList({Home.Path(u"Notepad.exe"), GalleryPathOf(u"A001_01.txt")}));
+}
+
 TEST_F(GalleryItemTest, CloseWithNothingOpen_DoesNothing)
 {
     OpenGallery({u"A001_01.jpg"_s});

@@ -252,5 +252,16 @@ TEST_F(GalleryPageTest, RecordOfASibling_ShowsItsOwnBranchesGallery)
     EXPECT_EQ(P.Files.CurDir(), Home.Path(u"LfgDat_B"));
 }
 
+// A branch imported beside another has the same numbers.
+TEST_F(GalleryPageTest, SameNumberInAnotherBranch_GetsItsOwnPage)
+{
+    BranchOf(u'A').InDirectory(u"Import_A").Gallery({{u"A001_02.txt"_s, "text"}}).Build();
+    OpenGallery({u"A001_01.jpg"_s});
+    P.Branch.WorkDir = Home.Path(u"Import_A");
+    ASSERT_EQ(P.Gallery.FirstShow, 0);
+    Click(P.Form1->Command2.Click);
+    EXPECT_EQ(Page(), QStringList({u"0 1 empty"_s, u"1 A001_02.txt text"_s, u"2 3 empty"_s}));
+}
+
 } // namespace
 } // namespace lineforge

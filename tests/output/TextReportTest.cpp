@@ -134,6 +134,20 @@ TEST_F(TextReportTest, List_IsWrittenInItsOrder_FromAllItsBranches_AndEmptied)
     EXPECT_EQ(Machine.Printer.Asked, 0);
 }
 
+TEST_F(TextReportTest, ListWithASiblingThatCantBeOpened_PassesItOver)
+{
+    GivenPeople(2);
+    Home.WriteFile(u"LfgDat_B/LfgDat_B.mdb", QByteArray(5000, 'x'));
+    GivenBookmarks({u"A002"_s, u"B001"_s, u"Q001"_s, u"A001"_s});
+    const QString directory = P.Branch.WorkDir;
+
+    WriteList();
+
+    EXPECT_EQ(RecordsIn(report), QStringList({u"A002"_s, u"A001"_s}));
+    EXPECT_EQ(P.Branch.WorkDir, directory);
+    EXPECT_EQ(P.Branch.UsingAlternate, 0);
+}
+
 TEST_F(TextReportTest, EmptyList_OpensTheFileAndClosesItEmpty)
 {
     GivenPeople(1);
