@@ -134,31 +134,37 @@ inline constexpr ProgramWindow withMenus[] = {
 };
 } // namespace every_window
 
+// "Smiths", which the windows are opened on, and "Jones" to compare it with.
+inline void BuildTwoBranches(TemporaryHome& home)
+{
+    BranchBuilder(home, u'A')
+        .Row({{u"File", u"A001"},
+              {u"Forename", u"John"},
+              {u"Surname", u"Smith"},
+              {u"BirthDate", u"3 May 1871"},
+              {u"Gender", u"Male"},
+              {u"Notes", u"Born in York"}})
+        .Row({{u"File", u"A002"}, {u"Forename", u"Mary"}, {u"Surname", u"Smith"}, {u"Gender", u"Female"}})
+        .Boxes(u"1200,600,255,A001,John,2400,600,255,A002,Mary,")
+        .Picture(u"A001", Qt::gray)
+        .Picture(u"A002", Qt::gray)
+        .Gallery({{QStringLiteral("A001_01.jpg"), PictureBytes(Qt::red, {400, 300})},
+                  {QStringLiteral("A001_02.jpg"), PictureBytes(Qt::blue, {300, 400})}})
+        .Build();
+    BranchBuilder(home, u'B')
+        .Row({{u"File", u"B001"}, {u"Forename", u"Jon"}, {u"Surname", u"Smythe"}, {u"Notes", u"Born in Leeds"}})
+        .Picture(u"B001", Qt::gray)
+        .Build();
+    WriteAliasList(home, {{u"Smiths", u"LfgDat_A"}, {u"Jones", u"LfgDat_B"}});
+}
+
 // All windows of the program in turn, with two branches to work on.
 class EveryWindowTest : public ProgramWindowTest, public testing::WithParamInterface<ProgramWindow>
 {
 protected:
     EveryWindowTest()
     {
-        BranchBuilder(Home, u'A')
-            .Row({{u"File", u"A001"},
-                  {u"Forename", u"John"},
-                  {u"Surname", u"Smith"},
-                  {u"BirthDate", u"3 May 1871"},
-                  {u"Gender", u"Male"},
-                  {u"Notes", u"Born in York"}})
-            .Row({{u"File", u"A002"}, {u"Forename", u"Mary"}, {u"Surname", u"Smith"}, {u"Gender", u"Female"}})
-            .Boxes(u"1200,600,255,A001,John,2400,600,255,A002,Mary,")
-            .Picture(u"A001", Qt::gray)
-            .Picture(u"A002", Qt::gray)
-            .Gallery({{QStringLiteral("A001_01.jpg"), PictureBytes(Qt::red, {400, 300})},
-                      {QStringLiteral("A001_02.jpg"), PictureBytes(Qt::blue, {300, 400})}})
-            .Build();
-        BranchBuilder(Home, u'B')
-            .Row({{u"File", u"B001"}, {u"Forename", u"Jon"}, {u"Surname", u"Smythe"}, {u"Notes", u"Born in Leeds"}})
-            .Picture(u"B001", Qt::gray)
-            .Build();
-        WriteAliasList(Home, {{u"Smiths", u"LfgDat_A"}, {u"Jones", u"LfgDat_B"}});
+        BuildTwoBranches(Home);
         OpenBranch(QStringLiteral("Smiths"));
     }
 

@@ -1,12 +1,10 @@
 #include "gui/EveryWindow.h"
+#include "gui/MenuPaths.h"
 #include "platform/qt/AccessibleName.h"
 
-#include <QAccessible>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTest>
-
-#include <functional>
 
 namespace lineforge
 {
@@ -14,36 +12,9 @@ namespace
 {
 using namespace Qt::StringLiterals;
 
-// From a menu of the bar down to an entry.
-using Path = std::vector<MenuItem*>;
-
-void ForEachItem(const std::vector<MenuItem*>& items, const std::function<void(const Path&)>& visit, Path path = {})
-{
-    for (MenuItem* item : items) {
-        path.push_back(item);
-        visit(path);
-        ForEachItem(item->Items, visit, path);
-        path.pop_back();
-    }
-}
-
-bool IsSeparator(const MenuItem& item)
-{
-    return item.Caption == u"-";
-}
-
 bool IsEntry(const MenuItem& item)
 {
     return item.Items.empty() && !IsSeparator(item);
-}
-
-QAccessibleInterface* MenuBarTold(QWidget& window)
-{
-    QAccessibleInterface* top = QAccessible::queryAccessibleInterface(&window);
-    for (int index = 0; index < top->childCount(); ++index)
-        if (top->child(index)->role() == QAccessible::MenuBar)
-            return top->child(index);
-    return nullptr;
 }
 
 void ExpectTold(QAccessibleInterface& level, const std::vector<MenuItem*>& items)
@@ -115,7 +86,7 @@ class MenuKeysTest : public EveryWindowTest
 protected:
     MenuKeysTest() : Opened(OpenForm())
     {
-        ForEachItem(Opened.Menus, [this](const Path& path) {
+        ForEachItem(Opened.Menus, [this](const MenuPath& path) {
             MenuItem& item = *path.back();
             item.Enabled = true;
             item.Click = [this, &item] { (item.Items.empty() ? Fired : Unfolded) += item.Name; };
@@ -139,7 +110,7 @@ protected:
     }
 
     // From the closed bar, with nothing but Alt, the arrows and Enter.
-    bool Choose(const Path& path)
+    bool Choose(const MenuPath& path)
     {
         Type(Qt::Key_Alt);
         if (!MarkBy(Qt::Key_Right, Bar(), *path.front()))
@@ -170,7 +141,7 @@ INSTANTIATE_TEST_SUITE_P(Windows, MenuKeysTest, testing::ValuesIn(every_window::
 
 TEST_P(MenuKeysTest, ArrowsLeadToEveryEntry_AndEnterRunsIt)
 {
-    ForEachItem(Opened.Menus, [this](const Path& path) {
+    ForEachItem(Opened.Menus, [this](const MenuPath& path) {
         if (!IsEntry(*path.back()))
             return;
         Fired.clear();
@@ -189,6 +160,7 @@ TEST_P(MenuKeysTest, AltAndTheLetter_OpenTheMenuOrRunTheEntryOfTheBar)
         Fired.clear();
         Unfolded.clear();
         Type(key[0].key(), Qt::AltModifier);
+        ServeEvents();
         EXPECT_EQ(Fired + Unfolded, QStringList{menu->Name});
         EXPECT_EQ(QApplication::activePopupWidget() != nullptr, !menu->Items.empty()) << menu->Name.toStdString();
         CloseMenus();

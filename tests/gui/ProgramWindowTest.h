@@ -5,16 +5,21 @@
 #include "shell/StartUp.h"
 #include "shell/handlers/Handlers.h"
 #include "support/BranchBuilder.h"
+#include "support/PdfPrinter.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TemporaryHome.h"
 
 namespace lineforge
 {
 
+// Who answers the program's boxes: a script that takes their place, or whoever works the real ones.
+enum class BoxesGoTo { Script, Screen };
+
 // The whole program on real windows, in a home of the test's own, with a scripted user for its boxes.
 class ProgramWindowTest : public WindowTest
 {
 protected:
+    explicit ProgramWindowTest(BoxesGoTo boxes = BoxesGoTo::Script) : Bundle(BundleHere(boxes)) {}
     ~ProgramWindowTest() override { System().CloseAll(); }
 
     // Starts it and chooses the branch of that name from its list.
@@ -30,15 +35,17 @@ protected:
 
     TemporaryHome Home;
     ScriptedPrompts Prompts;
-    Platform Bundle = BundleHere();
+    PdfPrinter Printer;
+    Platform Bundle;
     Program P{Bundle};
 
 private:
-    Platform BundleHere()
+    Platform BundleHere(BoxesGoTo boxes)
     {
         const Platform real = Machine().Bundle();
-        return {real.Windows,   Prompts,          real.Loop,      real.Screen,
-                real.Clipboard, real.PrintSystem, real.Processes, Home.Path() + PathSeparator};
+        lineforge::Prompts& asked = boxes == BoxesGoTo::Script ? Prompts : real.Prompts;
+        return {real.Windows,   asked,   real.Loop,      real.Screen,
+                real.Clipboard, Printer, real.Processes, Home.Path() + PathSeparator};
     }
 };
 

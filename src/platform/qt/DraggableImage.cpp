@@ -57,6 +57,14 @@ void DraggableImage::LieBelowThoseThere()
     }
 }
 
+// The release of the mouse goes to the box that has come up meanwhile.
+bool DraggableImage::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowBlocked)
+        LetGo();
+    return ImageView::event(event);
+}
+
 void DraggableImage::paintEvent(QPaintEvent* event)
 {
     if (Picture().isNull()) {

@@ -29,6 +29,7 @@ public:
     std::function<void(QPoint topLeft)> Moved;           // by wheel or keys, in pixels
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;

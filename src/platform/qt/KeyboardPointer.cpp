@@ -96,7 +96,7 @@ bool KeyboardPointer::eventFilter(QObject*, QEvent* event)
         return false;
     case QEvent::FocusOut:
         hide();
-        LetGo({});
+        LetGoSoon();
         return false;
     case QEvent::MouseMove:
     case QEvent::MouseButtonPress:
@@ -173,6 +173,14 @@ bool KeyboardPointer::LetGo(Qt::KeyboardModifiers modifiers)
     update();
     Send(QEvent::MouseButtonRelease, false, modifiers);
     return true;
+}
+
+// The toolkit may be in the midst of opening a menu, which is no time for what the release may ask the user.
+void KeyboardPointer::LetGoSoon()
+{
+    if (isHeld_)
+        QMetaObject::invokeMethod(
+            this, [this] { LetGo({}); }, Qt::QueuedConnection);
 }
 
 bool KeyboardPointer::GiveWayTo(const QEvent& mouse)

@@ -33,6 +33,7 @@ private:
     void Hold(Qt::KeyboardModifiers modifiers);
     // False when nothing was held.
     bool LetGo(Qt::KeyboardModifiers modifiers);
+    void LetGoSoon();
     // Hands that are on the mouse again come before those on the keys.
     bool GiveWayTo(const QEvent& mouse);
 

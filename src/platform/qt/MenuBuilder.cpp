@@ -4,23 +4,83 @@
 
 #include <QMenu>
 #include <QMenuBar>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+#include <deque>
+#include <iterator>
+#include <utility>
 
 namespace lineforge
 {
 
 namespace
 {
+using MenuPath = std::vector<const MenuItem*>;
+
+// Tells a window's handlers what the user does with its menus, in the order in which it is done. The toolkit announces
+// a menu in the midst of showing it, and can't bear that a box takes it away there: its opening is told as soon as the
+// event loop has control again, or an entry of it is chosen.
+class MenuUse : public QObject
+{
+public:
+    MenuUse(QMenuBar& bar, std::shared_ptr<const Gate> gate) : QObject(&bar), gate_(std::move(gate)) {}
+
+    void Opens(const MenuItem& menu)
+    {
+        open_.push_back(&menu);
+        untold_.push_back(&menu);
+        Later([this] { TellOpenings(); });
+    }
+
+    // The toolkit closes a menu just before it runs the entry that was chosen from it.
+    void Closes(const MenuItem& menu)
+    {
+        Later([this, &menu] { std::erase(open_, &menu); });
+    }
+
+    // Readers choose an entry without opening the menus above it, which is as if they did.
+    void Chooses(const MenuItem& entry, const MenuPath& above)
+    {
+        std::ranges::copy_if(above, std::back_inserter(untold_),
+                             [this](const MenuItem* menu) { return std::ranges::find(open_, menu) == open_.end(); });
+        TellOpenings();
+        gate_->Run(entry.Click);
+    }
+
+private:
+    void Later(const Event& step) { QMetaObject::invokeMethod(this, step, Qt::QueuedConnection); }
+
+    // One after the other, also when the first one's box lets the event loop run.
+    void TellOpenings()
+    {
+        if (isTelling_)
+            return;
+        const QScopedValueRollback<bool> telling(isTelling_, true);
+        while (!untold_.empty()) {
+            const MenuItem* menu = untold_.front();
+            untold_.pop_front();
+            gate_->Run(menu->Click);
+        }
+    }
+
+    std::shared_ptr<const Gate> gate_;
+    std::vector<const MenuItem*> open_;
+    std::deque<const MenuItem*> untold_;
+    bool isTelling_ = false;
+};
+
 // Builds on a menu bar and on a menu alike.
 class MenuBuilder
 {
 public:
-    MenuBuilder(const std::shared_ptr<const Gate>& gate, Bindings& bindings) : gate_(gate), bindings_(bindings) {}
+    MenuBuilder(MenuUse& use, Bindings& bindings) : use_(use), bindings_(bindings) {}
 
     template <class Menus>
-    void Add(Menus& to, const std::vector<MenuItem*>& items)
+    void Add(Menus& to, const std::vector<MenuItem*>& items, const MenuPath& above = {})
     {
         for (MenuItem* item : items) {
-            QAction* action = item->Items.empty() ? AddEntry(to, *item) : AddMenu(to, *item);
+            QAction* action = item->Items.empty() ? AddEntry(to, *item, above) : AddMenu(to, *item, above);
             action->setObjectName(item->Name);
             // Where a system moves entries about by their captions, it would take ours for its own.
             action->setMenuRole(QAction::NoRole);
@@ -36,27 +96,29 @@ public:
 
 private:
     template <class Menus>
-    QAction* AddEntry(Menus& to, MenuItem& item)
+    QAction* AddEntry(Menus& to, const MenuItem& item, const MenuPath& above)
     {
         if (item.Caption == u"-")
             return to.addSeparator();
         QAction* action = to.addAction(item.Caption);
-        QObject::connect(action, &QAction::triggered, action, [gate = gate_, &item] { gate->Run(item.Click); });
+        QObject::connect(action, &QAction::triggered, &use_, [&use = use_, &item, above] { use.Chooses(item, above); });
         return action;
     }
 
     template <class Menus>
-    QAction* AddMenu(Menus& to, MenuItem& item)
+    QAction* AddMenu(Menus& to, const MenuItem& item, MenuPath above)
     {
         QMenu* menu = to.addMenu(item.Caption);
         menu->setObjectName(item.Name);
         menu->setAccessibleName(SpokenCaption(item.Caption));
-        QObject::connect(menu, &QMenu::aboutToShow, menu, [gate = gate_, &item] { gate->Run(item.Click); });
-        Add(*menu, item.Items);
+        QObject::connect(menu, &QMenu::aboutToShow, &use_, [&use = use_, &item] { use.Opens(item); });
+        QObject::connect(menu, &QMenu::aboutToHide, &use_, [&use = use_, &item] { use.Closes(item); });
+        above.push_back(&item);
+        Add(*menu, item.Items, above);
         return menu->menuAction();
     }
 
-    const std::shared_ptr<const Gate>& gate_;
+    MenuUse& use_;
     Bindings& bindings_;
 };
 } // namespace
@@ -64,7 +126,7 @@ private:
 void BuildMenus(QMenuBar& bar, const std::vector<MenuItem*>& menus, const std::shared_ptr<const Gate>& gate,
                 Bindings& bindings)
 {
-    MenuBuilder(gate, bindings).Add(bar, menus);
+    MenuBuilder(*new MenuUse(bar, gate), bindings).Add(bar, menus);
 }
 
 } // namespace lineforge

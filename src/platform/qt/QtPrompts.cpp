@@ -3,6 +3,7 @@
 #include "platform/PictureBox.h"
 #include "platform/qt/FileFilters.h"
 #include "platform/qt/HelpWindow.h"
+#include "platform/qt/Popups.h"
 #include "platform/qt/QtEventLoop.h"
 #include "platform/qt/QtPrintSystem.h"
 #include "platform/qt/ScreenPointer.h"
@@ -140,10 +141,7 @@ Answer QtPrompts::MsgBox(const QString& title, const QString& text, Buttons butt
     WidenFor(text, box);
     box.setDefaultButton(set.Default);
     box.setEscapeButton(set.Last);
-    const ArrowMeanwhile arrow;
-    const int button = box.exec();
-    loop_.ThrowIfEnded();
-    return ToAnswer(button);
+    return ToAnswer(Ask(box));
 }
 
 QString QtPrompts::InputBox(const QString& title, const QString& prompt)
@@ -154,10 +152,7 @@ QString QtPrompts::InputBox(const QString& title, const QString& prompt)
     box.setLabelText(prompt);
     for (QLabel* label : box.findChildren<QLabel*>())
         label->setTextFormat(Qt::PlainText);
-    const ArrowMeanwhile arrow;
-    const bool entered = box.exec() == QDialog::Accepted;
-    loop_.ThrowIfEnded();
-    return entered ? box.textValue() : QString();
+    return Ask(box) == QDialog::Accepted ? box.textValue() : QString();
 }
 
 std::optional<QString> QtPrompts::OpenFile(const FileQuestion& question)
@@ -179,17 +174,25 @@ std::optional<QString> QtPrompts::SaveFile(const FileQuestion& question)
     return AskFile(box, question);
 }
 
+// What is popped up holds mouse and keys, and would stand between the user and the box.
+int QtPrompts::Ask(QDialog& box) const
+{
+    ClosePopups();
+    const ArrowMeanwhile arrow;
+    const int answer = box.exec();
+    loop_.ThrowIfEnded();
+    return answer;
+}
+
 std::optional<QString> QtPrompts::AskFile(QFileDialog& box, const FileQuestion& question) const
 {
     box.setOption(QFileDialog::DontUseNativeDialog);
     if (const QStringList filters = ToFileFilters(question.Filter); !filters.isEmpty())
         box.setNameFilters(filters);
     Enlarge(box, {52, 34});
-    const ArrowMeanwhile arrow;
-    const bool chosen = box.exec() == QDialog::Accepted;
-    loop_.ThrowIfEnded();
+    const bool isChosen = Ask(box) == QDialog::Accepted;
     const QStringList files = box.selectedFiles();
-    if (!chosen || files.isEmpty())
+    if (!isChosen || files.isEmpty())
         return std::nullopt;
     return files.first();
 }
@@ -199,10 +202,7 @@ std::optional<Colour> QtPrompts::PickColour(Colour present)
     loop_.ThrowIfEnded();
     QColorDialog box(ToQColor(present), QApplication::activeWindow());
     box.setOption(QColorDialog::DontUseNativeDialog);
-    const ArrowMeanwhile arrow;
-    const bool chosen = box.exec() == QDialog::Accepted;
-    loop_.ThrowIfEnded();
-    if (!chosen)
+    if (Ask(box) != QDialog::Accepted)
         return std::nullopt;
     return FromQColor(box.selectedColor());
 }
@@ -213,10 +213,7 @@ std::optional<TextFont> QtPrompts::PickFont(const TextFont& present)
     QFontDialog box(ToQFont(present), QApplication::activeWindow());
     box.setOption(QFontDialog::DontUseNativeDialog);
     const QFont shown = box.currentFont();
-    const ArrowMeanwhile arrow;
-    const bool chosen = box.exec() == QDialog::Accepted;
-    loop_.ThrowIfEnded();
-    if (!chosen)
+    if (Ask(box) != QDialog::Accepted)
         return std::nullopt;
     return ChosenFont(present, shown, box.selectedFont());
 }
@@ -224,6 +221,7 @@ std::optional<TextFont> QtPrompts::PickFont(const TextFont& present)
 void QtPrompts::PickPrinter()
 {
     loop_.ThrowIfEnded();
+    ClosePopups();
     const ArrowMeanwhile arrow;
     printers_.Choose(QApplication::activeWindow());
     loop_.ThrowIfEnded();

@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 
+class QDialog;
 class QFileDialog;
 
 namespace lineforge
@@ -32,6 +33,7 @@ public:
     void ShowHelp(const QString& helpFile) override;
 
 private:
+    int Ask(QDialog& box) const;
     std::optional<QString> AskFile(QFileDialog& box, const FileQuestion& question) const;
 
     const QtEventLoop& loop_;

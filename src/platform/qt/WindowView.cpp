@@ -3,6 +3,7 @@
 #include "platform/qt/ClickableWidgets.h"
 #include "platform/qt/KeyboardPointer.h"
 #include "platform/qt/MenuBuilder.h"
+#include "platform/qt/Popups.h"
 #include "platform/qt/WidgetBuilder.h"
 
 #include <QCloseEvent>
@@ -133,6 +134,13 @@ void WindowView::closeEvent(QCloseEvent* event)
 {
     event->ignore();
     gate_->Run(form_.CloseByFrame);
+}
+
+// A menu that has been opened while a handler yields would outlive its window on the screen.
+void WindowView::hideEvent(QHideEvent* event)
+{
+    ClosePopupsOf(*this);
+    QMainWindow::hideEvent(event);
 }
 
 void WindowView::keyPressEvent(QKeyEvent* event)

@@ -30,6 +30,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     // Escape closes a window whose missing frame has no button for that.
     void keyPressEvent(QKeyEvent* event) override;
 

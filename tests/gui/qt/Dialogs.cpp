@@ -31,6 +31,27 @@ void NextDialog::Look()
     meet_(*dialog);
 }
 
+AnsweringUser::AnsweringUser()
+{
+    connect(&timer_, &QTimer::timeout, this, &AnsweringUser::Look);
+    timer_.start(1);
+}
+
+QStringList AnsweringUser::Told()
+{
+    return std::exchange(told_, {});
+}
+
+void AnsweringUser::Look()
+{
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (!dialog)
+        return;
+    const QMessageBox& box = AsMessageBox(*dialog);
+    told_ += box.windowTitle() + QStringLiteral(": ") + box.text();
+    PressKey(*dialog, Qt::Key_Escape);
+}
+
 QMessageBox& AsMessageBox(QDialog& dialog)
 {
     auto* box = qobject_cast<QMessageBox*>(&dialog);

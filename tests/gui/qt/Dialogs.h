@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMessageBox>
+#include <QStringList>
 #include <QTimer>
 
 #include <functional>
@@ -22,6 +23,22 @@ private:
     std::function<void(QDialog&)> meet_;
     QTimer timer_;
     bool met_ = false;
+};
+
+// A user who answers every message box as it comes, with the button that Escape presses, and remembers what it said.
+class AnsweringUser : public QObject
+{
+public:
+    AnsweringUser();
+
+    // Title, colon and text of each box, in their order; forgotten by asking.
+    QStringList Told();
+
+private:
+    void Look();
+
+    QTimer timer_;
+    QStringList told_;
 };
 
 // The dialog as a message box; a test that meets another fails and ends.

@@ -183,6 +183,7 @@ TEST_F(KeyboardPointerTest, EscapeAndTheFocusThatGoes_LetGo_Once)
 
     Type(Qt::Key_Space, Qt::ShiftModifier);
     Find<QWidget>(*Pointed, u"Command1"_s).setFocus(Qt::TabFocusReason);
+    ServeEvents();
     EXPECT_EQ(Pointed->Story, QStringList({u"down 1 0"_s, u"up 1 0"_s}));
 }
 

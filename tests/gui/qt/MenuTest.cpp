@@ -70,6 +70,7 @@ TEST_F(MenuTest, OpeningAMenuIsItsClick)
     Menus->mnuFile.Click = [&opened] { ++opened; };
     auto& menu = Find<QMenu>(*Menus, u"mnuFile"_s);
     menu.popup({10, 10});
+    ServeEvents();
     EXPECT_EQ(opened, 1);
     menu.close();
 }
@@ -97,6 +98,19 @@ TEST_F(MenuTest, EnabledFollows_AndADisabledEntryIsDead)
         EXPECT_EQ(Action(u"mnuHelp"_s).isEnabled(), enabled);
         EXPECT_EQ(Find<QMenu>(*Menus, u"mnuHelp"_s).isEnabled(), enabled);
     }
+}
+
+TEST_F(MenuTest, AnOpenMenuGoesWithItsWindow_AndWithNoOther)
+{
+    Window<MenuForm> other(System());
+    other->Visible = true;
+    auto& menu = Find<QMenu>(*Menus, u"mnuFile"_s);
+    menu.popup({10, 10});
+    other->Visible = false;
+    EXPECT_TRUE(menu.isVisible());
+    Menus->Visible = false;
+    EXPECT_FALSE(menu.isVisible());
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 }
 
 TEST_F(MenuTest, AHandlerMayUnloadItsOwnWindow)
