@@ -272,7 +272,7 @@ struct Shape : ControlKind<Shape> {
 struct ScrollBar : ControlKind<ScrollBar> {
     ScrollBar(Container& parent, QStringView name, Rectangle place, int max, int smallChange, int largeChange);
     QProperty<int> Value{0};
-    int Max;
+    QProperty<int> Max;
     int SmallChange;
     int LargeChange;
     Event Change;

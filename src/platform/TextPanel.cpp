@@ -15,6 +15,7 @@ void TextPanel::Print(QStringView line)
 void TextPanel::Cls()
 {
     Lines.clear();
+    FollowedFrom = 0;
     Fire(Changed);
 }
 

@@ -23,7 +23,8 @@ struct TextPanel : ControlKind<TextPanel> {
     int CurrentY() const { return static_cast<int>(Lines.size()) * LineHeight; }
 
     QStringList Lines;
-    Event Changed; // lines have come, or all have gone; set by whoever shows the panel
+    int FollowedFrom = 0; // where its bar must at least stand for whoever scrolls the panel to follow the text on
+    Event Changed;        // lines have come, or all have gone; set by whoever shows the panel
 };
 
 } // namespace lineforge

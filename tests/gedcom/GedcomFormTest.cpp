@@ -89,7 +89,7 @@ TEST_F(GedcomFormTest, Cancel_HidesTheWindow_WhichKeepsItsTexts)
 TEST_F(GedcomFormTest, Bar_HasTheStepsOfTheDesign)
 {
     const ScrollBar& bar = P.Form12->VScroll1;
-    EXPECT_EQ(bar.Max, 8000);
+    EXPECT_EQ(bar.Max.value(), 8000);
     EXPECT_EQ(bar.SmallChange, 100);
     EXPECT_EQ(bar.LargeChange, 1000);
 }

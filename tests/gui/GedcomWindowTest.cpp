@@ -11,6 +11,9 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QTest>
+#include <QTimer>
+
+#include <functional>
 
 namespace lineforge
 {
@@ -139,6 +142,78 @@ TEST_F(ConversionWindowTest, LongRunUntilTheOverflow_KeepsTheWindowAlive)
     Activate(*P.Form11);
     QTest::keyClick(&Panel(), Qt::Key_Home, Qt::ControlModifier);
     EXPECT_TRUE(IsInView(0));
+}
+
+// A user who reads while the report comes.
+class ReaderTest : public ConversionWindowTest
+{
+protected:
+    static constexpr int Families = 12;
+
+    // Couples alone: each fills a third of the window.
+    static QByteArray Couples()
+    {
+        QByteArray people;
+        QByteArray couples;
+        for (int couple = 1; couple <= Families; ++couple) {
+            const QByteArray number = QByteArray::number(couple);
+            for (const char* sex : {"M", "F"})
+                people += "0 @" + QByteArray(sex) + number + "@ INDI\r\n2 GIVN John\r\n2 SURN Smith\r\n1 SEX " + sex +
+                          "\r\n1 NOTE 0\r\n";
+            couples +=
+                "0 @C" + number + "@ FAM\r\n1 HUSB @M" + number + "@\r\n1 WIFE @F" + number + "@\r\n1 NOTE 0\r\n";
+        }
+        return "0 HEAD\r\n" + people + couples + "0 TRLR\r\n";
+    }
+
+    // Runs `act` at the first yield of the run at which so many lines have come.
+    void ConvertAnd(qsizetype lines, const std::function<void()>& act)
+    {
+        bool hasActed = false;
+        QTimer user;
+        QObject::connect(&user, &QTimer::timeout, &user, [&] {
+            if (hasActed || !P.Form11.IsLoaded() || P.Form11->Picture1.Lines.size() < lines)
+                return;
+            hasActed = true;
+            act();
+        });
+        user.start(0);
+        Convert(Couples());
+        EXPECT_TRUE(hasActed);
+        EXPECT_GT(Panel().Lines().size(), lines + 50) << "the run has gone on";
+    }
+    void Type(Qt::Key key) { QTest::keyClick(&Panel(), key, Qt::ControlModifier); }
+};
+
+TEST_F(ReaderTest, WhoScrollsBack_IsNotPulledDown_AndComesToTheEndByHand)
+{
+    int place = 0;
+    ConvertAnd(60, [&] {
+        P.Form11->VScroll1.Value = 2000;
+        QTest::keyClick(&Panel(), Qt::Key_PageUp);
+        place = P.Form11->VScroll1.Value;
+        EXPECT_TRUE(place > 0 && place < 2000) << place;
+    });
+    EXPECT_EQ(P.Form11->VScroll1.Value.value(), place);
+    EXPECT_FALSE(IsInView(Panel().Lines().size() - 1));
+
+    Type(Qt::Key_End);
+    EXPECT_TRUE(IsInView(Panel().Lines().size() - 1));
+}
+
+TEST_F(ReaderTest, WhoGoesToTheBeginning_StaysThere)
+{
+    ConvertAnd(60, [&] { Type(Qt::Key_Home); });
+    EXPECT_TRUE(IsInView(0));
+}
+
+TEST_F(ReaderTest, WhoIsBackAtTheEnd_SeesTheReportCome)
+{
+    ConvertAnd(60, [&] {
+        Type(Qt::Key_Home);
+        Type(Qt::Key_End);
+    });
+    EXPECT_TRUE(IsInView(Panel().Lines().size() - 1));
 }
 
 // At every magnification that a screen may ask for.

@@ -258,7 +258,7 @@ TEST_F(MapPictureTest, FreshPicture_HasThePlaceFontAndColourOfTheMap)
     EXPECT_EQ(form.Picture1.Height, 12750);
     EXPECT_EQ(form.Picture1.BackColor, White);
     EXPECT_EQ(form.Picture1.Font, (TextFont{u"Arial"_s, 8.25}));
-    EXPECT_EQ(form.VScroll1.Max, 8000);
+    EXPECT_EQ(form.VScroll1.Max.value(), 8000);
     EXPECT_EQ(form.VScroll1.SmallChange, 100);
     EXPECT_EQ(form.VScroll1.LargeChange, 1500);
 }

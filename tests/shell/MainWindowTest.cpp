@@ -93,7 +93,7 @@ TEST_F(MainWindowTest, Map_IsWhite_ItsFontArial825)
 
 TEST_F(MainWindowTest, ScrollBar_GoesTo8000_InStepsOf100And1500_AndMovesTheMap)
 {
-    EXPECT_EQ(P.Form1->VScroll1.Max, 8000);
+    EXPECT_EQ(P.Form1->VScroll1.Max.value(), 8000);
     EXPECT_EQ(P.Form1->VScroll1.SmallChange, 100);
     EXPECT_EQ(P.Form1->VScroll1.LargeChange, 1500);
 

@@ -2,16 +2,13 @@
 
 #include "platform/qt/Outlines.h"
 
-#include <QEvent>
 #include <QSignalBlocker>
-
-#include <utility>
 
 namespace lineforge
 {
 
-ScrollBarView::ScrollBarView(QWidget* parent, std::function<int()> maximum)
-    : QScrollBar(Qt::Vertical, parent), maximum_(std::move(maximum)), pacer_([this] { setUpdatesEnabled(true); })
+ScrollBarView::ScrollBarView(QWidget* parent)
+    : QScrollBar(Qt::Vertical, parent), pacer_([this] { setUpdatesEnabled(true); })
 {
     setFocusPolicy(Qt::StrongFocus);
 }
@@ -19,27 +16,20 @@ ScrollBarView::ScrollBarView(QWidget* parent, std::function<int()> maximum)
 void ScrollBarView::Show(int value)
 {
     const QSignalBlocker quiet(this);
-    setUpdatesEnabled(false);
-    setRange(0, maximum_());
+    PaintWithNextFrame();
     setValue(value);
-    pacer_.Request();
 }
 
-// The maximum is asked for when it begins to matter: before the user can do anything with the bar.
-bool ScrollBarView::event(QEvent* event)
+void ScrollBarView::TakeMaximum(int maximum)
 {
-    switch (event->type()) {
-    case QEvent::Show:
-    case QEvent::Enter:
-    case QEvent::FocusIn:
-    case QEvent::Wheel:
-    case QEvent::MouseButtonPress:
-        setRange(0, maximum_());
-        break;
-    default:
-        break;
-    }
-    return QScrollBar::event(event);
+    PaintWithNextFrame();
+    setMaximum(maximum);
+}
+
+void ScrollBarView::PaintWithNextFrame()
+{
+    setUpdatesEnabled(false);
+    pacer_.Request();
 }
 
 // The usual styles leave it as it is.

@@ -4,26 +4,27 @@
 
 #include <QScrollBar>
 
-#include <functional>
-
 namespace lineforge
 {
 
-// An upright scroll bar from 0 to a maximum that its owner may change at any time without telling.
+// An upright scroll bar from 0 on, which follows values that come faster than a screen can show them.
 class ScrollBarView : public QScrollBar
 {
 public:
-    ScrollBarView(QWidget* parent, std::function<int()> maximum);
+    explicit ScrollBarView(QWidget* parent);
 
-    // Takes a value without telling of a change. However often it comes, painting keeps to the frames of the screen.
+    // However often they come, painting keeps to the frames of the screen.
+    // Takes a value without telling of a change.
     void Show(int value);
+    // A value beyond it becomes the maximum, which is a change.
+    void TakeMaximum(int maximum);
 
 protected:
-    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    std::function<int()> maximum_;
+    void PaintWithNextFrame();
+
     FramePacer pacer_;
 };
 

@@ -421,9 +421,10 @@ void WidgetBuilder::Visit(Shape& shape)
 // A value that the program sets is a change as well, as one that the user sets is.
 void WidgetBuilder::Visit(ScrollBar& bar)
 {
-    auto* view = new ScrollBarView(parent_, [&bar] { return bar.Max; });
+    auto* view = new ScrollBarView(parent_);
     view->setSingleStep(bar.SmallChange);
     view->setPageStep(bar.LargeChange);
+    bindings_.Follow(bar.Max, [view, &bar] { view->TakeMaximum(bar.Max); });
     view->Show(bar.Value);
     bindings_.Watch(bar.Value, [gate = gate_, view, &bar] {
         view->Show(bar.Value);

@@ -44,7 +44,7 @@ protected:
         Print(lines);
         const int growth = std::max(0, Texts->Picture1.CurrentY() - Texts->Picture1.Height) / 1000 * 1000 + 1000;
         Texts->Picture1.Height = Texts->Picture1.Height + growth;
-        Texts->VScroll1.Max += growth / 2;
+        Texts->VScroll1.Max = Texts->VScroll1.Max + growth / 2;
         Texts->VScroll1.Value = growth / 2;
     }
 
