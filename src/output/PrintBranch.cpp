@@ -54,7 +54,7 @@ bool PrintWindow(Program& p, const Form& form)
     bool isPrinted = false;
     p.Errors.Clear();
     p.Errors.Ignoring([&] {
-        p.Printer.PrintPicture(form.Picture(), form.Width);
+        p.Printer.PrintPicture(form.Picture(), form.ScaleSize().Width);
         p.Printer.EndDoc();
         isPrinted = true;
     });

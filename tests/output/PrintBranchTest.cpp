@@ -76,10 +76,73 @@ TEST_F(PrintWindowTest, RecordForm_IsPrintedInItsSize)
 
 TEST_F(PrintWindowTest, WindowLargerThanThePage_IsMadeSmaller)
 {
-    P.Form1->Client.Width = 20'000;
+    P.Form1->Width = 20'000;
     P.Form1->Grab = [] { return RedAndBlue({1000, 500}); };
 
     P.Form1->mnuPrintPage.Click();
+
+    ExpectPictureOnPaper(11'906, 5953);
+}
+
+// Each of the windows, and how it is printed.
+struct PrintedWindow {
+    const char* Name;
+    Form& (*Of)(Program& p);
+    void (*Print)(Program& p);
+};
+std::ostream& operator<<(std::ostream& out, const PrintedWindow& window)
+{
+    return out << window.Name;
+}
+
+constexpr PrintedWindow printedWindows[] = {
+    {"Map", [](Program& p) -> Form& { return *p.Form1; }, [](Program& p) { p.Form1->mnuPrintPage.Click(); }},
+    {"Records", [](Program& p) -> Form& { return *p.Form3; }, [](Program& p) { p.Form3->mnuPrinForm.Click(); }},
+    {"Gallery", [](Program& p) -> Form& { return *p.Form5; }, [](Program& p) { p.Form5->mnuPrintpic.Click(); }},
+    {"Comparison", [](Program& p) -> Form& { return *p.Form6; }, [](Program& p) { p.Form6->mnuPrintScreen.Click(); }},
+    {"MapFromThePictureWindow", [](Program& p) -> Form& { return *p.Form1; },
+     [](Program& p) { p.Form2->mnuPrint.Click(); }},
+};
+
+class PrintedSizeTest : public PrintWindowTest, public testing::WithParamInterface<PrintedWindow>
+{
+protected:
+    PrintedSizeTest() { GivenPeople(1); }
+    Form& Window() { return GetParam().Of(P); }
+};
+
+INSTANTIATE_TEST_SUITE_P(Windows, PrintedSizeTest, testing::ValuesIn(printedWindows),
+                         [](const auto& turn) { return testing::PrintToString(turn.param); });
+
+TEST_P(PrintedSizeTest, SmallerThanThePage_ItKeepsItsSize)
+{
+    Window().Measure = [] { return Size{6000, 4500}; };
+    Window().Grab = [] { return RedAndBlue({400, 300}); };
+
+    GetParam().Print(P);
+
+    ExpectPictureOnPaper(6000, 4500);
+}
+
+// Where the screen hasn't the room that the program asked for, what is seen is what counts.
+TEST_P(PrintedSizeTest, OnAScreenWithLessRoom_ItIsAsLargeAsItCouldBe)
+{
+    Window().Width = 9000;
+    Window().Height = 9000;
+    Window().Measure = [] { return Size{7500, 6000}; };
+    Window().Grab = [] { return RedAndBlue({500, 400}); };
+
+    GetParam().Print(P);
+
+    ExpectPictureOnPaper(7500, 6000);
+}
+
+TEST_P(PrintedSizeTest, LargerThanThePage_ItIsMadeSmaller)
+{
+    Window().Measure = [] { return Size{20'000, 10'000}; };
+    Window().Grab = [] { return RedAndBlue({1000, 500}); };
+
+    GetParam().Print(P);
 
     ExpectPictureOnPaper(11'906, 5953);
 }
