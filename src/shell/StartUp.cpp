@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-// The splash is placed in screen points of 15 twips.
+// The splash is placed in points of 15 twips, which grow with the windows' scale and are no dots of the screen.
 constexpr int twipsPerPoint = 15;
 
 void PrepareSound(MultimediaControl& player)

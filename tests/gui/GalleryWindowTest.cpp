@@ -1,4 +1,6 @@
 #include "gui/ProgramWindowTest.h"
+#include "output/Paper.h"
+#include "platform/PictureBox.h"
 #include "platform/qt/DraggableImage.h"
 
 #include <QMenuBar>
@@ -181,20 +183,145 @@ TEST_F(GalleryWindowTest, Tree_GoesBackToTheMap_AndTheFrameToo)
     EXPECT_FALSE(ViewOf(*P.Form5).isVisible());
 }
 
-TEST_F(GalleryWindowTest, OpenPicture_IsPrintedWithoutTheTiles)
+// What stands on paper where the window shows it; a window wider than the page is made smaller.
+class PrintedGalleryTest : public GalleryWindowTest
 {
+protected:
+    static constexpr double PageWidth = 11'906; // twips
+
+    void Print()
+    {
+        P.Form5->mnuPrintpic.Click();
+        ASSERT_FALSE(Printer.Jobs.isEmpty());
+        ASSERT_EQ(PagesOf(Printer.Jobs.last()), 1);
+        paper_ = PictureOf(Printer.Jobs.last());
+    }
+
+    // Below the middle of a place in the window.
+    QColor OnPaper(const QRect& pixels)
+    {
+        const double shrunk = std::min(1.0, PageWidth / P.Form5->ScaleSize().Width);
+        const QPointF twips = QPointF(pixels.center()) * PixelScale().TwipsAPixel() * shrunk;
+        return paper_.pixelColor((twips / PictureBox::TwipsPerPixel).toPoint());
+    }
+
+    // Every third pixel of the page.
+    bool IsAnywhereLike(const QColor& colour) const
+    {
+        for (int y = 0; y < paper_.height(); y += 3)
+            for (int x = 0; x < paper_.width(); x += 3)
+                if (IsLike(paper_.pixelColor(x, y), colour))
+                    return true;
+        return false;
+    }
+
+private:
+    QImage paper_;
+};
+
+TEST_F(PrintedGalleryTest, Page_ComesWithItsTiles)
+{
+    Print();
+    EXPECT_TRUE(IsLike(OnPaper(Tile(0).geometry()), Qt::red));
+    EXPECT_TRUE(IsLike(OnPaper(Tile(1).geometry()), Qt::blue));
+}
+
+TEST_F(PrintedGalleryTest, OpenPicture_ComesWithoutTheTiles)
+{
+    const QRect place = Tile(0).geometry();
     ClickTile(0);
-    const QImage printed = P.Form5->Picture();
-    EXPECT_TRUE(IsLike(printed.pixelColor(printed.rect().center()), Qt::red));
-    EXPECT_EQ(printed.size(), Client().size());
-    const Image& second = P.Form5->Image1[1];
-    const QRect place = PixelScale().ToPixels(Rectangle{second.Left, second.Top, second.Width, second.Height});
-    EXPECT_FALSE(IsLike(printed.pixelColor(place.center()), Qt::blue));
+    Print();
+    EXPECT_TRUE(IsLike(OnPaper(Tile(0).geometry()), Qt::red));
+    EXPECT_FALSE(IsLike(OnPaper(place), Qt::red));
+    EXPECT_FALSE(IsAnywhereLike(Qt::blue));
+
+    ClickTile(0);
+    Print();
+    EXPECT_TRUE(IsAnywhereLike(Qt::blue));
 }
 
 TEST_F(GalleryWindowTest, WholeArea_IsWhatTheWindowShowsBelowItsMenus)
 {
     EXPECT_EQ(P.Form5->ScaleSize(), PixelScale().ToTwips(Client().size()));
+}
+
+// Two records with a gallery each.
+class GalleriesWindowTest : public ProgramWindowTest
+{
+protected:
+    GalleriesWindowTest()
+    {
+        BranchBuilder(Home, u'A')
+            .Row({{u"File", u"A001"}, {u"Forename", u"John"}})
+            .Row({{u"File", u"A002"}, {u"Forename", u"Mary"}})
+            .Boxes(u"1200,600,255,A001,John,2400,600,255,A002,Mary,")
+            .Picture(u"A001", Qt::red)
+            .Picture(u"A002", Qt::blue)
+            .Gallery({{u"A001_01.jpg"_s, PictureBytes(Qt::red, {400, 300})},
+                      {u"A002_01.jpg"_s, PictureBytes(Qt::blue, {300, 400})}})
+            .Build();
+        WriteAliasList(Home, {{u"Smiths", u"LfgDat_A"}});
+        OpenBranch(u"Smiths"_s);
+        GoToGallery();
+    }
+
+    void GoToGallery() { Click(*P.Form1, u"Command2"_s); }
+    void Click(const Form& form, const QString& name)
+    {
+        QTest::mouseClick(&Find<QWidget>(form, name), Qt::LeftButton);
+        ServeEvents();
+    }
+    void ClickTile() { Click(*P.Form5, u"Image1(0)"_s); }
+    // The buttons are hidden while a picture is open.
+    void LeaveByTheFrame()
+    {
+        ViewOf(*P.Form5).close();
+        ServeEvents();
+    }
+    void DoubleClickOnMarysBox()
+    {
+        const QPoint at(PixelScale().ToPixels(2700), PixelScale().ToPixels(700));
+        QTest::mouseDClick(ViewOf(*P.Form1).windowHandle(), Qt::LeftButton, {},
+                           Find<QWidget>(*P.Form1, u"Picture1"_s).mapTo(&ViewOf(*P.Form1), at));
+        ServeEvents();
+    }
+    QWidget& Tile() { return Find<QWidget>(*P.Form5, u"Image1(0)"_s); }
+    bool AreButtonsSeen()
+    {
+        return Find<QWidget>(*P.Form5, u"Command1"_s).isVisible() && Find<QWidget>(*P.Form5, u"Command2"_s).isVisible();
+    }
+};
+
+TEST_F(GalleriesWindowTest, SamePageAgain_KeepsThePictureOpen)
+{
+    ClickTile();
+    const QRect enlarged = Tile().geometry();
+    LeaveByTheFrame();
+    GoToGallery();
+    EXPECT_EQ(Tile().geometry(), enlarged);
+    EXPECT_FALSE(AreButtonsSeen());
+}
+
+TEST_F(GalleriesWindowTest, PageOfAnotherRecord_PutsTheOpenPictureAway)
+{
+    const QRect place = Tile().geometry();
+    ClickTile();
+    ASSERT_NE(Tile().geometry(), place);
+    LeaveByTheFrame();
+    DoubleClickOnMarysBox();
+    GoToGallery();
+
+    EXPECT_EQ(Tile().geometry(), place);
+    EXPECT_TRUE(AreButtonsSeen());
+    EXPECT_EQ(Tile().toolTip(), u"A002_01.jpg"_s);
+
+    // The click that would have closed it does so, wherever it falls; the next one opens.
+    ClickTile();
+    EXPECT_EQ(Tile().geometry(), place);
+    EXPECT_TRUE(AreButtonsSeen());
+    ClickTile();
+    EXPECT_EQ(Tile().size(), QSize(300, 400));
+    EXPECT_FALSE(AreButtonsSeen());
 }
 
 } // namespace

@@ -5,6 +5,8 @@
 
 #include <QTest>
 
+#include <functional>
+
 namespace lineforge
 {
 namespace
@@ -47,6 +49,19 @@ protected:
     void DoubleClick(Point corner)
     {
         QTest::mouseDClick(ViewOf(*P.Form1).windowHandle(), Qt::LeftButton, {}, At({corner.X + 300, corner.Y + 100}));
+    }
+    // By way of the middle, where `underWay` looks around.
+    void Drag(
+        Point from, Point to, const std::function<void()>& underWay = [] {})
+    {
+        QWindow* window = ViewOf(*P.Form1).windowHandle();
+        QTest::mousePress(window, Qt::LeftButton, {}, At(from));
+        QTest::mouseMove(window, At({(from.X + to.X) / 2, (from.Y + to.Y) / 2}));
+        underWay();
+        QTest::mouseMove(window, At(to));
+        underWay();
+        QTest::mouseRelease(window, Qt::LeftButton, {}, At(to));
+        ServeEvents();
     }
     void ClickOn(const QString& button) { QTest::mouseClick(&Find<QWidget>(*P.Form1, button), Qt::LeftButton); }
     void View(const QString& surname)
@@ -151,6 +166,30 @@ TEST_F(MapWindowTest, DoubleClickThroughAFrame_FindsTheBox)
     DoubleClick(johnsBox);
 
     EXPECT_EQ(P.Form1->Frame1.Caption.value(), u"Ref  A001"_s);
+}
+
+TEST_F(MapWindowTest, ZoneThatIsMovedWithTheTools_LeavesTheFramesWhereTheyAre)
+{
+    View(u"Smith"_s);
+    const QPoint johns = Frame(1)->pos();
+    const QPoint pauls = Frame(2)->pos();
+    P.Form1->mnuTreeTools.Click();
+    ClickOn(u"Image2"_s);
+    Drag({1000, 400}, {2100, 1000});
+
+    const auto framesStand = [&] {
+        return Frame(1)->isVisible() && Frame(1)->pos() == johns && Frame(2)->isVisible() && Frame(2)->pos() == pauls;
+    };
+    Drag({1600, 700}, {1900, 1300}, [&] { EXPECT_TRUE(framesStand()); });
+
+    EXPECT_GT(P.Map.BoxArr[0][BoxColumn::X].Number(), johnsBox.X);
+    EXPECT_TRUE(framesStand());
+    EXPECT_TRUE(IsGreen({1160 + 15, 800}));
+
+    Prompts.Expect(u"Closing Graphics Tools", u"Save the Tree Graphic changes ?", Buttons::InformationYesNo,
+                   Answer::No);
+    ClickOn(u"Image8"_s);
+    EXPECT_TRUE(framesStand());
 }
 
 TEST_F(MapWindowTest, SecondView_IsRefused_AndTheFramesStay)

@@ -106,6 +106,91 @@ TEST_F(ExitTest, ExitFromTheGallery_ClosesTheBranch_AndEndsWithCodeZero)
     EXPECT_FALSE(P.Form11.IsLoaded());
 }
 
+// Ends with all windows loaded and the tools open; what is done is told in its order.
+class ExitOrderTest : public ExitTest
+{
+protected:
+    ExitOrderTest()
+    {
+        Choose(u"Smiths");
+        GivenAllWindows();
+        P.form9->imgLogo.Visible = true; // made, without the start that its loading is
+        P.Form1->mnuTreeTools.Click();
+        MoveFirstBoxTo(1300);
+        Tell(P.Form1, P.Form2, P.Form3, P.Form4, P.Form5, P.Form6, P.Form7, P.Form8, P.form9, P.Form11, P.Form12);
+        P.Form1->MMControl1.Act = [this](QStringView command) { Story += u"map "_s + command; };
+        P.Form5->MMControl1.Act = [this](QStringView command) { Story += u"gallery "_s + command; };
+    }
+
+    template <class... Windows>
+    void Tell(Windows&... windows)
+    {
+        (TellWhenItGoes(*windows), ...);
+    }
+
+    void TellWhenItGoes(Form& form)
+    {
+        form.Unloading = [this, name = form.Name, unloading = form.Unloading] {
+            Story += name;
+            Fire(unloading);
+        };
+    }
+
+    // Asked after the boxes have been written, or before.
+    void ExpectToolsQuestion(int boxOnDisk)
+    {
+        Prompts.Expect(u"Closing Graphics Tools", u"Save the Tree Graphic changes ?", Buttons::InformationYesNo,
+                       Answer::No, [this, boxOnDisk] {
+                           Story += u"tools"_s;
+                           EXPECT_TRUE(
+                               MapOf(u'A').contains(QByteArray(QByteArray::number(boxOnDisk) + ",600,255,A001")));
+                       });
+    }
+
+    static constexpr int moved = 1300;
+    static constexpr int unmoved = 1200;
+    QStringList Story;
+};
+
+// The gallery lets go of its sound once more when it goes.
+const QStringList windowsGo{u"map Close"_s, u"gallery Close"_s, u"Form2"_s, u"Form3"_s, u"Form4"_s,
+                            u"Form5"_s,     u"gallery Close"_s, u"Form6"_s, u"Form7"_s, u"Form8"_s,
+                            u"form9"_s,     u"Form11"_s,        u"Form12"_s};
+
+TEST_F(ExitOrderTest, Command_BoxesToolsMedia_ThenTheWindows)
+{
+    ExpectToolsQuestion(moved);
+    Exit();
+    EXPECT_EQ(Story, QStringList({u"tools"_s, u"gallery Close"_s, u"Form1"_s}) + windowsGo);
+}
+
+TEST_F(ExitOrderTest, Frame_ToolsMedia_ThenTheWindows_AndTheBoxesStayAsTheyWere)
+{
+    ExpectToolsQuestion(unmoved);
+    CloseByFrame();
+    EXPECT_EQ(Story, QStringList({u"Form1"_s, u"tools"_s}) + windowsGo);
+}
+
+TEST_F(ExitOrderTest, CommandOfTheRecordForm_IsTheSame)
+{
+    ExpectToolsQuestion(moved);
+    Click(P.Form3->mnuExit.Click);
+    EXPECT_EQ(Story, QStringList({u"tools"_s, u"gallery Close"_s, u"Form1"_s}) + windowsGo);
+}
+
+// The branch is closed as by Close DataBase, which takes most windows with it; the gallery is made again to be told to
+// close its sound.
+TEST_F(ExitOrderTest, CommandOfTheGallery_ClosesTheBranchFirst)
+{
+    ExpectToolsQuestion(unmoved);
+    Click(P.Form5->mnuExit.Click);
+    EXPECT_EQ(Story, QStringList({u"tools"_s, u"gallery Close"_s, u"Form2"_s, u"Form3"_s, u"Form4"_s, u"Form5"_s,
+                                  u"gallery Close"_s, u"Form6"_s, u"Form7"_s, u"Form8"_s, u"form9"_s, u"Form1"_s,
+                                  u"map Close"_s, u"Form11"_s, u"Form12"_s}));
+    EXPECT_EQ(Machine.Windows.RetiredNames.count(u"Form5"_s), 2);
+    EXPECT_EQ(ExitCode(), 0);
+}
+
 class BothExitsTest : public ExitTest, public testing::WithParamInterface<bool>
 {
 protected:
