@@ -38,7 +38,12 @@ public:
     void Play()
     {
         for (int step = 0; step < steps && !HasFailure() && !model_->IsEnded(); ++step) {
-            Step();
+            try {
+                Step();
+            } catch (const UnscriptedPrompt&) {
+                // It has failed the session, which is told below.
+                return;
+            }
             Prompts.Verify();
             Compare();
         }
