@@ -63,16 +63,16 @@ void TellExists(Program& p, const Direction& way)
                      Buttons::Information);
 }
 
-// Looks through the branch that the record would go to, from where its cursor stands. False, with a box, when it has
-// the record's number.
-bool TakeStock(Program& p, const Direction& way)
+// Looks through the branch that the record would go to, from where its cursor stands. False, with a box and the cursor
+// back where it stood before, when it has the record's number.
+bool TakeStock(Program& p, const Direction& way, const Bookmark& before)
 {
     Recordset& to = way.To.Records(p);
     const FieldValue file = way.From.Records(p).Value(u"File");
     for (; !to.Eof(); to.MoveNext()) {
         if (file && to.FieldIs(u"File", *file)) {
             TellExists(p, way);
-            to.SetBookmark(p.Record.SavedBookmark);
+            to.SetBookmark(before);
             return false;
         }
         // Of the compare record in both directions; so it is meant to be.
@@ -137,9 +137,10 @@ void CopyAllFields(Program& p)
 void AppendRecord(Program& p)
 {
     const Direction& way = DirectionOf(p);
-    p.Record.SavedBookmark = way.To.Records(p).GetBookmark();
+    // Not kept with the map's positions: it may be one of the other branch.
+    const Bookmark before = way.To.Records(p).GetBookmark();
     CompareRecords(p).MoveFirst();
-    if (TakeStock(p, way))
+    if (TakeStock(p, way, before))
         Append(p, way);
 }
 

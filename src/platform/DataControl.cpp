@@ -28,6 +28,13 @@ public:
             control_.DropEdits();
     }
 
+    // A text comes later than what an edit in hand has for its field.
+    void Typed(const QString& field)
+    {
+        if (IsEditing())
+            TakeBack(field);
+    }
+
 protected:
     void Arrived() override
     {
@@ -41,8 +48,9 @@ protected:
             return;
         if (!IsEditing())
             Edit();
+        // What the program has put in a field meanwhile came later.
         for (const Binding& binding : control_.bindings_)
-            if (binding.IsEdited)
+            if (binding.IsEdited && !IsPut(binding.Field))
                 Put(binding.Field, binding.Text->Shown());
     }
 
@@ -101,9 +109,12 @@ void DataControl::Bind(TextBox& box, const QString& field)
 
 void DataControl::Edited(const ControlText& text)
 {
-    for (Binding& binding : bindings_)
-        if (binding.Text == &text)
-            binding.IsEdited = binding.Writes && records_ != nullptr;
+    for (Binding& binding : bindings_) {
+        if (binding.Text != &text || !binding.Writes || !records_)
+            continue;
+        binding.IsEdited = true;
+        records_->Typed(binding.Field);
+    }
 }
 
 void DataControl::Forget(const ControlText& text)

@@ -86,6 +86,9 @@ protected:
     virtual void Updating() {}
 
     bool IsEditing() const { return pending_ != Pending::None; }
+    // Of the edit or addition in hand: whether the field has a value in it, and to take that back.
+    bool IsPut(QStringView field) const { return edits_.contains(Column(field)); }
+    void TakeBack(QStringView field) { edits_.erase(Column(field)); }
 
 private:
     enum class Pending { None, Edit, Addition };

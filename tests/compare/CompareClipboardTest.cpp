@@ -149,6 +149,15 @@ TEST_F(CompareClipboardTest, WhatIsTyped_IsNotStored)
     EXPECT_EQ(Stored(u'A', "Forename", "A001"), u"John"_s);
 }
 
+TEST_F(CompareClipboardTest, TextTypedOnTheRecordFormBefore_GivesWayToTheCut)
+{
+    P.Form3->Text2.Text = u"typed"_s;
+    Select(P.Form6->Text1, u"Smith");
+    Cut();
+    EXPECT_EQ(Stored(u'A', "Surname", "A001"), QString());
+    EXPECT_EQ(P.Form3->Text2.Text.value(), QString());
+}
+
 TEST_F(CompareClipboardTest, FieldThatIsNone_TakesTheFatalPath)
 {
     P.Compare.sCompField = u"Nation"_s;

@@ -63,6 +63,22 @@ TEST_F(FieldCopyTest, FieldOnShow_GoesTheWayThatIsChosen)
     EXPECT_EQ(Texts(), u"their Forename|their Forename"_s);
 }
 
+// The record form is a window beside this one, and its texts are stored when the record is.
+TEST_F(FieldCopyTest, TextTypedOnTheRecordFormBefore_GivesWayToTheCopy)
+{
+    GivenPair();
+    P.Form3->Text2.Text = u"typed Surname"_s;
+    P.Form3->Text11.Text = u"typed Notes"_s;
+    ToCurrent();
+    CopyOne();
+    EXPECT_EQ(Stored(u'A', "Surname", "A001"), u"their Surname"_s);
+    EXPECT_EQ(Stored(u'A', "Notes", "A001"), u"typed Notes"_s);
+    EXPECT_EQ(P.Form3->Text2.Text.value(), u"their Surname"_s);
+    P.Form3->Text11.Text = u"typed again"_s;
+    CopyAll();
+    EXPECT_EQ(Stored(u'A', "Notes", "A001"), u"their Notes"_s);
+}
+
 TEST_F(FieldCopyTest, ThreeNamesAreNoFields_AndCantBeCopied)
 {
     GivenPair();
@@ -266,6 +282,17 @@ TEST_F(FieldCopyTest, NumberThatTheBranchHas_IsRefused_AndTheCursorComesBack)
     Append();
     EXPECT_EQ(Rows(u'B').size(), 3U);
     EXPECT_EQ(Pair(), u"A001 B003"_s);
+}
+
+// The map comes back to it when a box's record isn't there.
+TEST_F(FieldCopyTest, PositionKeptInTheOpenBranch_IsNotMixedWithOneOfTheOther)
+{
+    GivenComparison({PersonOf(u"A001", u"our")}, {PersonOf(u"B001", u"x"), PersonOf(u"B002", u"x")});
+    const Bookmark kept = P.Record.SavedBookmark = Records(P).GetBookmark();
+    NextCompare();
+    ExpectAppended(u"Z001");
+    Append();
+    EXPECT_TRUE(P.Record.SavedBookmark == kept);
 }
 
 TEST_F(FieldCopyTest, AppendToCurrent_TakesTheFirstCompareRecord_NotTheOneOnShow)

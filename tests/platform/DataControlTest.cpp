@@ -234,6 +234,31 @@ TEST_F(DataControlTest, EditByTheProgram_CarriesTheTypedTextAlong)
     EXPECT_EQ(Stored().value(0), u"Anna");
 }
 
+TEST_F(DataControlTest, TextTypedBeforeTheProgramPutAnother_GivesWayToIt)
+{
+    GivenOpened({u"Ann"_s, u"Bob"_s});
+    name.Text = u"typed"_s;
+    file.Text = u"A007"_s;
+    data.Records().Edit();
+    data.Records().Put(u"name", u"put"_s);
+    data.Records().Update();
+    EXPECT_EQ(name.Text.value(), u"put");
+    data.Records().MoveNext();
+    data.Records().MoveFirst();
+    EXPECT_EQ(name.Text.value(), u"put");
+    EXPECT_EQ(file.Text.value(), u"A007") << "what is typed elsewhere goes along";
+}
+
+TEST_F(DataControlTest, TextTypedAfterTheProgramPutAnother_TakesItsPlace)
+{
+    GivenOpened({u"Ann"_s, u"Bob"_s});
+    data.Records().Edit();
+    data.Records().Put(u"Name", u"put"_s);
+    name.Text = u"typed"_s;
+    data.Records().Update();
+    EXPECT_EQ(name.Text.value(), u"typed");
+}
+
 TEST_F(DataControlTest, UntouchedRow_IsNotWritten)
 {
     GivenOpened({u"Ann"_s, u"Bob"_s});
