@@ -247,23 +247,34 @@ void RenameBox(Program& p, int row, const QString& forename)
     PrintCaption(p, place, FittedForename(forename));
 }
 
+std::optional<int> RowToErase(Program& p)
+{
+    FindBoxOfRecord(p);
+    // A record without a box has no caption. The last box can't be erased this way either; so it is meant to be.
+    if (p.Scratch.IdxA >= LastFiledBox)
+        return std::nullopt;
+    FitForename(p);
+    return p.Scratch.IdxA;
+}
+
+void EmptyBox(Program& p, int row)
+{
+    WipeCaption(p, row);
+    p.Map.BoxArr[row][BoxColumn::File] = 0;
+    ResetMapFont(p.Form1->Picture1);
+    p.Form1->Picture1.ForeColor = Black;
+}
+
 void EraseBoxCaption(Program& p)
 {
     if (p.Branch.UsingAlternate == 1) {
         p.Scratch.IdxA = p.Mouse.BoxIdx;
         TakeBoxPosition(p, p.Mouse.BoxIdx);
         p.Record.sForeName = FittedForename(p.Record.sAltName);
-    } else {
-        FindBoxOfRecord(p);
-        // A record without a box has no caption. The last box can't be erased this way either; so it is meant to be.
-        if (p.Scratch.IdxA >= LastFiledBox)
-            return;
-        FitForename(p);
+        EmptyBox(p, p.Scratch.IdxA);
+    } else if (const std::optional<int> row = RowToErase(p)) {
+        EmptyBox(p, *row);
     }
-    WipeCaption(p, p.Scratch.IdxA);
-    p.Map.BoxArr[p.Scratch.IdxA][BoxColumn::File] = 0;
-    ResetMapFont(p.Form1->Picture1);
-    p.Form1->Picture1.ForeColor = Black;
 }
 
 } // namespace lineforge

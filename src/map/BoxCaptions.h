@@ -3,6 +3,8 @@
 #include "platform/Recordset.h"
 #include "program/Program.h"
 
+#include <optional>
+
 namespace lineforge
 {
 
@@ -42,6 +44,12 @@ void WipeCaption(Program& p, int row);
 // The one way in which a box gets another forename: in its row, and on the picture in the place of what stands there.
 // The list of boxes follows when it is rebuilt. The pen is black afterwards.
 void RenameBox(Program& p, int row, const QString& forename);
+
+// The row of the current record's box, for `EmptyBox`; nothing without a box, or where it is the last.
+std::optional<int> RowToErase(Program& p);
+
+// Wipes the caption of that row's box and empties the box. The pen is black afterwards.
+void EmptyBox(Program& p, int row);
 
 // Wipes the caption of the current record's box and empties the box. While a record of another branch is shown the box
 // is the one that the mouse hit, and the forename `sAltName`.

@@ -62,24 +62,20 @@ void Unlink(Program& p)
     Records(p).MoveFirst();
 }
 
-// Takes the record out of the table and its box; false, and all as it was, when the table refuses.
+// Takes the record out of the table, and then out of its box. False when the table refuses.
 bool TakeOut(Program& p)
 {
-    const auto boxes = p.Map.BoxArr;
-    p.Errors.Ignoring([&] { EraseBoxCaption(p); });
+    std::optional<int> row;
+    p.Errors.Ignoring([&] { row = RowToErase(p); });
     try {
         Records(p).Delete();
-        return true;
     } catch (const RuntimeError& error) {
         p.Errors.Last = error;
+        return false;
     }
-    p.Map.BoxArr = boxes;
-    p.Errors.Ignoring([&] {
-        FindBoxOfRecord(p);
-        if (p.Scratch.IdxA <= LastFiledBox)
-            DrawRecordInBox(p);
-    });
-    return false;
+    if (row)
+        p.Errors.Ignoring([&] { EmptyBox(p, *row); });
+    return true;
 }
 
 // The files go last, so that a record which can't be deleted keeps its own. What is typed goes with the record, or

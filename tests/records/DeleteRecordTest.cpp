@@ -67,6 +67,18 @@ TEST_F(DeleteRecordTest, ForenameTypedAndNotYetStored_TheOneInTheBoxIsWiped)
     EXPECT_EQ(Numbers(), QStringList({u"A002"_s, u"A003"_s}));
 }
 
+TEST_F(DeleteRecordTest, ForenameStoredBehindTheMapsBack_TheOneInTheBoxIsWiped)
+{
+    P.Form3->Text3.Text = u"Christopher"_s;
+    Records(P).MoveNext();
+    Records(P).MovePrevious();
+    ASSERT_EQ(Stored("Forename"), u"Christopher"_s);
+
+    Delete();
+
+    EXPECT_EQ(CaptionPixels(1200), 0);
+}
+
 TEST_F(DeleteRecordTest, BoxIsWipedOfItsCaption_AndTheOthersKeepTheirs)
 {
     Records(P).MoveNext();
@@ -363,6 +375,16 @@ TEST_F(RefusedDeletionTest, WithTextsPending_NothingIsLost_AndTheyAreStoredLater
     Records(P).MoveNext();
     EXPECT_EQ(Stored("Surname"), u"Brown"_s);
     EXPECT_EQ(Stored("Forename"), u"Christopher"_s);
+}
+
+TEST_F(RefusedDeletionTest, ForenameStoredBehindTheMapsBack_TheBoxKeepsTheOneItShows)
+{
+    P.Form3->Text3.Text = u"Christopher"_s;
+    Records(P).MoveNext();
+    Records(P).MovePrevious();
+    RefuseDeletion();
+
+    DeleteInVain();
 }
 
 TEST_F(DeleteRecordTest, ChangesRefused_WithTextsPending_TheRecordGoesAllTheSame)
