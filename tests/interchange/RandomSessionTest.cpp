@@ -38,12 +38,7 @@ public:
     void Play()
     {
         for (int step = 0; step < steps && !HasFailure() && !model_->IsEnded(); ++step) {
-            try {
-                Step();
-            } catch (const UnscriptedPrompt&) {
-                // It has failed the session, which is told below.
-                return;
-            }
+            Step();
             Prompts.Verify();
             Compare();
         }

@@ -53,7 +53,7 @@ bool SessionModel::Asks(const QString& title, const QString& text, Buttons butto
 {
     const bool confirms = user_.Confirms();
     std::function<void()> meanwhile;
-    if (!forestalled.isEmpty() && !Files.contains(forestalled) && user_.IsForestalled()) {
+    if (!forestalled.isEmpty() && user_.IsForestalled()) {
         Files[forestalled] = "<dir>";
         meanwhile = [path = QString(root_ + u'/' + forestalled)] { QDir().mkdir(path); };
     }
