@@ -3,6 +3,7 @@
 #include "map/BoxCaptions.h"
 #include "map/HitTest.h"
 #include "map/MapFile.h"
+#include "map/SubjectPanel.h"
 #include "platform/Text.h"
 #include "program/AlternateBranch.h"
 #include "program/BranchPaths.h"
@@ -304,8 +305,10 @@ void MapNewSubject(Program& p)
     GiveNewSubjectItsPicture(p);
     // The record form stays in front, for the new record is to be written now; one of another branch stands there
     // already.
-    if (p.Branch.UsingAlternate == 1)
+    if (p.Branch.UsingAlternate == 1) {
+        FillSubjectLabels(p);
         p.Form1->Show();
+    }
 }
 
 void AskSubjectPicture(Program& p)

@@ -187,6 +187,16 @@ TEST_F(MappingInFrontTest, RecordOfAnotherBranch_TheMapIs)
     EXPECT_TRUE(P.Form3->Visible);
 }
 
+TEST_F(MappingInFrontTest, RecordOfAnotherBranch_TheMapTellsItsNumberBesideItsName)
+{
+    GivenSibling();
+
+    Map(u"B002");
+
+    EXPECT_EQ(ShownNumber(), u"Ref  B002"_s);
+    EXPECT_EQ(P.Form1->Label9.Caption.value(), P.Form3->Text3.Text.value());
+}
+
 TEST_F(MappingInFrontTest, RecordOfAnotherBranchWithoutPicture_TheMapIs)
 {
     GivenSibling();

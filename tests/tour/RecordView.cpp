@@ -10,6 +10,11 @@ using namespace Qt::StringLiterals;
 ScreenWindow OpenRecords(Tour& tour)
 {
     tour.Hands.Click(tour.OnMain(tour.MainForm.Command1).center());
+    return AwaitPaintedRecords(tour);
+}
+
+ScreenWindow AwaitPaintedRecords(Tour& tour)
+{
     const ScreenWindow records = AwaitRecords(tour);
     // On a busy machine a window is there before anything is seen in it.
     tour.Await(u"the form to be painted"_s,

@@ -10,6 +10,7 @@ namespace lineforge::tour
 // By the button of the main window.
 ScreenWindow OpenRecords(Tour& tour);
 ScreenWindow AwaitRecords(Tour& tour);
+ScreenWindow AwaitPaintedRecords(Tour& tour);
 // By the button of the record form.
 void ReturnToMap(Tour& tour);
 

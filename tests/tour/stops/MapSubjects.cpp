@@ -48,10 +48,10 @@ void MapBox(Tour& tour, std::size_t row, const QString& file)
 
 void TypeInto(Tour& tour, const TextBox& box, const QString& text)
 {
-    const QImage before = PictureOnRecords(tour, box);
+    AwaitPaintedRecords(tour);
     tour.Hands.Click(OnRecords(tour, box).center());
     tour.Hands.Type(text);
-    tour.Await(u"a text in "_s + box.Name, [&] { return PictureOnRecords(tour, box) != before; });
+    tour.Await(u"a text in "_s + box.Name, [&] { return HoldsBlackLetters(PictureOnRecords(tour, box)); });
 }
 
 void NewRecordIsChosen(Tour& tour)
@@ -101,14 +101,21 @@ void ExistingRecordIsChosen(Tour& tour)
     tour.Await(u"the number in its field"_s, [&] { return tour.PictureOf(options.Place) != before; });
 }
 
+// The map comes to the front by itself, with the record's form open behind it.
 void ExistingRecordIsMapped(Tour& tour)
 {
     TakeOptions(tour, tour.AwaitWindow(tour.MappingForm.Caption));
     MapBox(tour, 2, existing);
-    ReturnToMap(tour);
     const FiledBox box = FiledBoxes(tour).at(2);
     tour.Await(u"the number in the third box"_s, [&] { return ShowsNumber(tour, box); });
     tour.Await(u"the forename of another branch in it"_s, [&] { return ShowsForename(tour, box); });
+}
+
+void ExistingRecordIsShown(Tour& tour)
+{
+    OpenRecords(tour);
+    tour.Await(u"his forename"_s, [&] { return HoldsBlackLetters(PictureOnRecords(tour, tour.RecordForm.Text3)); });
+    ReturnToMap(tour);
 }
 
 void TreeIsReopened(Tour& tour)
@@ -133,6 +140,7 @@ Steps MapSubjectsStop()
             {u"mapping-second"_s, SecondSubject},
             {u"mapping-existing-options"_s, ExistingRecordIsChosen},
             {u"mapping-existing"_s, ExistingRecordIsMapped},
+            {u"mapping-existing-returned"_s, ExistingRecordIsShown},
             {u"tree-reopened"_s, TreeIsReopened}};
 }
 
