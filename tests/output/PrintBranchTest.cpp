@@ -37,6 +37,19 @@ QString ColourNear(const QImage& paper, Point place)
 class PrintWindowTest : public OutputTest
 {
 protected:
+    // The window on the screen, smaller than the page.
+    static void Show(Form& form)
+    {
+        form.Grab = [] { return RedAndBlue({400, 300}); };
+        form.Measure = [] { return Size{8000, 6000}; };
+    }
+
+    void ExpectWindowOnPaper()
+    {
+        ExpectPictureOnPaper(8000, 6000);
+        EXPECT_EQ(ColourNear(PictureOf(Jobs().first()), {8030, 3000}), u"white"_s);
+    }
+
     // A window's picture on the one page that has been printed, that wide and high.
     void ExpectPictureOnPaper(int width, int height)
     {
@@ -54,34 +67,13 @@ protected:
     }
 };
 
-TEST_F(PrintWindowTest, MainWindow_IsPrintedInItsSize_WithoutABranchToo)
+TEST_F(PrintWindowTest, MainWindow_IsPrinted_WithoutABranchToo)
 {
-    P.Form1->Grab = [] { return RedAndBlue({1188, 819}); };
+    Show(*P.Form1);
 
     P.Form1->mnuPrintPage.Click();
 
-    ExpectPictureOnPaper(11'880, 8190);
-}
-
-TEST_F(PrintWindowTest, RecordForm_IsPrintedInItsSize)
-{
-    GivenPeople(1);
-    P.Form3->Grab = [] { return RedAndBlue({792, 500}); };
-
-    P.Form3->mnuPrinForm.Click();
-
-    ExpectPictureOnPaper(11'880, 7500);
-    EXPECT_EQ(Current(), u"A001"_s);
-}
-
-TEST_F(PrintWindowTest, WindowLargerThanThePage_IsMadeSmaller)
-{
-    P.Form1->Width = 20'000;
-    P.Form1->Grab = [] { return RedAndBlue({1000, 500}); };
-
-    P.Form1->mnuPrintPage.Click();
-
-    ExpectPictureOnPaper(11'906, 5953);
+    ExpectWindowOnPaper();
 }
 
 // Each of the windows, and how it is printed.
@@ -116,12 +108,12 @@ INSTANTIATE_TEST_SUITE_P(Windows, PrintedSizeTest, testing::ValuesIn(printedWind
 
 TEST_P(PrintedSizeTest, SmallerThanThePage_ItKeepsItsSize)
 {
-    Window().Measure = [] { return Size{6000, 4500}; };
-    Window().Grab = [] { return RedAndBlue({400, 300}); };
+    Show(Window());
 
     GetParam().Print(P);
 
-    ExpectPictureOnPaper(6000, 4500);
+    ExpectWindowOnPaper();
+    EXPECT_EQ(Current(), u"A001"_s);
 }
 
 // Where the screen hasn't the room that the program asked for, what is seen is what counts.
@@ -149,7 +141,7 @@ TEST_P(PrintedSizeTest, LargerThanThePage_ItIsMadeSmaller)
 
 TEST_F(PrintWindowTest, EachPrint_IsAJobOfItsOwn)
 {
-    P.Form1->Grab = [] { return RedAndBlue({100, 50}); };
+    Show(*P.Form1);
 
     P.Form1->mnuPrintPage.Click();
     P.Form1->mnuPrintPage.Click();
@@ -162,16 +154,16 @@ TEST_F(PrintWindowTest, WindowPrintedAfterTheMap_IsUpright)
     GivenPeople(1);
     P.Form1->mnuPrint.Click();
     Machine.Printer.Jobs.clear();
-    P.Form1->Grab = [] { return RedAndBlue({1188, 819}); };
+    Show(*P.Form1);
 
     P.Form1->mnuPrintPage.Click();
 
-    ExpectPictureOnPaper(11'880, 8190);
+    ExpectWindowOnPaper();
 }
 
 TEST_F(PrintWindowTest, NoPrinter_MainWindow_ReportsTheError_AndTheNextPrintWorks)
 {
-    P.Form1->Grab = [] { return RedAndBlue({1188, 819}); };
+    Show(*P.Form1);
     Machine.Printer.IsThere = false;
     ExpectPrinterErrorBox();
     P.Form1->mnuPrintPage.Click();
@@ -179,13 +171,13 @@ TEST_F(PrintWindowTest, NoPrinter_MainWindow_ReportsTheError_AndTheNextPrintWork
     Machine.Printer.IsThere = true;
     P.Form1->mnuPrintPage.Click();
 
-    ExpectPictureOnPaper(11'880, 8190);
+    ExpectWindowOnPaper();
 }
 
 TEST_F(PrintWindowTest, NoPrinter_RecordForm_TellsItInWords_AndTheNextPrintWorks)
 {
     GivenPeople(1);
-    P.Form3->Grab = [] { return RedAndBlue({1188, 750}); };
+    Show(*P.Form3);
     Machine.Printer.IsThere = false;
     Prompts.Expect(u"Lineforge", u"The form could not be printed.", Buttons::Plain);
     P.Form3->mnuPrinForm.Click();
@@ -193,12 +185,12 @@ TEST_F(PrintWindowTest, NoPrinter_RecordForm_TellsItInWords_AndTheNextPrintWorks
     Machine.Printer.IsThere = true;
     P.Form3->mnuPrinForm.Click();
 
-    ExpectPictureOnPaper(11'880, 7500);
+    ExpectWindowOnPaper();
 }
 
 TEST_F(PrintWindowTest, Comparison_IsPrintedAsItStands_AndARefusalReported)
 {
-    P.Form6->Grab = [] { return RedAndBlue({1188, 819}); };
+    Show(*P.Form6);
     Machine.Printer.IsThere = false;
     ExpectPrinterErrorBox();
     P.Form6->mnuPrintScreen.Click();
@@ -206,43 +198,43 @@ TEST_F(PrintWindowTest, Comparison_IsPrintedAsItStands_AndARefusalReported)
     Machine.Printer.IsThere = true;
     P.Form6->mnuPrintScreen.Click();
 
-    ExpectPictureOnPaper(11'880, 8190);
+    ExpectWindowOnPaper();
 }
 
 TEST_F(PrintWindowTest, Gallery_IsPrintedAsItStands)
 {
-    P.Form5->Grab = [] { return RedAndBlue({1188, 819}); };
+    Show(*P.Form5);
 
     P.Form5->mnuPrintpic.Click();
 
-    ExpectPictureOnPaper(11'880, 8190);
+    ExpectWindowOnPaper();
 }
 
 TEST_F(PrintWindowTest, NoPrinter_Gallery_SaysNothing_AndTheNextPrintWorks)
 {
-    P.Form5->Grab = [] { return RedAndBlue({1188, 819}); };
+    Show(*P.Form5);
     Machine.Printer.IsThere = false;
     P.Form5->mnuPrintpic.Click();
 
     Machine.Printer.IsThere = true;
     P.Form5->mnuPrintpic.Click();
 
-    ExpectPictureOnPaper(11'880, 8190);
+    ExpectWindowOnPaper();
 }
 
 TEST_F(PrintWindowTest, PictureWindow_PrintsTheMainWindow)
 {
-    P.Form1->Grab = [] { return RedAndBlue({1188, 819}); };
+    Show(*P.Form1);
     P.Form2->Grab = [] { return QImage(); };
 
     P.Form2->mnuPrint.Click();
 
-    ExpectPictureOnPaper(11'880, 8190);
+    ExpectWindowOnPaper();
 }
 
 TEST_F(PrintWindowTest, NoPrinter_PictureWindow_TellsItInWords_AndTheNextPrintWorks)
 {
-    P.Form1->Grab = [] { return RedAndBlue({1188, 819}); };
+    Show(*P.Form1);
     Machine.Printer.IsThere = false;
     Prompts.Expect(u"Lineforge", u"The form could not be printed.", Buttons::Plain);
     P.Form2->mnuPrint.Click();
@@ -250,7 +242,7 @@ TEST_F(PrintWindowTest, NoPrinter_PictureWindow_TellsItInWords_AndTheNextPrintWo
     Machine.Printer.IsThere = true;
     P.Form2->mnuPrint.Click();
 
-    ExpectPictureOnPaper(11'880, 8190);
+    ExpectWindowOnPaper();
 }
 
 class PrinterSetupTest : public OutputTest

@@ -39,9 +39,11 @@ public:
         Later([this, &menu] { std::erase(open_, &menu); });
     }
 
-    // Readers choose an entry without opening the menus above it, which is as if they did.
+    // Readers choose an entry without opening the menus above it, which is as if they did, and could.
     void Chooses(const MenuItem& entry, const MenuPath& above)
     {
+        if (!gate_->IsOpen() || !std::ranges::all_of(above, [](const MenuItem* menu) { return menu->Enabled.value(); }))
+            return;
         std::ranges::copy_if(above, std::back_inserter(untold_),
                              [this](const MenuItem* menu) { return std::ranges::find(open_, menu) == open_.end(); });
         TellOpenings();

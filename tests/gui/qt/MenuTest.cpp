@@ -100,6 +100,20 @@ TEST_F(MenuTest, EnabledFollows_AndADisabledEntryIsDead)
     }
 }
 
+TEST_F(MenuTest, AnEntryOfADisabledMenu_IsDeadForReadersToo)
+{
+    QStringList story;
+    Menus->mnuFile.Click = [&story] { story += u"File"_s; };
+    Menus->mnuCopy.Click = [&story] { story += u"Copy"_s; };
+    Menus->mnuBackup.Click = [&story] { story += u"Backup"_s; };
+    Menus->mnuFile.Enabled = false;
+    Action(u"mnuBackup"_s).trigger();
+    EXPECT_EQ(story, QStringList());
+    Menus->mnuFile.Enabled = true;
+    Action(u"mnuBackup"_s).trigger();
+    EXPECT_EQ(story, QStringList({u"File"_s, u"Copy"_s, u"Backup"_s}));
+}
+
 TEST_F(MenuTest, AnOpenMenuGoesWithItsWindow_AndWithNoOther)
 {
     Window<MenuForm> other(System());
