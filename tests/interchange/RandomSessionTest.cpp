@@ -12,6 +12,7 @@ namespace
 
 constexpr unsigned groups = 20;
 constexpr int steps = 14;
+const QString atTheRoot = u"/LfgDat_A.mdb"_s;
 
 // How many sessions are played in all; as many more as one likes are asked for by the environment.
 unsigned Sessions()
@@ -123,7 +124,7 @@ private:
         for (const QString& file : model_->Files.keys())
             if (file.endsWith(u".mdb"))
                 files << file << file;
-        return OneIn(20) ? u"/LfgDat_A.mdb"_s : Home.Path(Any(files));
+        return OneIn(20) ? atTheRoot : Home.Path(Any(files));
     }
 
     void Step()
@@ -184,8 +185,8 @@ private:
     void ChooseExport()
     {
         std::optional<QString> database = AnyDatabase();
-        // Its path is too short for a destination that lies in the home.
-        if (database == Home.Path(u"LfgDat_Q.mdb"))
+        // Their paths are too short for a source and a destination that lie in the home.
+        if (database == atTheRoot || database == Home.Path(u"LfgDat_Q.mdb"))
             database.reset();
         told_ << QString(u"Export " + database.value_or(u"nothing"_s));
         model_->ChooseExport(database);
