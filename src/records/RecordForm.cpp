@@ -9,7 +9,7 @@
 #include "platform/Text.h"
 #include "program/AlternateBranch.h"
 #include "program/BranchUi.h"
-#include "program/WorkDatabase.h"
+#include "program/Position.h"
 #include "records/RecordPicture.h"
 
 namespace lineforge
@@ -23,6 +23,17 @@ void RenameBoxOfRecord(Program& p, const QString& forename)
 {
     if (const int row = RowOfRecord(p.Map, Records(p).Value(u"File")); row <= LastFiledBox)
         RenameBox(p, row, forename);
+}
+
+// A record without a box would be printed wherever the last one was, in somebody else's box maybe.
+void CaptionBoxOfRecord(Program& p)
+{
+    const int row = RowOfRecord(p.Map, Records(p).Value(u"File"));
+    if (row > LastFiledBox)
+        return;
+    TakeBoxPosition(p, row);
+    DrawRecordInBox(p);
+    RenameBox(p, row, Records(p).Text(u"Forename"));
 }
 
 // A forename changed only in its letters' case counts as unchanged.
@@ -51,12 +62,10 @@ void FinishMapping(Program& p)
     if (p.Tools.MapCursorMode != MapCursor::Mapping)
         return;
     p.Errors.Ignoring([&] { Records(p).Put(u"Forename", p.Form3->Text3.Text.value()); });
-    p.Record.SavedBookmark.reset();
-    p.Errors.Ignoring([&] { p.Record.SavedBookmark = Records(p).GetBookmark(); });
+    p.Errors.Ignoring([&] { KeepPosition(p); });
     p.Errors.Ignoring([&] { Records(p).Update(); });
-    p.Errors.Ignoring([&] { Records(p).SetBookmark(p.Record.SavedBookmark); });
-    p.Errors.Ignoring([&] { DrawRecordInBox(p); });
-    p.Errors.Ignoring([&] { RenameBoxOfRecord(p, Records(p).Text(u"Forename")); });
+    p.Errors.Ignoring([&] { ComeBack(p); });
+    p.Errors.Ignoring([&] { CaptionBoxOfRecord(p); });
     p.Tools.MapCursorMode = MapCursor::Normal;
 }
 

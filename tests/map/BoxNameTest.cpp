@@ -273,5 +273,43 @@ TEST_F(BoxNameTest, BoxWithoutTheFiledName_CarriedByAZone_LeavesNoTraceOnItsWay)
     EXPECT_EQ(CountPixels(Picture, Black, {900, 400, 900, 500}), 0);
 }
 
+TEST_F(BoxNameTest, MappingEndedWithoutABox_NothingIsPrintedInAnybodyElses)
+{
+    GivenPerson(u"John", u"John");
+    Records(P).MoveLast();
+    P.Form1->mnuMapSubject.Click();
+    P.Form7->Command1.Click();
+    const QImage before = Shown();
+
+    P.Form3->Command2.Click();
+
+    EXPECT_EQ(P.Tools.MapCursorMode, 0);
+    EXPECT_TRUE(SameImage(Shown(), before));
+    EXPECT_EQ(Name(0), u"John"_s);
+}
+
+TEST_F(BoxNameTest, NewSubjectOfAnotherBranch_IsPrintedInItsBox)
+{
+    BranchB.Row({{u"File", u"B001"}, {u"Forename", u"Tom"}, {u"Gender", u"Male"}}).Picture(u"B001", Qt::green).Build();
+    GivenPerson(u"John", u"John");
+    P.Map.BoxArr[1][BoxColumn::File] = u"B009"_s;
+    Afresh();
+    P.Form1->mnuMapSubject.Click();
+    P.Form7->Command1.Click();
+    DoubleClick({3300, 600});
+    ASSERT_EQ(P.Branch.UsingAlternate, 1);
+    P.Form3->Text3.Text = u"Eve"_s;
+
+    P.Form3->Command2.Click();
+
+    HandPrints(0, u"A001", u"John");
+    HandPrints(1, u"B009", u"");
+    HandWipes(1, u"B009", u"");
+    HandPrints(1, u"", u"Eve");
+    HandPrints(1, u"B002", u"Eve");
+    EXPECT_EQ(Box(1)[BoxColumn::File], u"B002"_s);
+    EXPECT_TRUE(SameDrawing(Picture, *Hand));
+}
+
 } // namespace
 } // namespace lineforge
