@@ -1,5 +1,6 @@
 #include "interchange/InterchangeTest.h"
 #include "interchange/SessionModel.h"
+#include "support/Sessions.h"
 
 #include <QDir>
 
@@ -10,17 +11,10 @@ namespace lineforge
 namespace
 {
 
-constexpr unsigned groups = 20;
+constexpr int groups = 20;
+constexpr int usualSessions = 200;
 constexpr int steps = 14;
 const QString atTheRoot = u"/LfgDat_A.mdb"_s;
-
-// How many sessions are played in all; as many more as one likes are asked for by the environment.
-unsigned Sessions()
-{
-    constexpr unsigned few = 200;
-    const int asked = qEnvironmentVariableIntValue("LINEFORGE_SESSIONS");
-    return asked > 0 ? static_cast<unsigned>(asked) : few;
-}
 
 // A user of an installation with two branches, a third that is spoilt, directories that stand in the way, and branches
 // of another installation on a stick, who does anything at all with them; and the model that does the same.
@@ -264,21 +258,22 @@ private:
     QStringList told_;
 };
 
-class RandomSessionTest : public testing::TestWithParam<unsigned>
+class RandomSessionTest : public testing::TestWithParam<int>
 {
 };
 
 TEST_P(RandomSessionTest, RegistryAndDirectories_AreThoseOfTheModel_AfterEveryCommand)
 {
-    for (unsigned seed = GetParam(); seed < Sessions() && !HasFailure(); seed += groups) {
-        RandomSession session(seed);
+    const auto [first, behind] = SessionsToPlay(usualSessions);
+    for (int seed = first + GetParam(); seed < behind && !HasFailure(); seed += groups) {
+        RandomSession session(static_cast<unsigned>(seed));
         session.Play();
         if (HasFailure())
             ADD_FAILURE() << "seed " << seed << ": " << qPrintable(session.Told().join(u", "_s));
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Groups, RandomSessionTest, testing::Range(0U, groups));
+INSTANTIATE_TEST_SUITE_P(Groups, RandomSessionTest, testing::Range(0, groups));
 
 } // namespace
 } // namespace lineforge

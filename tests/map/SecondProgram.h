@@ -1,6 +1,8 @@
 #pragma once
 
 #include "map/MapDisplay.h"
+#include "map/MapFile.h"
+#include "map/MapParse.h"
 #include "program/WorkDatabase.h"
 #include "shell/handlers/Handlers.h"
 #include "support/BranchBuilder.h"
@@ -34,6 +36,17 @@ public:
         P.Map = map;
         P.Form1->Picture1.Cls();
         RedrawMap(P);
+        return ShownBy(P.Form1->Picture1).copy();
+    }
+
+    // The lists of these arrays drawn on blank paper as a branch is opened: captions lie beneath lines and texts then.
+    QImage Opened(const MapState& map)
+    {
+        P.Map = map;
+        EraseItems(P);
+        P.Form1->Picture1.Cls();
+        P.Form1->Picture1.Font = {};
+        ParseWhatIsThere(P);
         return ShownBy(P.Form1->Picture1).copy();
     }
 
