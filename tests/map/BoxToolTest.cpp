@@ -434,6 +434,22 @@ TEST_F(BoxToolTest, Delete_HighestSurvivingBox_IsNotHitUntilTheToolsClose)
     EXPECT_EQ(Box(2), (RowTexts{u"4000"_s, u"1500"_s, u"0"_s, u"A009"_s, u"Gone"_s}));
 }
 
+TEST_F(BoxToolTest, DeleteClickedAgain_WhenOneBoxIsLeft_DeletesNothingMore)
+{
+    BranchA.Boxes(u"1000,500,0,0,,3000,500,255,0,,");
+    GivenTools();
+    Choose(28);
+    PressAndRelease({1300, 600});
+    ASSERT_EQ(P.Map.SBoxes, 0);
+
+    PressAndRelease({1300, 600});
+    PressAndRelease({3300, 600});
+
+    EXPECT_EQ(P.Mouse.BoxMiss, 1);
+    EXPECT_EQ(P.Map.SBoxes, 0);
+    EXPECT_EQ(Box(1), (RowTexts{u"3000"_s, u"500"_s, u"255"_s, u"0"_s, u""_s}));
+}
+
 TEST_F(BoxToolTest, DoubleClick_OpensNoRecord)
 {
     GivenTools();

@@ -409,6 +409,22 @@ TEST_F(LineToolTest, Delete_HighestSurvivingLine_IsNotHitUntilTheToolsClose)
     EXPECT_EQ(Line(1), (LineValues{1000, 4000, 2000, 4000, 255}));
 }
 
+TEST_F(LineToolTest, DeleteClickedAgain_WhenOneLineIsLeft_DeletesNothingMore)
+{
+    BranchA.Lines(u"1000,1000,2000,1000,255,1000,2000,2000,2000,255,");
+    GivenTools();
+    Choose(27);
+    PressAndRelease({1500, 1000});
+    ASSERT_EQ(P.Map.SLines, 0);
+
+    PressAndRelease({1500, 1000});
+    PressAndRelease({1500, 2000});
+
+    EXPECT_EQ(P.Tools.LineMiss, 1);
+    EXPECT_EQ(P.Map.SLines, 0);
+    EXPECT_EQ(Line(1), (LineValues{1000, 2000, 2000, 2000, 255}));
+}
+
 TEST_F(LineToolTest, Delete_ChainOfThree_RemovesAllThree_AndLowersTheCountByOne)
 {
     BranchA.Lines(u"6000,6000,7000,6000,255,1000,1000,2000,1000,255,2000,1000,2000,2000,255,2000,2000,3000,2000,255,");

@@ -187,6 +187,26 @@ TEST_F(RedrawMapTest, FreeRows_AreNotPainted)
     EXPECT_TRUE(IsBlank(Picture));
 }
 
+TEST_F(RedrawMapTest, ItemsWhosePositionIsNoNumber_AreNotPainted_AndCostNoOther)
+{
+    givenTwoRecords();
+    givenBox(0, {1000, 500}, u"A001", red);
+    P.Map.BoxArr[0][BoxColumn::X] = u"here"_s;
+    givenBox(1, {2000, 500}, u"0", red);
+    givenText(0, {1000, 4000}, u"First", {}, blue);
+    P.Map.TextArr[0][TextColumn::Y] = u"there"_s;
+    givenText(1, {1000, 5000}, u"Second", {}, blue);
+    P.Map.SBoxes = P.Map.STexts = 1;
+
+    RedrawMap(P);
+
+    Expected->ForeColor = red;
+    Expected->Box({2000, 500, 615, 217});
+    Expected->ForeColor = blue;
+    Expected->PrintAt({1000, 5000}, u"Second"_s);
+    EXPECT_TRUE(SameDrawing(Picture, *Expected));
+}
+
 TEST_F(RedrawMapTest, NoItemsAtAll_IsQuiet)
 {
     givenTwoRecords();

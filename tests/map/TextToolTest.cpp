@@ -320,6 +320,23 @@ TEST_P(TextMissTest, NoTextUnderThePress_DoesNothingSilently_ButRepaints)
 
 INSTANTIATE_TEST_SUITE_P(MoveAndDelete, TextMissTest, testing::Values(19, 29));
 
+TEST_F(TextToolTest, TextWithXOfZero_AndOneAtNoPlace_AreNeverHit)
+{
+    BranchA.Texts(
+        u"0,1000,Free,Arial,8,0,here,2000,Nowhere,Arial,8,0,1000,there,Nowhere,Arial,8,0,1,3000,Last,Arial,8,0,");
+    GivenTools();
+    Choose(29);
+
+    for (const Point at : {Point{100, 1050}, Point{100, 2050}, Point{1100, 50}}) {
+        PressAndRelease(at);
+        EXPECT_EQ(P.Tools.TextMiss, 1);
+    }
+
+    EXPECT_EQ(P.Map.STexts, 3);
+    EXPECT_EQ(Text(1)[TextColumn::Text], u"Nowhere"_s);
+    EXPECT_EQ(Text(2)[TextColumn::Text], u"Nowhere"_s);
+}
+
 TEST_F(TextToolTest, LoneText_IsNotSearchedFor_SoTheLastAnswerStands)
 {
     BranchA.Texts(u"1000,1000,One,Arial,8,255,");
@@ -360,6 +377,22 @@ TEST_F(TextToolTest, Delete_FreesTheRow_AndLowersTheCount)
     EXPECT_EQ(P.Map.STexts, 1);
     EXPECT_EQ(CountPixels(Picture, Red, {900, 1900, 3000, 900}), 0);
     EXPECT_EQ(Picture.ForeColor, Green);
+}
+
+TEST_F(TextToolTest, DeleteClickedAgain_WhenOneTextIsLeft_DeletesNothingMore)
+{
+    BranchA.Texts(u"1000,1000,One,Arial,8,255,1000,2000,Two,Arial,8,255,");
+    GivenTools();
+    Choose(29);
+    PressAndRelease({1100, 1050});
+    ASSERT_EQ(P.Map.STexts, 0);
+
+    PressAndRelease({1100, 1050});
+    PressAndRelease({1100, 2050});
+
+    EXPECT_EQ(P.Tools.TextMiss, 1);
+    EXPECT_EQ(P.Map.STexts, 0);
+    EXPECT_EQ(Text(1)[TextColumn::Text], u"Two"_s);
 }
 
 TEST_F(TextToolTest, DeleteFirstOfThree_SavedWithYes_OnlyTheSecondIsInTheFile)
