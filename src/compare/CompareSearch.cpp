@@ -22,6 +22,19 @@ int MaskOfBoxes(const forms::Form6& form)
            (form.Check3.Value ? CompareKey::BirthDate : 0);
 }
 
+// What another program has ended, and the user knows, doesn't leave the light of a search.
+template <class Step>
+void ReadyWhenGivenUp(Program& p, const Step& step)
+{
+    try {
+        step();
+    } catch (const RuntimeError& refusal) {
+        if (refusal.IsTold)
+            ShowSearchState(p, SearchState::Ready);
+        throw;
+    }
+}
+
 void Next(Program& p, const Side& side, void (*end)(Program& p))
 {
     if (p.Compare.SearchEnded == 1)
@@ -39,9 +52,8 @@ void Next(Program& p, const Side& side, void (*end)(Program& p))
     ShowStepped(p, side, NullForename::Refused);
     ShowSearchState(p, SearchState::Ready);
 }
-} // namespace
 
-void SearchCompare(Program& p)
+void Search(Program& p)
 {
     if (p.Compare.SearchEnded == 1)
         return;
@@ -58,7 +70,7 @@ void SearchCompare(Program& p)
     FieldDifferenceSearch(p);
 }
 
-void ResetCompare(Program& p)
+void Reset(Program& p)
 {
     if (CompareRecords(p).IsEmpty() || Records(p).IsEmpty())
         return TellNoRecords(p);
@@ -76,15 +88,26 @@ void ResetCompare(Program& p)
     p.Compare.FieldStep = 0;
     ShowSearchState(p, SearchState::Ready);
 }
+} // namespace
+
+void SearchCompare(Program& p)
+{
+    ReadyWhenGivenUp(p, [&] { Search(p); });
+}
+
+void ResetCompare(Program& p)
+{
+    ReadyWhenGivenUp(p, [&] { Reset(p); });
+}
 
 void NextCompare(Program& p)
 {
-    Next(p, CompareSide, EndAtCompare);
+    ReadyWhenGivenUp(p, [&] { Next(p, CompareSide, EndAtCompare); });
 }
 
 void NextCurrent(Program& p)
 {
-    Next(p, CurrentSide, EndAtCurrent);
+    ReadyWhenGivenUp(p, [&] { Next(p, CurrentSide, EndAtCurrent); });
 }
 
 void ShowSteppedRecord(Program& p)

@@ -98,8 +98,8 @@ void Append(Program& p, const Direction& way)
     to.AddNew();
     to.Put(u"File", number);
     CopyFields(from, to);
-    ((*p.Form6).*way.To.Number).Caption = number;
     to.Update();
+    ((*p.Form6).*way.To.Number).Caption = number;
 }
 } // namespace
 
@@ -117,8 +117,10 @@ void CopyField(Program& p)
         to.Put(field, value);
         ShowField(p, way.To, value.value_or(QString()));
         to.Update();
-    } catch (const RuntimeError&) {
+    } catch (const RuntimeError& refusal) {
         ShowField(p, way.To, before);
+        if (refusal.IsTold)
+            return;
         p.Prompts.MsgBox(u"Copy Error"_s, u"There is no record to copy across."_s, Buttons::Information);
     }
 }

@@ -119,10 +119,15 @@ void CloseGedcomFile(Program& p)
 }
 
 // Without its last lines it would pass for a whole one; with the branch it may have gone already.
-void DropUnfinished(Program& p, const QString& path)
+void KillUnfinished(Program& p, const QString& path)
 {
     p.Lineage.GedcomFile.reset();
     p.Errors.Ignoring([&] { p.Files.Kill(path); });
+}
+
+void DropUnfinished(Program& p, const QString& path)
+{
+    KillUnfinished(p, path);
     p.Prompts.MsgBox(u"GedCom File"_s, u"The Tree Branch was left before the GedCom file was complete."_s,
                      Buttons::Information);
 }
@@ -177,6 +182,10 @@ void WriteGedcomFile(Program& p)
         CloseGedcomFile(p);
     } catch (const LineageAbandoned&) {
         DropUnfinished(p, path);
+    } catch (const RuntimeError& refusal) {
+        if (refusal.IsTold)
+            KillUnfinished(p, path);
+        throw;
     }
 }
 

@@ -3,6 +3,7 @@
 #include "map/CurrentBox.h"
 #include "map/MapFile.h"
 #include "map/MapItems.h"
+#include "platform/OtherPrograms.h"
 #include "platform/Text.h"
 #include "program/AlternateBranch.h"
 #include "program/BranchPaths.h"
@@ -93,22 +94,27 @@ public:
     // database that can be opened.
     Recordset* Find(const QString& file)
     {
+        // A neighbour that is gone, spoilt or locked costs its forenames, not the drawing of this map, and no question.
+        const OtherPrograms::Quiet quiet(p_.Databases.Others());
         try {
-            std::unique_ptr<Recordset>& records = open_[p_.Branch.sDbaseName];
-            if (!records) {
-                ConvertIfOld(p_, p_.Branch.sDbaseName, OldDatabaseUse::Caption);
-                records = std::make_unique<Recordset>(p_.Databases.Open(p_.Files, p_.Branch.sDbaseName), u"Tree99"_s);
-            }
-            return records->Seek(u"File", file) ? records.get() : nullptr;
+            const auto [records, isNew] = open_.try_emplace(p_.Branch.sDbaseName);
+            if (isNew)
+                records->second = Open(p_.Branch.sDbaseName);
+            return records->second && records->second->Seek(u"File", file) ? records->second.get() : nullptr;
         } catch (const RuntimeError&) {
-            // A neighbour that is gone or spoilt costs its forename, not the drawing of this map.
             return nullptr;
         }
     }
 
 private:
+    std::unique_ptr<Recordset> Open(const QString& database)
+    {
+        ConvertIfOld(p_, database, OldDatabaseUse::Caption);
+        return std::make_unique<Recordset>(p_.Databases.Open(p_.Files, database), u"Tree99"_s, Recordset::Use::Brief);
+    }
+
     Program& p_;
-    std::map<QString, std::unique_ptr<Recordset>> open_;
+    std::map<QString, std::unique_ptr<Recordset>> open_; // nothing: it can't be opened
 };
 
 // A record of another branch: the program points there for the time of the drawing.

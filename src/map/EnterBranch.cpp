@@ -53,6 +53,9 @@ void DrawBranchMap(Program& p)
 
 bool EnterBranch(Program& p, const QString& name, const QString& directory)
 {
+    StoreTyped(p);
+    // Who doesn't wait for another program keeps the branch that he has.
+    const auto database = ReachDatabase(p, DatabasePath(p.Branch.HomeDir + directory));
     p.Branch.sBranchName = name;
     p.Form1->Shape1.Visible = false;
     PutMapAway(p);

@@ -45,12 +45,12 @@ void MoveLinkToPressedBox(Program& p)
 // afresh, on its first record; so it is meant to be.
 void SaveBoxesOfOwnBranch(Program& p)
 {
-    SwapBranchDirs(p);
-    OpenWorkDatabase(p);
+    OpenSwappedBranch(p);
     p.Branch.UsingAlternate = 0;
     SaveBoxes(p);
-    SwapBranchDirs(p);
-    OpenWorkDatabase(p);
+    auto stays = qScopeGuard([&p] { EndAlternate(p); });
+    OpenSwappedBranch(p);
+    stays.dismiss();
     p.Branch.UsingAlternate = 1;
 }
 

@@ -76,34 +76,14 @@ void LinkBox(Program& p, std::optional<int> row, const QString& file)
     p.Map.BoxArr[*row][BoxColumn::File] = file;
 }
 
-void FillNewRecord(Program& p)
-{
-    Recordset& records = Records(p);
-    records.Put(u"File", p.Mapping.NewFile);
-    records.Put(u"Gender", p.Mapping.NewGender);
-    records.Update();
-    records.MoveLast();
-}
-
-// Whatever the options said.
-void MapFirstRecord(Program& p)
-{
-    p.Record.sCurFile = p.Mapping.sBranchLetter + u"001";
-    Records(p).AddNew();
-    LinkBox(p, PressedBox(p), p.Record.sCurFile);
-    SaveBoxes(p);
-    FillNewRecord(p);
-}
-
 // The first number that the records, in their stored order, run out of. It never starts over, so that numbers which
 // don't rise can be given twice; so it is meant to be.
-QString NextFreeNumber(Program& p)
+QString NextFreeNumber(Program& p, Recordset& records)
 {
     int counter = 1;
     const auto candidate = [&]() -> QString {
         return p.Mapping.sBranchLetter + QString::number(counter).rightJustified(3, u'0');
     };
-    Recordset& records = Records(p);
     for (records.MoveFirst(); !records.Eof(); records.MoveNext()) {
         p.Record.sCurFile = records.Text(u"File");
         while (SameText(p.Record.sCurFile, candidate()))
@@ -112,14 +92,32 @@ QString NextFreeNumber(Program& p)
     return candidate();
 }
 
+// Its number is chosen among all that stand in the file when nobody else can add one.
+void AddSubject(Program& p)
+{
+    Recordset& records = Records(p);
+    QString file;
+    records.AddNew();
+    records.PutWhenWritten(u"File", [&] { return file = NextFreeNumber(p, *records.Afresh()); });
+    records.Put(u"Gender", p.Mapping.NewGender);
+    records.Update();
+    records.SetBookmark(records.LastModified());
+    p.Mapping.NewFile = file;
+}
+
+// The box comes after the record, so that it leads to no record that the database has refused.
 void MapNewRecord(Program& p)
 {
-    const QString file = NextFreeNumber(p);
-    const std::optional<int> row = PressedBox(p);
-    Records(p).AddNew();
-    LinkBox(p, row, file);
-    FillNewRecord(p);
+    AddSubject(p);
+    LinkBox(p, PressedBox(p), p.Mapping.NewFile);
     SaveBoxes(p);
+}
+
+// Whatever the options said.
+void MapFirstRecord(Program& p)
+{
+    MapNewRecord(p);
+    p.Record.sCurFile = p.Mapping.NewFile;
 }
 
 // False, and a box, when no number of four characters was entered.
@@ -161,6 +159,7 @@ bool MapAlternateRecord(Program& p)
     // Before the box is tied to it.
     if (!TakeOldSibling(p, p.Record.sCurFile.first(1)))
         return false;
+    const auto sibling = ReachDatabase(p, DatabasePath(SiblingDirectory(p.Branch.WorkDir, p.Record.sCurFile.first(1))));
     Records(p).Seek(u"File", p.Record.sCurFile);
     const std::optional<int> row = PressedBox(p);
     p.Screen.Pointer = MousePointer::Hourglass;

@@ -10,6 +10,8 @@
 #include "program/Position.h"
 #include "program/WorkDatabase.h"
 
+#include <QScopeGuard>
+
 namespace lineforge
 {
 
@@ -44,6 +46,11 @@ void WriteReport(Program& p, const TextReport& report, const QString& stem)
     if (TellIfNoBranch(p))
         return;
     ComeBackAfterwards(p, [&] {
+        // Where the user gives up, the old file stays.
+        const auto closed = qScopeGuard([&p] {
+            p.Output.TextFile.reset();
+            p.Output.OutputMode = OutputMode::None;
+        });
         p.Scratch.sFileA = p.Branch.WorkDir + PathSeparator + stem + u".txt";
         p.Scratch.sFileB = p.Branch.WorkDir + PathSeparator + stem + u".~tx";
         p.Prompts.MsgBox(u"Make a Text File."_s, report.Announcement + p.Scratch.sFileA, Buttons::Information);

@@ -23,9 +23,9 @@ public:
             return;
         // Without a row there is nowhere to store them.
         if (HasRow())
-            Update();
-        else
-            control_.DropEdits();
+            return Update();
+        Arrived();
+        RequireNotTakenAway();
     }
 
     // A text comes later than what an edit in hand has for its field.
@@ -54,6 +54,15 @@ protected:
                 Put(binding.Field, binding.Text->Shown());
     }
 
+    // Unless a text stands in a box that belongs to what the row held before.
+    bool ShowAnew() const override
+    {
+        if (control_.HasEdits())
+            return false;
+        control_.MarkStale();
+        return !control_.bindings_.empty();
+    }
+
 private:
     DataControl& control_;
 };
@@ -78,10 +87,15 @@ void DataControl::Unbind()
 void DataControl::Refresh(Databases& databases, const FileSystem& files)
 {
     auto opened = std::make_unique<BoundRecordset>(*this, databases.Open(files, DatabaseName), RecordSource);
-    if (records_)
-        records_->Leaving();
+    Store();
     records_ = std::move(opened);
     MarkStale();
+}
+
+void DataControl::Store()
+{
+    if (records_)
+        records_->Leaving();
 }
 
 Recordset& DataControl::Records()
@@ -165,8 +179,7 @@ void DataControl::Settle()
 
 void DataControl::Release()
 {
-    if (records_)
-        records_->Leaving();
+    Store();
     records_.reset();
     // The texts stay as they stand; a label of another window may soon be bound to this control's successor.
     Unbind();

@@ -33,6 +33,9 @@ public:
     void Bind(Label& label, const QString& field);
     void Bind(TextBox& box, const QString& field);
 
+    // Writes what is typed and still pending; the row stays current. Nothing while nothing has been opened.
+    void Store();
+
     // Brings the bound controls up to date and lets a walk rest. Called by the event loop.
     void Settle() override;
 

@@ -1,13 +1,17 @@
 #include "platform/Database.h"
 
 #include "platform/FileIdentity.h"
+#include "platform/FileRefusal.h"
+#include "platform/OtherPrograms.h"
 #include "platform/RuntimeError.h"
+#include "platform/TableRows.h"
 #include "platform/Text.h"
 
 #include <QFileInfo>
+#include <QScopeGuard>
 
-#include <algorithm>
 #include <sqlite3.h>
+#include <utility>
 
 namespace lineforge
 {
@@ -16,8 +20,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-constexpr int busyMilliseconds = 2000;
-
 int NumberOfRefusal(sqlite3* database)
 {
     switch (sqlite3_errcode(database) & 0xFF) {
@@ -53,6 +55,11 @@ int CollateSameText(void*, int lengthA, const void* a, int lengthB, const void* 
                        QByteArrayView(static_cast<const char*>(b), lengthB));
 }
 } // namespace
+
+QByteArray Quoted(QByteArray name)
+{
+    return '"' + name.replace('"', "\"\"") + '"';
+}
 
 Statement::Statement(sqlite3* database, const QByteArray& sql) : database_(database)
 {
@@ -129,37 +136,59 @@ QByteArrayView Statement::Text(int column) const
     return text ? QByteArrayView(text, sqlite3_column_bytes(statement_, column)) : QByteArrayView();
 }
 
-Database::Database(const FileSystem& files, const QString& path)
+bool Statement::IsNull(int column) const
 {
-    const QString file = files.Resolve(path);
-    if (!QFileInfo(file).isFile())
-        throw RuntimeError(ErrorNumber::DatabaseNotFound, file);
-    if (files.GetAttr(file) & FileSystem::ReadOnly)
-        throw RuntimeError(ErrorNumber::DatabaseReadOnly, file);
-    const FileIdentity identity = IdentityOf(file);
-    device_ = identity.Device;
-    inode_ = identity.File;
+    return sqlite3_column_type(statement_, column) == SQLITE_NULL;
+}
 
-    try {
-        // One thread alone uses it, so that the engine need not take a lock at each call.
-        constexpr int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
-        if (sqlite3_open_v2(file.toUtf8().constData(), &handle_, flags, nullptr) != SQLITE_OK)
-            throw RuntimeError(NumberOfRefusal(handle_), file);
-        if (sqlite3_db_readonly(handle_, "main") == 1)
-            throw RuntimeError(ErrorNumber::DatabaseReadOnly, file);
-        sqlite3_busy_timeout(handle_, busyMilliseconds);
-        sqlite3_create_collation(handle_, "SAMETEXT", SQLITE_UTF8, nullptr, CollateSameText);
-        // The engine looks into a file no sooner than it must.
-        Prepare("PRAGMA schema_version")->Step();
-    } catch (...) {
-        sqlite3_close(handle_);
-        throw;
-    }
+QByteArrayView Statement::Bytes(int column) const
+{
+    const auto* bytes = static_cast<const char*>(sqlite3_column_blob(statement_, column));
+    return {bytes, sqlite3_column_bytes(statement_, column)};
+}
+
+Database::Database(const FileSystem& files, const QString& path, std::shared_ptr<OtherPrograms> others,
+                   std::shared_ptr<KnownTables> tables, int milliseconds)
+    : patience_(milliseconds), others_(others ? std::move(others) : std::make_shared<OtherPrograms>()),
+      tables_(tables ? std::move(tables) : std::make_shared<KnownTables>()), path_(files.Resolve(path))
+{
+    Open();
 }
 
 Database::~Database()
 {
+    for (const auto& [name, rows] : *tables_)
+        rows->Detach();
     sqlite3_close_v2(handle_);
+}
+
+void Database::Open()
+{
+    if (!QFileInfo(path_).isFile())
+        throw RuntimeError(ErrorNumber::DatabaseNotFound, path_);
+    if (!OwnerCanWrite(path_))
+        throw RuntimeError(ErrorNumber::DatabaseReadOnly, path_);
+    const FileIdentity identity = IdentityOf(path_);
+    sqlite3* fresh = nullptr;
+    auto failed = qScopeGuard([&fresh] { sqlite3_close(fresh); });
+
+    // One thread alone uses it, so that the engine need not take a lock at each call.
+    constexpr int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
+    if (sqlite3_open_v2(path_.toUtf8().constData(), &fresh, flags, nullptr) != SQLITE_OK)
+        throw RuntimeError(NumberOfRefusal(fresh), path_);
+    if (sqlite3_db_readonly(fresh, "main") == 1)
+        throw RuntimeError(ErrorNumber::DatabaseReadOnly, path_);
+    sqlite3_busy_timeout(fresh, patience_);
+    sqlite3_create_collation(fresh, "SAMETEXT", SQLITE_UTF8, nullptr, CollateSameText);
+    // The engine looks into a file no sooner than it must.
+    Statement(fresh, "PRAGMA schema_version").Step();
+
+    failed.dismiss();
+    // Its statements may still be in use; it goes with the last of them.
+    sqlite3_close_v2(std::exchange(handle_, fresh));
+    device_ = identity.Device;
+    inode_ = identity.File;
+    ++opening_;
 }
 
 std::unique_ptr<Statement> Database::Prepare(const QByteArray& sql) const
@@ -167,43 +196,94 @@ std::unique_ptr<Statement> Database::Prepare(const QByteArray& sql) const
     return std::make_unique<Statement>(handle_, sql);
 }
 
-QString Database::Path() const
-{
-    return PathOf(handle_);
-}
-
 std::int64_t Database::Changes() const
 {
-    return sqlite3_total_changes64(handle_);
+    return changesBefore_ + sqlite3_total_changes64(handle_);
 }
 
-bool Database::IsStill(const QString& path) const
+void Database::BePatient(int milliseconds)
 {
-    const FileIdentity identity = IdentityOf(path);
+    patience_ = milliseconds;
+    sqlite3_busy_timeout(handle_, milliseconds);
+}
+
+bool Database::IsStillThere() const
+{
+    const FileIdentity identity = IdentityOf(path_);
     return identity.File != 0 && identity.Device == device_ && identity.File == inode_;
 }
 
-void Database::NoteRow(std::int64_t row)
+void Database::FollowFile()
 {
-    highestRow_ = std::max(highestRow_, row);
+    const bool isInTransaction = sqlite3_get_autocommit(handle_) == 0;
+    if (isInTransaction || IsStillThere() || IdentityOf(path_).File == 0)
+        return;
+    // Nothing that was read before holds.
+    const std::int64_t changes = Changes() + 1;
+    Open();
+    changesBefore_ = changes;
+    others_->NoteReplaced(path_);
 }
 
-std::int64_t Database::NewRowNumber(const QByteArray& table)
+TableRows& Database::Rows(const QByteArray& table)
 {
-    const auto highest = Prepare("SELECT max(rowid) FROM " + table);
-    if (highest->Step())
-        highestRow_ = std::max(highestRow_, highest->Integer(0));
-    return ++highestRow_;
+    const auto known = tables_->find(table);
+    if (known != tables_->end() && known->second->IsAttached())
+        return *known->second;
+    auto rows = known != tables_->end() ? known->second : std::make_shared<TableRows>(table);
+    rows->Attach(*this);
+    (*tables_)[table] = rows;
+    return *rows;
 }
+
+Transaction::Transaction(Database& database) : database_(database)
+{
+    database.FollowFile();
+    if (!database.IsStillThere())
+        throw RuntimeError(ErrorNumber::DatabaseNotFound, database.Path());
+    database.Prepare("BEGIN IMMEDIATE")->Step();
+}
+
+Transaction::~Transaction()
+{
+    if (!isOpen_)
+        return;
+    // A failure may have taken it back already.
+    try {
+        database_.Prepare("ROLLBACK")->Step();
+    } catch (const RuntimeError&) {
+    }
+}
+
+void Transaction::Commit()
+{
+    database_.Prepare("COMMIT")->Step();
+    isOpen_ = false;
+}
+
+Databases::Databases() : others_(std::make_shared<OtherPrograms>()) {}
+
+Databases::~Databases() = default;
 
 std::shared_ptr<Database> Databases::Open(const FileSystem& files, const QString& path)
 {
     const QString file = files.Resolve(path);
-    std::weak_ptr<Database>& known = open_[file];
-    if (auto open = known.lock(); open && open->IsStill(file))
+    Known& known = known_[file];
+    if (auto open = known.Open.lock()) {
+        others_->Patiently(file, [&](int milliseconds) {
+            open->BePatient(milliseconds);
+            open->FollowFile();
+        });
+        if (!open->IsStillThere())
+            throw RuntimeError(ErrorNumber::DatabaseNotFound, file);
         return open;
-    auto opened = std::make_shared<Database>(files, file);
-    known = opened;
+    }
+    if (!known.Tables)
+        known.Tables = std::make_shared<KnownTables>();
+    auto opened = others_->Patiently(file, [&](int milliseconds) {
+        return std::make_shared<Database>(files, file, others_, known.Tables, milliseconds);
+    });
+    known.Open = opened;
     return opened;
 }
 

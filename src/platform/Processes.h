@@ -5,7 +5,11 @@
 namespace lineforge
 {
 
-// Other programs.
+// Whose a home directory is: nobody else works in it, another run of this program does and has come to the front, or
+// one that can't be reached.
+enum class HomeOwner { ThisRun, OtherInFront, OtherOutOfReach };
+
+// Other programs, and other runs of this one.
 class Processes
 {
 public:
@@ -13,6 +17,9 @@ public:
     // Starts a program on a file, maximised and with the focus, and goes on beside it. Gives back its task's number.
     // Error 53 when there is no such program, 5 when it can't be started.
     virtual qint64 Shell(const QString& program, const QString& file) = 0;
+    // From now on, to its end, this run works in that home directory, unless another one does already. Where that can't
+    // be told, as on some disks of other machines, nobody else does.
+    virtual HomeOwner ClaimHome(const QString&) { return HomeOwner::ThisRun; }
 };
 
 } // namespace lineforge

@@ -19,10 +19,11 @@ enum class Buttons {
     Information = 64, // OK
     InformationOkCancel = 65,
     InformationYesNo = 68,
+    InformationRetryCancel = 69,
     QuestionYesNoDefaultNo = 292,
 };
 
-enum class Answer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
+enum class Answer { Ok = 1, Cancel = 2, Retry = 4, Yes = 6, No = 7 };
 
 // What a file dialog asks for. The filter is a run of "description|pattern|" pairs.
 struct FileQuestion {

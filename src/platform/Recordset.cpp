@@ -1,8 +1,11 @@
 #include "platform/Recordset.h"
 
+#include "platform/OtherPrograms.h"
 #include "platform/RuntimeError.h"
+#include "platform/TableRows.h"
 #include "platform/Text.h"
 
+#include <algorithm>
 #include <bit>
 #include <limits>
 #include <utility>
@@ -19,9 +22,10 @@ constexpr std::int64_t behindAllRows = std::numeric_limits<std::int64_t>::max();
 // One bit a column; fields further right are read a row at a time.
 constexpr int columnsInSet = 64;
 
-QByteArray Quoted(const QString& name)
+// Of a row whose number is the statement's first column.
+RowPlace PlaceAt(const Statement& row)
 {
-    return '"' + name.toUtf8().replace('"', "\"\"") + '"';
+    return {row.Integer(0), row.Integer(0)};
 }
 
 FieldValue ValueAt(const Statement& row, int column)
@@ -31,20 +35,44 @@ FieldValue ValueAt(const Statement& row, int column)
 }
 } // namespace
 
-Recordset::Recordset(std::shared_ptr<Database> database, const QString& table)
-    : database_(std::move(database)), table_(Quoted(table)),
-      previous_(database_->Prepare("SELECT rowid FROM " + table_ + " WHERE rowid < ?1 ORDER BY rowid DESC")),
-      whole_(database_->Prepare("SELECT * FROM " + table_ + " WHERE rowid = ?1"))
+// While it lives no other program changes the file, and the cursor has followed what they did before.
+class Recordset::Look
 {
-    for (int column = 0; column < whole_->Columns(); ++column)
-        names_.push_back(QString::fromUtf8(whole_->ColumnName(column)));
-    previous_->Bind(0, behindAllRows);
-    if (previous_->Step())
-        lastRowAtOpening_ = previous_->Integer(0);
-    previous_->Reset();
-    database_->NoteRow(lastRowAtOpening_);
+public:
+    explicit Look(const Recordset& cursor)
+        : hold_(cursor.rows_, cursor.held_ ? TableRows::Notices::No : TableRows::Notices::Yes)
+    {
+        cursor.RenewStatements();
+        cursor.FollowOthers();
+    }
+
+private:
+    TableRows::Hold hold_;
+};
+
+Recordset::Recordset(std::shared_ptr<Database> database, const QString& table, Use use)
+    : database_(std::move(database)), name_(table), table_(Quoted(table.toUtf8())), rows_(database_->Rows(table_))
+{
+    const TableRows::Notices notices = use == Use::Brief ? TableRows::Notices::No : TableRows::Notices::Yes;
+    const auto hold = std::make_shared<TableRows::Hold>(rows_, notices);
+    if (use == Use::Brief)
+        held_ = hold;
+    numbering_ = rows_.Numbering();
+    const Look look(*this);
+    lastRowAtOpening_ = held_ ? behindAllRows : rows_.Highest();
     Recordset::MoveFirst();
     Rest();
+}
+
+void Recordset::RenewStatements() const
+{
+    if (opening_ == database_->Opening())
+        return;
+    Rest();
+    walks_.clear();
+    previous_ = database_->Prepare("SELECT rowid FROM " + table_ + " WHERE rowid < ?1 ORDER BY rowid DESC");
+    whole_ = database_->Prepare("SELECT " + rows_.Fields() + " FROM " + table_ + " WHERE rowid = ?1");
+    opening_ = database_->Opening();
 }
 
 void Recordset::Fail(int number) const
@@ -59,18 +87,19 @@ QString Recordset::RecordInWords() const
     FieldValue name;
     if (pending_ == Pending::Addition)
         name = ValueOf(0);
-    else if (cachedRow_ == row_ && !cached_.empty())
+    else if (cachedRow_ == Number() && !cached_.empty())
         name = cached_.front();
     return name ? u"Record "_s + *name : u"A record"_s;
 }
 
 int Recordset::Column(QStringView field) const
 {
-    for (std::size_t column = 0; column < names_.size(); ++column)
-        if (names_[column] == field)
+    const std::vector<QString>& names = rows_.Names();
+    for (std::size_t column = 0; column < names.size(); ++column)
+        if (names[column] == field)
             return static_cast<int>(column);
-    for (std::size_t column = 0; column < names_.size(); ++column)
-        if (SameText(names_[column], field))
+    for (std::size_t column = 0; column < names.size(); ++column)
+        if (SameText(names[column], field))
             return static_cast<int>(column);
     throw RuntimeError(ErrorNumber::ItemNotFound, field + u"\n"_s + database_->Path());
 }
@@ -80,10 +109,65 @@ bool Recordset::InRowSet(std::int64_t row) const
     return row <= lastRowAtOpening_ || added_.contains(row);
 }
 
-void Recordset::StandOn(std::int64_t row)
+void Recordset::FollowOthers() const
 {
-    row_ = row;
-    bof_ = eof_ = gone_ = false;
+    // A brief cursor has seen nothing older than what it holds.
+    if (held_)
+        return;
+    for (; numbering_ < rows_.Numbering(); ++numbering_)
+        Follow(rows_.StepFrom(numbering_));
+}
+
+void Recordset::Follow(const Renumbering& step) const
+{
+    Rest();
+    cachedChanges_ = -1;
+    FollowRowSet(step);
+    if (bof_ || eof_)
+        return;
+    if (gone_) {
+        place_ = step.GapAfter(place_.After);
+        return;
+    }
+    const QString record = RecordInWords();
+    place_ = step.PlaceOf(place_.After);
+    gone_ = place_.Fate == RowFate::Gone;
+    if (gone_)
+        takenAway_ = record;
+    if (place_.Fate != RowFate::Same && (!ShowAnew() || gone_))
+        fate_ = place_.Fate;
+}
+
+// What other programs have added is seen; what other cursors of this process have, is not.
+void Recordset::FollowRowSet(const Renumbering& step) const
+{
+    std::vector<std::int64_t> numbers = step.Added;
+    std::set<std::int64_t> strangers;
+    for (const Renumbering::Row& row : step.Rows) {
+        if (row.Fate == RowFate::Gone)
+            continue;
+        numbers.push_back(row.Now);
+        if (!InRowSet(row.Before))
+            strangers.insert(row.Now);
+    }
+    lastRowAtOpening_ = strangers.empty() ? beforeAllRows : *strangers.begin() - 1;
+    added_.clear();
+    for (const std::int64_t number : numbers) {
+        if (strangers.empty())
+            lastRowAtOpening_ = std::max(lastRowAtOpening_, number);
+        else if (number > lastRowAtOpening_ && !strangers.contains(number))
+            added_.insert(number);
+    }
+}
+
+void Recordset::StandOn(const RowPlace& place)
+{
+    place_ = place;
+    bof_ = eof_ = false;
+    gone_ = place.Fate == RowFate::Gone;
+    fate_ = gone_ ? RowFate::Gone : RowFate::Same;
+    if (gone_)
+        takenAway_ = u"A record"_s;
     pending_ = Pending::None;
     Arrived();
 }
@@ -91,15 +175,36 @@ void Recordset::StandOn(std::int64_t row)
 void Recordset::StandAtEnd(bool& end)
 {
     Rest();
-    previous_->Bind(0, behindAllRows);
-    const bool isEmpty = !FindRow(*previous_);
+    const Look look(*this);
+    const bool isEmpty = !FindLastBefore(behindAllRows);
     previous_->Reset();
     bof_ = eof_ = isEmpty;
     end = true;
     gone_ = false;
-    row_ = &end == &bof_ ? beforeAllRows : behindAllRows;
+    fate_ = RowFate::Same;
+    const std::int64_t place = &end == &bof_ ? beforeAllRows : behindAllRows;
+    place_ = {place, place};
     pending_ = Pending::None;
     Arrived();
+}
+
+void Recordset::RequireNotTakenAway() const
+{
+    if (fate_ != RowFate::Gone)
+        return;
+    RuntimeError refusal(ErrorNumber::RecordDeleted, database_->Path());
+    if (const auto& tell = database_->Others().TellGone) {
+        refusal.IsTold = true;
+        if (!takenAway_.isEmpty())
+            tell(std::exchange(takenAway_, QString()));
+    }
+    throw refusal;
+}
+
+void Recordset::FailDeleted() const
+{
+    RequireNotTakenAway();
+    Fail(ErrorNumber::RecordDeleted);
 }
 
 void Recordset::RequireCurrentRow() const
@@ -107,10 +212,15 @@ void Recordset::RequireCurrentRow() const
     if (bof_ || eof_)
         Fail(ErrorNumber::NoCurrentRecord);
     if (gone_)
-        Fail(ErrorNumber::RecordDeleted);
+        FailDeleted();
 }
 
-// Whether the statement, whose first column is the row number, comes to a row of this set; `row_` is not touched.
+QByteArray Recordset::QuotedName(int column) const
+{
+    return Quoted(rows_.Names()[static_cast<std::size_t>(column)].toUtf8());
+}
+
+// Whether the statement, whose first column is the row number, comes to a row of this set; the cursor stays.
 bool Recordset::FindRow(Statement& rows)
 {
     bool found = rows.Step();
@@ -121,31 +231,40 @@ bool Recordset::FindRow(Statement& rows)
     return found;
 }
 
+bool Recordset::FindLastBefore(std::int64_t row)
+{
+    previous_->Bind(0, row);
+    return FindRow(*previous_);
+}
+
 QByteArray Recordset::WalkSql(ColumnSet columns) const
 {
     QByteArray sql = "SELECT rowid";
-    for (int column = 0; column < columnsInSet && column < static_cast<int>(names_.size()); ++column)
+    for (int column = 0; column < columnsInSet && column < static_cast<int>(rows_.Names().size()); ++column)
         if (columns & (ColumnSet{1} << column))
-            sql += ", " + Quoted(names_[static_cast<std::size_t>(column)]);
+            sql += ", " + QuotedName(column);
     return sql + " FROM " + table_ + " WHERE rowid > ?1 ORDER BY rowid";
 }
 
-void Recordset::RestartWalk()
+void Recordset::RestartWalk(std::int64_t after)
 {
     walkColumns_ = std::exchange(wanted_, 0) | (walk_ ? walkColumns_ : 0);
     Rest();
     std::unique_ptr<Statement>& statement = walks_[walkColumns_];
     if (!statement)
         statement = database_->Prepare(WalkSql(walkColumns_));
-    statement->Bind(0, row_);
+    statement->Bind(0, after);
     walk_ = statement.get();
     walkChanges_ = database_->Changes();
 }
 
 bool Recordset::StepWalk()
 {
-    if (!walk_ || wanted_ != 0 || walkChanges_ != database_->Changes())
-        RestartWalk();
+    if (walk_ && wanted_ == 0 && walkChanges_ == database_->Changes())
+        return FindRow(*walk_);
+    // Until the walk's first step has taken the file's lock itself.
+    const Look look(*this);
+    RestartWalk(place_.After);
     return FindRow(*walk_);
 }
 
@@ -160,9 +279,10 @@ void Recordset::MoveFirst()
 {
     Leaving();
     Rest();
-    row_ = beforeAllRows;
-    if (StepWalk())
-        StandOn(walk_->Integer(0));
+    const Look look(*this);
+    RestartWalk(beforeAllRows);
+    if (FindRow(*walk_))
+        StandOn(PlaceAt(*walk_));
     else
         StandAtEnd(eof_);
 }
@@ -171,13 +291,8 @@ void Recordset::MoveLast()
 {
     Leaving();
     Rest();
-    previous_->Bind(0, behindAllRows);
-    if (FindRow(*previous_)) {
-        StandOn(previous_->Integer(0));
-        previous_->Reset();
-    } else {
-        StandAtEnd(bof_);
-    }
+    const Look look(*this);
+    StandOnLastBefore(behindAllRows);
 }
 
 void Recordset::MoveNext()
@@ -186,7 +301,7 @@ void Recordset::MoveNext()
         Fail(ErrorNumber::NoCurrentRecord);
     Leaving();
     if (StepWalk())
-        StandOn(walk_->Integer(0));
+        StandOn(PlaceAt(*walk_));
     else
         StandAtEnd(eof_);
 }
@@ -197,9 +312,14 @@ void Recordset::MovePrevious()
         Fail(ErrorNumber::NoCurrentRecord);
     Leaving();
     Rest();
-    previous_->Bind(0, row_);
-    if (FindRow(*previous_)) {
-        StandOn(previous_->Integer(0));
+    const Look look(*this);
+    StandOnLastBefore(place_.Before);
+}
+
+void Recordset::StandOnLastBefore(std::int64_t row)
+{
+    if (FindLastBefore(row)) {
+        StandOn(PlaceAt(*previous_));
         previous_->Reset();
     } else {
         StandAtEnd(bof_);
@@ -208,14 +328,15 @@ void Recordset::MovePrevious()
 
 bool Recordset::Seek(QStringView field, const QString& value)
 {
+    const int column = Column(field);
     Leaving();
     Rest();
-    const QByteArray name = Quoted(names_[static_cast<std::size_t>(Column(field))]);
-    const auto matches = database_->Prepare("SELECT rowid FROM " + table_ + " WHERE CAST(" + name +
+    const Look look(*this);
+    const auto matches = database_->Prepare("SELECT rowid FROM " + table_ + " WHERE CAST(" + QuotedName(column) +
                                             " AS TEXT) = ?1 COLLATE SAMETEXT ORDER BY rowid");
     matches->Bind(0, value.toUtf8());
     if (FindRow(*matches)) {
-        StandOn(matches->Integer(0));
+        StandOn(PlaceAt(*matches));
         return true;
     }
     StandAtEnd(eof_);
@@ -238,15 +359,19 @@ int Recordset::WalkColumn(int column) const
 // Reads the whole current row, unless that has been done since the last change; false when it is gone.
 bool Recordset::FetchRow() const
 {
-    if (cachedRow_ == row_ && cachedChanges_ == database_->Changes())
+    FollowOthers();
+    if (!gone_ && cachedRow_ == Number() && cachedChanges_ == database_->Changes())
         return true;
-    whole_->Bind(0, row_);
+    const Look look(*this);
+    if (gone_)
+        return false;
+    whole_->Bind(0, Number());
     const bool found = whole_->Step();
     if (found) {
         cached_.clear();
         for (int column = 0; column < whole_->Columns(); ++column)
             cached_.push_back(ValueAt(*whole_, column));
-        cachedRow_ = row_;
+        cachedRow_ = Number();
         cachedChanges_ = database_->Changes();
     }
     whole_->Reset();
@@ -262,7 +387,7 @@ const std::vector<FieldValue>& Recordset::Row() const
 {
     RequireCurrentRow();
     if (!FetchRow())
-        Fail(ErrorNumber::RecordDeleted);
+        FailDeleted();
     return cached_;
 }
 
@@ -315,6 +440,7 @@ void Recordset::Edit()
 {
     Row();
     edits_.clear();
+    choices_.clear();
     pending_ = Pending::Edit;
 }
 
@@ -322,6 +448,7 @@ void Recordset::AddNew()
 {
     Leaving();
     edits_.clear();
+    choices_.clear();
     pending_ = Pending::Addition;
 }
 
@@ -332,86 +459,192 @@ void Recordset::Put(QStringView field, const FieldValue& value)
     edits_[Column(field)] = value;
 }
 
+void Recordset::PutWhenWritten(QStringView field, std::function<FieldValue()> choose)
+{
+    Put(field, {});
+    choices_[Column(field)] = std::move(choose);
+}
+
+std::unique_ptr<Recordset> Recordset::Afresh() const
+{
+    return std::make_unique<Recordset>(database_, name_);
+}
+
 void Recordset::Update()
 {
     Updating();
-    switch (pending_) {
-    case Pending::None:
+    if (pending_ == Pending::None)
         Fail(ErrorNumber::UpdateWithoutEdit);
-    case Pending::Edit:
-        Concerning(RecordInWords(), [this] { WriteEdit(); });
-        break;
-    case Pending::Addition:
-        Concerning(RecordInWords(), [this] { WriteAddition(); });
-        break;
+    try {
+        pending_ == Pending::Edit ? WriteEdit() : WriteAddition();
+    } catch (const RuntimeError& refusal) {
+        // What the user has given up doesn't wait for the next saving; what he has typed does, in its boxes.
+        if (refusal.IsTold)
+            pending_ = Pending::None;
+        throw;
     }
     pending_ = Pending::None;
     Arrived();
 }
 
+// The change takes place on the rows as they stand in the file, whole or not at all.
+template <class Act>
+void Recordset::InFile(const Act& act)
+{
+    Q_ASSERT(!held_);
+    // A walk under way would hold off the very program that has to finish before this can begin.
+    Rest();
+    const auto attempt = [&] {
+        Transaction transaction(*database_);
+        const Look look(*this);
+        act();
+        transaction.Commit();
+    };
+    database_->Others().Patiently(database_->Path(), [&](int milliseconds) {
+        database_->BePatient(milliseconds);
+        try {
+            attempt();
+        } catch (const RuntimeError& refusal) {
+            // The engine's word for a file that has been replaced in this very moment.
+            if (refusal.Number != ErrorNumber::DatabaseReadOnly || database_->IsStillThere())
+                throw;
+            attempt();
+        }
+    });
+}
+
+// Changes the current row, unless it is no longer what it was when the cursor came to it.
+template <class Change>
+void Recordset::ChangeRow(Change&& change)
+{
+    const QString record = RecordInWords();
+    RowFate fate = RowFate::Same;
+    Concerning(record, [&] {
+        InFile([&] {
+            fate = fate_;
+            if (fate == RowFate::Same)
+                change();
+        });
+    });
+    if (fate != RowFate::Same)
+        GiveUp(record);
+}
+
+void Recordset::GiveUp(const QString& record)
+{
+    pending_ = Pending::None;
+    Arrived();
+    database_->Others().TellOfReplaced();
+    if (gone_)
+        FailDeleted();
+    fate_ = RowFate::Same;
+    RuntimeError refusal(ErrorNumber::RecordChanged, database_->Path() + u'\n' + record);
+    if (const auto& tell = database_->Others().TellChanged) {
+        tell(record);
+        refusal.IsTold = true;
+    }
+    throw refusal;
+}
+
 void Recordset::WriteEdit()
 {
-    lastModified_ = row_;
-    if (edits_.empty())
-        return;
-    QByteArray settings;
-    for (const auto& [column, value] : edits_)
-        settings += (settings.isEmpty() ? "" : ", ") + Quoted(names_[static_cast<std::size_t>(column)]) + " = ?";
-    const auto update = database_->Prepare("UPDATE " + table_ + " SET " + settings + " WHERE rowid = ?");
+    if (!edits_.empty()) {
+        TableRows::Print print;
+        ChangeRow([&] {
+            QByteArray settings;
+            for (const auto& [column, value] : edits_)
+                settings += (settings.isEmpty() ? "" : ", ") + QuotedName(column) + " = ?";
+            const auto update = database_->Prepare("UPDATE " + table_ + " SET " + settings + " WHERE rowid = ?");
+            int parameter = 0;
+            for (const auto& [column, value] : edits_)
+                value ? update->Bind(parameter++, value->toUtf8()) : update->BindNull(parameter++);
+            update->Bind(parameter, Number());
+            const std::int64_t before = database_->Changes();
+            update->Step();
+            if (database_->Changes() == before)
+                Fail(ErrorNumber::RecordDeleted);
+            print = rows_.PrintOf(Number());
+        });
+        rows_.Put(Number(), print);
+    }
+    lastModified_ = Mark(Number());
+}
+
+void Recordset::Insert(std::int64_t row)
+{
+    QByteArray names = "rowid";
+    QByteArray places = "?";
+    for (const auto& [column, value] : edits_) {
+        names += ", " + QuotedName(column);
+        places += ", ?";
+    }
+    const auto insertion = database_->Prepare("INSERT INTO " + table_ + " (" + names + ") VALUES (" + places + ")");
     int parameter = 0;
+    insertion->Bind(parameter++, row);
     for (const auto& [column, value] : edits_)
-        value ? update->Bind(parameter++, value->toUtf8()) : update->BindNull(parameter++);
-    update->Bind(parameter, row_);
-    const std::int64_t before = database_->Changes();
-    update->Step();
-    if (database_->Changes() == before)
-        Fail(ErrorNumber::RecordDeleted);
+        value ? insertion->Bind(parameter++, value->toUtf8()) : insertion->BindNull(parameter++);
+    insertion->Step();
 }
 
 void Recordset::WriteAddition()
 {
-    const std::int64_t row = database_->NewRowNumber(table_);
-    QByteArray names = "rowid";
-    QByteArray places = "?";
-    for (const auto& [column, value] : edits_) {
-        names += ", " + Quoted(names_[static_cast<std::size_t>(column)]);
-        places += ", ?";
+    std::int64_t row = 0;
+    TableRows::Print print;
+    bool isChosen = choices_.empty();
+    try {
+        InFile([&] {
+            for (const auto& [column, choose] : choices_)
+                edits_[column] = choose();
+            isChosen = true;
+            row = rows_.NewNumber();
+            Insert(row);
+            print = rows_.PrintOf(row);
+        });
+    } catch (RuntimeError& refusal) {
+        if (isChosen)
+            refusal.Concerns(RecordInWords());
+        throw;
     }
-    const auto insert = database_->Prepare("INSERT INTO " + table_ + " (" + names + ") VALUES (" + places + ")");
-    int parameter = 0;
-    insert->Bind(parameter++, row);
-    for (const auto& [column, value] : edits_)
-        value ? insert->Bind(parameter++, value->toUtf8()) : insert->BindNull(parameter++);
-    insert->Step();
+    rows_.Put(row, print);
     added_.insert(row);
-    lastModified_ = row;
+    lastModified_ = Mark(row);
 }
 
 void Recordset::Delete()
 {
     Row();
-    const auto removal = database_->Prepare("DELETE FROM " + table_ + " WHERE rowid = ?1");
-    removal->Bind(0, row_);
-    Concerning(RecordInWords(), [&removal] { removal->Step(); });
+    ChangeRow([this] {
+        const auto removal = database_->Prepare("DELETE FROM " + table_ + " WHERE rowid = ?1");
+        removal->Bind(0, Number());
+        removal->Step();
+    });
+    rows_.Remove(Number());
     pending_ = Pending::None;
     gone_ = true;
     Rest();
     Arrived();
 }
 
+Bookmark Recordset::Mark(std::int64_t row) const
+{
+    return rows_.Mark(row, numbering_);
+}
+
 Bookmark Recordset::GetBookmark() const
 {
     RequireCurrentRow();
-    return row_;
+    return Mark(Number());
 }
 
 void Recordset::SetBookmark(const Bookmark& bookmark)
 {
     if (!bookmark)
         Fail(ErrorNumber::NotABookmark);
+    database_->Others().RequireNoQuestion(database_->Path());
     Leaving();
     Rest();
-    StandOn(*bookmark);
+    FollowOthers();
+    StandOn(rows_.Find(*bookmark));
 }
 
 } // namespace lineforge

@@ -2,10 +2,12 @@
 
 #include "platform/Database.h"
 #include "platform/Like.h"
+#include "platform/RowPlace.h"
 
 #include <QHash>
 #include <QString>
 
+#include <functional>
 #include <optional>
 #include <set>
 #include <vector>
@@ -13,23 +15,34 @@
 namespace lineforge
 {
 
-// A remembered position of a cursor; empty until one has been stored in it.
-using Bookmark = std::optional<std::int64_t>;
+class TableRows;
+struct Renumbering;
+
+// A remembered position of a cursor; empty until one has been stored in it. It leads to the same record whatever other
+// programs have done to the file meanwhile.
+using Bookmark = std::optional<RowMark>;
 
 // The text of a field, or nothing for Null.
 using FieldValue = std::optional<QString>;
 
-// A cursor over one table in storage order. The rows are those that stood in the table when it was opened and those
-// that this cursor added; their values are read live. It stands on a row, before the first (`Bof`), behind the last
-// (`Eof`), or on a row that is gone. The names of fields are compared without regard to case.
+// A cursor over one table in storage order. The rows are those that stood in the table when it was opened, those that
+// this cursor added, and those that other programs did; their values are read live. It stands on a row, before the
+// first (`Bof`), behind the last (`Eof`), or on a row that is gone. The names of fields are compared without regard to
+// case.
 //
 // Errors: 3021 reading, editing or moving on without a current row; 3167 on a row that has been deleted; 3265 no such
-// field; 3020 `Update` with nothing in hand; and those of the engine that `Statement` names.
+// field; 3020 `Update` with nothing in hand; and those of the engine that `Statement` names. A row that another program
+// has changed since the cursor came to it is not written to: the user is told, what was to be written is given up, and
+// 3197 ends the command. A row that another program has deleted is told to the user as well.
 class Recordset
 {
 public:
+    // A brief cursor only reads, and goes before events are served. It keeps other programs off the file all the while,
+    // and so needs not know their ways.
+    enum class Use { Lasting, Brief };
+
     // Stands on the first row. 3078 when the file has no such table, and the errors of `Databases::Open`.
-    Recordset(std::shared_ptr<Database> database, const QString& table);
+    Recordset(std::shared_ptr<Database> database, const QString& table, Use use = Use::Lasting);
     virtual ~Recordset() = default;
     Recordset(const Recordset&) = delete;
     Recordset& operator=(const Recordset&) = delete;
@@ -65,6 +78,8 @@ public:
     void Edit();
     void AddNew();
     void Put(QStringView field, const FieldValue& value);
+    // Of an addition, a value that is chosen when the row is written and nobody else can write. Null until then.
+    void PutWhenWritten(QStringView field, std::function<FieldValue()> choose);
     // Writes what `Edit` or `AddNew` began. After an addition the current row is the one before it, and
     // `LastModified` is the new one.
     void Update();
@@ -73,6 +88,9 @@ public:
     Bookmark GetBookmark() const;
     void SetBookmark(const Bookmark& bookmark);
     Bookmark LastModified() const { return lastModified_; }
+
+    // A cursor of its own on all rows that stand in the file now.
+    std::unique_ptr<Recordset> Afresh() const;
 
     // The walk is over for now: gives back the read lock that it holds on the file.
     void Rest() const;
@@ -84,6 +102,11 @@ protected:
     virtual void Arrived() {}
     // Before `Update` writes; may begin an edit and put values.
     virtual void Updating() {}
+    // Another program has changed the current row. True when its user sees it anew, so that it may be written to.
+    virtual bool ShowAnew() const { return false; }
+
+    // 3167, of which the user is told once, when another program has deleted the current row.
+    void RequireNotTakenAway() const;
 
     bool IsEditing() const { return pending_ != Pending::None; }
     // Of the edit or addition in hand: whether the field has a value in it, and to take that back.
@@ -94,35 +117,61 @@ private:
     enum class Pending { None, Edit, Addition };
     using ColumnSet = std::uint64_t;
 
+    class Look;
+
     [[noreturn]] void Fail(int number) const;
     QString RecordInWords() const;
     bool InRowSet(std::int64_t row) const;
-    void StandOn(std::int64_t row);
+    void FollowOthers() const;
+    void Follow(const Renumbering& step) const;
+    void FollowRowSet(const Renumbering& step) const;
+    std::int64_t Number() const { return place_.After; }
+    Bookmark Mark(std::int64_t row) const;
+    void StandOn(const RowPlace& place);
+    void StandOnLastBefore(std::int64_t row);
     void StandAtEnd(bool& end);
     void RequireCurrentRow() const;
+    [[noreturn]] void FailDeleted() const;
     FieldValue ValueOf(int column) const;
     bool FindRow(Statement& rows);
+    bool FindLastBefore(std::int64_t row);
     bool StepWalk();
-    void RestartWalk();
+    void RestartWalk(std::int64_t after);
+    void RenewStatements() const;
+    QByteArray QuotedName(int column) const;
     QByteArray WalkSql(ColumnSet columns) const;
     // The column of the walking statement that holds this field of the current row, or -1.
     int WalkColumn(int column) const;
     bool FetchRow() const;
     const std::vector<FieldValue>& Row() const;
+    template <class Act>
+    void InFile(const Act& act);
+    template <class Change>
+    void ChangeRow(Change&& change);
+    void GiveUp(const QString& record);
     void WriteEdit();
+    void Insert(std::int64_t row);
     void WriteAddition();
 
     std::shared_ptr<Database> database_;
-    QByteArray table_;
-    std::vector<QString> names_;
+    QString name_;
+    QByteArray table_; // its quoted name
+    TableRows& rows_;
+    std::shared_ptr<void> held_; // the file, by a brief cursor
 
-    std::int64_t row_ = 0;
     bool bof_ = false;
     bool eof_ = false;
-    bool gone_ = false;
-    std::int64_t lastRowAtOpening_ = 0;
-    std::set<std::int64_t> added_;
     Bookmark lastModified_;
+
+    // Where the cursor stands and which rows are its own; known anew, even while it is only read, when other programs
+    // have renumbered the rows.
+    mutable std::uint32_t numbering_ = 0;
+    mutable RowPlace place_;
+    mutable bool gone_ = false;
+    mutable RowFate fate_ = RowFate::Same; // what others have done to the current row since the cursor came to it
+    mutable QString takenAway_;            // that row in words, until its deletion has been told
+    mutable std::int64_t lastRowAtOpening_ = 0;
+    mutable std::set<std::int64_t> added_;
 
     // A walk steps one statement that selects the fields which the walk has been seen to read.
     mutable std::map<ColumnSet, std::unique_ptr<Statement>> walks_;
@@ -131,14 +180,17 @@ private:
     mutable ColumnSet wanted_ = 0;
     mutable std::int64_t walkChanges_ = 0;
 
-    std::unique_ptr<Statement> previous_;
-    std::unique_ptr<Statement> whole_;
+    // Of the opening of the file in which they were prepared.
+    mutable std::uint32_t opening_ = 0;
+    mutable std::unique_ptr<Statement> previous_;
+    mutable std::unique_ptr<Statement> whole_;
     mutable std::vector<FieldValue> cached_;
     mutable std::int64_t cachedRow_ = 0;
     mutable std::int64_t cachedChanges_ = -1;
 
     Pending pending_ = Pending::None;
     std::map<int, FieldValue> edits_;
+    std::map<int, std::function<FieldValue()>> choices_; // of edits that are still to be chosen
 };
 
 } // namespace lineforge

@@ -14,7 +14,7 @@ struct KnownError {
     QStringView Text;
 };
 
-constexpr std::array<KnownError, 32> knownErrors{{
+constexpr std::array<KnownError, 33> knownErrors{{
     {5, u"Invalid procedure call or argument"},
     {6, u"Overflow"},
     {7, u"Out of memory"},
@@ -44,6 +44,7 @@ constexpr std::array<KnownError, 32> knownErrors{{
     {3078, u"The database engine can't find the input table."},
     {3159, u"Not a valid bookmark."},
     {3167, u"Record is deleted."},
+    {3197, u"Couldn't update; changed by another program."},
     {3260, u"Couldn't update; currently locked."},
     {3265, u"Item not found in this collection."},
     {3343, u"Unrecognized database format."},

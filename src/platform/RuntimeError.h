@@ -15,8 +15,13 @@ struct RuntimeError {
     // What it was refused for, a line each: the path of a file, the words that are no number, a record. Empty where
     // whoever refuses doesn't know.
     QString Subject;
+    // The user has been told and gone on: it ends the command, never the program.
+    bool IsTold = false;
 
     explicit RuntimeError(int number, QString subject = {});
+
+    // It was refused for that, too.
+    void Concerns(const QString& what) { Subject += (Subject.isEmpty() ? QString() : QStringLiteral("\n")) + what; }
 };
 
 // Runs work that belongs to a file or a record; whatever is refused in it tells that too.
@@ -26,7 +31,7 @@ decltype(auto) Concerning(const QString& subject, Work&& work)
     try {
         return std::forward<Work>(work)();
     } catch (RuntimeError& error) {
-        error.Subject += (error.Subject.isEmpty() ? QString() : QStringLiteral("\n")) + subject;
+        error.Concerns(subject);
         throw;
     }
 }
@@ -62,6 +67,7 @@ inline constexpr int DatabaseReadOnly = 3027;
 inline constexpr int TableNotFound = 3078;
 inline constexpr int NotABookmark = 3159;
 inline constexpr int RecordDeleted = 3167;
+inline constexpr int RecordChanged = 3197;
 inline constexpr int DatabaseBusy = 3260;
 inline constexpr int ItemNotFound = 3265;
 inline constexpr int NotADatabase = 3343;

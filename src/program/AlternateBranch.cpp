@@ -4,12 +4,28 @@
 #include "program/OldDatabase.h"
 #include "program/WorkDatabase.h"
 
+#include <QScopeGuard>
+
 #include <utility>
 
 namespace lineforge
 {
 
 using namespace Qt::StringLiterals;
+
+namespace
+{
+// Opens the database of the branch that `point` points the program at, or leaves it pointed where it was.
+template <class Point>
+void PointAtBranch(Program& p, const Point& point)
+{
+    StoreTyped(p);
+    auto pointBack = qScopeGuard([&p, before = p.Branch] { p.Branch = before; });
+    point();
+    OpenWorkDatabase(p);
+    pointBack.dismiss();
+}
+} // namespace
 
 void SwapBranchDirs(Program& p)
 {
@@ -56,17 +72,24 @@ void KeepOwnDirectories(Program& p)
 
 void SwitchToSibling(Program& p, QStringView letter)
 {
-    KeepOwnDirectories(p);
-    p.Branch.WorkDir = SiblingDirectory(p.Branch.WorkDir, letter);
-    OpenWorkDatabase(p);
+    PointAtBranch(p, [&] {
+        KeepOwnDirectories(p);
+        p.Branch.WorkDir = SiblingDirectory(p.Branch.WorkDir, letter);
+    });
     p.Branch.UsingAlternate = 1;
 }
 
 void OpenOwnBranch(Program& p)
 {
-    p.Branch.WorkDir = p.Branch.WorkDirSaved;
-    p.Branch.HomeDir = p.Branch.HomeDirSaved;
-    OpenWorkDatabase(p);
+    PointAtBranch(p, [&p] {
+        p.Branch.WorkDir = p.Branch.WorkDirSaved;
+        p.Branch.HomeDir = p.Branch.HomeDirSaved;
+    });
+}
+
+void OpenSwappedBranch(Program& p)
+{
+    PointAtBranch(p, [&p] { SwapBranchDirs(p); });
 }
 
 void EndAlternate(Program& p)

@@ -23,11 +23,16 @@ bool TakeOldSibling(Program& p, QStringView letter);
 // another the way back still leads to the open branch.
 void KeepOwnDirectories(Program& p);
 
+// The following leave the program pointed where it was when a database can't be opened.
+
 // Points the whole program at the sibling branch of that letter; the map stays.
 void SwitchToSibling(Program& p, QStringView letter);
 
 // The directories and the database of the branch whose map is shown; `UsingAlternate` stays.
 void OpenOwnBranch(Program& p);
+
+// `SwapBranchDirs`, and the database of the branch that the directories are then of; `UsingAlternate` stays.
+void OpenSwappedBranch(Program& p);
 
 // `UsingAlternate` back to 0: the record scanner walks the open branch again.
 void EndAlternate(Program& p);

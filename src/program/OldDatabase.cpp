@@ -3,6 +3,7 @@
 #include "platform/DatabaseFormat.h"
 #include "platform/FileIdentity.h"
 #include "platform/FileRefusal.h"
+#include "platform/OtherPrograms.h"
 #include "program/BranchPaths.h"
 #include "program/Meanwhile.h"
 #include "program/OldDatabaseReader.h"
@@ -115,7 +116,8 @@ void ConvertIfOld(Program& p, const QString& path, OldDatabaseUse use)
     if (use == OldDatabaseUse::Caption && p.RefusedDatabases.contains(identity))
         Refuse(ErrorNumber::NotADatabase, file);
     try {
-        Convert(p, identity);
+        // Each time as it stands then.
+        p.Databases.Others().Patiently(file, [&](int) { Convert(p, IdentityOf(file)); });
     } catch (const RuntimeError&) {
         p.RefusedDatabases.insert(identity);
         throw;
@@ -127,6 +129,8 @@ void TellDatabaseRefused(Program& p, const QString& path, const RuntimeError& re
     const QString file = p.Files.Resolve(path);
     const bool lacksReader =
         refusal.Number == ErrorNumber::NotADatabase && IsToBeTaken(p, file, FormatOfFile(file)) && !HasReader(p);
+    if (refusal.IsTold)
+        return;
     p.Prompts.MsgBox(u"Read Only or Incorrect Database"_s, lacksReader ? noReader : u"Cannot open this database"_s,
                      Buttons::Information);
 }

@@ -10,6 +10,17 @@ namespace lineforge
 
 using namespace Qt::StringLiterals;
 
+std::shared_ptr<Database> ReachDatabase(Program& p, const QString& path)
+{
+    try {
+        return p.Databases.Open(p.Files, path);
+    } catch (const RuntimeError& refusal) {
+        if (refusal.IsTold)
+            throw;
+        return nullptr;
+    }
+}
+
 void PointAtDatabase(Program& p, DataControl& data, const QString& path)
 {
     ConvertIfOld(p, path, OldDatabaseUse::Command);
@@ -34,6 +45,12 @@ void OpenWorkDatabase(Program& p)
     // Spelt so since the first version; names are found without regard to case.
     p.Branch.sDbaseName = p.Branch.WorkDir + PathSeparator + u"Lfgdat_" + BranchLetter(p.Branch.WorkDir) + u".mdb";
     PointAtDatabase(p, p.Branch.sDbaseName);
+}
+
+void StoreTyped(Program& p)
+{
+    if (p.Form3.IsLoaded())
+        p.Form3->Data1.Store();
 }
 
 Recordset& Records(Program& p)

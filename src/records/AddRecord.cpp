@@ -35,9 +35,14 @@ QString AppendRow(Program& p)
     Recordset& records = Records(p);
     records.MoveLast();
     p.Record.SavedBookmark = records.GetBookmark();
-    const QString file = NumberAfter(records.Text(u"File"));
+    QString file;
     records.AddNew();
-    records.Put(u"File", file);
+    // The last of all that stand in the file when nobody else can add one.
+    records.PutWhenWritten(u"File", [&] {
+        const auto all = records.Afresh();
+        all->MoveLast();
+        return file = NumberAfter(all->Text(u"File"));
+    });
     records.Update();
     records.SetBookmark(records.LastModified());
     return file;

@@ -165,14 +165,20 @@ void OpenSearchMenu(Program& p)
 
 void ExitFromRecords(Program& p)
 {
+    p.Errors.Clear();
     p.Errors.Ignoring([&] { Records(p).Update(); });
+    // Who has been told that a text isn't stored wants to see to it.
+    if (p.Errors.Last && p.Errors.Last->IsTold)
+        return;
     p.Errors.Ignoring([&] { SaveBoxes(p); });
     p.Errors.Ignoring([&] { LeaveToolsIfOpen(p); });
     p.Form5->MMControl1.Command(u"Close");
     // The main window takes all others with it and ends the program, unless a text that can't be written holds this
     // form back.
+    p.Errors.Clear();
     p.Errors.Ignoring([&] { p.Form1.Unload(); });
-    p.Loop.End(0);
+    if (!p.Errors.Last || !p.Errors.Last->IsTold)
+        p.Loop.End(0);
 }
 
 void RememberSelection(Program& p, const TextBox& box, int number)

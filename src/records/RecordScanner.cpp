@@ -2,6 +2,7 @@
 
 #include "map/CurrentBox.h"
 #include "map/SubjectPanel.h"
+#include "platform/OtherPrograms.h"
 #include "program/WorkDatabase.h"
 #include "records/RecordPicture.h"
 
@@ -103,6 +104,21 @@ Step MoveOn(Recordset& records, bool forward)
     return Step::EndAfterMove;
 }
 
+// Where the database refuses the step, and the user knows: without one more question at every tick.
+Step MoveOnOrHalt(Program& p, ScanMode mode)
+{
+    try {
+        return MoveOn(Records(p), IsForward(mode));
+    } catch (const RuntimeError& refusal) {
+        if (refusal.IsTold) {
+            p.Record.RecordScanMode = static_cast<int>(ScanMode::Stopped);
+            p.Form3->Timer1.Enabled = false;
+            PressButton(p, ScanMode::Stopped);
+        }
+        throw;
+    }
+}
+
 void EndScan(Program& p, ScanMode mode, Step step)
 {
     p.Record.RecordScanMode = static_cast<int>(ScanMode::Stopped);
@@ -138,6 +154,9 @@ void TickScan(Program& p)
     constexpr int fastMilliseconds = 250;
     constexpr int slowMilliseconds = 1000;
 
+    // Under that question nothing moves.
+    if (p.Databases.Others().IsAsking())
+        return;
     p.Gallery.FirstShow = 1;
     const ScanMode mode = ModeOf(p);
     if (mode < ScanMode::FastForward || mode == ScanMode::Stopped || mode > ScanMode::FastBack)
@@ -145,7 +164,7 @@ void TickScan(Program& p)
     // Takes effect after this step: the first one came after the interval that the last scan left.
     p.Form3->Timer1.Interval = IsFast(mode) ? fastMilliseconds : slowMilliseconds;
 
-    const Step step = MoveOn(Records(p), IsForward(mode));
+    const Step step = MoveOnOrHalt(p, mode);
     if (step == Step::Moved)
         ShowRecordPicture(p);
     else

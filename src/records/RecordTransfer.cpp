@@ -84,8 +84,10 @@ bool OpenBranchOf(Program& p, const QString& letter)
     const QString database = DatabasePath(SiblingDirectory(ownDirectory, letter));
     try {
         PointAtDatabase(p, database);
-    } catch (const RuntimeError&) {
+    } catch (const RuntimeError& refusal) {
         p.Form3->Data1.DatabaseName = ownDatabase;
+        if (refusal.IsTold)
+            throw;
         return false;
     }
     p.Branch.WorkDir = SiblingDirectory(ownDirectory, letter);

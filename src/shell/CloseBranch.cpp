@@ -3,6 +3,7 @@
 #include "map/MapFile.h"
 #include "map/SubjectPanel.h"
 #include "map/tools/LeaveTools.h"
+#include "program/WorkDatabase.h"
 
 namespace lineforge
 {
@@ -13,6 +14,7 @@ void CloseBranch(Program& p)
 {
     LeaveToolsIfOpen(p);
     SaveBoxes(p);
+    StoreTyped(p);
     p.Form5->MMControl1.Command(u"Close");
     EraseMap(p);
     p.Branch.UsingAlternate = 0;

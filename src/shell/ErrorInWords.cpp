@@ -15,7 +15,7 @@ struct Words {
     QStringView Text; // of what the error is about, which stands on the lines below
 };
 
-constexpr std::array<Words, 27> words{{
+constexpr std::array<Words, 28> words{{
     {ErrorNumber::InvalidCall, u"The program can do nothing with this:"},
     {ErrorNumber::Overflow, u"This number is out of range:"},
     {ErrorNumber::OutOfMemory, u"The memory isn't enough for this:"},
@@ -40,6 +40,7 @@ constexpr std::array<Words, 27> words{{
     {ErrorNumber::DatabaseReadOnly, u"This database can only be read:"},
     {ErrorNumber::TableNotFound, u"This database has no table of records:"},
     {ErrorNumber::RecordDeleted, u"The record has been deleted from this database:"},
+    {ErrorNumber::RecordChanged, u"Another program has changed the record in this database:"},
     {ErrorNumber::DatabaseBusy, u"Another program is working on this database:"},
     {ErrorNumber::ItemNotFound, u"The records have no such field:"},
     {ErrorNumber::NotADatabase, u"This can't be read as a database of records:"},

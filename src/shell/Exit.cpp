@@ -2,6 +2,7 @@
 
 #include "map/MapFile.h"
 #include "map/tools/LeaveTools.h"
+#include "program/WorkDatabase.h"
 #include "shell/CloseBranch.h"
 
 namespace lineforge
@@ -10,6 +11,7 @@ namespace lineforge
 void ExitProgram(Program& p)
 {
     SaveBoxes(p);
+    StoreTyped(p);
     LeaveToolsIfOpen(p);
     p.Form5->MMControl1.Command(u"Close");
     // The main window takes all others with it and ends the program.
@@ -25,6 +27,7 @@ void ExitFromGallery(Program& p)
 void CloseMainWindow(Program& p)
 {
     LeaveToolsIfOpen(p);
+    StoreTyped(p);
     p.Form1->MMControl1.Command(u"Close");
     p.Form5->MMControl1.Command(u"Close");
     p.Form2.Unload();

@@ -1,6 +1,7 @@
 #include "shell/FatalPath.h"
 
 #include "gedcom/GedcomConversion.h"
+#include "platform/OtherPrograms.h"
 #include "shell/ErrorInWords.h"
 
 namespace lineforge
@@ -19,15 +20,26 @@ void EndWithError(Program& p, const RuntimeError& error)
     p.Prompts.MsgBox(u"Lineforge"_s, FatalText(error), Buttons::Error);
     p.Loop.End(1);
 }
+
+// It has been told and answered. The windows are there for the next one.
+void GiveUpCommand(Program& p, const RuntimeError& error)
+{
+    p.Errors.Last = error;
+    if (p.Screen.Pointer == MousePointer::Hourglass)
+        p.Screen.Pointer = MousePointer::Default;
+    p.Databases.Others().TellOfReplaced();
+}
 } // namespace
 
 void RunHandler(Program& p, const Event& handler)
 {
     try {
+        const OtherPrograms::Command command(p.Databases.Others());
         try {
             Fire(handler);
+            p.Databases.Others().TellOfReplaced();
         } catch (const RuntimeError& error) {
-            EndWithError(p, error);
+            error.IsTold ? GiveUpCommand(p, error) : EndWithError(p, error);
         }
     } catch (const ProgramEnded&) {
         // The handlers further out learn of the end when their own waiting returns.

@@ -30,6 +30,7 @@ void PutOldMapAway(Program& p)
     if (!p.Branch.WorkDir.isEmpty())
         SaveBoxes(p);
     LeaveToolsIfOpen(p);
+    StoreTyped(p);
     PutMapAway(p);
 }
 

@@ -107,6 +107,22 @@ TEST_F(GedcomFaultTest, ErrorInAnotherHandler_ClosesTheFileToo)
     EXPECT_NE(Panel().last(), u"0 TRLR");
 }
 
+TEST_F(GedcomFaultTest, LockThatIsGivenUp_LeavesNoHalfFile_AndTheNextRunWritesItWhole)
+{
+    std::unique_ptr<SqliteFile> other;
+    AtYield(amongTheLineage, [&] { other = LockDatabase(u'A'); });
+    ExpectDatabaseInUse(Answer::Cancel);
+
+    CreateFile();
+
+    EXPECT_EQ(ExitCode(), std::nullopt);
+    EXPECT_FALSE(Home.Exists(u"LfgDat_A/Gedcom.tmp"));
+    other.reset();
+    P.Scratch.IdxA = 0;
+    CreateFile();
+    EXPECT_TRUE(File().endsWith("0 TRLR\r\n"));
+}
+
 TEST_F(GedcomFaultTest, DiskThatIsFull_EndsTheProgram)
 {
     EXPECT_EQ(ExitCodeInChild([&] {

@@ -216,7 +216,7 @@ TEST_F(MapParseTest, Boxes_EmptyTable_IsQuiet)
 {
     givenOpen(BranchB);
     // Left behind by the branch before.
-    P.Record.SavedBookmark = 1;
+    P.Record.SavedBookmark = RowMark{1};
 
     Parse(u"1200,600,255,B001,,"_s);
 

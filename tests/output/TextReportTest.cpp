@@ -1,3 +1,4 @@
+#include "output/OutputMode.h"
 #include "output/OutputTest.h"
 
 #include <QDir>
@@ -49,6 +50,25 @@ TEST_F(TextReportTest, Database_IsTold_BeforeAnythingIsWritten)
     P.Form1->mnuTxtDBase.Click();
 
     EXPECT_TRUE(Home.Exists(report));
+}
+
+TEST_F(TextReportTest, DatabaseThatALockKeepsOut_LeavesTheOldReport_AndNoMode)
+{
+    GivenPeople(2);
+    WriteDatabase();
+    const QByteArray text = Home.ReadFile(report);
+    std::unique_ptr<SqliteFile> other;
+    ExpectDatabaseTextBox(report, [&] { other = LockDatabase(u'A'); });
+    ExpectDatabaseInUse(Answer::Cancel);
+
+    Click(P.Form1->mnuTxtDBase.Click);
+
+    EXPECT_EQ(ExitCode(), std::nullopt);
+    EXPECT_EQ(Home.ReadFile(report), text);
+    EXPECT_EQ(P.Output.OutputMode, OutputMode::None);
+    other.reset();
+    WriteDatabase();
+    EXPECT_EQ(Home.ReadFile(report), text);
 }
 
 TEST_F(TextReportTest, Database_ComesBackToTheCurrentRecord_AndLeavesNoMode)

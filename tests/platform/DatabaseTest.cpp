@@ -117,18 +117,21 @@ TEST_F(OpenDatabaseTest, FileThatNobodyUsesAnyMore_IsOpenedAfresh)
     EXPECT_EQ(RefusalToOpen(u"people.db"_s), ErrorNumber::NotADatabase);
 }
 
-TEST_F(OpenDatabaseTest, FileReplacedBehindTheOpenOne_IsOpenedAfresh)
+TEST_F(OpenDatabaseTest, FileReplacedBehindTheOpenOne_IsGoneOverTo)
 {
     GivenPeople({u"Ann"_s});
     Recordset old = Open();
-    SqliteFile(home.Path(u"other.db")).Execute("CREATE TABLE People (Name TEXT); INSERT INTO People VALUES ('Zoe')");
-    ASSERT_TRUE(databases.Open(files, u"people.db"_s)->IsStill(FilePath()));
+    SqliteFile(home.Path(u"other.db"))
+        .Execute("CREATE TABLE People (File TEXT, Name TEXT); INSERT INTO People VALUES ('A009', 'Zoe')");
+    ASSERT_TRUE(databases.Open(files, u"people.db"_s)->IsStillThere());
 
     files.FileCopy(u"other.db"_s, u"people.db"_s);
 
     Recordset fresh = Open();
     EXPECT_EQ(fresh.Text(u"Name"), u"Zoe");
-    EXPECT_EQ(old.Text(u"Name"), u"Ann") << "who had the old file open keeps it";
+    EXPECT_FALSE(old.HasRow()) << "Ann is not in the file that stands there now";
+    old.MoveFirst();
+    EXPECT_EQ(old.Text(u"Name"), u"Zoe");
 }
 
 TEST_F(OpenDatabaseTest, DeletedFile_IsNotStillThere)
@@ -136,7 +139,7 @@ TEST_F(OpenDatabaseTest, DeletedFile_IsNotStillThere)
     const auto database = databases.Open(files, u"people.db"_s);
     files.Kill(u"people.db"_s);
 
-    EXPECT_FALSE(database->IsStill(FilePath()));
+    EXPECT_FALSE(database->IsStillThere());
     EXPECT_EQ(RefusalToOpen(u"people.db"_s), ErrorNumber::DatabaseNotFound);
 }
 
@@ -202,16 +205,6 @@ TEST_F(StatementTest, ResetStatement_RunsAgain)
     statement->Reset();
     ASSERT_TRUE(statement->Step());
     EXPECT_EQ(statement->Text(0).toByteArray(), "Ann");
-}
-
-TEST_F(StatementTest, NewRowNumbers_AreNeverTwiceTheSame)
-{
-    GivenPeople({u"Ann"_s, u"Bob"_s});
-    const auto database = databases.Open(files, u"people.db"_s);
-
-    const std::int64_t first = database->NewRowNumber("People");
-    EXPECT_GT(first, 2);
-    EXPECT_GT(database->NewRowNumber("People"), first);
 }
 
 } // namespace

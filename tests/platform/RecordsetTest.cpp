@@ -419,7 +419,7 @@ protected:
     RestTest() { GivenPeople({u"Ann"_s, u"Bob"_s, u"Cid"_s}); }
 
     // Whether somebody else could write now.
-    int TryToWrite() { return SqliteFile(FilePath()).Try("UPDATE People SET File = 'x'"); }
+    int TryToWrite() { return SqliteFile(FilePath()).Try("UPDATE People SET File = File"); }
 };
 
 TEST_F(RestTest, WalkUnderWay_HoldsTheFile_UntilItRests)

@@ -399,30 +399,28 @@ TEST_F(DeleteRecordTest, ChangesRefused_WithTextsPending_TheRecordGoesAllTheSame
     EXPECT_EQ(P.Form3->Text3.Text.value(), u"Mary"_s);
 }
 
-TEST_F(DeleteRecordTest, LockedByAnotherProgram_WithTextsPending_TheRecordStays_WithoutAWord)
+TEST_F(DeleteRecordTest, LockedByAnotherProgram_WithTextsPending_WhenGivenUp_TheRecordStays)
 {
     const auto before = AllRows();
     P.Form3->Text2.Text = u"Brown"_s;
-    SqliteFile other(Home.Path(DatabaseFile));
-    other.Execute("BEGIN IMMEDIATE");
+    auto other = LockDatabase(u'A');
 
-    Delete();
+    Delete([this] { ExpectDatabaseInUse(Answer::Cancel); });
 
-    other.Execute("ROLLBACK");
+    other.reset();
     EXPECT_EQ(AllRows(), before);
     EXPECT_TRUE(HasPicture(u"A001"));
     EXPECT_EQ(P.Form3->Text2.Text.value(), u"Brown"_s);
 }
 
-TEST_F(DeleteRecordTest, LockedByAnotherProgram_TheRecordStays_WithoutAWord)
+TEST_F(DeleteRecordTest, LockedByAnotherProgram_WhenGivenUp_TheRecordStays)
 {
     const auto before = AllRows();
-    SqliteFile other(Home.Path(DatabaseFile));
-    other.Execute("BEGIN IMMEDIATE");
+    auto other = LockDatabase(u'A');
 
-    Delete();
+    Delete([this] { ExpectDatabaseInUse(Answer::Cancel); });
 
-    other.Execute("ROLLBACK");
+    other.reset();
     EXPECT_EQ(AllRows(), before);
 }
 

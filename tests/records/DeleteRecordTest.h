@@ -39,11 +39,12 @@ protected:
                        u"Are you sure this is what you want ? ",
                        Buttons::ErrorYesNo, answer);
     }
-    // Both questions answered with yes; nothing may end the program.
-    void Delete()
+    // Both questions answered with yes, and whatever else is expected; nothing may end the program.
+    void Delete(const std::function<void()>& expectMore = [] {})
     {
         ExpectFirstQuestion(Answer::Yes);
         ExpectSecondQuestion(Answer::Yes);
+        expectMore();
         Click(P.Form3->mnuDelete.Click);
         EXPECT_EQ(ExitCode(), std::nullopt);
     }

@@ -120,8 +120,8 @@ TEST_F(RecordFaultTest, LockedByAnotherProgram_TreeGoesBack_AndTheTextIsWrittenL
 {
     P.Form3->Text23.Text = u"Female"_s;
     {
-        SqliteFile other(Home.Path(database));
-        other.Execute("BEGIN IMMEDIATE");
+        const auto other = LockDatabase(u'A');
+        ExpectDatabaseInUse(Answer::Cancel);
         Click(P.Form3->Command2.Click);
         ExpectBackOnTheMap();
     }
@@ -266,6 +266,9 @@ TEST_F(RecordFaultTest, RecordDeletedByAnotherProgram_TreeGoesBack_AndTheOthersA
     P.Form3->Text3.Text = u"Anne"_s;
     P.Form3->Text23.Text = u"Female"_s;
     SqliteFile(Home.Path(database)).Execute("DELETE FROM Tree99 WHERE File = 'A001'");
+    Prompts.Expect(u"Record removed", u"Record A001 has been removed by another program.\nNothing was stored.",
+                   Buttons::Information);
+    ExpectMissingPicture(u"Sub.Jpg");
 
     Click(P.Form3->Command2.Click);
 

@@ -396,7 +396,7 @@ TEST_F(RecordTransferTest, TextsPendingThatCannotBeStored_StayPending_WhenTheUse
 }
 
 // The scan has gone on under the question, so that the record must be read anew.
-TEST_F(RecordTransferTest, RecordThatIsGoneByThen_IsNotTransferred_WithoutAWord)
+TEST_F(RecordTransferTest, RecordThatIsGoneByThen_IsNotTransferred_AndTold)
 {
     ExpectConfirmation(Answer::Ok);
     Prompts.ExpectInput(u"Data Record Destination.", u"Enter Destination Data Ref Number.", u"A002", [&] {
@@ -404,6 +404,8 @@ TEST_F(RecordTransferTest, RecordThatIsGoneByThen_IsNotTransferred_WithoutAWord)
         Records(P).Rest();
         Execute("DELETE FROM Tree99 WHERE File = 'A001'");
     });
+    Prompts.Expect(u"Record removed", u"A record has been removed by another program.\nNothing was stored.",
+                   Buttons::Information);
 
     Press();
 

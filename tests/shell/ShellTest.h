@@ -1,11 +1,15 @@
 #pragma once
 
+#include "platform/OtherPrograms.h"
 #include "shell/FatalPath.h"
 #include "shell/StartUp.h"
 #include "support/BranchBuilder.h"
 #include "support/ProgramTest.h"
+#include "support/SqliteFile.h"
 
 #include <QColor>
+
+#include <memory>
 
 namespace lineforge
 {
@@ -87,6 +91,21 @@ protected:
     void ExpectEmptyBox()
     {
         Prompts.Expect(u"Database Empty", u"This Database has no records to access", Buttons::Information);
+    }
+
+    // Another program works on that branch's database as long as what is given back lives. Nobody waits for it.
+    std::unique_ptr<SqliteFile> LockDatabase(QChar letter)
+    {
+        P.Databases.Others().Milliseconds = 0;
+        auto other = std::make_unique<SqliteFile>(Home.Path(u"LfgDat_%1/LfgDat_%1.mdb"_s.arg(letter)));
+        other->Execute("BEGIN EXCLUSIVE");
+        return other;
+    }
+
+    void ExpectDatabaseInUse(Answer answer, ScriptedPrompts::WhileOpen whileOpen = {})
+    {
+        Prompts.Expect(u"Database in use", u"The Database is in use by another program.",
+                       Buttons::InformationRetryCancel, answer, std::move(whileOpen));
     }
 
     // The platform's own text, and what stands beneath it.

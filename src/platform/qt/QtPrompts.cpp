@@ -30,6 +30,7 @@ namespace
 {
 constexpr auto ok = QMessageBox::Ok;
 constexpr auto cancel = QMessageBox::Cancel;
+constexpr auto retry = QMessageBox::Retry;
 constexpr auto yes = QMessageBox::Yes;
 constexpr auto no = QMessageBox::No;
 
@@ -59,6 +60,8 @@ ButtonSet SetOf(Buttons buttons)
         return {QMessageBox::Information, ok, cancel};
     case Buttons::InformationYesNo:
         return {QMessageBox::Information, yes, no};
+    case Buttons::InformationRetryCancel:
+        return {QMessageBox::Information, retry, cancel};
     case Buttons::QuestionYesNoDefaultNo:
         return {QMessageBox::Question, yes, no, no};
     }
@@ -74,6 +77,8 @@ Answer ToAnswer(int button)
         return Answer::No;
     case cancel:
         return Answer::Cancel;
+    case retry:
+        return Answer::Retry;
     default:
         return Answer::Ok;
     }

@@ -91,6 +91,11 @@ INSTANTIATE_TEST_SUITE_P(
         BoxRow{Buttons::Information, QMessageBox::Information, {ok}, Answer::Ok, Answer::Ok},
         BoxRow{Buttons::InformationOkCancel, QMessageBox::Information, {ok, cancel}, Answer::Ok, Answer::Cancel},
         BoxRow{Buttons::InformationYesNo, QMessageBox::Information, {yes, no}, Answer::Yes, Answer::No},
+        BoxRow{Buttons::InformationRetryCancel,
+               QMessageBox::Information,
+               {QMessageBox::Retry, cancel},
+               Answer::Retry,
+               Answer::Cancel},
         BoxRow{Buttons::QuestionYesNoDefaultNo, QMessageBox::Question, {yes, no}, Answer::No, Answer::No}),
     [](const testing::TestParamInfo<BoxRow>& row) { return std::to_string(static_cast<int>(row.param.Set)); });
 
