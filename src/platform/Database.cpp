@@ -179,6 +179,8 @@ void Database::Open()
     if (sqlite3_db_readonly(fresh, "main") == 1)
         throw RuntimeError(ErrorNumber::DatabaseReadOnly, path_);
     sqlite3_busy_timeout(fresh, patience_);
+    // A commit is a commit once the journal has lost its name on the disk, too.
+    Statement(fresh, "PRAGMA synchronous = EXTRA").Step();
     sqlite3_create_collation(fresh, "SAMETEXT", SQLITE_UTF8, nullptr, CollateSameText);
     // The engine looks into a file no sooner than it must.
     Statement(fresh, "PRAGMA schema_version").Step();

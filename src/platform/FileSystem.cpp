@@ -1,5 +1,6 @@
 #include "platform/FileSystem.h"
 
+#include "platform/DiskFlush.h"
 #include "platform/FileRefusal.h"
 #include "platform/RuntimeError.h"
 #include "platform/Text.h"
@@ -11,7 +12,6 @@
 #include <QSaveFile>
 
 #include <algorithm>
-#include <unistd.h>
 #include <utility>
 
 namespace lineforge
@@ -49,11 +49,11 @@ bool ComesBefore(const QString& a, const QString& b)
     return order != 0 ? order < 0 : a < b;
 }
 
-void RequireWritten(QSaveFile& output)
+void PutInPlace(QSaveFile& output)
 {
-    // Told here, because a commit passes over what fails while it empties its buffers.
-    if (!output.flush() || fsync(output.handle()) != 0)
+    if (!output.commit())
         Refuse(output);
+    FlushName(output.fileName());
 }
 } // namespace
 
@@ -133,10 +133,10 @@ void FileSystem::FileCopy(const QString& source, const QString& destination) con
             Refuse(output);
     if (input.error() != QFile::NoError)
         Refuse(input);
-    RequireWritten(output);
+    // Told here, because a commit passes over what fails while it empties its buffers.
+    FlushContent(output);
     output.setFileTime(QFileInfo(from).lastModified(), QFileDevice::FileModificationTime);
-    if (!output.commit())
-        Refuse(output);
+    PutInPlace(output);
 }
 
 void FileSystem::Kill(const QString& path) const
@@ -159,6 +159,7 @@ void FileSystem::Rename(const QString& from, const QString& to) const
     RequireWritableParent(destination);
     if (!QFile::rename(source, destination))
         Refuse(ErrorNumber::PathFileAccess, destination);
+    FlushName(destination);
 }
 
 void FileSystem::MkDir(const QString& path) const
@@ -169,6 +170,7 @@ void FileSystem::MkDir(const QString& path) const
     RequireWritableParent(directory);
     if (!QDir().mkdir(directory))
         Refuse(ErrorNumber::PathFileAccess, directory);
+    FlushName(directory);
 }
 
 void FileSystem::RmDir(const QString& path) const
@@ -204,9 +206,8 @@ void FileSystem::Replace(const QString& path, const QByteArray& bytes) const
     QSaveFile output(file);
     if (!output.open(QFile::WriteOnly) || output.write(bytes) != bytes.size())
         Refuse(output);
-    RequireWritten(output);
-    if (!output.commit())
-        Refuse(output);
+    FlushContent(output);
+    PutInPlace(output);
 }
 
 QByteArray FileSystem::Read(const QString& path) const

@@ -1,5 +1,6 @@
 #include "platform/SequentialFile.h"
 
+#include "platform/DiskFlush.h"
 #include "platform/FileRefusal.h"
 #include "platform/RuntimeError.h"
 
@@ -48,8 +49,8 @@ void SequentialFile::Write(QByteArrayView bytes)
 
 void SequentialFile::Close()
 {
-    if (!file_.flush())
-        Refuse(file_);
+    FlushContent(file_);
+    FlushName(file_.fileName());
     file_.close();
 }
 

@@ -1,6 +1,7 @@
 #include "program/OldDatabaseStore.h"
 
 #include "platform/Database.h"
+#include "platform/DiskFlush.h"
 #include "platform/FileRefusal.h"
 #include "platform/FreeName.h"
 #include "platform/RuntimeError.h"
@@ -27,7 +28,7 @@ using Step = std::function<void()>;
 
 constexpr qint64 blockBytes = 1 << 20;
 
-// An open file or directory, for what the toolkit has no words for.
+// An open file, for what the toolkit has no words for.
 class Handle
 {
 public:
@@ -48,10 +49,9 @@ public:
             Refuse(ErrorNumber::DatabaseBusy, path_);
     }
 
-    // Some disks know no such thing for directories.
     void Sync() const
     {
-        if (fsync(descriptor_) != 0 && errno != EINVAL)
+        if (fsync(descriptor_) != 0)
             Refuse(errno == ENOSPC || errno == EDQUOT ? ErrorNumber::DiskFull : ErrorNumber::DeviceIo, path_);
     }
 
@@ -258,7 +258,7 @@ void ReplaceOldDatabase(const FileSystem& files, const FileIdentity& oldDatabase
     });
     // However it came there, it is on the disk before the old one loses its name.
     Handle(kept).Sync();
-    Handle(QFileInfo(kept).path()).Sync();
+    FlushName(kept);
     meanwhile();
     RequireSame(oldDatabase);
     // The engine would take what it once left beside a database of this name for a change of the new one.
@@ -267,7 +267,7 @@ void ReplaceOldDatabase(const FileSystem& files, const FileIdentity& oldDatabase
     fresh.TakeName();
     undone.dismiss();
     // What is written to the new file from now on must not be lost with its name.
-    Handle(QFileInfo(path).path()).Sync();
+    FlushName(path);
 }
 
 } // namespace lineforge

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QFileDevice>
+#include <QString>
+
+namespace lineforge
+{
+
+// From then on a power cut takes back neither what has been written to the file, nor that it stands under its name. The
+// errors of `NumberOfFailure` when the disk refuses.
+void FlushContent(QFileDevice& file);
+void FlushName(const QString& path);
+
+} // namespace lineforge
