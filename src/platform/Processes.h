@@ -17,8 +17,8 @@ public:
     // Starts a program on a file, maximised and with the focus, and goes on beside it. Gives back its task's number.
     // Error 53 when there is no such program, 5 when it can't be started.
     virtual qint64 Shell(const QString& program, const QString& file) = 0;
-    // From now on, to its end, this run works in that home directory, unless another one does already. Where that can't
-    // be told, as on some disks of other machines, nobody else does.
+    // From now on this run works in that home directory, and no longer in one that it has claimed before, unless
+    // another run works there already. Where that can't be told, as on some disks of other machines, nobody else does.
     virtual HomeOwner ClaimHome(const QString&) { return HomeOwner::ThisRun; }
 };
 

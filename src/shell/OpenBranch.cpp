@@ -7,6 +7,7 @@
 #include "program/AliasList.h"
 #include "program/BranchPaths.h"
 #include "program/BranchUi.h"
+#include "shell/HomeInUse.h"
 
 #include <QScopeGuard>
 
@@ -91,9 +92,12 @@ void ChangeHomeDirectory(Program& p)
         return;
 
     constexpr qsizetype fileNameLength = 13;
+    const QString home = file->chopped(std::min(fileNameLength, file->size()));
+    if (!MayWorkIn(p, home))
+        return;
     const QString homeBefore = p.Branch.HomeDir;
     const QString workBefore = p.Branch.WorkDir;
-    p.Branch.HomeDir = file->chopped(std::min(fileNameLength, file->size()));
+    p.Branch.HomeDir = home;
     p.Form8->Label1.Caption = u"Path: "_s + p.Branch.HomeDir;
     ReadAliasList(p);
     if (p.Alias.AliasAttr == FileSystem::ReadOnly) {
@@ -101,6 +105,7 @@ void ChangeHomeDirectory(Program& p)
         p.Branch.WorkDir = workBefore;
         p.Form8->Label1.Caption = u"Path: "_s + p.Branch.HomeDir;
         p.Alias.AliasAttr = 0;
+        p.Processes.ClaimHome(homeBefore);
     } else {
         FillBranchList(p);
     }

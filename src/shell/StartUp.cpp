@@ -3,6 +3,7 @@
 #include "platform/Picture.h"
 #include "program/AliasList.h"
 #include "program/BranchUi.h"
+#include "shell/HomeInUse.h"
 
 namespace lineforge
 {
@@ -51,6 +52,8 @@ void StartProgram(Program& p, const QString& home)
         p.FirstHome = home;
         p.Files.ChDir(home);
     }
+    if (!MayWorkIn(p, p.FirstHome))
+        p.Loop.End(0);
     p.form9.Load();
 }
 

@@ -33,6 +33,18 @@ TEST_F(CompactedMappingTest, NewSubject_BecomesARecordOfItsOwn)
     EXPECT_EQ(FileOf(0), u"A001"_s);
 }
 
+TEST_F(CompactedMappingTest, NewSubject_TakesNoNumberThatAnotherProgramHasGiven)
+{
+    GivenRecords({u"A001"_s});
+    ChooseNewRecord();
+    Execute("INSERT INTO Tree99 (File) VALUES ('A002')");
+
+    DoubleClickBox(0);
+
+    EXPECT_EQ(FilesOf(BranchA), QStringList({u"A001"_s, u"A002"_s, u"A003"_s}));
+    EXPECT_EQ(FileOf(0), u"A003"_s);
+}
+
 TEST_F(CompactedMappingTest, UnmappedSubject_IsTheOneNamed)
 {
     GivenRecords({u"A001"_s, u"A002"_s, u"A003"_s});

@@ -120,7 +120,8 @@ TEST_F(StartTest, Deb_StartsInTheUsersNewHome)
 
 TEST_F(StartTest, MainWindow_TellsTheDesktopItsEntryAndIcon)
 {
-    Start(tarHome + u"/lineforge");
+    // Not in the home that another test may be working in.
+    Start(launcher);
     const std::optional<ScreenWindow> window = AwaitWindow(MainTitle);
     ASSERT_TRUE(window);
     EXPECT_THAT(

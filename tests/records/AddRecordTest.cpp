@@ -29,12 +29,12 @@ protected:
         return SqliteFile(Home.Path(databaseFile)).Query("SELECT * FROM Tree99 WHERE " + where + " ORDER BY rowid");
     }
 
-    void ExpectQuestion(Answer answer)
+    void ExpectQuestion(Answer answer, ScriptedPrompts::WhileOpen whileOpen = {})
     {
         Prompts.Expect(u"New Database Record",
                        u"Adding a new Record here will not \n"
                        u"be mapped into the Tree system.",
-                       Buttons::InformationOkCancel, answer);
+                       Buttons::InformationOkCancel, answer, std::move(whileOpen));
     }
     void ExpectCreated(QStringView file, ScriptedPrompts::WhileOpen whileOpen = {})
     {
@@ -74,6 +74,19 @@ TEST_F(AddRecordTest, NewRecord_IsNumberedOn_HasNothingElse_AndIsCurrent)
     EXPECT_EQ(AllRows("File <> 'A004'"), before);
     for (const QString& field : RecordFields())
         EXPECT_EQ(Stored(qUtf8Printable(field), "A004").has_value(), field == u"File") << qUtf8Printable(field);
+}
+
+TEST_F(AddRecordTest, RecordThatAnotherProgramHasAddedMeanwhile_KeepsItsNumberToItself)
+{
+    ExpectQuestion(Answer::Ok, [this] { Execute("INSERT INTO Tree99 (File, Forename) VALUES ('A004', 'Eve')"); });
+    ExpectCreated(u"A005");
+
+    P.Form3->mnuAdd.Click();
+
+    EXPECT_EQ(Current(), u"A005"_s);
+    EXPECT_EQ(Stored("Forename", "A004"), u"Eve"_s);
+    Records(P).MovePrevious();
+    EXPECT_EQ(Current(), u"A004"_s) << "and is seen";
 }
 
 TEST_F(AddRecordTest, NewRecord_IsTheLastOfTheTable)

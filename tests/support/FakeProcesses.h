@@ -9,7 +9,8 @@
 namespace lineforge
 {
 
-// Starts nothing, and remembers what was to be started: program and file, one after the other.
+// Starts nothing, and remembers what was to be started: program and file, one after the other. Knows one other run at
+// most, of which it is told.
 class FakeProcesses : public Processes
 {
 public:
@@ -21,7 +22,15 @@ public:
         return Started.size();
     }
 
+    HomeOwner ClaimHome(const QString& home) override
+    {
+        Claimed << home;
+        return Owner;
+    }
+
     QStringList Started;
+    QStringList Claimed;
+    HomeOwner Owner = HomeOwner::ThisRun; // of every home
 };
 
 } // namespace lineforge

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "platform/Processes.h"
+#include "platform/qt/HomeClaim.h"
+
+#include <memory>
 
 namespace lineforge
 {
@@ -9,6 +12,10 @@ class QtProcesses : public Processes
 {
 public:
     qint64 Shell(const QString& program, const QString& file) override;
+    HomeOwner ClaimHome(const QString& home) override;
+
+private:
+    std::unique_ptr<HomeClaim> claim_;
 };
 
 } // namespace lineforge
