@@ -164,17 +164,25 @@ void DataControl::Settle()
     if (!stale_)
         return;
     std::vector<QString> texts(bindings_.size());
-    if (records_) {
-        records_->Rest();
-        // Refused here, the next reading tries again.
-        if (records_->HasRow())
+    const auto show = [&] {
+        stale_ = false;
+        for (std::size_t at = 0; records_ && at < bindings_.size(); ++at)
+            bindings_[at].Text->Show(texts[at]);
+    };
+    try {
+        if (records_)
+            records_->Rest();
+        if (records_ && records_->HasRow())
             std::ranges::transform(bindings_, texts.begin(),
                                    [this](const Binding& binding) { return records_->Text(binding.Field); });
+    } catch (const RuntimeError&) {
+        // The next reading tries again. Until then no other record's texts stand there.
+        texts.assign(texts.size(), QString());
+        show();
+        stale_ = true;
+        throw;
     }
-    stale_ = false;
-    if (records_)
-        for (std::size_t at = 0; at < bindings_.size(); ++at)
-            bindings_[at].Text->Show(texts[at]);
+    show();
 }
 
 void DataControl::Release()

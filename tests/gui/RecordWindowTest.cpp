@@ -1,4 +1,5 @@
 #include "gui/ProgramWindowTest.h"
+#include "platform/OtherPrograms.h"
 #include "program/WorkDatabase.h"
 #include "support/SqliteFile.h"
 
@@ -67,6 +68,30 @@ protected:
             .Value(QByteArray("SELECT ") + field + " FROM Tree99 WHERE File = '" + file + "'");
     }
 };
+
+TEST_F(RecordWindowTest, DatabaseInUse_AsksOverTheForm_UnderWhichNothingMoves_AndTheTextStays)
+{
+    P.Databases.Others().Milliseconds = 0;
+    Type(u"Text2"_s, u"Brown"_s);
+    auto other = std::make_unique<SqliteFile>(Home.Path(u"LfgDat_A/LfgDat_A.mdb"));
+    other->Execute("BEGIN EXCLUSIVE");
+    Prompts.Expect(u"Database in use", u"The Database is in use by another program.", Buttons::InformationRetryCancel,
+                   Answer::Cancel, [this] {
+                       PressBar(u"Data1Last"_s);
+                       ViewOf(*P.Form3).grab();
+                       EXPECT_EQ(Line(u"Text2"_s).text(), u"Brown"_s);
+                   });
+
+    PressBar(u"Data1Next"_s);
+
+    EXPECT_EQ(ShownNumber(), u"A001"_s);
+    EXPECT_EQ(Line(u"Text2"_s).text(), u"Brown"_s);
+    other.reset();
+    PressBar(u"Data1Next"_s);
+    EXPECT_EQ(ShownNumber(), u"A002"_s);
+    EXPECT_EQ(Stored("Surname"), u"Brown"_s);
+    EXPECT_EQ(Refusals(), std::vector<int>({3260, 3260}));
+}
 
 TEST_F(RecordWindowTest, RecordsButton_ShowsTheRecord_WithItsPicture)
 {

@@ -237,17 +237,43 @@ TEST_F(LockedDatabaseTest, WhereNobodyIsToBeAsked_IsRefusedUntold)
     EXPECT_EQ(questions, 0);
 }
 
-TEST_F(LockedDatabaseTest, WhatIsTyped_StaysInItsBox_AndIsStoredLater)
+// The same with a window's box.
+class LockedBoxTest : public LockedDatabaseTest
 {
+protected:
+    LockedBoxTest()
+    {
+        data.DatabaseName = u"people.db"_s;
+        data.RecordSource = u"People"_s;
+        data.Bind(name, u"Name"_s);
+        data.Refresh(databases, files);
+        data.Settle();
+    }
+
     struct : Container {
     } window;
     DataControl data{window, u"Data1", {}, u"Lineforge"};
     TextBox name{window, u"Text1", {}};
-    data.DatabaseName = u"people.db"_s;
-    data.RecordSource = u"People"_s;
-    data.Bind(name, u"Name"_s);
-    data.Refresh(databases, files);
-    data.Settle();
+};
+
+TEST_F(LockedBoxTest, RowThatCannotBeRead_ShowsNobodyElsesText_AndNothingIsTypedIntoIt)
+{
+    data.Records().MoveNext();
+    data.Records().Rest();
+    Lock(0);
+
+    EXPECT_EQ(ToldRefusalOf([&] { data.Settle(); }), ErrorNumber::DatabaseBusy);
+    EXPECT_EQ(name.Text.Shown(), QString());
+    EXPECT_EQ(ToldRefusalOf([&] { name.Text = u"x"_s; }), ErrorNumber::DatabaseBusy);
+
+    other.reset();
+    EXPECT_EQ(name.Text.value(), u"Bob");
+    data.Records().MoveNext();
+    EXPECT_EQ(Stored(), QStringList({u"Ann"_s, u"Bob"_s, u"Cid"_s}));
+}
+
+TEST_F(LockedBoxTest, WhatIsTyped_StaysInItsBox_AndIsStoredLater)
+{
     name.Text = u"Anna"_s;
     Lock(0);
 
