@@ -330,6 +330,8 @@ TEST_F(OldDatabaseTest, FileThatChangesWhileABoxIsOpen_IsNotConverted)
                    u"What that program writes from now on is not taken over.",
                    Buttons::Information, Answer::Ok,
                    [&] { Home.WriteFile(u"LfgDat_A/LfgDat_A.mdb", FixtureBytes(u"jet4/rows999.mdb"_s)); });
+    Prompts.Expect(u"Database in use", u"The Database is in use by another program.", Buttons::InformationRetryCancel,
+                   Answer::Cancel);
 
     EXPECT_EQ(RefusalOf([&] { PointAtDatabase(P, path); }), ErrorNumber::DatabaseBusy);
 

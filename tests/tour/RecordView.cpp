@@ -7,6 +7,11 @@ namespace lineforge::tour
 
 using namespace Qt::StringLiterals;
 
+namespace
+{
+const QString title = u"Lineforge Victoria and Albert Records."_s;
+}
+
 ScreenWindow OpenRecords(Tour& tour)
 {
     tour.Hands.Click(tour.OnMain(tour.MainForm.Command1).center());
@@ -15,7 +20,7 @@ ScreenWindow OpenRecords(Tour& tour)
 
 ScreenWindow AwaitPaintedRecords(Tour& tour)
 {
-    const ScreenWindow records = AwaitRecords(tour);
+    const ScreenWindow records = tour.AwaitFront(title);
     // On a busy machine a window is there before anything is seen in it.
     tour.Await(u"the form to be painted"_s,
                [&] { return HoldsBlackLetters(PictureOnRecords(tour, tour.RecordForm.Label12)); });
@@ -24,7 +29,7 @@ ScreenWindow AwaitPaintedRecords(Tour& tour)
 
 ScreenWindow AwaitRecords(Tour& tour)
 {
-    return tour.AwaitWindow(u"Lineforge Victoria and Albert Records."_s);
+    return tour.AwaitWindow(title);
 }
 
 void ReturnToMap(Tour& tour)

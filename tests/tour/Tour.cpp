@@ -54,6 +54,18 @@ ScreenWindow Tour::AwaitWindow(const QString& title)
     return *found;
 }
 
+ScreenWindow Tour::AwaitFront(const QString& title)
+{
+    const ScreenWindow window = AwaitWindow(title);
+    Await(u"the window \"%1\" before the others"_s.arg(title), [&] {
+        const std::vector<ScreenWindow> windows = Screen.Windows();
+        const auto front =
+            std::find_if(windows.rbegin(), windows.rend(), [](const ScreenWindow& other) { return !other.IsPopup; });
+        return front != windows.rend() && front->Id == window.Id;
+    });
+    return window;
+}
+
 void Tour::AwaitGone(const ScreenWindow& window)
 {
     Await(u"the window \"%1\" to go"_s.arg(window.Title), [&] { return !Screen.Find(window.Id); });

@@ -50,6 +50,8 @@ public:
     void Await(const QString& what, const std::function<bool()>& condition);
     // The window that comes gets the keyboard; when it goes, the topmost of the others.
     ScreenWindow AwaitWindow(const QString& title);
+    // In front of the others as well: one that was hidden comes back behind them, and is then raised.
+    ScreenWindow AwaitFront(const QString& title);
     void AwaitGone(const ScreenWindow& window);
     // Until the program has ended by itself with exit code 0.
     void AwaitEnd();

@@ -24,7 +24,7 @@ std::vector<FiledBox> FiledBoxes(const Tour& tour)
 ScreenWindow ShowOptions(Tour& tour)
 {
     Choose(tour, tour.MainForm.mnuTreeGraphics, tour.MainForm.mnuMapSubject);
-    return tour.AwaitWindow(tour.MappingForm.Caption);
+    return tour.AwaitFront(tour.MappingForm.Caption);
 }
 
 void ClickOption(Tour& tour, const ScreenWindow& options, const Control& control)
