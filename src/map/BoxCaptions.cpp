@@ -139,10 +139,10 @@ void DrawCaption(Program& p, Siblings& siblings, int row)
 {
     p.Scratch.IdxA = row;
     const QString letter = FiledNumber(p, row).left(1);
-    if (letter.isEmpty() || letter == u"0")
+    if (letter.isEmpty() || letter == u"0" || !HasPlace(p.Map, row))
         return;
     const bool isOwn = SameText(letter, BranchLetter(p.Branch.WorkDir));
-    // A box at no possible place costs its own caption, not those of the boxes behind it.
+    // A caption that can't be told costs none of those behind it.
     p.Errors.Ignoring([&] {
         // The neighbours of an imported branch can't be reached. Their numbers, too, stand in their own boxes.
         if (isOwn || IsImported(p.Branch.WorkDir)) {
@@ -154,12 +154,12 @@ void DrawCaption(Program& p, Siblings& siblings, int row)
     });
 }
 
-// The boxes by the records that they hold.
+// The boxes that stand anywhere by the records that they hold.
 QMultiHash<QString, int> BoxesByRecord(const MapState& map)
 {
     QMultiHash<QString, int> boxes;
     for (int row = LastFiledBox; row >= 0; --row)
-        if (const QString file = map.BoxArr[row][BoxColumn::File].Text(); !file.isEmpty())
+        if (const QString file = map.BoxArr[row][BoxColumn::File].Text(); !file.isEmpty() && HasPlace(map, row))
             boxes.insert(file.toCaseFolded(), row);
     return boxes;
 }
@@ -208,7 +208,9 @@ void DrawBoxNumber(Program& p)
 {
     if (IsPlacingSubject(p))
         FindBoxOfRecord(p);
-    PrintCaption(p, CaptionPlace(p, NumberInBox, 40), FiledNumber(p, p.Scratch.IdxA));
+    // A record without a box has no place for its number, and the place in hand is another's.
+    if (p.Scratch.IdxA <= LastFiledBox)
+        PrintCaption(p, CaptionPlace(p, NumberInBox, 40), FiledNumber(p, p.Scratch.IdxA));
 }
 
 void DrawBoxCaptions(Program& p)
@@ -244,6 +246,13 @@ void WipeCaption(Program& p, int row)
     WipeTexts(p, PlaceIn(p, row, ForenameInBox));
 }
 
+void TieBox(Program& p, int row, const QString& file, const QString& forename)
+{
+    WipeCaption(p, row);
+    p.Map.BoxArr[row][BoxColumn::File] = file;
+    p.Map.BoxArr[row][BoxColumn::Forename] = FiledForename(forename);
+}
+
 void RenameBox(Program& p, int row, const QString& forename)
 {
     const Point place = PlaceIn(p, row, ForenameInBox);
@@ -265,8 +274,7 @@ std::optional<int> RowToErase(Program& p)
 
 void EmptyBox(Program& p, int row)
 {
-    WipeCaption(p, row);
-    p.Map.BoxArr[row][BoxColumn::File] = 0;
+    TieBox(p, row, u"0"_s, {});
     ResetMapFont(p.Form1->Picture1);
     p.Form1->Picture1.ForeColor = Black;
 }

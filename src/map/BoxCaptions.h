@@ -28,11 +28,12 @@ void FitForename(Program& p);
 void DrawRecordInBox(Program& p, const Recordset& row);
 void DrawRecordInBox(Program& p);
 
-// Prints the number that row `IdxA` of the boxes holds, at `BoxX`, `BoxY`.
+// Prints the number that row `IdxA` of the boxes holds, at `BoxX`, `BoxY`; behind the filed rows there is none. While a
+// subject is being mapped or moved it is the current record's, in its own box.
 void DrawBoxNumber(Program& p);
 
-// Prints the number in each box that has one, and the forename too where the record is another branch's. A box at an
-// impossible place is passed over, here and below.
+// Prints the number in each box that has one, and the forename too where the record is another branch's. A free row, or
+// a box at an impossible place, is passed over, here and below.
 void DrawBoxCaptions(Program& p);
 
 // Walks the open branch's table once and prints each record in every box that holds it; ends at `Eof`.
@@ -41,8 +42,12 @@ void DrawRecordsInBoxes(Program& p);
 // Overprints in the background colour what stands in the box of that row. The row keeps its number.
 void WipeCaption(Program& p, int row);
 
-// The one way in which a box gets another forename: in its row, and on the picture in the place of what stands there.
-// The list of boxes follows when it is rebuilt. The pen is black afterwards.
+// Wipes what stands in the box of that row and gives it that record, number and forename. The caption is still to be
+// printed.
+void TieBox(Program& p, int row, const QString& file, const QString& forename);
+
+// The one way in which a box gets another forename of its record: in its row, and on the picture in the place of what
+// stands there. The list of boxes follows when it is rebuilt. The pen is black afterwards.
 void RenameBox(Program& p, int row, const QString& forename);
 
 // The row of the current record's box, for `EmptyBox`; nothing without a box, or where it is the last.

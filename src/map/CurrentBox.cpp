@@ -43,7 +43,7 @@ int RowOfRecord(const MapState& map, const FieldValue& file)
 bool HasPlace(const MapState& map, int row)
 {
     const auto& box = map.BoxArr[row];
-    return FitsPlace(box[BoxColumn::X]) && FitsPlace(box[BoxColumn::Y]);
+    return !box[BoxColumn::X].IsZero() && FitsPlace(box[BoxColumn::X]) && FitsPlace(box[BoxColumn::Y]);
 }
 
 void TakeBoxPosition(Program& p, int row)

@@ -14,11 +14,11 @@ void FindBoxOfRecord(Program& p);
 // there.
 void MarkCurrentBox(Program& p);
 
-// The first filed row whose box holds that record, or the row behind the last. A box at no possible place holds nobody:
-// there is nothing to be marked or printed in.
+// The first filed row whose box holds that record, or the row behind the last. A free row, or a box at no possible
+// place, holds nobody: there is nothing to be marked or printed in.
 int RowOfRecord(const MapState& map, const FieldValue& file);
 
-// Whether the position of that row's box is two whole numbers of 16 bits.
+// Whether the box of that row stands somewhere: the row isn't free, and its position two whole numbers of 16 bits.
 bool HasPlace(const MapState& map, int row);
 
 // `BoxX`, `BoxY` from a row of the boxes. Error 13 or 6 for a position that is no whole number of 16 bits.

@@ -1,11 +1,18 @@
 #include "map/HitTest.h"
 
+#include "map/CurrentBox.h"
+
 namespace lineforge
 {
 
+bool HasPosition(const Cell& x, const Cell& y)
+{
+    return !x.IsZero() && x.IsNumber() && y.IsNumber();
+}
+
 bool IsPressInside(const Program& p, const Cell& x, const Cell& y, Size size)
 {
-    if (x.IsZero() || !x.IsNumber() || !y.IsNumber())
+    if (!HasPosition(x, y))
         return false;
     const int left = x.Number();
     const int top = y.Number();
@@ -22,7 +29,7 @@ bool PressIsInBox(const Program& p, int row)
 namespace
 {
 // The first box under the press, or the row behind `SBoxes`.
-int PressedRow(const Program& p)
+int FirstPressed(const Program& p)
 {
     int row = 0;
     while (row <= p.Map.SBoxes && !PressIsInBox(p, row))
@@ -31,23 +38,24 @@ int PressedRow(const Program& p)
 }
 } // namespace
 
-bool IsAnyBoxPressed(const Program& p)
+std::optional<int> PressedRow(const Program& p)
 {
-    return p.Map.SBoxes != 0 && PressedRow(p) <= p.Map.SBoxes;
+    const int row = FirstPressed(p);
+    return p.Map.SBoxes != 0 && row <= p.Map.SBoxes ? std::optional(row) : std::nullopt;
 }
 
 void HitBox(Program& p)
 {
     if (p.Map.SBoxes == 0)
         return;
-    p.Mouse.BoxIdx = PressedRow(p);
+    p.Mouse.BoxIdx = FirstPressed(p);
     p.Mouse.BoxMiss = p.Mouse.BoxIdx > p.Map.SBoxes ? 1 : 0;
 }
 
 bool FindsBox(Program& p)
 {
     HitBox(p);
-    if (p.Mouse.BoxMiss == 0 && p.Map.BoxArr[p.Mouse.BoxIdx][BoxColumn::X].IsZero())
+    if (p.Mouse.BoxMiss == 0 && !HasPlace(p.Map, p.Mouse.BoxIdx))
         p.Mouse.BoxMiss = 1;
     return p.Mouse.BoxMiss == 0;
 }

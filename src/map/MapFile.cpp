@@ -6,6 +6,8 @@
 
 #include <QScopeGuard>
 
+#include <algorithm>
+
 namespace lineforge
 {
 
@@ -14,6 +16,17 @@ using namespace Qt::StringLiterals;
 namespace
 {
 constexpr int fileNameLength = 12; // of "LfgDat_A.cfg"
+
+bool BreaksList(QChar character)
+{
+    return QStringView(u",[\r\n").contains(character);
+}
+
+// Without what breaks the list a number might be another record's: such a box is empty in the file.
+QString FiledNumber(const Cell& file)
+{
+    return FitsList(file.Text()) ? file.Text() : u"0"_s;
+}
 
 void Append(QString& list, QChar character)
 {
@@ -118,9 +131,13 @@ void EraseMap(Program& p)
 
 QString FiledForename(QString forename)
 {
-    for (const QChar breaking : u",[\r\n")
-        forename.remove(breaking);
+    forename.removeIf(BreaksList);
     return forename;
+}
+
+bool FitsList(QStringView value)
+{
+    return std::ranges::none_of(value, BreaksList);
 }
 
 void ReadMapFile(Program& p)
@@ -165,11 +182,12 @@ QString ListOfBoxes(const MapState& map)
 {
     QString list;
     for (int row = 0; row <= LastFiledBox; ++row) {
-        if (map.BoxArr[row][BoxColumn::X].IsZero())
+        const auto& box = map.BoxArr[row];
+        if (box[BoxColumn::X].IsZero())
             continue;
-        for (int column = 0; column < BoxColumn::Forename; ++column)
-            list += map.BoxArr[row][column].Text() + u',';
-        list += FiledForename(map.BoxArr[row][BoxColumn::Forename].Text()) + u',';
+        for (int column = 0; column < BoxColumn::File; ++column)
+            list += box[column].Text() + u',';
+        list += FiledNumber(box[BoxColumn::File]) + u',' + FiledForename(box[BoxColumn::Forename].Text()) + u',';
     }
     return list;
 }

@@ -18,6 +18,9 @@ void EraseMap(Program& p);
 // or the end of a line breaks the whole list. It stands so in the array and in its box, too.
 QString FiledForename(QString forename);
 
+// Whether a value can stand in a list of the map: without a comma, a "[" and a line break.
+bool FitsList(QStringView value);
+
 // Fills the three lists of the branch in `WorkDir`, and says which of them came out empty. A file that isn't there
 // leaves the lists as they were. Error 62 when it ends inside the boxes or the lines.
 void ReadMapFile(Program& p);

@@ -31,20 +31,20 @@ bool IsTransferPending(const Program& p)
     return p.Tools.MapCursorMode == MapCursor::Repositioning && p.Screen.Pointer == MousePointer::Cross;
 }
 
-// Puts the current record's number into the box that was pressed, in the place of whatever it holds, and takes it out
-// of its old one.
+// Puts the current record into the box that was pressed, in the place of whatever it holds, and takes it out of its old
+// one.
 void MoveLinkToPressedBox(Program& p)
 {
     EraseBoxCaption(p);
     HitBox(p);
-    WipeCaption(p, p.Mouse.BoxIdx);
-    p.Map.BoxArr[p.Mouse.BoxIdx][BoxColumn::File] = Records(p).Text(u"File");
+    TieBox(p, p.Mouse.BoxIdx, Records(p).Text(u"File"), Records(p).Text(u"Forename"));
 }
 
 // Writes the boxes to the map's own branch although a record of another one is shown. Leaves the other branch opened
-// afresh, on its first record; so it is meant to be.
+// afresh, on the same record.
 void SaveBoxesOfOwnBranch(Program& p)
 {
+    const QString file = Records(p).Text(u"File");
     OpenSwappedBranch(p);
     p.Branch.UsingAlternate = 0;
     SaveBoxes(p);
@@ -52,10 +52,11 @@ void SaveBoxesOfOwnBranch(Program& p)
     OpenSwappedBranch(p);
     stays.dismiss();
     p.Branch.UsingAlternate = 1;
+    Records(p).Seek(u"File", file);
 }
 
-// False when there is no record to be transferred. Beside all boxes the transfer waits for a better double click, with
-// its cross and the old box.
+// False when there is no record to be transferred. Beside all boxes, or on one that isn't saved, the transfer waits for
+// a better double click, with its cross and the old box.
 bool FinishTransfer(Program& p)
 {
     if (Records(p).IsEmpty()) {
@@ -63,7 +64,7 @@ bool FinishTransfer(Program& p)
         ClearMapCursor(p);
         return false;
     }
-    if (!IsAnyBoxPressed(p))
+    if (const std::optional<int> row = PressedRow(p); !row || *row > LastFiledBox)
         return false;
     if (p.Branch.UsingAlternate == 1) {
         p.Record.sAltName = Records(p).Text(u"ForeName");
@@ -135,10 +136,10 @@ void MapPressedBox(Program& p)
         MapNewSubject(p);
 }
 
-// A record without a gender leaves the marker where the last subject's was.
+// A record without a gender leaves the marker where the last subject's was; so does one that is gone meanwhile.
 void MarkSubject(Program& p)
 {
-    if (Records(p).Text(u"Gender").isEmpty())
+    if (!Records(p).HasRow() || Records(p).Text(u"Gender").isEmpty())
         return;
     MarkCurrentBox(p);
     // The first double click of a re-positioning has chosen the old place; the cross waits for the new one.
@@ -165,7 +166,7 @@ void PressOnMap(Program& p, double x, double y)
     if (p.Map.SBoxes == 0)
         return;
     p.Mouse.BoxMiss = 0;
-    if (IsAnyBoxPressed(p)) {
+    if (PressedRow(p)) {
         p.Form1->MMControl1.Command(u"Sound");
         p.Loop.DoEvents();
     }

@@ -1,6 +1,7 @@
 #include "map/SubjectMapping.h"
 
 #include "map/BoxCaptions.h"
+#include "map/CurrentBox.h"
 #include "map/HitTest.h"
 #include "map/MapFile.h"
 #include "map/SubjectPanel.h"
@@ -56,24 +57,23 @@ void TellNotPresent(Program& p, const QString& text)
     StopMapping(p);
 }
 
-// The row of the pressed box; none beside all boxes. A lone box isn't searched for: wherever the press was, it is the
-// one.
+// The row of the pressed box; none beside all boxes. A lone box isn't searched for, but has to be pressed as well.
 std::optional<int> PressedBox(Program& p)
 {
     p.Mouse.BoxX = p.Mouse.BoxLeft;
     p.Mouse.BoxY = p.Mouse.BoxTop;
-    return FindsBox(p) ? std::optional<int>(p.Mouse.BoxIdx) : std::nullopt;
+    if (p.Map.SBoxes == 0)
+        return PressIsInBox(p, 0) ? std::optional(0) : std::nullopt;
+    HitBox(p);
+    return p.Mouse.BoxMiss == 0 ? std::optional<int>(p.Mouse.BoxIdx) : std::nullopt;
 }
 
-// Without a box the number goes into none. Whatever stood in it is wiped; the new caption comes with the return from
-// the record form.
-void LinkBox(Program& p, std::optional<int> row, const QString& file)
+// Without a box the number goes into none. The new caption comes with the return from the record form.
+void LinkBox(Program& p, std::optional<int> row, const QString& file, const QString& forename = {})
 {
     p.Mapping.NewFile = file;
-    if (!row)
-        return;
-    WipeCaption(p, *row);
-    p.Map.BoxArr[*row][BoxColumn::File] = file;
+    if (row)
+        TieBox(p, *row, file, forename);
 }
 
 // The first number that the records, in their stored order, run out of. It never starts over, so that numbers which
@@ -120,11 +120,11 @@ void MapFirstRecord(Program& p)
     p.Record.sCurFile = p.Mapping.NewFile;
 }
 
-// False, and a box, when no number of four characters was entered.
+// False, and a box, when no number of four characters was entered, or one that would break the map file.
 bool TakeEnteredNumber(Program& p)
 {
     p.Record.sCurFile = p.Form7->Text1.Text;
-    if (p.Record.sCurFile.size() == numberLength)
+    if (p.Record.sCurFile.size() == numberLength && FitsList(p.Record.sCurFile))
         return true;
     TellNotPresent(p, u"Incorrect Record Number "_s);
     return false;
@@ -143,10 +143,7 @@ bool MapUnmappedRecord(Program& p)
 {
     if (!TakeEnteredNumber(p) || !StandOnEnteredRecord(p))
         return false;
-    const std::optional<int> row = PressedBox(p);
-    LinkBox(p, row, p.Record.sCurFile);
-    if (row)
-        p.Map.BoxArr[*row][BoxColumn::Forename] = FiledForename(Records(p).Text(u"Forename"));
+    LinkBox(p, PressedBox(p), p.Record.sCurFile, Records(p).Text(u"Forename"));
     p.Mapping.MapOption = newRecord;
     SaveBoxes(p);
     return true;
@@ -209,15 +206,25 @@ bool CopyChosenPicture(Program& p)
     return chosen.has_value();
 }
 
+void ShowPicture(Program& p, const QImage& picture)
+{
+    p.Form3->Image1.Picture = picture;
+    p.Form1->Image1.Picture = picture;
+}
+
+// Whoever was shown before has neither picture nor marker any more, whatever becomes of the current record's.
+void TakeMarker(Program& p)
+{
+    ShowPicture(p, QImage());
+    MarkCurrentBox(p);
+}
+
 // Without a mapping so far there is no file, and nothing to be seen.
 void ShowMappedPicture(Program& p)
 {
-    const QString& file = p.Mapping.PictureFile;
-    const QImage picture = file.isEmpty() ? QImage() : p.Pictures.Load(p.Files, file);
-    p.Form3->Image1.Picture = picture;
-    p.Form1->Image1.Picture = picture;
+    if (const QString& file = p.Mapping.PictureFile; !file.isEmpty())
+        ShowPicture(p, p.Pictures.Load(p.Files, file));
     p.Form1->Image1.Visible = true;
-    p.Form1->Shape1.Visible = true;
     p.Screen.Pointer = MousePointer::Default;
 }
 
@@ -225,6 +232,7 @@ void ShowMappedPicture(Program& p)
 void GiveNewSubjectItsPicture(Program& p)
 {
     NamePictureFile(p);
+    p.Errors.Ignoring([&] { TakeMarker(p); });
     p.Errors.Ignoring([&] {
         if (p.Mapping.PictureOption == selectNow) {
             if (!CopyChosenPicture(p))
@@ -302,12 +310,11 @@ void MapNewSubject(Program& p)
     else if (!MapByOption(p))
         return;
     GiveNewSubjectItsPicture(p);
+    FillSubjectLabels(p);
     // The record form stays in front, for the new record is to be written now; one of another branch stands there
     // already.
-    if (p.Branch.UsingAlternate == 1) {
-        FillSubjectLabels(p);
+    if (p.Branch.UsingAlternate == 1)
         p.Form1->Show();
-    }
 }
 
 void AskSubjectPicture(Program& p)
@@ -327,6 +334,7 @@ void AskSubjectPicture(Program& p)
             if (!CopyChosenPicture(p))
                 return;
         }
+        TakeMarker(p);
         ShowMappedPicture(p);
     });
 }

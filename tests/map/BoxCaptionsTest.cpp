@@ -159,6 +159,17 @@ TEST_F(BoxCaptionsTest, RecordOnPaper_HasThreeLinesBelowTheStretchedTop)
     EXPECT_TRUE(IsBlank(Picture));
 }
 
+TEST_F(BoxCaptionsTest, RecordOnPaper_ForenameWithWhatBreaksTheFile_IsPrintedAsTheFileHasIt)
+{
+    givenRecord(u"Jo, [An");
+    givenPosition({1000, 500});
+    givenPrinting();
+
+    DrawRecordInBox(P);
+
+    EXPECT_EQ(Page.Take().at(1), u"Print 2250,1030 \"Jo An\" Arial 8 colour 0"_s);
+}
+
 TEST_F(BoxCaptionsTest, RecordOnPaper_KeepsThePagesFont)
 {
     givenRecord(u"John", u"71");
@@ -295,6 +306,43 @@ TEST_F(BoxCaptionsTest, AllNumbers_BoxesBeyondTheHundredth_HaveNone)
 
     DrawBoxCaptions(P);
     DrawRecordsInBoxes(P);
+
+    EXPECT_TRUE(IsBlank(Picture));
+}
+
+TEST_F(BoxCaptionsTest, FreeRow_HasNoCaption)
+{
+    givenRecord(u"John");
+    givenBox(0, {0, 500}, u"A001");
+    givenBox(1, {0, 900}, u"A009");
+
+    DrawBoxCaptions(P);
+    DrawRecordsInBoxes(P);
+
+    EXPECT_TRUE(IsBlank(Picture));
+}
+
+TEST_F(BoxCaptionsTest, FreeRow_HasNoCaptionOnPaper)
+{
+    givenRecord(u"John");
+    givenBox(0, {0, 500}, u"A001");
+    givenPrinting();
+
+    DrawBoxCaptions(P);
+    DrawRecordsInBoxes(P);
+
+    EXPECT_EQ(Page.Take(), QStringList());
+}
+
+// The row behind the last filed one is where the search for its box has ended.
+TEST_F(BoxCaptionsTest, AllNumbers_WhileARecordWithoutABoxIsPlaced_StandInNoOtherBox)
+{
+    givenRecord(u"John");
+    givenBox(0, {1000, 500}, u"A002");
+    givenBox(100, {3000, 500}, u"A009");
+    P.Tools.MapCursorMode = MapCursor::Mapping;
+
+    DrawBoxCaptions(P);
 
     EXPECT_TRUE(IsBlank(Picture));
 }

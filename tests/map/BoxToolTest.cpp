@@ -260,6 +260,21 @@ TEST_F(BoxToolTest, MoveInAnEmptyBranch_Works)
     EXPECT_TRUE(IsAsPaintedAfresh());
 }
 
+// A row at X 0 is free: the box is lost at the save.
+TEST_F(BoxToolTest, MoveMappedBox_ToAnXOfZero_HasNoCaptionThere)
+{
+    BranchA.Boxes(u"1000,500,255,A001,John,2000,500,255,A002,Jane,");
+    GivenTools();
+    Choose(18);
+
+    Drag({{1300, 600}, {300, 600}});
+
+    ASSERT_EQ(Box(0)[BoxColumn::X], u"0"_s);
+    EXPECT_EQ(CountPixels(Picture, Black, {0, 400, 1700, 500}), 0);
+    EXPECT_EQ(P.Tools.MapCursorMode, 0);
+    EXPECT_EQ(Current(), u"A001"_s);
+}
+
 TEST_F(BoxToolTest, MovePressAndRelease_ChangesNothing)
 {
     GivenTools();

@@ -126,6 +126,31 @@ TEST_F(CurrentBoxTest, BoxAtNoPossiblePlace_IsNoBoxOfTheRecord)
     }
 }
 
+TEST_F(CurrentBoxTest, FreeRow_IsNoBoxOfTheRecord)
+{
+    givenRecord();
+    givenBox(0, {0, 500}, u"A001");
+    givenPosition({11, 12});
+    Marker.Visible = true;
+
+    FindBoxOfRecord(P);
+    EXPECT_EQ(P.Scratch.IdxA, 100);
+    MarkCurrentBox(P);
+
+    EXPECT_EQ(Position(), (Point{11, 12}));
+    EXPECT_FALSE(Marker.Visible);
+}
+
+TEST_F(CurrentBoxTest, BoxAtTheVeryTop_IsOne)
+{
+    givenRecord();
+    givenBox(0, {1000, 0}, u"A001");
+
+    FindBoxOfRecord(P);
+
+    EXPECT_EQ(Position(), (Point{1000, 0}));
+}
+
 TEST_F(CurrentBoxTest, BoxAtNoPossiblePlace_AnotherBoxOfTheRecordIsFound)
 {
     givenRecord();

@@ -73,10 +73,12 @@ TEST_F(EraseBoxCaptionTest, BoxOfTheRecord_IsEmptyAfterwards)
 {
     givenRecord(u"John");
     givenBox(7, {1000, 500}, u"a001");
+    P.Map.BoxArr[7][BoxColumn::Forename] = u"John"_s;
 
     EraseBoxCaption(P);
 
     EXPECT_EQ(FileOf(7), u"0"_s);
+    EXPECT_EQ(P.Map.BoxArr[7][BoxColumn::Forename].Text(), QString());
     EXPECT_EQ(P.Scratch.IdxA, 7);
     EXPECT_EQ(P.Map.BoxArr[7][BoxColumn::X].Number(), 1000);
 }

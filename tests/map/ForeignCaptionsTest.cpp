@@ -18,7 +18,8 @@ protected:
                       .Row({{u"File", u"A002"}, {u"Forename", u"Anne"}}));
         BranchB.Row({{u"File", u"B001"}, {u"Forename", u"Beatrice"}})
             .Row({{u"File", u"B002"}})
-            .Row({{u"File", u"B003"}, {u"Forename", u"Bob"}, {u"BirthDate", u"1 May 1871"}});
+            .Row({{u"File", u"B003"}, {u"Forename", u"Bob"}, {u"BirthDate", u"1 May 1871"}})
+            .Row({{u"File", u"B004"}, {u"Forename", u"Jo, [An"}});
     }
 
     // Draws them all; whatever the siblings are like, the program stands on its own branch afterwards, on the same
@@ -74,6 +75,40 @@ TEST_F(ForeignCaptionsTest, NumberInLowerCase_IsShownAsTheRecordHasIt)
     Expected->PrintAt({1100, 500}, u"B003"_s);
     Expected->PrintAt({1050, 600}, u"Bob"_s);
     EXPECT_TRUE(SameDrawing(Picture, *Expected));
+}
+
+TEST_F(ForeignCaptionsTest, ForenameWithWhatBreaksTheFile_IsPrintedAsTheFileWouldHaveIt)
+{
+    BranchB.Build();
+    givenBox(0, {1000, 500}, u"B004");
+
+    Draw();
+
+    Expected->PrintAt({1100, 500}, u"B004"_s);
+    Expected->PrintAt({1050, 600}, u"Jo An"_s);
+    EXPECT_TRUE(SameDrawing(Picture, *Expected));
+}
+
+TEST_F(ForeignCaptionsTest, OnPaper_ForenameWithWhatBreaksTheFile_IsPrintedAsTheFileWouldHaveIt)
+{
+    BranchB.Build();
+    givenBox(0, {1000, 500}, u"B004");
+    givenPrinting();
+
+    Draw();
+
+    EXPECT_EQ(Page.Take().at(1), u"Print 2250,1030 \"Jo An\" Arial 8 colour 0"_s);
+}
+
+TEST_F(ForeignCaptionsTest, FreeRow_HasNoCaption)
+{
+    BranchB.Build();
+    givenBox(0, {0, 500}, u"B001");
+    givenBox(1, {0, 900}, u"B009");
+
+    Draw();
+
+    EXPECT_TRUE(IsBlank(Picture));
 }
 
 TEST_F(ForeignCaptionsTest, SeveralSiblings_EachBoxGetsItsOwn)

@@ -249,7 +249,7 @@ TEST_F(LineageMarksTest, View_BoxBehindTheFiledOnes_IsNotFound)
     EXPECT_EQ(PlaceOf(1), (Point{-40, -40}));
 }
 
-TEST_F(LineageMarksTest, View_BoxInTheCorner_IsFramed)
+TEST_F(LineageMarksTest, View_PlaceInTheCorner_GetsItsFrame)
 {
     GivenSmithAt({0, 0});
 
@@ -260,14 +260,15 @@ TEST_F(LineageMarksTest, View_BoxInTheCorner_IsFramed)
     EXPECT_EQ(Machine.Loop.Yields, 0);
 }
 
-TEST_F(LineageMarksTest, View_BoxAtTheLeftEdge_IsFramed)
+TEST_F(LineageMarksTest, View_BoxInAFreeRow_IsNone_SoTheFrameStandsAtTheLastRelease)
 {
     GivenSmithAt({0, 700});
+    Picture.MouseUp(1, 0, 3000, 900);
 
     View(u"Smith"_s);
 
     ASSERT_EQ(Frames.Count(), 1U);
-    EXPECT_EQ(PlaceOf(1), (Point{-40, 660}));
+    EXPECT_EQ(PlaceOf(1), (Point{2960, 860}));
 }
 
 TEST_F(LineageMarksTest, View_WithoutSurname_IsTold)

@@ -66,16 +66,19 @@ TEST_F(LoneItemTest, BoxOfTheFile_Mapped_HoldsTheFirstRecord)
     EXPECT_EQ(MapBytes(), BytesOf(u"1000,500,0,A001,,", u"0,0,0,", u"0,0,0,"));
 }
 
-// With one box there is nothing to choose from.
-TEST_F(LoneItemTest, BoxOfTheFile_MappedBesideIt_HoldsTheFirstRecord)
+TEST_F(LoneItemTest, BoxOfTheFile_MappedBesideIt_TheRecordIsMade_AndTheBoxStaysEmpty)
 {
     BranchA.Boxes(u"1000,500,0,0,,");
     GivenMap();
 
-    MapNewRecord({5000, 5000});
+    for (const Point beside : {Point{5000, 5000}, Point{1000, 600}, Point{1615, 600}, Point{1300, 500}}) {
+        MapNewRecord(beside);
 
-    ExpectRecord(u"A001");
-    EXPECT_EQ(MapBytes(), BytesOf(u"1000,500,0,A001,,", u"0,0,0,", u"0,0,0,"));
+        ExpectRecord(u"A001");
+        EXPECT_EQ(MapBytes(), BytesOf(u"1000,500,0,0,,", u"0,0,0,", u"0,0,0,"));
+        Records(P).Delete();
+        OpenWorkDatabase(P);
+    }
 }
 
 TEST_F(LoneItemTest, NoBoxAtAll_Mapped_TheRecordIsMade_AndNoRowHoldsIt)
@@ -89,6 +92,23 @@ TEST_F(LoneItemTest, NoBoxAtAll_Mapped_TheRecordIsMade_AndNoRowHoldsIt)
     EXPECT_EQ(Box(1), RowTexts(5, QString()));
 }
 
+// The row that was hit last is gone; the tools were left to themselves.
+TEST_F(LoneItemTest, BoxWhoseNeighbourWasDeleted_Mapped_HoldsTheFirstRecord)
+{
+    BranchA.Boxes(u"1000,500,0,0,,3000,500,0,0,,");
+    GivenTools();
+    Choose(28);
+    PressAndRelease({3300, 600});
+    ASSERT_EQ(P.Map.SBoxes, 0);
+    P.Form1->Command4.Click();
+
+    MapNewRecord({1300, 600});
+
+    ExpectRecord(u"A001");
+    EXPECT_EQ(Box(0)[BoxColumn::File], u"A001"_s);
+    EXPECT_EQ(Box(1)[BoxColumn::File], u"0"_s);
+}
+
 TEST_F(LoneItemTest, BoxDeletedBehindTheTools_Mapped_TheRecordIsMade_AndNoRowHoldsIt)
 {
     BranchA.Boxes(u"1000,500,0,0,,3000,500,0,0,,");
@@ -96,9 +116,9 @@ TEST_F(LoneItemTest, BoxDeletedBehindTheTools_Mapped_TheRecordIsMade_AndNoRowHol
     Choose(28);
     PressAndRelease({3300, 600});
     ASSERT_EQ(P.Map.SBoxes, 0);
-    P.Form1->Command4.Click(); // leaves the tools to themselves
+    P.Form1->Command4.Click();
 
-    MapNewRecord({1300, 600});
+    MapNewRecord({3300, 600});
 
     ExpectRecord(u"A001");
     EXPECT_EQ(Box(0)[BoxColumn::File], u"0"_s);
@@ -190,6 +210,93 @@ TEST_F(LoneItemTest, ZoneInTheMiddleOfItsDrag_CarriesNothingOfTheNextMap)
     EXPECT_EQ(Box(0)[BoxColumn::X], u"1000"_s);
     EXPECT_EQ(Box(1)[BoxColumn::X], u"2000"_s);
 }
+
+// One that is pressed wherever it stands, as long as it stands anywhere.
+TEST_F(LoneItemTest, BoxWithARecord_DraggedFurtherThanAPlaceCanBeTold_IsNoError)
+{
+    BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}}).Boxes(u"12000,500,0,A001,John,");
+    GivenTools();
+    Choose(18);
+
+    Drag({{-7000, 600}, {15000, 600}});
+    EXPECT_EQ(Box(0)[BoxColumn::X], u"34000"_s);
+    Drag({{-7000, 600}, {15000, 600}});
+
+    EXPECT_EQ(Box(0)[BoxColumn::X], u"34000"_s);
+    EXPECT_EQ(P.Mouse.BoxMiss, 1);
+    EXPECT_EQ(P.Tools.MapCursorMode, 0);
+    EXPECT_EQ(Picture.Mode, DrawMode::Copy);
+}
+
+// An item at no place is neither painted nor hit, and written back as it stands, though it is the only one.
+class ItemAtNoPlaceTest : public LoneItemTest, public testing::WithParamInterface<QStringView>
+{
+};
+
+class BoxAtNoPlaceTest : public ItemAtNoPlaceTest
+{
+};
+
+TEST_P(BoxAtNoPlaceTest, MovedOrDeleted_StaysAsItStands)
+{
+    BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}}).Boxes(GetParam());
+    GivenTools();
+    for (const int tool : {18, 28}) {
+        Choose(tool);
+        PressAndRelease({700, 650});
+        Drag({{700, 650}, {900, 950}, {1200, 1200}});
+        EXPECT_EQ(P.Mouse.BoxMiss, 1);
+    }
+    EXPECT_EQ(P.Map.SBoxes, 0);
+    EXPECT_TRUE(IsBlank(Picture));
+
+    Leave(Answer::Yes);
+
+    EXPECT_EQ(MapBytes(), BytesOf(GetParam(), u"", u""));
+}
+
+TEST_P(BoxAtNoPlaceTest, MappedInAnEmptyBranch_TheRecordIsMade_AndTheBoxStaysAsItStands)
+{
+    BranchA.Boxes(GetParam());
+    GivenMap();
+    const QByteArray before = MapBytes();
+
+    MapNewRecord({700, 650});
+
+    ExpectRecord(u"A001");
+    EXPECT_EQ(MapBytes(), before);
+}
+
+INSTANTIATE_TEST_SUITE_P(Boxes, BoxAtNoPlaceTest,
+                         testing::Values(u"abc,600,255,A001,,", u"abc,600,255,0,,", u",600,255,A009,Gone,",
+                                         u"600,abc,255,A001,,", u"600,,255,0,,", u"40000,600,255,A001,,",
+                                         u"600,-40000,255,A001,,", u"99999999999,600,255,0,,"));
+
+class TextAtNoPlaceTest : public ItemAtNoPlaceTest
+{
+};
+
+TEST_P(TextAtNoPlaceTest, MovedOrDeleted_StaysAsItStands)
+{
+    BranchA.Texts(GetParam());
+    GivenTools();
+    for (const int tool : {19, 29}) {
+        Choose(tool);
+        PressAndRelease({700, 650});
+        Drag({{700, 650}, {900, 950}, {1200, 1200}});
+        EXPECT_EQ(P.Tools.TextMiss, 1);
+    }
+    EXPECT_EQ(P.Map.STexts, 0);
+    EXPECT_TRUE(IsBlank(Picture));
+
+    Leave(Answer::Yes);
+
+    EXPECT_EQ(MapBytes(), BytesOf(u"", u"", GetParam()));
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, TextAtNoPlaceTest,
+                         testing::Values(u"here,600,One,Arial,8,0,", u"600,there,One,Courier,10,255,",
+                                         u",600,One,Arial,8,0,", u"99999999999,600,One,Arial,8,0,"));
 
 } // namespace
 } // namespace lineforge

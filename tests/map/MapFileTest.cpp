@@ -385,6 +385,20 @@ TEST_F(MapFileTest, SaveBoxes_ForenameThatWouldBreakTheList_GoesOutWithoutWhatBr
     EXPECT_EQ(P.Map.BoxArr[1][BoxColumn::File].Text(), u"A002"_s);
 }
 
+// Without what breaks it the number might be another record's.
+TEST_F(MapFileTest, SaveBoxes_NumberThatWouldBreakTheList_GoesOutAsAnEmptyBox)
+{
+    givenOpen(BranchA.Boxes(u"1200,600,255,0,,2000,600,255,A002,Ann,"));
+    OpenMap();
+    for (const QString& number : {u"A,002"_s, u"A[002"_s, u"A002\r"_s, u"\nA002"_s}) {
+        P.Map.BoxArr[0][BoxColumn::File] = number;
+
+        SaveBoxes(P);
+
+        EXPECT_EQ(P.Map.sBoxesText, u"1200,600,255,0,,2000,600,255,A002,Ann,"_s) << number.toStdString();
+    }
+}
+
 TEST_F(MapFileTest, RoundTrip_FullMap_IsUnchanged)
 {
     givenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}})

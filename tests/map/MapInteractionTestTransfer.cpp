@@ -1,5 +1,6 @@
 #include "map/MapInteractionTest.h"
 #include "map/MapItems.h"
+#include "support/SqliteFile.h"
 
 namespace lineforge
 {
@@ -96,7 +97,7 @@ TEST_F(TransferTest, LocalSubject_IsWrittenAtOnce)
 
     DoubleClickBox(2);
 
-    EXPECT_EQ(Home.ReadFile(BranchA.MapFile()), MapWith(u"1000,500,0,0,,2000,500,0,B002,,3000,500,0,A001,,"_s));
+    EXPECT_EQ(Home.ReadFile(BranchA.MapFile()), MapWith(u"1000,500,0,0,,2000,500,0,B002,,3000,500,0,A001,John,"_s));
 }
 
 TEST_F(TransferTest, LocalSubject_TheThirdDoubleClickIsOrdinary)
@@ -181,8 +182,8 @@ TEST_F(TransferTest, SubjectOfASibling_MovesToTheOtherBox)
     EXPECT_EQ(FileOf(1), u"0"_s);
     EXPECT_EQ(FileOf(2), u"B002"_s);
     EXPECT_EQ(P.Record.sAltName, u"Tom"_s);
-    EXPECT_EQ(P.Mouse.BoxX, 3000);
-    EXPECT_EQ(P.Mouse.BoxY, 500);
+    EXPECT_EQ(P.Mouse.BoxX, 3000 + 307 - 60);
+    EXPECT_EQ(P.Mouse.BoxY, 500 + 108 - 60);
     EXPECT_TRUE(OnlyCaptionIs({3000, 500}, u"B002"_s, u"Tom"_s));
     ExpectCursorGone();
 }
@@ -194,12 +195,11 @@ TEST_F(TransferTest, SubjectOfASibling_IsWrittenToTheMapsOwnBranch)
 
     DoubleClickBox(2);
 
-    EXPECT_EQ(Home.ReadFile(BranchA.MapFile()), MapWith(u"1000,500,0,A001,,2000,500,0,0,,3000,500,0,B002,,"_s));
+    EXPECT_EQ(Home.ReadFile(BranchA.MapFile()), MapWith(u"1000,500,0,A001,,2000,500,0,0,,3000,500,0,B002,Tom,"_s));
     EXPECT_EQ(Home.ReadFile(BranchB.MapFile()), siblingsMap);
 }
 
-// Opened afresh on its first record, who has no box here.
-TEST_F(TransferTest, SubjectOfASibling_TheProgramStaysOnItsBranch_AtTheFirstRecord)
+TEST_F(TransferTest, SubjectOfASibling_TheProgramStaysOnItsBranch_AtTheSubject)
 {
     GivenCrossFor(1);
 
@@ -209,8 +209,35 @@ TEST_F(TransferTest, SubjectOfASibling_TheProgramStaysOnItsBranch_AtTheFirstReco
     EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_B"));
     EXPECT_EQ(P.Branch.WorkDirSaved, Home.Path(u"LfgDat_A"));
     EXPECT_EQ(P.Branch.HomeDir, P.ExecutableDirectory);
-    EXPECT_EQ(Current(), u"B001"_s);
-    EXPECT_FALSE(Marker.Visible);
+    EXPECT_EQ(Current(), u"B002"_s);
+    EXPECT_EQ(ShownNumber(), u"Ref  B002"_s);
+    EXPECT_EQ(P.Form1->Label9.Caption.value(), u"Tom"_s);
+    EXPECT_TRUE(IsMarkerOnBox(2));
+}
+
+TEST_F(TransferTest, TheForename_GoesFromBoxToBoxWithTheNumber)
+{
+    P.Map.BoxArr[0][BoxColumn::Forename] = u"John"_s;
+    P.Map.BoxArr[1][BoxColumn::Forename] = u"Tom"_s;
+    P.Map.BoxArr[2][BoxColumn::Forename] = u"Gone"_s;
+    GivenCrossFor(0);
+
+    DoubleClickBox(2);
+
+    EXPECT_EQ(Home.ReadFile(BranchA.MapFile()), MapWith(u"1000,500,0,0,,2000,500,0,B002,Tom,3000,500,0,A001,John,"_s));
+}
+
+TEST_F(TransferTest, TheForename_GoesWithTheNumberOfASibling_AsTheFileCanHoldIt)
+{
+    SqliteFile(Home.Path(BranchB.DatabaseFile())).Execute("UPDATE Tree99 SET Forename = 'T, [om' WHERE File = 'B002'");
+    P.Map.BoxArr[1][BoxColumn::Forename] = u"Tom"_s;
+    P.Map.BoxArr[2][BoxColumn::Forename] = u"Gone"_s;
+    GivenCrossFor(1);
+
+    DoubleClickBox(2);
+
+    EXPECT_EQ(Home.ReadFile(BranchA.MapFile()), MapWith(u"1000,500,0,A001,,2000,500,0,0,,3000,500,0,B002,T om,"_s));
+    EXPECT_EQ(P.Map.BoxArr[2][BoxColumn::Forename].Text(), u"T om"_s);
 }
 
 TEST_F(TransferTest, SubjectOfASibling_NoRecords_IsTold_AndTheProgramStaysThere)
@@ -277,6 +304,38 @@ TEST_F(TransferTest, SubjectOfASibling_BesideAllBoxes_NothingMoves_AndTheTransfe
     EXPECT_EQ(FileOf(1), u"0"_s);
     EXPECT_EQ(FileOf(2), u"B002"_s);
     ExpectCursorGone();
+}
+
+// It would be gone with the branch: its box isn't saved.
+TEST_F(TransferTest, LocalSubject_ToABoxBehindTheSavedOnes_NothingMoves_AndTheTransferStaysPending)
+{
+    givenBox(100, {5000, 500});
+    P.Map.SBoxes = 100;
+    GivenCrossFor(0);
+    const Tree before = Home.Snapshot();
+
+    DoubleClickBox(100);
+
+    EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
+    EXPECT_EQ(FileOf(0), u"A001"_s);
+    EXPECT_EQ(FileOf(100), u"0"_s);
+    EXPECT_EQ(P.Tools.MapCursorMode, 2);
+    EXPECT_EQ(P.Screen.Pointer, MousePointer::Cross);
+}
+
+TEST_F(TransferTest, SubjectOfASibling_ToABoxBehindTheSavedOnes_NothingMoves_AndTheTransferStaysPending)
+{
+    givenBox(100, {5000, 500});
+    P.Map.SBoxes = 100;
+    GivenCrossFor(1);
+    const Tree before = Home.Snapshot();
+
+    DoubleClickBox(100);
+
+    EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
+    EXPECT_EQ(FileOf(1), u"B002"_s);
+    EXPECT_EQ(FileOf(100), u"0"_s);
+    EXPECT_EQ(P.Screen.Pointer, MousePointer::Cross);
 }
 
 TEST_F(TransferTest, AllRowsInUse_BesideAllBoxes_IsNoError)

@@ -211,7 +211,7 @@ private:
     bool MapExisting();
     bool StandsOnEntered();
     QString NextFreeNumber();
-    void Link(const QString& file);
+    void Link(const QString& file, const QString& forename = {});
     void GivePicture();
     void ShowPicture();
     void AskPicture();

@@ -30,13 +30,14 @@ inline bool IsFree(const MapModel::Cells& row)
     return NumberIn(row[0]) == 0;
 }
 
+// A box that stands anywhere.
 inline bool IsPlaced(const MapModel::Cells& row)
 {
     const auto fits = [](const QString& cell) {
         const std::optional<int> number = NumberIn(cell);
         return number && *number >= -32768 && *number <= 32767;
     };
-    return fits(row[0]) && fits(row[1]);
+    return !IsFree(row) && fits(row[0]) && fits(row[1]);
 }
 
 // Strictly, whichever of the two is the greater.

@@ -26,6 +26,16 @@ void Carry(QString& cell, int delta)
     cell = QString::number(*NumberIn(cell) + delta);
 }
 
+// The first above the count that is free: after a deletion items stand above it, which keep their rows.
+template <class Rows, class IsFreeRow>
+int RowForNew(Rows& rows, int count, IsFreeRow&& isFree)
+{
+    int row = count + 1;
+    while (row <= MapModel::LastRow && !isFree(At(rows, row)))
+        ++row;
+    return row;
+}
+
 void Carry(MapModel::Line& line, Point delta)
 {
     line[0] += delta.X;
@@ -60,7 +70,7 @@ void MapModel::PressTool(int shift, Point at)
 {
     switch (ToolSel) {
     case 7: {
-        ++SLines;
+        SLines = RowForNew(Lines, SLines, [](const Line& line) { return line[0] == 0; });
         if ((shift & ctrlKey) != 0) {
             const Line before = SLines == 0 ? Line{} : At(Lines, SLines - 1);
             Down = {Clamped(before[2]), Clamped(before[3])};
@@ -77,7 +87,7 @@ void MapModel::PressTool(int shift, Point at)
         Last = at;
         break;
     case 8:
-        ++SBoxes;
+        SBoxes = RowForNew(Boxes, SBoxes, IsFree);
         PenSave = Pen;
         Pen = DialogColour;
         break;
@@ -142,7 +152,7 @@ bool MapModel::TakesBox()
 
 void MapModel::PlaceText()
 {
-    ++STexts;
+    STexts = RowForNew(Texts, STexts, IsFree);
     At(Texts, STexts) = {QString::number(Down.X),
                          QString::number(Down.Y - 50),
                          Next.Text.isNull() ? u""_s : Next.Text,
@@ -366,7 +376,7 @@ void MapModel::DeleteChain()
 void MapModel::EndBox()
 {
     Cells& box = At(Boxes, SBoxes);
-    box = {QString::number(Down.X - 307), QString::number(Down.Y - 108), QString::number(Pen), u"0"_s, box[4]};
+    box = {QString::number(Down.X - 307), QString::number(Down.Y - 108), QString::number(Pen), u"0"_s, u""_s};
     Pen = PenSave;
 }
 
@@ -379,7 +389,9 @@ void MapModel::DropBox()
         return;
     ComeBack();
     Pen = 0;
-    PenFont = {};
+    // At the left edge the box is free, and has no caption.
+    if (IsPlaced(At(Boxes, BoxIdx)))
+        PenFont = {};
     CursorMode = 0;
 }
 

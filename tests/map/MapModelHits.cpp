@@ -45,11 +45,11 @@ void MapModel::HitBox()
     BoxMiss = BoxIdx > SBoxes ? 1 : 0;
 }
 
-// A hit of before whose item is gone is a miss.
+// A hit of before whose item is gone, or at no place, is a miss.
 bool MapModel::FindsBox()
 {
     HitBox();
-    if (BoxMiss == 0 && IsFree(At(Boxes, BoxIdx)))
+    if (BoxMiss == 0 && !IsPlaced(At(Boxes, BoxIdx)))
         BoxMiss = 1;
     return BoxMiss == 0;
 }
@@ -67,7 +67,9 @@ void MapModel::HitText()
 bool MapModel::TakesText()
 {
     HitText();
-    if (TextMiss == 0 && IsFree(At(Texts, TextIdx)))
+    if (TextMiss != 0)
+        return false;
+    if (const Cells& text = At(Texts, TextIdx); IsFree(text) || !NumberIn(text[0]) || !NumberIn(text[1]))
         TextMiss = 1;
     return TextMiss == 0;
 }

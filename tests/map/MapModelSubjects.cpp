@@ -46,7 +46,7 @@ void MapModel::ReturnToOwnBranch()
     UsingAlternate = false;
 }
 
-// A miss leaves the transfer pending.
+// A miss leaves the transfer pending, and so does a box that isn't saved.
 bool MapModel::FinishTransfer()
 {
     if (Table().empty()) {
@@ -57,21 +57,28 @@ bool MapModel::FinishTransfer()
     int pressed = 0;
     while (pressed <= SBoxes && !IsInBox(pressed))
         ++pressed;
-    if (SBoxes == 0 || pressed > SBoxes)
+    if (SBoxes == 0 || pressed > SBoxes || pressed > 99)
         return false;
     const QString file = CurrentFile();
+    const QString forename = Filed(Table()[static_cast<std::size_t>(Cursor)].Forename);
     // The last box can't be erased; one of another branch is the one that was pressed first.
     const int old = UsingAlternate ? BoxIdx : RowOfCurrent();
-    if (UsingAlternate || old < 99)
+    if (UsingAlternate || old < 99) {
         At(Boxes, old)[3] = u"0"_s;
+        At(Boxes, old)[4] = u""_s;
+    }
     HitBox();
     At(Boxes, BoxIdx)[3] = file;
+    At(Boxes, BoxIdx)[4] = forename;
     Pen = 0;
     PenFont = {};
     PromiseLess(Promise::Holes);
     SaveBoxes();
-    if (UsingAlternate)
+    // The other branch is opened afresh, on the same record.
+    if (UsingAlternate) {
         PointAt(Branch);
+        Seek(file);
+    }
     ClearCursor();
     return true;
 }
@@ -162,18 +169,21 @@ void MapModel::StopMapping()
 }
 
 // Beside all boxes the number goes into none; a lone box isn't searched for.
-void MapModel::Link(const QString& file)
+void MapModel::Link(const QString& file, const QString& forename)
 {
     NewFile = file;
-    if (!FindsBox())
+    HitBox();
+    const int row = SBoxes == 0 ? 0 : BoxIdx;
+    if (SBoxes == 0 ? !IsInBox(0) : BoxMiss != 0)
         return;
     // The new caption comes with the way back from the record form.
     PromiseLess(Promise::Holes);
-    if (HasCaption(BoxIdx)) {
+    if (HasCaption(row)) {
         Pen = 0;
         PenFont = {};
     }
-    At(Boxes, BoxIdx)[3] = file;
+    At(Boxes, row)[3] = file;
+    At(Boxes, row)[4] = Filed(forename);
 }
 
 QString MapModel::NextFreeNumber()
@@ -222,7 +232,7 @@ bool MapModel::StandsOnEntered()
 bool MapModel::MapExisting()
 {
     CurFile = Entered;
-    if (CurFile.size() != 4) {
+    if (CurFile.size() != 4 || Filed(CurFile) != CurFile) {
         Tell(u"Record not Present"_s, u"Incorrect Record Number "_s + CurFile);
         StopMapping();
         return false;
@@ -230,9 +240,7 @@ bool MapModel::MapExisting()
     if (MapOption == 1) {
         if (!StandsOnEntered())
             return false;
-        Link(CurFile);
-        if (BoxMiss == 0)
-            At(Boxes, BoxIdx)[4] = Filed(Table()[static_cast<std::size_t>(Cursor)].Forename);
+        Link(CurFile, Table()[static_cast<std::size_t>(Cursor)].Forename);
         MapOption = 0;
         SaveBoxes();
         return true;
@@ -258,6 +266,7 @@ bool MapModel::MapExisting()
 void MapModel::GivePicture()
 {
     MappedPicture = {Branch, NewFile};
+    MarkCurrentBox();
     if (PictureOption == 6) {
         if (Next.ChoosesPicture) {
             AddPicture(Branch, NewFile);
@@ -273,12 +282,11 @@ void MapModel::GivePicture()
     }
 }
 
-// One that isn't there leaves marker and pointer alone.
+// One that isn't there leaves the pointer alone.
 void MapModel::ShowPicture()
 {
     if (MappedPicture && !HasPicture(MappedPicture->first, MappedPicture->second))
         return;
-    IsMarkerShown = true;
     Pointer = 0;
 }
 
@@ -297,6 +305,7 @@ void MapModel::AskPicture()
             return;
         AddPicture(Branch, NewFile);
     }
+    MarkCurrentBox();
     ShowPicture();
 }
 

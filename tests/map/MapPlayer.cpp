@@ -302,10 +302,11 @@ void MapPlayer::PressButton()
 
 void MapPlayer::MapSubject()
 {
-    static const QStringList numbers{u"A001"_s, u"a002"_s, u"A009"_s, u"A01"_s, u"B001"_s, u"b002"_s, u"B009"_s};
+    static const QStringList numbers{u"A001"_s, u"a002"_s, u"A009"_s, u"A01"_s, u"B001"_s,
+                                     u"b002"_s, u"B009"_s, u"B,01"_s, u"A[02"_s};
     MapModel::Mapping mapping;
     mapping.Option = Any(0, 2);
-    mapping.Number = mapping.Option == 0 ? u""_s : numbers[Any(0, 6)];
+    mapping.Number = mapping.Option == 0 ? u""_s : numbers[Any(0, 8)];
     mapping.Gender = OneIn(3) ? u"Female"_s : u"Male"_s;
     mapping.SelectsPicture = OneIn(4);
     Do(

@@ -96,6 +96,18 @@ TEST_F(SubjectMappingTest, BoxWhoseRecordIsGone_GetsTheNewRecord)
     EXPECT_EQ(MapBytes(), MapWith(u"1000,500,0,0,,2000,500,0,A001,,3000,500,0,A002,,"));
 }
 
+TEST_F(SubjectMappingTest, BoxThatKnewAnotherForename_ForgetsItWithTheNumber)
+{
+    GivenRecords({u"A001"_s});
+    givenBox(2, {3000, 500}, u"A009");
+    P.Map.BoxArr[2][BoxColumn::Forename] = u"Gone"_s;
+    ChooseNewRecord();
+
+    DoubleClickBox(2);
+
+    EXPECT_EQ(MapBytes(), MapWith(u"1000,500,0,0,,2000,500,0,A001,,3000,500,0,A002,,"));
+}
+
 TEST_F(SubjectMappingTest, BesideAllBoxes_NothingHappens_AndTheMappingStaysPending)
 {
     GivenRecords({u"A001"_s});
@@ -404,7 +416,7 @@ class WrongNumberTest : public SubjectMappingTest, public WithParamInterface<Wro
 {
 };
 
-TEST_P(WrongNumberTest, ANumberThatHasntFourCharacters_IsRefused)
+TEST_P(WrongNumberTest, ANumberOfOtherThanFourCharacters_OrThatABoxCannotHold_IsRefused)
 {
     GivenRecords({u"A001"_s, u"A002"_s});
     const Tree before = Home.Snapshot();
@@ -425,7 +437,12 @@ TEST_P(WrongNumberTest, ANumberThatHasntFourCharacters_IsRefused)
 INSTANTIATE_TEST_SUITE_P(Texts, WrongNumberTest,
                          Values(WrongNumber{&Form7::Option2, u""}, WrongNumber{&Form7::Option2, u"A02"},
                                 WrongNumber{&Form7::Option2, u"A0022"}, WrongNumber{&Form7::Option3, u""},
-                                WrongNumber{&Form7::Option3, u"B02"}, WrongNumber{&Form7::Option3, u"B0022"}));
+                                WrongNumber{&Form7::Option3, u"B02"}, WrongNumber{&Form7::Option3, u"B0022"},
+                                // Each of these would break the map file.
+                                WrongNumber{&Form7::Option2, u"A,02"}, WrongNumber{&Form7::Option2, u"A[02"},
+                                WrongNumber{&Form7::Option3, u"B,01"}, WrongNumber{&Form7::Option3, u"B[01"},
+                                WrongNumber{&Form7::Option3, u"B\r01"}, WrongNumber{&Form7::Option3, u"B\n01"},
+                                WrongNumber{&Form7::Option3, u",B01"}, WrongNumber{&Form7::Option3, u"B01["}));
 
 } // namespace
 } // namespace lineforge

@@ -77,7 +77,7 @@ TEST_F(AlternateMappingTest, TheMappingIsOver_AndTheNextIsANewRecord)
     EXPECT_EQ(P.Mapping.NewFile, u"B002"_s);
     EXPECT_EQ(P.Mapping.PictureOption, 7);
     EXPECT_TRUE(P.Form1->Image1.Visible);
-    EXPECT_TRUE(Marker.Visible);
+    EXPECT_TRUE(IsMarkerOnBox(0));
 }
 
 TEST_F(AlternateMappingTest, NoPictureIsAskedFor_AndNoneCopied)
@@ -106,6 +106,16 @@ TEST_F(AlternateMappingTest, BoxShowsNumberAndForename)
         PrintOnMap(*hand, {1050, 600}, u"Tom"_s);
         return CountPixels(*hand, Black, {1000, 500, BoxWidth, BoxHeight});
     }());
+}
+
+TEST_F(AlternateMappingTest, BoxThatKnewAnotherForename_ForgetsItWithTheNumber)
+{
+    GivenSibling();
+    P.Map.BoxArr[0][BoxColumn::Forename] = u"Gone"_s;
+
+    Map(u"B002");
+
+    EXPECT_EQ(MapBytes(), MapWith(BoxesWithB002));
 }
 
 TEST_F(AlternateMappingTest, NumberUnknownThere_IsTold_TheBoxKeepsIt_AndTheSwitchStays)
@@ -206,6 +216,19 @@ TEST_F(MappingInFrontTest, RecordOfAnotherBranchWithoutPicture_TheMapIs)
     EXPECT_EQ(InFront, u"Form1"_s);
 }
 
+TEST_F(MappingInFrontTest, RecordOfAnotherBranchWithoutPicture_TheMapShowsNobodyElses)
+{
+    GivenSibling();
+    DoubleClickBox(1);
+    ASSERT_FALSE(P.Form1->Image1.Picture.value().isNull());
+
+    Map(u"B001");
+
+    EXPECT_EQ(ShownNumber(), u"Ref  B001"_s);
+    EXPECT_TRUE(P.Form1->Image1.Picture.value().isNull());
+    EXPECT_TRUE(IsMarkerOnBox(0));
+}
+
 TEST_F(MappingInFrontTest, RecordUnknownInTheOtherBranch_TheRecordFormIs)
 {
     GivenSibling();
@@ -299,7 +322,7 @@ TEST_F(RemapTest, LocalSubject_MovesByTwoDoubleClicks)
 
     DoubleClickBox(2);
 
-    EXPECT_EQ(MapBytes(), MapWith(u"1000,500,0,0,,2000,500,0,0,,3000,500,0,A001,,"));
+    EXPECT_EQ(MapBytes(), MapWith(u"1000,500,0,0,,2000,500,0,0,,3000,500,0,A001,NA001,"));
     EXPECT_EQ(FilesOf(BranchA), QStringList({u"A001"_s, u"A002"_s}));
     EXPECT_TRUE(IsMarkerOnBox(2));
     ExpectNothingPending();
@@ -313,7 +336,7 @@ TEST_F(RemapTest, TargetThatHoldsARecord_IsOverwritten)
 
     DoubleClickBox(2);
 
-    EXPECT_EQ(MapBytes(), MapWith(u"1000,500,0,0,,2000,500,0,0,,3000,500,0,A001,,"));
+    EXPECT_EQ(MapBytes(), MapWith(u"1000,500,0,0,,2000,500,0,0,,3000,500,0,A001,NA001,"));
 }
 
 TEST_F(RemapTest, SubjectInRow99_EndsInTwoBoxes)
@@ -326,7 +349,7 @@ TEST_F(RemapTest, SubjectInRow99_EndsInTwoBoxes)
 
     DoubleClickBox(2);
 
-    EXPECT_EQ(MapBytes(), MapWith(u"1000,500,0,0,,2000,500,0,0,,3000,500,0,A001,,5000,5000,0,A001,,"));
+    EXPECT_EQ(MapBytes(), MapWith(u"1000,500,0,0,,2000,500,0,0,,3000,500,0,A001,NA001,5000,5000,0,A001,,"));
 }
 
 TEST_F(RemapTest, SubjectWithoutGender_TheSecondDoubleClickIsAPlainViewAgain)
@@ -354,7 +377,7 @@ TEST_F(RemapTest, SubjectOfASibling_MovesByTwoDoubleClicks)
 
     DoubleClickBox(2);
 
-    EXPECT_EQ(MapBytes(), MapWith(u"1000,500,0,0,,2000,500,0,A001,,3000,500,0,B002,,"));
+    EXPECT_EQ(MapBytes(), MapWith(u"1000,500,0,0,,2000,500,0,A001,,3000,500,0,B002,Tom,"));
     EXPECT_EQ(P.Branch.UsingAlternate, 1);
     ExpectNothingPending();
 }

@@ -34,6 +34,8 @@ protected:
         EXPECT_EQ(FilesOf(BranchA), QStringList({u"A001"_s, u"A002"_s}));
         EXPECT_EQ(FileOf(0), u"A002"_s);
         EXPECT_TRUE(P.Form3->Image1.Picture.value().isNull());
+        EXPECT_TRUE(P.Form1->Image1.Picture.value().isNull());
+        EXPECT_TRUE(IsMarkerOnBox(0));
         ExpectStillPending();
     }
 
@@ -72,8 +74,34 @@ TEST_F(MappedPictureTest, Later_ShowsImageAndMarker)
     EXPECT_EQ(P.Screen.Pointer, MousePointer::Default);
 }
 
-TEST_F(MappedPictureTest, Later_NoBlankPortrait_TheRecordStandsWithoutPicture)
+TEST_F(MappedPictureTest, Later_NumberAndMarkerAreTheNewSubjects)
 {
+    DoubleClickBox(1);
+    ASSERT_TRUE(IsMarkerOnBox(1));
+    ASSERT_EQ(ShownNumber(), u"Ref  A001"_s);
+
+    MapBlank();
+
+    EXPECT_TRUE(IsMarkerOnBox(0));
+    EXPECT_EQ(ShownNumber(), u"Ref  A002"_s);
+}
+
+TEST_F(MappedPictureTest, Later_FirstRecordBesideAllBoxes_HasNoMarker)
+{
+    givenOpen(BranchBuilder(Home, u'C').InDirectory(u"LfgDat_C"));
+    GivenMarkerElsewhere();
+    ChooseNewRecord();
+
+    DoubleClick(Nowhere);
+
+    EXPECT_EQ(Current(), u"C001"_s);
+    EXPECT_FALSE(Marker.Visible);
+}
+
+TEST_F(MappedPictureTest, Later_NoBlankPortrait_TheRecordStandsWithoutPicture_AndWithNobodyElses)
+{
+    DoubleClickBox(1);
+    ASSERT_FALSE(P.Form1->Image1.Picture.value().isNull());
     P.Files.Kill(Home.Path(u"Tree99.jpg"));
 
     MapBlank();
@@ -114,8 +142,11 @@ TEST_F(MappedPictureTest, SelectNow_ForTheFirstRecordOfABranch)
     EXPECT_TRUE(BothShow(Qt::blue));
 }
 
-TEST_F(MappedPictureTest, SelectNow_Cancelled_TheRecordStandsWithoutPicture)
+TEST_F(MappedPictureTest, SelectNow_Cancelled_TheRecordStandsWithoutPicture_AndWithNobodyElses)
 {
+    DoubleClickBox(1);
+    ASSERT_FALSE(P.Form1->Image1.Picture.value().isNull());
+
     MapChoosing({});
 
     ExpectRecordWithoutPicture();
@@ -292,6 +323,22 @@ TEST_F(AskSubjectPictureTest, Yes_Later_ShowsThePictureOfTheLastMapping)
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
     EXPECT_EQ(P.Record.sCurFile, u"A001"_s);
     EXPECT_EQ(P.Screen.Pointer, MousePointer::Default);
+}
+
+TEST_F(AskSubjectPictureTest, Yes_Later_ThePictureOfTheLastMappingHasGone_ShowsNone)
+{
+    GivenMappedA002();
+    DoubleClickBox(0);
+    ASSERT_FALSE(P.Form1->Image1.Picture.value().isNull());
+    P.Files.Kill(Home.Path(PathOfPicture(u"A002")));
+    ChooseNewRecord();
+    ExpectPictureQuestion(Answer::Yes);
+
+    DoubleClickBox(1);
+
+    EXPECT_TRUE(P.Form1->Image1.Picture.value().isNull());
+    EXPECT_TRUE(P.Form3->Image1.Picture.value().isNull());
+    EXPECT_TRUE(IsMarkerOnBox(1));
 }
 
 TEST_F(AskSubjectPictureTest, Yes_Later_NothingMappedSoFar_ShowsNone)

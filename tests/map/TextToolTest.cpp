@@ -352,6 +352,26 @@ TEST_F(TextToolTest, LoneText_IsNotSearchedFor_SoTheLastAnswerStands)
     EXPECT_EQ(Text(0)[TextColumn::X], u"1100"_s);
 }
 
+TEST_F(TextToolTest, PositionThatIsNoNumber_IsNeverHit_AndWrittenBackAsItStands)
+{
+    const QStringView texts = u"here,1000,One,Arial,8,0,1000,there,Two,Courier,10,255,,,Three,Arial,8,0,"
+                              u"1000,2000,Four,Arial,8,0,";
+    BranchA.Texts(texts);
+    GivenTools();
+    for (const int tool : {19, 29}) {
+        Choose(tool);
+        for (const Point press : {Point{1100, 1050}, Point{100, 50}, Point{100, 1050}, Point{1100, 50}}) {
+            Drag({press, {press.X + 500, press.Y + 500}});
+            EXPECT_EQ(P.Tools.TextMiss, 1);
+        }
+    }
+    EXPECT_EQ(P.Map.STexts, 3);
+
+    Leave(Answer::Yes);
+
+    EXPECT_EQ(MapBytes(), BytesOf(u"", u"", texts));
+}
+
 TEST_F(TextToolTest, NoTexts_NothingIsHit)
 {
     BranchA.Texts(u"0,0,0,");
@@ -425,18 +445,6 @@ TEST_F(TextToolTest, Delete_HighestSurvivingText_IsNotHitUntilTheToolsClose)
     Choose(19);
     Drag({{1100, 3050}, {1100, 4050}});
     EXPECT_EQ(Text(2)[TextColumn::Y], u"4000"_s);
-}
-
-TEST_F(TextToolTest, NewTextAfterADeletion_TakesTheHighestSurvivorsRow)
-{
-    GivenTools();
-    Choose(29);
-    PressAndRelease({1100, 1050});
-
-    PlaceText({3000, 2000}, u"Four");
-
-    EXPECT_EQ(P.Map.STexts, 2);
-    EXPECT_EQ(Text(2)[TextColumn::Text], u"Four"_s);
 }
 
 } // namespace

@@ -178,12 +178,7 @@ protected:
         const Point grip = AnyGrip();
         return {std::clamp(grip.X, 0, side), std::clamp(grip.Y, 0, side)};
     }
-    int AnyShift()
-    {
-        // With no row at all there is no line to go on from: that is an error of its own.
-        const int ctrl = P.Map.SLines >= 0 && OneIn(4) ? ShiftMask::Ctrl : 0;
-        return ctrl + (OneIn(4) ? ShiftMask::Shift : 0);
-    }
+    int AnyShift() { return (OneIn(4) ? ShiftMask::Ctrl : 0) + (OneIn(4) ? ShiftMask::Shift : 0); }
 
     void PressAnyButton()
     {

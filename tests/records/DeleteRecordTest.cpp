@@ -54,7 +54,7 @@ TEST_F(DeleteRecordTest, BoxIsEmptied_InTheMapFileToo_AndOthersKeepTheirs)
     Delete();
 
     EXPECT_EQ(P.Map.BoxArr[1][BoxColumn::File].Text(), u"0"_s);
-    EXPECT_TRUE(MapOf(u'A').contains("1200,600,255,A001,John,3000,600,255,0,Mary,5000,600,255,A003,Peter,"));
+    EXPECT_TRUE(MapOf(u'A').contains("1200,600,255,A001,John,3000,600,255,0,,5000,600,255,A003,Peter,"));
 }
 
 TEST_F(DeleteRecordTest, ForenameTypedAndNotYetStored_TheOneInTheBoxIsWiped)
@@ -216,7 +216,7 @@ TEST_F(DeleteRecordTest, RecordsOneAfterTheOther_UntilNoneIsLeft_AndThenNothingI
     for (int record = 0; record < 3; ++record)
         Delete();
 
-    EXPECT_TRUE(MapOf(u'A').contains("1200,600,255,0,John,3000,600,255,0,Mary,5000,600,255,0,Peter,"));
+    EXPECT_TRUE(MapOf(u'A').contains("1200,600,255,0,,3000,600,255,0,,5000,600,255,0,,"));
     Click(P.Form3->mnuDelete.Click);
     EXPECT_EQ(ExitCode(), std::nullopt);
 }

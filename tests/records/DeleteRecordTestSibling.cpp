@@ -48,7 +48,7 @@ TEST_F(DeletedLinkTest, Yes_OnlyTheBoxGoes_AndOnlyTheMapFileChanges)
     Unlink(Answer::Yes);
 
     EXPECT_EQ(P.Map.BoxArr[2][BoxColumn::File].Text(), u"0"_s);
-    EXPECT_TRUE(MapOf(u'A').contains("1200,600,255,A001,John,3000,600,255,A002,Mary,5000,600,255,0,Peter,"));
+    EXPECT_TRUE(MapOf(u'A').contains("1200,600,255,A001,John,3000,600,255,A002,Mary,5000,600,255,0,,"));
     QStringList changes = Differences(before, Home.Snapshot());
     changes.removeIf([](const QString& line) { return line.endsWith(u"LfgDat_A.~cf"); });
     EXPECT_EQ(changes, QStringList({u"changed: LfgDat_A/LfgDat_A.cfg"_s}));

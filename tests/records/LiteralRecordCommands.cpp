@@ -241,6 +241,7 @@ void LiteralRecords::Unlink()
     LiteralBox& box = Boxes.at(static_cast<std::size_t>(HitBox));
     ReturnFromSibling();
     box.File = u"0"_s;
+    box.Name.clear();
     SaveBoxes();
     MoveFirst(Current);
 }
@@ -253,8 +254,10 @@ void LiteralRecords::DeleteWithFiles()
     } catch (const RuntimeError&) {
         return;
     }
-    if (const int row = RowOf(file); row >= 0 && row < 99)
+    if (const int row = RowOf(file); row >= 0 && row < 99) {
         Boxes[static_cast<std::size_t>(row)].File = u"0"_s;
+        Boxes[static_cast<std::size_t>(row)].Name.clear();
+    }
     if (!file.isEmpty())
         Branches.at(WorkLetter).Pictures.remove(file.toLower());
     MoveFirst(Current);

@@ -58,7 +58,7 @@ Pressed TakeHitBox(Program& p, const Pointing& pointing)
 Pressed BeginBox(Program& p, const Pointing& pointing)
 {
     PictureBox& picture = p.Form1->Picture1;
-    p.Map.SBoxes += 1;
+    p.Map.SBoxes = RowForNew(p.Map.SBoxes, [&](int row) { return p.Map.BoxArr[row][BoxColumn::X].IsZero(); });
     p.Tools.PenSave = picture.ForeColor;
     picture.ForeColor = p.Form1->CommonDialog1.Color;
     DrawNewOutline(p);
@@ -75,6 +75,8 @@ Released EndBox(Program& p)
     box[BoxColumn::Y] = NewCorner(p).Y;
     box[BoxColumn::Colour] = static_cast<int>(picture.ForeColor);
     box[BoxColumn::File] = 0;
+    // The row may have been another box's.
+    box[BoxColumn::Forename] = QString();
     picture.ForeColor = p.Tools.PenSave;
     return Released::Repaint;
 }
@@ -135,8 +137,10 @@ Released DropBox(Program& p)
         Records(p).Update();
         Records(p).SetBookmark(p.Record.SavedBookmark);
         picture.ForeColor = Black;
-        TakeBoxPosition(p, p.Mouse.BoxIdx);
-        DrawRecordInBox(p);
+        if (HasPlace(p.Map, p.Mouse.BoxIdx)) {
+            TakeBoxPosition(p, p.Mouse.BoxIdx);
+            DrawRecordInBox(p);
+        }
         p.Tools.MapCursorMode = MapCursor::Normal;
     }
     return Released::Repaint;

@@ -19,6 +19,17 @@ enum class Pressed { No, Yes };
 // Whether a release is followed by a full repainting of the map.
 enum class Released { AsItStands, Repaint };
 
+// The row for a new item: the first above the count that is free. After a deletion there are items above the count,
+// whose rows they keep. With none free it is the row behind the last.
+template <class IsFree>
+int RowForNew(int count, IsFree&& isFree)
+{
+    int row = count + 1;
+    while (row <= LastMapRow && !isFree(row))
+        ++row;
+    return row;
+}
+
 // Keeps the pointer of a move; of a line that is drawn it is the far end.
 void KeepPointer(Program& p, const Pointing& pointing);
 

@@ -119,7 +119,7 @@ void WipeWhereTheChainLay(Program& p)
 
 Pressed BeginLine(Program& p, const Pointing& pointing)
 {
-    p.Map.SLines += 1;
+    p.Map.SLines = RowForNew(p.Map.SLines, [&](int row) { return p.Map.LineArr[row][LineColumn::X1] == 0; });
     if (pointing.Holds(ShiftMask::Ctrl)) {
         const Point end = EndOfLineBefore(p);
         p.Mouse.DownX = end.X;

@@ -15,6 +15,13 @@ namespace
 constexpr int abovePress = 50;
 constexpr Size hitArea{600, 100}; // whatever the real size of the text is
 
+// With the count at 0 the hit before stands, maybe on a text that is gone or at no place.
+bool IsHitStanding(const Program& p)
+{
+    const auto& text = p.Map.TextArr[p.Tools.TextIdx];
+    return HasPosition(text[TextColumn::X], text[TextColumn::Y]);
+}
+
 bool IsPressInText(const Program& p, int row)
 {
     const auto& text = p.Map.TextArr[row];
@@ -74,7 +81,7 @@ void HitText(Program& p)
 Pressed PlaceText(Program& p, const Pointing& pointing)
 {
     PictureBox& picture = p.Form1->Picture1;
-    p.Map.STexts += 1;
+    p.Map.STexts = RowForNew(p.Map.STexts, [&](int row) { return p.Map.TextArr[row][TextColumn::X].IsZero(); });
     p.Scratch.sInput = p.Prompts.InputBox(u"New Text Input"_s, u"Enter the Text for display on the Tree Map"_s);
     const Point place{pointing.At.X, pointing.At.Y - abovePress};
     KeepPenAndFont(p);
@@ -89,8 +96,7 @@ Pressed PlaceText(Program& p, const Pointing& pointing)
 Pressed TakeText(Program& p, const Pointing& pointing)
 {
     HitText(p);
-    // With the count at 0 the hit before stands, maybe on a text that is gone.
-    if (p.Tools.TextMiss == 0 && p.Map.TextArr[p.Tools.TextIdx][TextColumn::X].IsZero())
+    if (p.Tools.TextMiss == 0 && !IsHitStanding(p))
         p.Tools.TextMiss = 1;
     if (p.Tools.TextMiss != 0)
         return Pressed::No;

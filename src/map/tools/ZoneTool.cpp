@@ -1,6 +1,7 @@
 #include "map/tools/ZoneTool.h"
 
 #include "map/BoxCaptions.h"
+#include "map/HitTest.h"
 #include "map/MapDisplay.h"
 #include "map/MapItems.h"
 #include "map/tools/ToolImages.h"
@@ -13,12 +14,9 @@ namespace lineforge
 
 namespace
 {
-// Free rows stay out, and so do items at no possible place.
 bool IsInZone(const Program& p, const Cell& x, const Cell& y)
 {
-    if (x.IsZero() || !x.IsNumber() || !y.IsNumber())
-        return false;
-    return x.Number() > p.Tools.ZoneLeft && x.Number() < p.Tools.ZoneLeft + p.Tools.ZoneWidth &&
+    return HasPosition(x, y) && x.Number() > p.Tools.ZoneLeft && x.Number() < p.Tools.ZoneLeft + p.Tools.ZoneWidth &&
            y.Number() > p.Tools.ZoneTop && y.Number() < p.Tools.ZoneTop + p.Tools.ZoneHeight;
 }
 
