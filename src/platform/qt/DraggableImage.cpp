@@ -87,10 +87,11 @@ void DraggableImage::mousePressEvent(QMouseEvent* event)
 void DraggableImage::mouseMoveEvent(QMouseEvent* event)
 {
     const QPoint here = event->position().toPoint();
-    if (!isHeld_ || (!outline_ && (here - heldAt_).manhattanLength() < QApplication::startDragDistance()))
+    const bool isDragged = outline_ && !outline_->isHidden();
+    if (!isHeld_ || (!isDragged && (here - heldAt_).manhattanLength() < QApplication::startDragDistance()))
         return;
     // It takes the keyboard, so that Escape comes here.
-    if (!outline_)
+    if (!isDragged)
         setFocus(Qt::MouseFocusReason);
     Outline(geometry().translated(here - heldAt_));
 }
@@ -228,11 +229,14 @@ bool DraggableImage::Slide(QPoint by)
     return true;
 }
 
+// The outline stays for the next time: a window that is being hidden goes through its children just then, and none may
+// be taken from it.
 void DraggableImage::LetGo()
 {
     isHeld_ = false;
     setAccessibleDescription({});
-    delete outline_;
+    if (outline_)
+        outline_->hide();
 }
 
 } // namespace lineforge

@@ -55,8 +55,8 @@ private:
 
     Image& control_;
     bool isHeld_ = false;
-    QPoint heldAt_; // within the image
-    QPointer<QRubberBand> outline_;
+    QPoint heldAt_;                 // within the image
+    QPointer<QRubberBand> outline_; // hidden while nothing is dragged
 };
 
 } // namespace lineforge

@@ -6,6 +6,8 @@
 #include <QTest>
 #include <QWheelEvent>
 
+#include <algorithm>
+
 namespace lineforge
 {
 
@@ -38,7 +40,13 @@ struct DraggableImageTest : WindowTest {
     QWidget& Plain() { return Find<QWidget>(*Tiles, u"Image2"_s); }
 
     static QPoint Middle(const QWidget& widget) { return widget.rect().center(); }
-    const QRubberBand* Outline() { return ViewOf(*Tiles).findChild<QRubberBand*>(); }
+    // Null while nothing is outlined.
+    const QRubberBand* Outline()
+    {
+        const QList<QRubberBand*> outlines = ViewOf(*Tiles).findChildren<QRubberBand*>();
+        const auto shown = std::ranges::find_if_not(outlines, &QRubberBand::isHidden);
+        return shown == outlines.end() ? nullptr : *shown;
+    }
 
     void Press() { QTest::mousePress(&One(), Qt::LeftButton, {}, Middle(One())); }
     void MoveTo(QPoint inOne)
@@ -126,6 +134,17 @@ TEST_F(DraggableImageTest, HiddenWhileItIsHeld_IsDroppedNowhere)
     Tiles->One.Visible = false;
     EXPECT_EQ(Outline(), nullptr);
     Tiles->One.Visible = true;
+    ReleaseOn(Two());
+    EXPECT_EQ(Tiles->Drops, QStringList());
+}
+
+TEST_F(DraggableImageTest, WindowHiddenWhileATileIsHeld_IsSurvived_AndDropsNothing)
+{
+    Press();
+    MoveTo(Two());
+    Tiles->Hide();
+    EXPECT_EQ(Outline(), nullptr);
+    Tiles->Visible = true;
     ReleaseOn(Two());
     EXPECT_EQ(Tiles->Drops, QStringList());
 }
