@@ -1,0 +1,57 @@
+#include "monkey/Verdict.h"
+
+#include <algorithm>
+
+namespace lineforge::monkey
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+// Of "LfgDat_A/LfgDat_A.cfg".
+QString LetterOf(const QString& file)
+{
+    return file.section(u'.', -2, -2).right(1);
+}
+
+// Numbers are typed as the user likes; a record is deleted whatever other branch's map shows it; a picture goes along
+// to a record that is found not to be there only then.
+bool MayBeTheUsers(const check::Finding& finding)
+{
+    using check::Kind;
+    return check::IsNote(finding.Kind) || finding.Kind == Kind::Link ||
+           (finding.Kind == Kind::Box && finding.Record.left(1) != LetterOf(finding.File)) ||
+           (finding.Kind == Kind::SubjectPicture && finding.Text.contains(u"of a record that isn't there"));
+}
+
+// A branch takes what is wrong with it along to another directory, and a new record its number from those before it.
+bool AreSame(const check::Finding& one, const check::Finding& other)
+{
+    return one.Kind == other.Kind && one.File.section(u'/', -1) == other.File.section(u'/', -1) &&
+           (one.Record == other.Record || one.Kind == check::Kind::RecordNumber) && one.Text == other.Text;
+}
+} // namespace
+
+QStringList NewFindings(const check::Report& before, const check::Report& now)
+{
+    QStringList found;
+    for (const check::Finding& finding : now.Findings)
+        if (!MayBeTheUsers(finding) &&
+            std::ranges::none_of(before.Findings, [&](const auto& known) { return AreSame(known, finding); }))
+            found += u"%1 %2: %3"_s.arg(finding.File, finding.Record, finding.Text);
+    return found;
+}
+
+check::Report WithoutUnfinished(check::Report report)
+{
+    QStringList unfinished;
+    for (const check::Finding& finding : report.Findings)
+        if (finding.Kind == check::Kind::Registry && finding.Text.contains(u"isn't in the list of branches"))
+            unfinished += finding.File;
+    std::erase_if(report.Findings,
+                  [&](const check::Finding& finding) { return unfinished.contains(finding.File.section(u'/', 0, 0)); });
+    return report;
+}
+
+} // namespace lineforge::monkey

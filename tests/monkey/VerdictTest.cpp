@@ -1,0 +1,65 @@
+#include "monkey/Verdict.h"
+
+#include "support/Printing.h"
+
+#include <gtest/gtest.h>
+
+namespace lineforge::monkey
+{
+namespace
+{
+using namespace Qt::StringLiterals;
+using check::Kind;
+
+check::Report With(std::vector<check::Finding> findings)
+{
+    return {std::move(findings), {}};
+}
+
+const check::Finding torn{Kind::MapFile, u"LfgDat_A/LfgDat_A.cfg"_s, {}, u"it ends too early"_s};
+const check::Finding leftover{Kind::Leftover, u"LfgDat_A/.lineforge-x"_s, {}, u"left"_s};
+
+TEST(VerdictTest, WhatWasNotThereBefore_IsTold)
+{
+    EXPECT_EQ(NewFindings(With({torn}), With({torn, leftover})), QStringList(u"LfgDat_A/.lineforge-x : left"_s));
+}
+
+TEST(VerdictTest, WhatABranchTakesAlong_AndHandsOnToNewRecords_IsNotNew)
+{
+    const auto number = [](const QString& file, const QString& record) {
+        return With({{Kind::RecordNumber, file, record, u"the number isn't a letter and three digits"_s}});
+    };
+    const check::Report before = number(u"LfgDat_D/LfgDat_D.mdb"_s, u"1"_s);
+    EXPECT_TRUE(NewFindings(before, number(u"Import_D/LfgDat_D.mdb"_s, u"2"_s)).empty());
+    EXPECT_EQ(NewFindings(before, number(u"LfgDat_A/LfgDat_A.mdb"_s, u"1"_s)).size(), 1);
+}
+
+TEST(VerdictTest, WhatTheUserMayBringAbout_IsNoFinding_ATornPictureIs)
+{
+    EXPECT_TRUE(NewFindings({}, With({{Kind::Link, u"LfgDat_A/LfgDat_A.mdb"_s, u"A001"_s, u"FatherRec leads to"_s},
+                                      {Kind::Box, u"LfgDat_A/LfgDat_A.cfg"_s, u"B001"_s, u"which isn't there"_s},
+                                      {Kind::SubjectPicture, u"LfgDat_A/A009Sub.jpg"_s, u"A009"_s,
+                                       u"the picture of a record that isn't there"_s}}))
+                    .empty());
+    EXPECT_EQ(NewFindings({}, With({{Kind::SubjectPicture, u"LfgDat_A/A001Sub.jpg"_s, u"A001"_s, u"no picture"_s},
+                                    {Kind::Box, u"LfgDat_A/LfgDat_A.cfg"_s, u"A009"_s, u"which isn't there"_s}}))
+                  .size(),
+              2);
+}
+
+TEST(VerdictTest, BranchThatIsntInTheList_IsUnfinished_TheOthersAreNot)
+{
+    const check::Finding unlisted{Kind::Registry, u"LfgDat_G"_s, {}, u"this branch isn't in the list of branches"_s};
+    const check::Finding empty{Kind::MapFile, u"LfgDat_G/LfgDat_G.cfg"_s, {}, u"the map isn't there"_s};
+    EXPECT_EQ(WithoutUnfinished(With({unlisted, torn, empty})).Findings, std::vector{torn});
+    EXPECT_EQ(WithoutUnfinished(With({torn, empty})).Findings.size(), 2U);
+}
+
+TEST(VerdictTest, NotesAreNoFindings)
+{
+    EXPECT_TRUE(
+        NewFindings({}, With({{Kind::WithoutBox, u"LfgDat_A/LfgDat_A.mdb"_s, u"A001"_s, u"no box"_s}})).empty());
+}
+
+} // namespace
+} // namespace lineforge::monkey
