@@ -27,6 +27,20 @@ void ShowFirstCurrentRecord(Program& p)
     p.Form6->Frame5.Caption = u"Field: Surname"_s;
 }
 
+// What is copied or cut is the record at which the cursor stands, wherever it has gone meanwhile. The same record keeps
+// its field and its pair.
+void ShowCurrentAgain(Program& p)
+{
+    // What has been typed on the record form meanwhile is seen here as well.
+    p.Errors.Ignoring([&] { StoreTyped(p); });
+    if (IsOnShow(p, CurrentSide)) {
+        ShowPerson(p, CurrentSide, ReadPerson(p, CurrentSide, NullForename::Empty));
+    } else {
+        ForgetPair(p);
+        ShowStepped(p, CurrentSide, NullForename::Empty);
+    }
+}
+
 // False, with a box, when there is no such database; what was compared before stays then.
 bool PointAtCompareDatabase(Program& p, const QString& path)
 {
@@ -81,11 +95,8 @@ void ReturnToComparison(Program& p)
         return OpenComparison(p);
     if (TellIfComparesAlternate(p))
         return;
-    // What is copied or cut is the record at which the cursor stands, wherever it has gone meanwhile.
-    if (Records(p).HasRow() && !IsOnShow(p, CurrentSide)) {
-        ForgetPair(p);
-        ShowStepped(p, CurrentSide, NullForename::Empty);
-    }
+    if (HasRecord(p, CurrentSide))
+        ShowCurrentAgain(p);
     p.Form6->Show();
 }
 
@@ -98,6 +109,7 @@ void LoadComparison(Program& p)
     p.Compare.ZNumberTable.Erase();
     p.Compare.SelBox = 0;
     p.Compare.sSelText.clear();
+    p.Compare.ShownCurrent = p.Compare.ShownCompare = {};
 }
 
 void ChooseCompareBranch(Program& p)

@@ -1,5 +1,6 @@
 #include "compare/CompareClipboard.h"
 
+#include "compare/CompareSearch.h"
 #include "compare/Sides.h"
 
 namespace lineforge
@@ -35,6 +36,9 @@ const EditedBox& BoxOf(int number)
 void Store(Program& p, const QString& text)
 {
     const EditedBox& box = BoxOf(p.Compare.SelBox);
+    // Without a record there is nothing to be written to, whatever is on show.
+    if (HasRecord(p, box.Owner) && !IsSeen(p))
+        return;
     const QString field = box.Field.isEmpty() ? p.Compare.sCompField : box.Field.toString();
     if (box.Field.isEmpty())
         ShowField(p, box.Owner, text);

@@ -11,12 +11,13 @@ void RememberCompareSelection(Program& p, int number);
 // The remembered text to the clipboard.
 void CopyCompareSelection(Program& p);
 
-// The same, and the whole box is emptied, with its field. Errors of the database; 91 while no branch is compared, 3265
-// while no field of the table is shown.
+// The same, and the whole box is emptied, with its field; neither before both sides show the records on which their
+// cursors stand, see `IsSeen`. Errors of the database; 91 while no branch is compared, 3265 while no field of the table
+// is shown.
 void CutCompareField(Program& p);
 
-// The clipboard's text in the place of the whole box and in its field; nothing when it holds none, or no box has been
-// clicked. Errors as of cutting.
+// The clipboard's text in the place of the whole box and in its field, in the same way; nothing when it holds none, or
+// no box has been clicked. Errors as of cutting.
 void PasteCompareField(Program& p);
 
 } // namespace lineforge

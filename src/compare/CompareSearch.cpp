@@ -126,4 +126,22 @@ void ForgetPair(Program& p)
         p.Compare.FieldStep = 0;
 }
 
+void ShowSidesAnew(Program& p)
+{
+    ForgetPair(p);
+    for (const Side* side : {&CurrentSide, &CompareSide})
+        if (HasRecord(p, *side))
+            ShowStepped(p, *side, NullForename::Empty);
+}
+
+bool IsSeen(Program& p)
+{
+    for (const Side* side : {&CurrentSide, &CompareSide})
+        if (HasRecord(p, *side) && !IsOnShow(p, *side)) {
+            ShowSidesAnew(p);
+            return false;
+        }
+    return true;
+}
+
 } // namespace lineforge

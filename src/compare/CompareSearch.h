@@ -22,4 +22,12 @@ void ShowSteppedRecord(Program& p);
 // One of the two cursors has left the pair at hand: the next search begins with the pair that stands then.
 void ForgetPair(Program& p);
 
+// The map, the record form, its scanner or the opening of a branch may have moved a cursor behind the window. Shows
+// both sides anew, with no field on show, and forgets the pair; a side without a record stays as it is.
+void ShowSidesAnew(Program& p);
+
+// Before a command writes. Where the cursor of either side stands on a record that isn't on show: shows both anew, and
+// false, since the user hasn't seen yet what would be written to.
+bool IsSeen(Program& p);
+
 } // namespace lineforge

@@ -1,12 +1,11 @@
 #include "compare/FieldCopy.h"
 
+#include "compare/CompareSearch.h"
 #include "compare/Sides.h"
 #include "platform/Number.h"
 #include "platform/Text.h"
 #include "program/RecordFields.h"
 #include "program/WorkDatabase.h"
-
-#include <QScopeGuard>
 
 namespace lineforge
 {
@@ -29,6 +28,12 @@ const Direction toCurrent{CompareSide, CurrentSide, u"Append Compare Record to C
 const Direction& DirectionOf(Program& p)
 {
     return p.Form6->Option1.Value ? toCompare : toCurrent;
+}
+
+// Without a record on either side nothing can be copied, whatever is on show.
+bool IsPairSeen(Program& p)
+{
+    return !HasRecord(p, CurrentSide) || !HasRecord(p, CompareSide) || IsSeen(p);
 }
 
 void CopyFields(const Recordset& from, Recordset& to)
@@ -98,26 +103,32 @@ void Append(Program& p, const Direction& way)
     to.AddNew();
     to.Put(u"File", number);
     CopyFields(from, to);
+    PersonTexts added = ReadPerson(p, way.To, NullForename::Empty);
     to.Update();
-    ((*p.Form6).*way.To.Number).Caption = number;
+    // The cursor stays on the row before.
+    added.Whose.Record = to.LastModified();
+    ShowStepped(p, way.To, added);
 }
 } // namespace
 
 void CopyField(Program& p)
 {
     const Direction& way = DirectionOf(p);
+    if (!IsPairSeen(p))
+        return;
     const QString& field = p.Compare.sCompField;
     const QString before = ((*p.Form6).*way.To.Field).Text;
     try {
         Recordset& to = way.To.Records(p);
-        // Nothing that was refused may stay behind for the next saving.
-        const auto givenUp = qScopeGuard([&] { p.Errors.Ignoring([&] { to.SetBookmark(to.GetBookmark()); }); });
         const FieldValue value = way.From.Records(p).Value(field);
         to.Edit();
         to.Put(field, value);
         ShowField(p, way.To, value.value_or(QString()));
         to.Update();
     } catch (const RuntimeError& refusal) {
+        // Nothing that was refused may stay behind for the next saving.
+        if (DataControl& data = way.To.Data(p); data.IsOpen())
+            data.Records().CancelUpdate();
         ShowField(p, way.To, before);
         if (refusal.IsTold)
             return;
@@ -127,6 +138,8 @@ void CopyField(Program& p)
 
 void CopyAllFields(Program& p)
 {
+    if (!IsPairSeen(p))
+        return;
     const Direction& way = DirectionOf(p);
     Recordset& to = way.To.Records(p);
     to.Edit();
@@ -139,6 +152,9 @@ void CopyAllFields(Program& p)
 void AppendRecord(Program& p)
 {
     const Direction& way = DirectionOf(p);
+    // What is appended from left to right is on show; to whom it is appended makes no difference.
+    if (&way.From == &CurrentSide && HasRecord(p, CurrentSide) && !IsOnShow(p, CurrentSide))
+        return ShowSidesAnew(p);
     // Not kept with the map's positions: it may be one of the other branch.
     const Bookmark before = way.To.Records(p).GetBookmark();
     CompareRecords(p).MoveFirst();

@@ -5,7 +5,8 @@
 namespace lineforge
 {
 
-// All three go the way that the option buttons say, and work on the records at which the two recordsets stand.
+// All three go the way that the option buttons say, and work on the records at which the two recordsets stand. Where
+// those that a command reads or writes aren't on show it shows them instead, see `IsSeen`.
 
 // The field on show. What fails is told.
 void CopyField(Program& p);

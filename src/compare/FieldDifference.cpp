@@ -134,6 +134,12 @@ bool EndsAtOnce(Program& p)
     return true;
 }
 
+void ShowPersons(Program& p, const WalkedPair& pair)
+{
+    if (!pair.IsOnShow)
+        ShowPersons(p, pair.Current, pair.Compare);
+}
+
 // Whether the walk stops at the pair, which is shown then. A pair that was searched for is stopped at in any case.
 bool StopsAt(Program& p, const WalkedPair& pair)
 {
@@ -142,8 +148,7 @@ bool StopsAt(Program& p, const WalkedPair& pair)
         p.Compare.FieldStep = 0;
     if (isEnd && p.Scratch.ScanState != ComparePair::InHand)
         return false;
-    if (!pair.IsOnShow)
-        ShowPersons(p, pair.Current, pair.Compare);
+    ShowPersons(p, pair);
     if (isEnd)
         ShowEndOfPair(p);
     else
@@ -161,7 +166,7 @@ NextPair WalkPairs(Program& p)
             return NextPair::Stands;
         const NextPair next = MoveToNextPair(p);
         if (next != NextPair::Stands) {
-            ShowPersons(p, pair.Current, pair.Compare);
+            ShowPersons(p, pair);
             return next;
         }
         meanwhile.KeepPainted();
@@ -179,6 +184,9 @@ void FieldDifferenceSearch(Program& p)
     case NextPair::BeginsRound:
         ShowSearchState(p, SearchState::Ready);
         ShowComparePair(p);
+        // Those of the pair that was walked last.
+        SetFieldCaptions(p, u"Field:"_s, u"Field:"_s);
+        EmptyFields(p);
         return;
     case NextPair::Missing:
         EndOfFieldSearch(p);

@@ -11,6 +11,16 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
+DataControl& CurrentData(Program& p)
+{
+    return p.Form3->Data1;
+}
+
+DataControl& CompareData(Program& p)
+{
+    return p.Form6->Data1;
+}
+
 QString CurrentDirectory(const Program& p)
 {
     return p.Branch.WorkDir;
@@ -28,25 +38,47 @@ void MarkDifference(Program& p)
     form.Text2.Marked = inCurrent;
     form.Text4.Marked = inCompare;
 }
+
+// The same record has another mark once another program has written to the file.
+bool IsSameRecord(const Recordset& records, const Bookmark& mark)
+{
+    if (!mark || records.GetBookmark() == mark)
+        return mark.has_value();
+    try {
+        const auto there = records.Afresh();
+        there->SetBookmark(mark);
+        return there->HasRow() && there->GetBookmark() == records.GetBookmark();
+    } catch (const RuntimeError& refusal) {
+        if (refusal.IsTold)
+            throw;
+        return false;
+    }
+}
+
+ShownRecord RecordOf(Program& p, const Side& side)
+{
+    return {side.Directory(p), side.Records(p).GetBookmark()};
+}
 } // namespace
 
 // clang-format off
-const Side CurrentSide{Records,        CurrentDirectory,
+const Side CurrentSide{CurrentData, CurrentDirectory, &CompareState::ShownCurrent,
                        &forms::Form6::Label4, &forms::Form6::Image1, &forms::Form6::Text1, &forms::Form6::Text5,
                        &forms::Form6::Frame5, &forms::Form6::Text2};
-const Side CompareSide{CompareRecords, CompareDirectory,
+const Side CompareSide{CompareData, CompareDirectory, &CompareState::ShownCompare,
                        &forms::Form6::Label9, &forms::Form6::Image2, &forms::Form6::Text3, &forms::Form6::Text6,
                        &forms::Form6::Frame6, &forms::Form6::Text4};
 // clang-format on
 
 Recordset& CompareRecords(Program& p)
 {
-    return p.Form6->Data1.Records();
+    return CompareSide.Records(p);
 }
 
 void ShowNothing(Program& p, const Side& side)
 {
     forms::Form6& form = *p.Form6;
+    p.Compare.*side.Shown = {};
     (form.*side.Number).Caption = QString();
     (form.*side.Picture).Picture = QImage();
     (form.*side.Surname).Text = QString();
@@ -57,7 +89,12 @@ void ShowNothing(Program& p, const Side& side)
 
 void ShowStepped(Program& p, const Side& side, NullForename null)
 {
-    ShowPerson(p, side, ReadPerson(p, side, null));
+    ShowStepped(p, side, ReadPerson(p, side, null));
+}
+
+void ShowStepped(Program& p, const Side& side, const PersonTexts& person)
+{
+    ShowPerson(p, side, person);
     ((*p.Form6).*side.FieldFrame).Caption = u"Field:"_s;
     ShowField(p, side, {});
 }
@@ -76,22 +113,28 @@ PersonTexts ReadPerson(Program& p, const Side& side, NullForename null)
     const FieldValue forename = record.Value(u"Forename");
     if (!forename && null == NullForename::Refused)
         throw RuntimeError(ErrorNumber::InvalidUseOfNull, u"Forename\nRecord "_s + file + u'\n' + side.Directory(p));
-    return {file, record.Text(u"Surname"), forename.value_or(QString())};
+    return {file, record.Text(u"Surname"), forename.value_or(QString()), RecordOf(p, side)};
 }
 
 void ShowPerson(Program& p, const Side& side, const PersonTexts& person)
 {
     forms::Form6& form = *p.Form6;
+    p.Compare.*side.Shown = person.Whose;
     (form.*side.Number).Caption = person.File;
     ShowPicture(p, side, person.File);
     (form.*side.Surname).Text = person.Surname;
     (form.*side.Forename).Text = person.Forename;
 }
 
+bool HasRecord(Program& p, const Side& side)
+{
+    return side.Data(p).IsOpen() && side.Records(p).HasRow();
+}
+
 bool IsOnShow(Program& p, const Side& side)
 {
-    const Recordset& record = side.Records(p);
-    return record.HasRow() && record.Text(u"File") == ((*p.Form6).*side.Number).Caption.value();
+    const ShownRecord& shown = p.Compare.*side.Shown;
+    return HasRecord(p, side) && shown.Directory == side.Directory(p) && IsSameRecord(side.Records(p), shown.Record);
 }
 
 void SetFieldCaptions(Program& p, const QString& current, const QString& compare)

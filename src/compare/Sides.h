@@ -7,19 +7,23 @@ namespace lineforge
 
 // One of the two sides of the comparison: where its records come from, and what shows them.
 struct Side {
-    Recordset& (*Records)(Program& p);
+    DataControl& (*Data)(Program& p);
     QString (*Directory)(const Program& p); // of the branch
+    ShownRecord CompareState::*Shown;
     Label forms::Form6::*Number;
     Image forms::Form6::*Picture;
     TextBox forms::Form6::*Surname;
     TextBox forms::Form6::*Forename;
     Frame forms::Form6::*FieldFrame;
     TextBox forms::Form6::*Field;
+
+    // Error 91 while none has been opened.
+    Recordset& Records(Program& p) const { return Data(p).Records(); }
 };
 
 // The open branch on the left; its records are those of the record form, which follows every move.
 extern const Side CurrentSide;
-// The other branch on the right. Error 91 while none has been opened.
+// The other branch on the right.
 extern const Side CompareSide;
 
 Recordset& CompareRecords(Program& p);
@@ -29,6 +33,7 @@ struct PersonTexts {
     QString File;
     QString Surname;
     QString Forename;
+    ShownRecord Whose;
 };
 
 // Whether a forename that is Null is error 94, as in the steps of the search's own buttons, or empty text.
@@ -41,13 +46,16 @@ PersonTexts ReadPerson(Program& p, const Side& side, NullForename null);
 // Number, picture, surname and forename. A picture that can't be had leaves its place empty.
 void ShowPerson(Program& p, const Side& side, const PersonTexts& person);
 
-// Whether the side shows the number of its record; false without a record.
+// Whether a branch has been opened for the side and its cursor stands on a record.
+bool HasRecord(Program& p, const Side& side);
+// Whether the side shows the record on which its cursor stands; false without a record.
 bool IsOnShow(Program& p, const Side& side);
 
 void ShowPicture(Program& p, const Side& side, const QString& file);
 
 // The side's record as a step by hand leaves the side: with no field on show.
 void ShowStepped(Program& p, const Side& side, NullForename null);
+void ShowStepped(Program& p, const Side& side, const PersonTexts& person);
 
 // A side that has no record.
 void ShowNothing(Program& p, const Side& side);

@@ -26,10 +26,10 @@ bool LeaveWalkedPair(Program& p)
         compare.MoveFirst();
         if (!current.Eof())
             current.MoveNext();
-        if (current.Eof()) {
-            EndAtCurrent(p);
-            return false;
-        }
+    }
+    if (current.Eof()) {
+        EndAtCurrent(p);
+        return false;
     }
     if (compare.Eof()) {
         EndAtCompare(p);

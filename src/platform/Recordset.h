@@ -83,6 +83,8 @@ public:
     // Writes what `Edit` or `AddNew` began. After an addition the current row is the one before it, and
     // `LastModified` is the new one.
     void Update();
+    // Gives up what `Edit` or `AddNew` began, if anything.
+    void CancelUpdate();
     void Delete();
 
     Bookmark GetBookmark() const;

@@ -53,6 +53,11 @@ void Recordset::Update()
     Arrived();
 }
 
+void Recordset::CancelUpdate()
+{
+    pending_ = Pending::None;
+}
+
 // The change takes place on the rows as they stand in the file, whole or not at all.
 template <class Act>
 void Recordset::InFile(const Act& act)

@@ -110,6 +110,13 @@ struct GalleryState {
     QString PageSurname;
 };
 
+// Whom one side of the comparison shows. Numbers don't tell: two people may have the same.
+struct ShownRecord {
+    QString Directory; // of the branch
+    Bookmark Record;   // none: nobody
+    friend bool operator==(const ShownRecord&, const ShownRecord&) = default;
+};
+
 // The comparison of the open branch with another one.
 struct CompareState {
     QString sCompDbFile; // "LfgDat_B.mdb"
@@ -123,6 +130,8 @@ struct CompareState {
     QString sCompField;      // the field on show
     QString sSelText;        // selected at the last click in a box of the window
     Integer16 SelBox;        // that box's number, 1 to 4, 0 for none
+    ShownRecord ShownCurrent;
+    ShownRecord ShownCompare;
     // The numbers of appended records that have been seen, as long as the window lives.
     FixedArray<QString, 0, 99> ZNumberTable;
 };

@@ -3,7 +3,8 @@
 #include "program/AlternateBranch.h"
 #include "program/BranchPaths.h"
 #include "program/BranchUi.h"
-#include "program/WorkDatabase.h"
+#include "program/Position.h"
+#include "records/RecordPicture.h"
 
 namespace lineforge
 {
@@ -73,16 +74,19 @@ void ChangeSubjectPicture(Program& p)
                         u"This Record is from another Tree Branch. You must \n"
                         u"open that Tree Branch to change the Subject Picture. "_s))
         return;
+    const Bookmark asked = Records(p).HasRow() ? Records(p).GetBookmark() : Bookmark();
     const Answer change = p.Prompts.MsgBox(u"Subject Picture Change."_s, u"Change or add the Subject Picture ?"_s,
                                            Buttons::QuestionOkCancel);
-    if (change != Answer::Ok || !Records(p).HasRow())
+    if (change != Answer::Ok || !asked)
         return;
-    const QString picture = SubjectPictureFile(p.Branch.WorkDir, p.Form3->Label25.Caption);
     const std::optional<QString> chosen =
         p.Prompts.OpenFile({u"Select Picture Source File"_s, u"Graphics|*.jpg|All Files|*.*|"_s});
     if (!chosen)
         return;
     p.Errors.Ignoring([&] {
+        StandOn(p, asked);
+        FollowWithPicture(p);
+        const QString picture = SubjectPictureFile(p.Branch.WorkDir, p.Form3->Label25.Caption);
         p.Files.FileCopy(*chosen, picture);
         p.Form3->Image1.Picture = p.Pictures.Load(p.Files, picture);
     });

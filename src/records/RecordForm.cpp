@@ -137,6 +137,7 @@ void ReturnToTree(Program& p)
 void EnlargeSubjectPicture(Program& p)
 {
     const forms::Form3& record = *p.Form3;
+    SetPictureName(p);
     p.Form2->Caption =
         record.Label25.Caption.value() + u"     " + record.Text3.Text.value() + u"  " + record.Text2.Text.value();
     try {
@@ -161,24 +162,6 @@ void OpenSearchMenu(Program& p)
                          u"This Record is from another Tree Branch. You must open \n"
                          u"that Tree Branch to Search the Records of the Database. "_s))
         OpenRecordMenu(p);
-}
-
-void ExitFromRecords(Program& p)
-{
-    p.Errors.Clear();
-    p.Errors.Ignoring([&] { Records(p).Update(); });
-    // Who has been told that a text isn't stored wants to see to it.
-    if (p.Errors.Last && p.Errors.Last->IsTold)
-        return;
-    p.Errors.Ignoring([&] { SaveBoxes(p); });
-    p.Errors.Ignoring([&] { LeaveToolsIfOpen(p); });
-    p.Form5->MMControl1.Command(u"Close");
-    // The main window takes all others with it and ends the program, unless a text that can't be written holds this
-    // form back.
-    p.Errors.Clear();
-    p.Errors.Ignoring([&] { p.Form1.Unload(); });
-    if (!p.Errors.Last || !p.Errors.Last->IsTold)
-        p.Loop.End(0);
 }
 
 void RememberSelection(Program& p, const TextBox& box, int number)

@@ -27,9 +27,6 @@ void OpenRecordMenu(Program& p);
 // The same for the searches, which are refused with a box while a record of another branch is shown.
 void OpenSearchMenu(Program& p);
 
-// The Exit command of this form. Errors are passed over up to the end of the program.
-void ExitFromRecords(Program& p);
-
 // A click in one of `Text2` to `Text19`, which may have ended a selection: remembers what is selected there.
 void RememberSelection(Program& p, const TextBox& box, int number);
 

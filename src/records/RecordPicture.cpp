@@ -1,5 +1,7 @@
 #include "records/RecordPicture.h"
 
+#include "program/BranchPaths.h"
+
 namespace lineforge
 {
 
@@ -8,10 +10,10 @@ using namespace Qt::StringLiterals;
 namespace
 {
 // What stood there before may be somebody else.
-void LoadOrEmpty(Program& p, const QString& directory)
+void LoadOrEmpty(Program& p, const QString& file)
 {
     try {
-        p.Form3->Image1.Picture = p.Pictures.Load(p.Files, directory + p.Record.sPicFile);
+        p.Form3->Image1.Picture = p.Pictures.Load(p.Files, file);
     } catch (const RuntimeError&) {
         p.Form3->Image1.Picture = QImage();
     }
@@ -23,7 +25,7 @@ void ShowRecordPicture(Program& p, const QString& directory)
     p.Record.sCurFile = p.Form3->Label25.Caption;
     p.Record.sPicSuffix = u"Sub.jpg"_s;
     p.Record.sPicFile = p.Record.sCurFile + p.Record.sPicSuffix;
-    LoadOrEmpty(p, directory);
+    LoadOrEmpty(p, directory + p.Record.sPicFile);
 }
 
 void ShowRecordPicture(Program& p)
@@ -33,7 +35,13 @@ void ShowRecordPicture(Program& p)
 
 void ShowNamedPicture(Program& p)
 {
-    LoadOrEmpty(p, p.Branch.WorkDir + PathSeparator);
+    LoadOrEmpty(p, p.Branch.WorkDir + PathSeparator + p.Record.sPicFile);
+}
+
+void FollowWithPicture(Program& p)
+{
+    if (p.Form3.IsLoaded() && p.Form3->Visible && p.Form3->Data1.IsOpen())
+        LoadOrEmpty(p, SubjectPictureFile(p.Branch.WorkDir, p.Form3->Label25.Caption));
 }
 
 } // namespace lineforge

@@ -122,14 +122,13 @@ bool CopyPicture(Program& p, const QString& source, const QString& destination)
     }
 }
 
-// False, and a box, when there is no such record. The box doesn't name the number that was typed; so it is meant to be.
-bool FindDestination(Program& p, const QString& file)
+// False, and a box that names that number, when there is no such record.
+bool FindDestination(Program& p, const QString& file, const QString& told)
 {
     if (Records(p).Seek(u"File", file))
         return true;
     p.Form3->Image1.Picture = QImage();
-    p.Prompts.MsgBox(u"Database Result"_s, u"No Match Found for Data Ref: "_s + p.Record.sCurFile,
-                     Buttons::Information);
+    p.Prompts.MsgBox(u"Database Result"_s, u"No Match Found for Data Ref: "_s + told, Buttons::Information);
     return false;
 }
 
@@ -161,8 +160,10 @@ void TransferRecord(Program& p)
                         u"This Record is from another Tree Branch. You must open \n"
                         u"that Tree Branch to Transfer this Record."_s))
         return;
+    p.Errors.Clear();
     p.Errors.Ignoring([&] { Records(p).Update(); });
-    if (!Records(p).HasRow())
+    // Who has been told that a text isn't stored wants to see to it.
+    if ((p.Errors.Last && p.Errors.Last->IsTold) || !Records(p).HasRow())
         return;
     const Bookmark asked = Records(p).GetBookmark();
     const QString destination = AskDestination(p);
@@ -174,16 +175,24 @@ void TransferRecord(Program& p)
         return;
     const QString picture = PictureFile(p.Branch.WorkDir, source->File);
     QString directory = p.Branch.WorkDir;
+    bool isOpen = true;
     if (const QString letter = destination.first(1); !SameText(letter, source->File.left(1))) {
         directory = SiblingDirectory(directory, letter);
         LeaveToolsIfOpen(p);
-        if (OpenBranchOf(p, letter)) {
+        isOpen = OpenBranchOf(p, letter);
+        if (isOpen) {
             ShowItsMap(p);
             if (Records(p).IsEmpty())
                 return;
         }
     }
-    if (CopyPicture(p, picture, PictureFile(directory, destination)) && FindDestination(p, destination))
+    const QString itsPicture = PictureFile(directory, destination);
+    // Of a branch that can't be opened nobody's picture is replaced.
+    const bool keepsPicture = !isOpen && !p.Files.Dir(itsPicture).isEmpty();
+    if (!keepsPicture && !CopyPicture(p, picture, itsPicture))
+        return;
+    // The box doesn't name the number that was typed, unless its branch couldn't be opened; so it is meant to be.
+    if (FindDestination(p, destination, isOpen ? p.Record.sCurFile : destination))
         OverwriteRecord(p, source->Texts);
 }
 

@@ -4,9 +4,23 @@
 #include "map/tools/LeaveTools.h"
 #include "program/WorkDatabase.h"
 #include "shell/CloseBranch.h"
+#include "shell/FatalPath.h"
 
 namespace lineforge
 {
+
+namespace
+{
+void TellIfRefused(Program& p, void (*step)(Program& p))
+{
+    try {
+        step(p);
+    } catch (const RuntimeError& refusal) {
+        if (!refusal.IsTold)
+            TellError(p, refusal);
+    }
+}
+} // namespace
 
 void ExitProgram(Program& p)
 {
@@ -21,6 +35,20 @@ void ExitProgram(Program& p)
 void ExitFromGallery(Program& p)
 {
     CloseBranch(p);
+    p.Form1.Unload();
+}
+
+void ExitFromRecords(Program& p)
+{
+    p.Errors.Clear();
+    p.Errors.Ignoring([&] { Records(p).Update(); });
+    // Who has been told that a text isn't stored wants to see to it.
+    if (p.Errors.Last && p.Errors.Last->IsTold)
+        return;
+    TellIfRefused(p, SaveBoxes);
+    TellIfRefused(p, LeaveToolsIfOpen);
+    p.Form5->MMControl1.Command(u"Close");
+    // The main window takes all others with it and ends the program; a text that still can't be stored is told.
     p.Form1.Unload();
 }
 

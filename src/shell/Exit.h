@@ -12,6 +12,10 @@ void ExitProgram(Program& p);
 // The same from the gallery, which closes the branch in the way that the menu does.
 void ExitFromGallery(Program& p);
 
+// The same from the record form. A map that can't be saved is told, and stops nothing. Errors of the database, where a
+// text can't be stored.
+void ExitFromRecords(Program& p);
+
 // The main window goes, by its frame or by the command: closes sounds and all windows and ends the program. By the
 // frame alone the boxes aren't saved; that is the settled behaviour.
 void CloseMainWindow(Program& p);

@@ -17,7 +17,7 @@ void EndWithError(Program& p, const RuntimeError& error)
     // What was written to them stays.
     p.Lineage.GedcomFile.reset();
     CloseConversionFiles(p);
-    p.Prompts.MsgBox(u"Lineforge"_s, FatalText(error), Buttons::Error);
+    TellError(p, error);
     p.Loop.End(1);
 }
 
@@ -30,6 +30,11 @@ void GiveUpCommand(Program& p, const RuntimeError& error)
     p.Databases.Others().TellOfReplaced();
 }
 } // namespace
+
+void TellError(Program& p, const RuntimeError& error)
+{
+    p.Prompts.MsgBox(u"Lineforge"_s, FatalText(error), Buttons::Error);
+}
 
 void RunHandler(Program& p, const Event& handler)
 {

@@ -424,6 +424,67 @@ TEST_F(CompareBranchTest, ButtonOnTheSameRecord_KeepsThePair)
     EXPECT_EQ(Texts(), u"John|Jon"_s);
 }
 
+TEST_F(CompareBranchTest, ButtonOnAnotherRecordOfTheSameNumber_ForgetsThePair)
+{
+    GivenOpenBranch();
+    Compare();
+    ChooseCompare(u"Jones");
+    Search();
+    ChangeOutside(u'A', "UPDATE Tree99 SET File = 'A001'");
+    Records(P).MoveLast();
+    Click(P.Form1->Command5.Click);
+    EXPECT_EQ(P.Compare.FieldStep, 0);
+    EXPECT_EQ(Surnames(), u"Jones|Smythe"_s);
+    EXPECT_EQ(Texts(), u"|Smythe"_s);
+}
+
+TEST_F(CompareBranchTest, ButtonOnTheSameRecord_ShowsWhatHasBecomeOfIt)
+{
+    GivenOpenBranch();
+    Compare();
+    ChooseCompare(u"Jones");
+    Search();
+    Click(P.Form6->Command4.Click);
+    Click(P.Form1->Command1.Click);
+    P.Form3->Text2.Text = u"Brown"_s;
+    P.Form3->Text3.Text = u"Jim"_s;
+    Click(P.Form3->Command2.Click);
+    P.Files.Kill(Home.Path(u"LfgDat_A/A001Sub.jpg"));
+    Tell(u"Image not Present", u"Searched Image File for A001Sub.Jpg");
+    Click(P.Form3->Command2.Click);
+    Click(P.Form1->Command5.Click);
+    EXPECT_EQ(Surnames(), u"Brown|Smythe"_s);
+    EXPECT_EQ(Forenames(), u"Jim|Jon"_s);
+    EXPECT_EQ(Pictures(), u"none B001"_s);
+    EXPECT_EQ(P.Compare.FieldStep, 2);
+    EXPECT_EQ(Stored(u'A', "Surname", "A001"), u"Brown"_s);
+    Search();
+    EXPECT_EQ(Texts(), u"Jim|Jon"_s);
+}
+
+TEST_F(CompareBranchTest, ButtonOnTheSameRecordWhoseTextIsRefused_ShowsItAsTheRecordFormDoes)
+{
+    GivenOpenBranch();
+    Compare();
+    ChooseCompare(u"Jones");
+    P.Form3->Text2.Text = u"Brown"_s;
+    ChangeOutside(u'A', "CREATE TRIGGER Refusal BEFORE UPDATE ON Tree99 BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    Click(P.Form1->Command5.Click);
+    EXPECT_EQ(ExitCode(), std::nullopt);
+    EXPECT_EQ(Surnames(), u"Brown|Smythe"_s);
+    EXPECT_EQ(P.Form3->Text2.Text.value(), u"Brown"_s);
+    EXPECT_EQ(Stored(u'A', "Surname", "A001"), u"Smith"_s);
+}
+
+TEST_F(CompareBranchTest, ButtonOnTheFirstRecordOfANewWindow_LeavesItsFieldOnShow)
+{
+    GivenOpenBranch();
+    Compare();
+    Click(P.Form1->Command5.Click);
+    EXPECT_EQ(P.Form6->Frame5.Caption.value(), u"Field: Surname"_s);
+    EXPECT_EQ(P.Form6->Text2.Text.value(), u"Smith"_s);
+}
+
 TEST_F(CompareBranchTest, ButtonOnARecordWithANullForename_ShowsItWhole)
 {
     GivenOpenBranch();

@@ -12,7 +12,8 @@ class CompareClipboardTest : public CompareTest
 protected:
     CompareClipboardTest()
     {
-        GivenComparison({{{u"File", u"A001"}, {u"Surname", u"Smith"}, {u"Forename", u"John"}}},
+        GivenComparison({{{u"File", u"A001"}, {u"Surname", u"Smith"}, {u"Forename", u"John"}},
+                         {{u"File", u"A002"}, {u"Surname", u"Brown"}, {u"Forename", u"Ann"}}},
                         {{{u"File", u"B001"}, {u"Surname", u"Smith"}, {u"Forename", u"Jon"}}});
         Search();
     }
@@ -78,6 +79,33 @@ TEST_P(BoxTest, ClickWithoutASelection_LetsCutStoreAnEmptyField)
     EXPECT_EQ(P.Compare.sSelText, QString());
     Cut();
     EXPECT_EQ(Machine.Clipboard.Text, QString());
+    EXPECT_EQ(InDatabase(), QString());
+}
+
+// The left cursor has gone on meanwhile; a press that writes nothing shows where.
+TEST_P(BoxTest, CutAndPasteOnARecordThatIsNotOnShow_ShowItFirst)
+{
+    const auto ours = Rows(u'A');
+    const auto theirs = Rows(u'B');
+    Machine.Clipboard.Text = u"Pasted"_s;
+    Select(TheBox(), u"o");
+    Records(P).MoveNext();
+    Paste();
+    EXPECT_EQ(Rows(u'A'), ours);
+    EXPECT_EQ(Rows(u'B'), theirs);
+    EXPECT_EQ(ShownPair(), u"A002 B001"_s);
+    EXPECT_EQ(Surnames(), u"Brown|Smith"_s);
+    EXPECT_EQ(Captions(), u"Field:|Field:"_s);
+    EXPECT_EQ(Texts(), u"|"_s);
+    EXPECT_EQ(P.Compare.FieldStep, 0);
+
+    Records(P).MovePrevious();
+    Cut();
+    EXPECT_EQ(Machine.Clipboard.Text, u"o"_s);
+    EXPECT_EQ(Rows(u'A'), ours);
+    EXPECT_EQ(Rows(u'B'), theirs);
+    EXPECT_EQ(ShownPair(), u"A001 B001"_s);
+    Cut();
     EXPECT_EQ(InDatabase(), QString());
 }
 

@@ -210,5 +210,90 @@ TEST_F(CompareSearchTest, RecordForm_FollowsEveryMove)
     EXPECT_EQ(P.Form3->Label25.Caption.value(), u"A002"_s);
 }
 
+// The record form beside the window follows every move of the left cursor, and its picture with it.
+struct MoveOfCurrent {
+    const char* Name;
+    void (*Make)(Program& p);
+    QStringView Person;
+};
+
+void PrintTo(const MoveOfCurrent& move, std::ostream* out)
+{
+    *out << move.Name;
+}
+
+class RecordFormBesideTest : public CompareTest, public testing::WithParamInterface<MoveOfCurrent>
+{
+protected:
+    RecordFormBesideTest()
+    {
+        GivenComparison({{{u"File", u"A001"}, {u"Surname", u"Smith"}, {u"Forename", u"John"}},
+                         {{u"File", u"A002"}, {u"Surname", u"Jones"}, {u"Forename", u"Mary"}},
+                         {{u"File", u"A003"}, {u"Surname", u"Brown"}, {u"Forename", u"Ann"}}},
+                        {{{u"File", u"B001"}, {u"Surname", u"Jones"}, {u"Forename", u"Jon"}}});
+        Records(P).MoveLast();
+        Click(P.Form1->Command1.Click);
+    }
+};
+
+TEST_P(RecordFormBesideTest, ShowsThePictureWithTheRecord)
+{
+    ASSERT_EQ(PersonOn(P.Form3->Image1), u"A003"_s);
+    Click([&] { GetParam().Make(P); });
+    EXPECT_EQ(P.Form3->Label25.Caption.value(), GetParam().Person);
+    EXPECT_EQ(PersonOn(P.Form3->Image1), GetParam().Person);
+}
+
+TEST_P(RecordFormBesideTest, HiddenItKeepsItsPicture)
+{
+    P.Form3->Hide();
+    Click([&] { GetParam().Make(P); });
+    EXPECT_EQ(PersonOn(P.Form3->Image1), u"A003"_s);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Moves, RecordFormBesideTest,
+    testing::Values(MoveOfCurrent{"Reset", [](Program& p) { Fire(p.Form6->Command2.Click); }, u"A001"},
+                    MoveOfCurrent{"NextCurrent",
+                                  [](Program& p) {
+                                      Records(p).MoveFirst();
+                                      Fire(p.Form6->Command6.Click);
+                                  },
+                                  u"A002"},
+                    MoveOfCurrent{"Search",
+                                  [](Program& p) {
+                                      Records(p).MoveFirst();
+                                      p.Form6->Check2.Value = true;
+                                      Fire(p.Form6->Command1.Click);
+                                  },
+                                  u"A002"},
+                    MoveOfCurrent{"CompareRecords", [](Program& p) { Fire(p.Form1->mnuComp.Click); }, u"A001"},
+                    MoveOfCurrent{"OpenCompare",
+                                  [](Program& p) {
+                                      Fire(p.Form6->mnuOpen.Click);
+                                      p.Form8->List1.SetText(u"Jones"_s);
+                                      Fire(p.Form8->Command1.Click);
+                                  },
+                                  u"A001"}));
+
+class AppendBesideTest : public CompareTest
+{
+};
+
+TEST_F(AppendBesideTest, RecordFormShowsThePictureOfTheRowThatTheCursorStaysOn)
+{
+    GivenComparison({{{u"File", u"A001"}, {u"Forename", u"John"}}, {{u"File", u"A002"}, {u"Forename", u"Mary"}}},
+                    {{{u"File", u"B001"}, {u"Forename", u"Jon"}}});
+    Click(P.Form1->Command1.Click);
+    P.Form6->Option1.Value = false;
+    P.Form6->Option2.Value = true;
+    Tell(u"Append Compare Record to Current Database.",
+         u"This Record will be Appended to the Current\nDatabase as Z001 but will not be mapped into\n"
+         u"the Ancestral Tree Display.");
+    Click(P.Form6->Command8.Click);
+    EXPECT_EQ(P.Form3->Label25.Caption.value(), u"A002"_s);
+    EXPECT_EQ(PersonOn(P.Form3->Image1), u"A002"_s);
+}
+
 } // namespace
 } // namespace lineforge

@@ -20,6 +20,11 @@ protected:
     void CopyOne() { Click(P.Form6->Command3.Click); }
     void CopyAll() { Click(P.Form6->Command7.Click); }
     void Append() { Click(P.Form6->Command8.Click); }
+    void RefuseChanges(QChar branch)
+    {
+        ChangeOutside(branch,
+                      "CREATE TRIGGER Refusal BEFORE UPDATE ON Tree99 BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    }
     void ExpectCopyError() { Tell(u"Copy Error", u"There is no record to copy across."); }
     void ExpectAppended(QStringView number)
     {
@@ -166,6 +171,43 @@ TEST_F(FieldCopyTest, FirstAppend_IsZ001_WithAllThatIsCopied)
     EXPECT_EQ(Pair(), u"A001 B001"_s);
 }
 
+TEST_F(FieldCopyTest, AppendedRecord_IsShownWhole_AndTheCursorsOwnBeforeItIsWrittenTo)
+{
+    GivenPair();
+    ExpectAppended(u"Z001");
+    Append();
+    EXPECT_EQ(Pair(), u"A001 B001"_s);
+    EXPECT_EQ(ShownPair(), u"A001 Z001"_s);
+    EXPECT_EQ(Pictures(), u"A001 none"_s);
+    EXPECT_EQ(Surnames(), u"our Surname|our Surname"_s);
+    EXPECT_EQ(Forenames(), u"our Forename|our Forename"_s);
+    EXPECT_EQ(Captions(), u"Field: Surname|Field:"_s);
+    EXPECT_EQ(Texts(), u"our Surname|"_s);
+
+    const auto theirs = Rows(u'B');
+    CopyOne();
+    EXPECT_EQ(Rows(u'B'), theirs);
+    EXPECT_EQ(ShownPair(), u"A001 B001"_s);
+    EXPECT_EQ(Pictures(), u"A001 B001"_s);
+    CopyOne();
+    EXPECT_EQ(Stored(u'B', "Surname", "B001"), u"our Surname"_s);
+}
+
+TEST_F(FieldCopyTest, RecordAppendedToCurrent_IsShownWhole)
+{
+    GivenPair();
+    ToCurrent();
+    ExpectAppendedToCurrent(u"Z001");
+    Append();
+    EXPECT_EQ(ShownPair(), u"Z001 B001"_s);
+    EXPECT_EQ(Pictures(), u"none B001"_s);
+    EXPECT_EQ(Surnames(), u"their Surname|their Surname"_s);
+    EXPECT_EQ(Texts(), u"|their Surname"_s);
+    CopyAll();
+    EXPECT_EQ(Stored(u'A', "Notes", "A001"), u"our Notes"_s);
+    EXPECT_EQ(ShownPair(), u"A001 B001"_s);
+}
+
 TEST_F(FieldCopyTest, LowestFreeZNumber_IsTaken)
 {
     GivenComparison({PersonOf(u"A001", u"our")},
@@ -220,7 +262,7 @@ TEST_F(FieldCopyTest, ScannerThatRunsOnBehindTheBox_DoesntChangeWhatIsAppended)
 TEST_F(FieldCopyTest, CopyThatTheDatabaseRefuses_LeavesNothingForTheNextSaving)
 {
     GivenPair();
-    ChangeOutside(u'B', "CREATE TRIGGER Refusal BEFORE UPDATE ON Tree99 BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    RefuseChanges(u'B');
     ExpectCopyError();
     CopyOne();
     EXPECT_EQ(Texts(), u"our Surname|their Surname"_s);
@@ -233,7 +275,7 @@ TEST_F(FieldCopyTest, CopyThatTheDatabaseRefuses_LeavesNothingForTheNextSaving)
 TEST_F(FieldCopyTest, CopyThatIsRefused_ShowsTheOldValueAgain_BeforeItIsTold)
 {
     GivenPair();
-    ChangeOutside(u'B', "CREATE TRIGGER Refusal BEFORE UPDATE ON Tree99 BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    RefuseChanges(u'B');
     QStringList shown;
     const auto watch = P.Form6->Text4.Text.OnChange([&] { shown += P.Form6->Text4.Text.value(); });
     Prompts.Expect(u"Copy Error", u"There is no record to copy across.", Buttons::Information, Answer::Ok,
@@ -241,6 +283,157 @@ TEST_F(FieldCopyTest, CopyThatIsRefused_ShowsTheOldValueAgain_BeforeItIsTold)
     CopyOne();
     EXPECT_EQ(shown, QStringList({u"our Surname"_s, u"their Surname"_s}));
     EXPECT_EQ(P.Form6->Text4.Marked.value(), TextRange(0, 4));
+}
+
+TEST_F(FieldCopyTest, RefusedCopyOverARecordWithTypedTexts_LeavesThoseAlone)
+{
+    GivenPair();
+    ToCurrent();
+    P.Form3->Text11.Text = u"typed Notes"_s;
+    RefuseChanges(u'A');
+    ExpectCopyError();
+    CopyOne();
+    EXPECT_EQ(Texts(), u"our Surname|their Surname"_s);
+    EXPECT_EQ(P.Form3->Text11.Text.value(), u"typed Notes"_s);
+    ChangeOutside(u'A', "DROP TRIGGER Refusal");
+    Records(P).MoveFirst();
+    EXPECT_EQ(Stored(u'A', "Surname", "A001"), u"our Surname"_s);
+    EXPECT_EQ(Stored(u'A', "Notes", "A001"), u"typed Notes"_s);
+}
+
+TEST_F(FieldCopyTest, CopyThatFindsNothing_StoresNothingElse)
+{
+    GivenPair();
+    P.Form3->Text11.Text = u"typed Notes"_s;
+    ToCurrent();
+    P.Compare.sCompField = u"Nation"_s;
+    ExpectCopyError();
+    CopyOne();
+    EXPECT_EQ(Stored(u'A', "Notes", "A001"), u"our Notes"_s);
+    EXPECT_EQ(P.Form3->Text11.Text.value(), u"typed Notes"_s);
+}
+
+// Somebody else has moved one of the cursors: the record form, its scanner, the map.
+struct UnseenCopy {
+    const char* Name;
+    Button forms::Form6::*Command;
+    bool IsCurrentMoved;
+};
+
+void PrintTo(const UnseenCopy& copy, std::ostream* out)
+{
+    *out << copy.Name;
+}
+
+class UnseenCopyTest : public FieldCopyTest, public testing::WithParamInterface<UnseenCopy>
+{
+protected:
+    UnseenCopyTest()
+    {
+        GivenComparison({PersonOf(u"A001", u"our first"), PersonOf(u"A002", u"our second")},
+                        {PersonOf(u"B001", u"their first"), PersonOf(u"B002", u"their second")});
+        Search();
+        P.Scratch.ScanState = 2;
+        GetParam().IsCurrentMoved ? Records(P).MoveNext() : CompareRecords(P).MoveNext();
+        moved_ = Pair();
+    }
+    void Press() { Click(((*P.Form6).*GetParam().Command).Click); }
+    void ExpectShownAnew()
+    {
+        EXPECT_EQ(Pair(), moved_);
+        EXPECT_EQ(ShownPair(), moved_);
+        EXPECT_EQ(Pictures(), moved_);
+        const QString current = GetParam().IsCurrentMoved ? u"our second"_s : u"our first"_s;
+        const QString compare = GetParam().IsCurrentMoved ? u"their first"_s : u"their second"_s;
+        EXPECT_EQ(Surnames(), QString(current + u" Surname|" + compare + u" Surname"));
+        EXPECT_EQ(Forenames(), QString(current + u" Forename|" + compare + u" Forename"));
+        EXPECT_EQ(Captions(), u"Field:|Field:"_s);
+        EXPECT_EQ(Texts(), u"|"_s);
+        EXPECT_EQ(P.Compare.FieldStep, 0);
+        EXPECT_EQ(State(), 0);
+    }
+
+private:
+    QString moved_;
+};
+
+TEST_P(UnseenCopyTest, FirstPressShowsTheRecords_AndTheSecondCopies)
+{
+    const auto ours = Rows(u'A');
+    const auto theirs = Rows(u'B');
+    Press();
+    ExpectShownAnew();
+    EXPECT_EQ(Rows(u'A'), ours);
+    EXPECT_EQ(Rows(u'B'), theirs);
+    Press();
+    EXPECT_EQ(Rows(u'A'), ours);
+    EXPECT_NE(Rows(u'B'), theirs);
+}
+
+TEST_P(UnseenCopyTest, TheOtherWay_ToTheSame)
+{
+    ToCurrent();
+    const auto ours = Rows(u'A');
+    const auto theirs = Rows(u'B');
+    Press();
+    ExpectShownAnew();
+    EXPECT_EQ(Rows(u'A'), ours);
+    Press();
+    EXPECT_NE(Rows(u'A'), ours);
+    EXPECT_EQ(Rows(u'B'), theirs);
+}
+
+INSTANTIATE_TEST_SUITE_P(Commands, UnseenCopyTest,
+                         testing::Values(UnseenCopy{"OneFieldOfAnotherCurrentRecord", &forms::Form6::Command3, true},
+                                         UnseenCopy{"OneFieldOfAnotherCompareRecord", &forms::Form6::Command3, false},
+                                         UnseenCopy{"AllFieldsOfAnotherCurrentRecord", &forms::Form6::Command7, true},
+                                         UnseenCopy{"AllFieldsOfAnotherCompareRecord", &forms::Form6::Command7,
+                                                    false}));
+
+TEST_F(FieldCopyTest, RecordThatIsNotOnShow_IsNotAppendedBeforeItIs)
+{
+    GivenComparison({PersonOf(u"A001", u"first"), PersonOf(u"A002", u"second")}, {PersonOf(u"B001", u"x")});
+    Records(P).MoveNext();
+    Append();
+    EXPECT_EQ(NumbersIn(u'B'), QStringList{u"B001"_s});
+    EXPECT_EQ(ShownPair(), u"A002 B001"_s);
+    ExpectAppended(u"Z001");
+    Append();
+    EXPECT_EQ(Stored(u'B', "Notes", "Z001"), u"second Notes"_s);
+}
+
+// Equal numbers don't make one person of two.
+TEST_F(FieldCopyTest, AnotherRecordOfTheSameNumber_IsNotOnShow)
+{
+    GivenComparison({PersonOf(u"A001", u"first"), PersonOf(u"A001", u"second")}, {PersonOf(u"B001", u"their")});
+    Records(P).MoveNext();
+    const auto theirs = Rows(u'B');
+    CopyAll();
+    EXPECT_EQ(Rows(u'B'), theirs);
+    EXPECT_EQ(Surnames(), u"second Surname|their Surname"_s);
+}
+
+TEST_F(FieldCopyTest, RecordOfTheSameNumberInABranchOpenedMeanwhile_IsNotOnShow)
+{
+    GivenComparison({PersonOf(u"Z001", u"our")}, {PersonOf(u"Z001", u"their")});
+    Choose(u"Jones");
+    ToCurrent();
+    CopyOne();
+    EXPECT_EQ(Surnames(), u"their Surname|their Surname"_s);
+    EXPECT_EQ(Texts(), u"|"_s);
+}
+
+// What a side shows stays where its cursor has run out: there is nothing to copy, and that is told.
+TEST_F(FieldCopyTest, WithoutACurrentRecord_WhateverIsOnShow_IsTold)
+{
+    GivenPair();
+    SearchTimes(22);
+    ExpectEndOfRecords();
+    Search();
+    CompareRecords(P).MoveLast();
+    ExpectCopyError();
+    CopyOne();
+    EXPECT_EQ(ExitCode(), std::nullopt);
 }
 
 TEST_F(FieldCopyTest, SecondAppend_IsNotRecognised)

@@ -153,6 +153,18 @@ TEST_F(FieldDifferenceTest, EndOfAllPairs_ShowsTheLastPairWhole)
     EXPECT_EQ(Forenames(), u"John|John"_s);
 }
 
+TEST_F(FieldDifferenceTest, PairOnShowThatIsWalkedToItsEnd_IsNotShownAgain)
+{
+    GivenComparison({Plain(u"A001")}, {Plain(u"B001", u"Jack")});
+    Search();
+    Click(P.Form6->Command7.Click);
+    ASSERT_EQ(Stored(u'B', "Forename", "B001"), u"John"_s);
+    ExpectEndOfRecords();
+    Search();
+    EXPECT_EQ(ShownPair(), u"A001 B001"_s);
+    EXPECT_EQ(Forenames(), u"John|Jack"_s);
+}
+
 TEST_F(FieldDifferenceTest, BehindTheLastCompareRecord_TheNextCurrentOneBeginsWithTheFirst)
 {
     GivenComparison({Plain(u"A001"), Plain(u"A002", u"Mary")}, {Plain(u"B001"), Plain(u"B002")});
@@ -166,6 +178,31 @@ TEST_F(FieldDifferenceTest, BehindTheLastCompareRecord_TheNextCurrentOneBeginsWi
     EXPECT_EQ(Captions(), u"Field: Forename|Field: Forename"_s);
     EXPECT_EQ(Texts(), u"Mary|John"_s);
     EXPECT_EQ(Light(), Found);
+}
+
+TEST_F(FieldDifferenceTest, NextRound_LeavesNothingOfThePairBefore)
+{
+    GivenComparison({Plain(u"A001"), Plain(u"A002", u"Mary")}, {Plain(u"B001", u"Jack"), Plain(u"B002")});
+    Search();
+    ASSERT_EQ(Texts(), u"John|Jack"_s);
+    Search();
+    EXPECT_EQ(ShownPair(), u"A002 B001"_s);
+    EXPECT_EQ(Texts(), u"|"_s);
+    EXPECT_EQ(Captions(), u"Field:|Field:"_s);
+    EXPECT_EQ(Light(), Ready);
+}
+
+// The pair is another one although its numbers are the same.
+TEST_F(FieldDifferenceTest, AnotherRecordOfTheSameNumber_IsShownBeforeTheWalkGoesOn)
+{
+    GivenComparison({Plain(u"Z001", u"John"), {{u"File", u"Z001"}, {u"Surname", u"Jones"}, {u"Forename", u"Ann"}}},
+                    {{{u"File", u"Z001"}, {u"Surname", u"Brown"}, {u"Forename", u"Jack"}}});
+    Search();
+    ASSERT_EQ(Texts(), u"Smith|Brown"_s);
+    Records(P).MoveNext();
+    Search();
+    EXPECT_EQ(Texts(), u"Ann|Jack"_s);
+    EXPECT_EQ(Surnames(), u"Jones|Brown"_s);
 }
 
 TEST_F(FieldDifferenceTest, WalkedPair_MovesOnWithinThePress)

@@ -164,6 +164,18 @@ TEST_F(WhereSameTest, WalkedLastPair_EndsAtTheCurrentRecords)
     EXPECT_EQ(Light(), Busy);
 }
 
+TEST_F(WhereSameTest, WalkedPairWhoseCurrentBranchHasRunOut_EndsAtTheCurrentRecords)
+{
+    GivenComparison({Person(u"A001", u"Smith")}, {Person(u"B001", u"Smith"), Person(u"B002", u"Smith")});
+    Tick(false, true, false);
+    SearchTimes(2);
+    ASSERT_EQ(State(), 1);
+    Records(P).MoveNext();
+    ExpectEndOfCurrent();
+    Search();
+    EXPECT_EQ(P.Compare.SearchEnded, 1);
+}
+
 TEST_F(WhereSameTest, ComparedRecordsThatHaveGone_EndAtTheCompareRecords)
 {
     GivenComparison({Person(u"A001", u"Smith"), Person(u"A002", u"Smith")}, {Person(u"B001", u"Smith")});

@@ -300,18 +300,21 @@ void LiteralRecords::ChangePicture()
     if (TellIfAlternate(u"Change to Subject Picture."_s, u"This Record is from another Tree Branch. You must \n"
                                                          u"open that Tree Branch to change the Subject Picture. "_s))
         return;
+    const bool hasRecord = HasRow(Current);
+    const int asked = hasRecord ? Bookmark(Current) : 0;
     if (Ask(u"Subject Picture Change."_s, u"Change or add the Subject Picture ?"_s, Buttons::QuestionOkCancel,
             {Answer::Ok, Answer::Ok, Answer::Cancel}) == Answer::Cancel ||
-        !HasRow(Current))
+        !hasRecord)
         return;
-    const QString file = Shown.value(u"File"_s).value_or(QString());
     const bool isChosen = Dice(4) != 0;
     Script.push_back({LiteralQuestion::Kind::File, u"Select Picture Source File"_s, u"Graphics|*.jpg|All Files|*.*|"_s,
                       Buttons::Plain, Answer::Ok, isChosen ? QString(Home + u"/Album/me.jpg") : QString(), false});
     TickUnderBox();
     if (!isChosen)
         return;
-    Branches.at(WorkLetter).Pictures[file.toLower()] = u"yellow"_s;
+    if (!HasRow(Current) || Bookmark(Current) != asked)
+        GoBack(Current, asked);
+    Branches.at(WorkLetter).Pictures[Text(Current, u"File"_s).toLower()] = u"yellow"_s;
     RecordPicture = u"yellow"_s;
 }
 
@@ -372,12 +375,13 @@ void LiteralRecords::Transfer()
 
     const QChar from = WorkLetter;
     QChar to = WorkLetter;
+    bool isOpen = true;
     if (!IsSame(destination.left(1), source.left(1))) {
         to = destination[0];
         // A small letter would make another name of the same directory.
         if (to.isLower())
             throw Unmodelled();
-        bool isOpen = false;
+        isOpen = false;
         PassOver([&] {
             if (Branches.contains(to)) {
                 Open(to);
@@ -391,10 +395,12 @@ void LiteralRecords::Transfer()
                 return;
         }
     }
-    if (!CopyPicture(from, source, to, destination))
+    // Of a branch that can't be opened nobody's picture goes.
+    const bool keepsPicture = !isOpen && !PictureIn(to, destination).isEmpty();
+    if (!keepsPicture && !CopyPicture(from, source, to, destination))
         return;
     if (!Walk(Current, u"File"_s, destination)) {
-        TellNoMatch(u"No Match Found for Data Ref: "_s + CurFile);
+        TellNoMatch(u"No Match Found for Data Ref: "_s + (isOpen ? CurFile : destination));
         return;
     }
     Edit(Current);

@@ -231,6 +231,7 @@ void LiteralRecords::Exit()
     PassOver([&] { Update(Current); });
     SaveBoxes();
     IsOver = true;
+    Leaving(Current);
 }
 
 void LiteralRecords::ReturnFromSibling()
@@ -469,8 +470,15 @@ void LiteralRecords::LeaveGalleryForRecords()
         AreTransportsVisible = false;
 }
 
+void LiteralRecords::FollowWithPicture()
+{
+    if (IsFormVisible)
+        RecordPicture = PictureIn(WorkLetter, Shown.value(u"File"_s).value_or(QString()));
+}
+
 void LiteralRecords::Enlarge()
 {
+    SetPictureName();
     if (!PictureIn(WorkLetter, PicFile.chopped(std::min<qsizetype>(7, PicFile.size()))).isEmpty()) {
         IsEnlarged = true;
         return;
@@ -493,6 +501,7 @@ void LiteralRecords::StepByBar(int direction)
         MoveNext(Current);
     if (direction == 1 && Current.Eof)
         MoveLast(Current);
+    FollowWithPicture();
 }
 
 } // namespace lineforge

@@ -121,6 +121,8 @@ public:
     void Enlarge();
     void Type(const QString& field, const QString& text);
     void StepByBar(int direction); // -2 first, -1 previous, 1 next, 2 last
+    // The picture goes with the record where the form is on the screen.
+    void FollowWithPicture();
     void OpenRecordMenu() { IsBarEnabled = false; }
 
     void StartScan(int mode);

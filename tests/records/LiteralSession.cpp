@@ -62,11 +62,10 @@ void LiteralSession::UnloadComparison()
 }
 
 // Two cursors on one table see each other's changes sooner or later, and the model doesn't say when.
-void LiteralSession::Updating(LiteralCursor& cursor)
+void LiteralSession::Changing()
 {
     if (Compare.IsOpen() && Compare.Letter == Current.Letter)
         throw Unmodelled();
-    LiteralRecords::Updating(cursor);
 }
 
 LiteralCursor& LiteralSession::RequireCompare()
@@ -88,6 +87,8 @@ LiteralSide LiteralSession::ReadSide(const LiteralCursor& cursor, bool allowsNul
     side.Forename = forename.value_or(QString());
     side.Surname = Text(cursor, u"Surname"_s);
     side.Picture = PictureIn(letter, side.Number);
+    side.Letter = letter;
+    side.Id = cursor.Id;
     return side;
 }
 
@@ -97,6 +98,8 @@ void LiteralSession::ShowSide(LiteralSide& side, const LiteralSide& read)
     side.Picture = read.Picture;
     side.Surname = read.Surname;
     side.Forename = read.Forename;
+    side.Letter = read.Letter;
+    side.Id = read.Id;
 }
 
 void LiteralSession::ShowPair()
@@ -152,8 +155,11 @@ void LiteralSession::ReturnToComparison()
         return OpenComparison();
     if (TellIfComparesAlternate())
         return;
-    if (!HasRow(Current) || Text(Current, u"File"_s) == Ours.Number)
+    if (!HasRow(Current))
         return;
+    PassOver([&] { Leaving(Current); });
+    if (!IsElsewhere(Ours, Current))
+        return ShowSide(Ours, ReadSide(Current, true));
     ForgetPair();
     ShowStepped(false, true);
 }
@@ -177,8 +183,6 @@ void LiteralSession::OpenCompare(QChar letter)
         return;
     if (Current.IsEmpty())
         return Tell(u"Database Empty"_s, u"The Database has no records to access"_s);
-    if (letter == Current.Letter)
-        throw Unmodelled();
     Compare = LiteralCursor(letter, Branches.at(letter));
     CompLetter = letter;
     if (Compare.IsEmpty()) {
@@ -199,6 +203,35 @@ void LiteralSession::OpenCompare(QChar letter)
     Light = Rgb(0, 200, 0);
 }
 
+// Whether the cursor stands on a record that the window doesn't show.
+bool LiteralSession::IsElsewhere(const LiteralSide& side, const LiteralCursor& cursor) const
+{
+    const QChar letter = &cursor == &Current ? WorkLetter : CompLetter;
+    return HasRow(cursor) && (side.Letter != letter || side.Id != cursor.Id);
+}
+
+void LiteralSession::ShowSidesAnew()
+{
+    ForgetPair();
+    if (HasRow(Current))
+        ShowStepped(false, true);
+    if (HasRow(Compare))
+        ShowStepped(true, true);
+}
+
+bool LiteralSession::IsSeen()
+{
+    const bool isSeen = !IsElsewhere(Ours, Current) && !IsElsewhere(Theirs, Compare);
+    if (!isSeen)
+        ShowSidesAnew();
+    return isSeen;
+}
+
+bool LiteralSession::IsPairSeen()
+{
+    return !HasRow(Current) || !HasRow(Compare) || IsSeen();
+}
+
 // ---- copying
 
 LiteralCursor& LiteralSession::Target()
@@ -208,7 +241,7 @@ LiteralCursor& LiteralSession::Target()
 
 void LiteralSession::CopyField()
 {
-    if (TellIfComparesAlternate())
+    if (TellIfComparesAlternate() || !IsPairSeen())
         return;
     LiteralSide& side = GoesToCompare ? Theirs : Ours;
     const QString before = side.Field;
@@ -226,9 +259,6 @@ void LiteralSession::CopyField()
         Update(to);
     } catch (const RuntimeError&) {
         side.Field = before;
-        // What is typed on the record form goes with the edit that is given up, or doesn't.
-        if (!Typed.isEmpty() && !GoesToCompare)
-            throw Unmodelled();
         if (!GoesToCompare || Compare.IsOpen())
             (GoesToCompare ? Compare : Current).Edit.reset();
         Tell(u"Copy Error"_s, u"There is no record to copy across."_s);
@@ -237,7 +267,7 @@ void LiteralSession::CopyField()
 
 void LiteralSession::CopyAllFields()
 {
-    if (TellIfComparesAlternate())
+    if (TellIfComparesAlternate() || !IsPairSeen())
         return;
     LiteralCursor& to = Target();
     Edit(to);
@@ -251,6 +281,8 @@ void LiteralSession::Append()
 {
     if (TellIfComparesAlternate())
         return;
+    if (GoesToCompare && IsElsewhere(Ours, Current))
+        return ShowSidesAnew();
     LiteralCursor& to = Target();
     const int saved = Bookmark(to);
     LiteralCursor& from = GoesToCompare ? Current : RequireCompare();
@@ -286,8 +318,9 @@ void LiteralSession::Append()
     Put(to, u"File"_s, number);
     for (const QString& field : copiedFields)
         Put(to, field, Value(from, field));
-    (GoesToCompare ? Theirs : Ours).Number = number;
+    ShowStepped(GoesToCompare, true);
     Update(to);
+    (GoesToCompare ? Theirs : Ours).Id = to.LastModified;
 }
 
 // ---- the edit menu
@@ -317,6 +350,8 @@ void LiteralSession::CopyCompare()
 
 void LiteralSession::Store(const QString& text)
 {
+    if (HasRow(SelBox <= 2 ? Current : Compare) && !IsSeen())
+        return;
     BoxText(SelBox) = text;
     const bool isField = SelBox == 2 || SelBox == 4;
     LiteralCursor& cursor = SelBox <= 2 ? Current : RequireCompare();

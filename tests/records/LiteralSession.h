@@ -13,6 +13,8 @@ struct LiteralSide {
     QString Forename;
     QString FieldCaption = QStringLiteral("Field");
     QString Field;
+    QChar Letter; // of the branch whose record it shows, and that record's row; 0 for nobody's
+    int Id = 0;
 };
 
 // The same for the comparison: every pair is walked, field by field.
@@ -70,7 +72,7 @@ public:
 protected:
     void NameBranch() override;
     void UnloadComparison() override;
-    void Updating(LiteralCursor& cursor) override;
+    void Changing() override;
 
 private:
     bool TellIfComparesAlternate();
@@ -81,6 +83,10 @@ private:
     void ShowPair();
     void ShowStepped(bool isCompare, bool allowsNull);
     void ForgetPair();
+    bool IsElsewhere(const LiteralSide& side, const LiteralCursor& cursor) const;
+    void ShowSidesAnew();
+    bool IsSeen();
+    bool IsPairSeen();
     void EndAt(const QString& which);
     void SetCaptions(const QString& ours, const QString& theirs);
     void ShowFields(const QString& ours, const QString& theirs);

@@ -128,7 +128,7 @@ void LiteralSession::SearchFields()
     }
     for (;;) {
         // The whole pair, wherever the window shows another one.
-        const bool isOnShow = Ours.Number == Text(Current, u"File"_s) && Theirs.Number == Text(Compare, u"File"_s);
+        const bool isOnShow = !IsElsewhere(Ours, Current) && !IsElsewhere(Theirs, Compare);
         if (FieldStep <= 1 || !isOnShow) {
             ShowSide(Ours, ReadSide(Current, true));
             ShowSide(Theirs, ReadSide(Compare, true));
@@ -150,7 +150,10 @@ void LiteralSession::SearchFields()
         MoveNext(Current);
         if (!Current.Eof) {
             Light = green;
-            return ShowPair();
+            ShowPair();
+            ShowFields({}, {});
+            SetCaptions(u"Field:"_s, u"Field:"_s);
+            return;
         }
         Tell(u"Database End of File"_s, u"End of Database Records"_s);
         Light = green;

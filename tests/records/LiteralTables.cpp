@@ -211,6 +211,7 @@ void LiteralTables::Update(LiteralCursor& cursor)
     LiteralBranch& branch = Branches.at(cursor.Letter);
     if (!cursor.Edit)
         throw RuntimeError(ErrorNumber::UpdateWithoutEdit, DatabaseOf(cursor.Letter));
+    Changing();
     if (branch.RefusesChanges) {
         const LiteralField file =
             cursor.IsAddition ? cursor.Edit->value(u"File"_s) : branch.Find(cursor.Id)->Fields.value(u"File"_s);
@@ -234,6 +235,7 @@ void LiteralTables::Update(LiteralCursor& cursor)
 
 void LiteralTables::Delete(LiteralCursor& cursor)
 {
+    Changing();
     RequireRow(cursor);
     LiteralBranch& branch = Branches.at(cursor.Letter);
     if (branch.RefusesDeletions)

@@ -111,6 +111,8 @@ protected:
     virtual void Leaving(LiteralCursor&) {}
     virtual void Updating(LiteralCursor&) {}
     virtual void Arrived(LiteralCursor&) {}
+    // Before a row is written or goes.
+    virtual void Changing() {}
 
 private:
     std::vector<int> Ids(const LiteralCursor& cursor) const;

@@ -109,8 +109,23 @@ TEST_F(RecordClipboardTest, CutOnABoxThatLostItsSelection_RemovesNothing_ButTheS
     EXPECT_EQ(SurnameText(), u"Smith"_s);
 }
 
+TEST_F(RecordClipboardTest, CutOnABoxThatLostItsSelection_StoresNothing)
+{
+    Select(Surname(), 1, u"mit");
+    LoseSelection(Surname(), 3);
+
+    P.Form3->mnuCut.Click();
+
+    // Another program's text would be written over if the box counted as edited.
+    Records(P).Rest();
+    SqliteFile(Home.Path(u"LfgDat_A/LfgDat_A.mdb")).Execute("UPDATE Tree99 SET Surname = 'Brown' WHERE File = 'A001'");
+    Records(P).MoveNext();
+    EXPECT_EQ(Text(), u"mit"_s);
+    EXPECT_EQ(Stored("Surname"), u"Brown"_s);
+}
+
 // What has never been filled in stays so.
-TEST_F(RecordClipboardTest, CutOnABoxThatLostItsSelection_LeavesTheStoredField)
+TEST_F(RecordClipboardTest, CutWithoutASelection_LeavesTheStoredField)
 {
     Records(P).MoveLast();
     Select(Surname(), 0, u"");

@@ -40,6 +40,12 @@ protected:
                        u"The disk failed at this:\n"_s + Home.Path(database) + u"\nRecord A001");
     }
 
+    void ExpectMapBox()
+    {
+        ExpectFatalBox(u"Run-time error '75':\n\nPath/File access error",
+                       u"This can't be opened, made, changed or removed:\n"_s + Home.Path(u"LfgDat_A/LfgDat_A.cfg"));
+    }
+
     void ExpectBackOnTheMap()
     {
         EXPECT_EQ(ExitCode(), std::nullopt);
@@ -77,16 +83,41 @@ TEST_F(RecordFaultTest, WritesRefused_GalleryStillOpens)
     EXPECT_FALSE(P.Form3->Visible);
 }
 
-TEST_F(RecordFaultTest, WritesRefused_ExitEndsWithoutAWord)
+TEST_F(RecordFaultTest, WritesRefused_ExitTellsSo_AndEnds)
 {
     P.Form3->Text3.Text = u"Anne"_s;
+    MoveFirstBoxTo(1300);
+    RefuseWrites();
+    ExpectWriteBox();
+
+    Click(P.Form3->mnuExit.Click);
+
+    EXPECT_EQ(ExitCode(), 1);
+    EXPECT_TRUE(MapOf(u'A').contains("1300,600,255,A001,John,"));
+    EXPECT_EQ(Stored("Forename"), u"John"_s);
+    EXPECT_EQ(Stored("Forename", "A002"), u"Mary"_s);
+}
+
+TEST_F(RecordFaultTest, WritesRefused_ExitWithNothingTyped_EndsWithoutAWord)
+{
     RefuseWrites();
 
     Click(P.Form3->mnuExit.Click);
 
     EXPECT_EQ(ExitCode(), 0);
-    EXPECT_EQ(Stored("Forename"), u"John"_s);
-    EXPECT_EQ(Stored("Forename", "A002"), u"Mary"_s);
+}
+
+TEST_F(RecordFaultTest, WritesAndMapRefused_ExitTellsBoth)
+{
+    P.Form3->Text3.Text = u"Anne"_s;
+    RefuseWrites();
+    Home.MakeReadOnly(u"LfgDat_A/LfgDat_A.cfg");
+    ExpectMapBox();
+    ExpectWriteBox();
+
+    Click(P.Form3->mnuExit.Click);
+
+    EXPECT_EQ(ExitCode(), 1);
 }
 
 TEST_F(RecordFaultTest, WritesRefused_AScansStepEndsTheProgram_WithTheRecordsIntact)
@@ -213,14 +244,16 @@ TEST_P(RubbishTest, DatabaseVanished_WhatWasTypedCostsNothingElse)
 INSTANTIATE_TEST_SUITE_P(Buttons, RubbishTest,
                          Values(Quiet{"Tree", &forms::Form3::Command2}, Quiet{"Gallery", &forms::Form3::Command1}));
 
-TEST_F(RecordFaultTest, Rubbish_ExitEndsWithoutAWord)
+TEST_F(RecordFaultTest, Rubbish_ExitTellsThatTheTextIsntStored)
 {
     P.Form3->Text3.Text = u"Anne"_s;
     WriteRubbish();
+    ExpectFatalBox(u"Run-time error '3343':\n\nUnrecognized database format.",
+                   u"This can't be read as a database of records:\n"_s + Home.Path(database) + u"\nRecord A001");
 
     Click(P.Form3->mnuExit.Click);
 
-    EXPECT_EQ(ExitCode(), 0);
+    EXPECT_EQ(ExitCode(), 1);
 }
 
 TEST_F(RecordFaultTest, Rubbish_AStepOfTheScanEndsTheProgram)

@@ -670,6 +670,59 @@ TEST_F(RecordFormTest, PictureClickWithoutPicture_IsTold_AndEmptiesTheMapsPanel)
     EXPECT_FALSE(P.Form2->Visible);
 }
 
+// Whatever has moved the cursor since a picture was named last.
+TEST_F(RecordFormTest, PictureClickOnARecordThatTheBarWentTo_ShowsItsOwn)
+{
+    GivenRecordForm();
+    Records(P).MoveNext();
+    Click(P.Form3->Data1.Stepped);
+
+    P.Form3->Image1.Click();
+
+    EXPECT_EQ(P.Form2->Caption.value(), u"A002     Mary  Jones"_s);
+    EXPECT_EQ(ColourOf(P.Form2->Image1), u"green"_s);
+}
+
+TEST_F(RecordFormTest, Bar_ShowsThePictureWithTheRecord)
+{
+    GivenRecordForm();
+    RemovePicture(u"A003");
+    for (const QString& colour : {u"green"_s, u"none"_s}) {
+        Records(P).MoveNext();
+        Click(P.Form3->Data1.Stepped);
+        EXPECT_EQ(ColourOf(P.Form3->Image1), colour);
+    }
+    Records(P).MoveFirst();
+    Click(P.Form3->Data1.Stepped);
+    EXPECT_EQ(ColourOf(P.Form3->Image1), u"red"_s);
+}
+
+TEST_F(RecordFormTest, DoubleClickOnTheMapBehind_ShowsThePictureWithTheRecord)
+{
+    GivenRecordForm();
+    P.Mouse.DownX = 3100;
+    P.Mouse.DownY = 700;
+
+    Click(P.Form1->Picture1.DblClick);
+
+    EXPECT_EQ(P.Form3->Label25.Caption.value(), u"A002"_s);
+    EXPECT_EQ(ColourOf(P.Form3->Image1), u"green"_s);
+}
+
+TEST_F(RecordFormTest, OtherBranchOpenedBehind_ShowsThePictureOfItsFirstRecord)
+{
+    GivenRecordForm();
+    Records(P).MoveNext();
+
+    Choose(u"Jones");
+
+    EXPECT_EQ(P.Form3->Label25.Caption.value(), u"B001"_s);
+    EXPECT_EQ(ColourOf(P.Form3->Image1), u"red"_s);
+    ExpectEmptyBox();
+    Choose(u"Nobody");
+    EXPECT_EQ(ColourOf(P.Form3->Image1), u"none"_s);
+}
+
 TEST_F(RecordFormTest, PictureClickOnARecordWithoutSurname_LeavesTheBlanks)
 {
     Records(P).MoveLast();
@@ -760,12 +813,14 @@ TEST_F(RecordFormTest, Exit_SavesTheMap_ClosesTheMedia_AndEndsWithCodeZero)
     EXPECT_EQ(SqliteFile(Home.Path(u"LfgDat_A/LfgDat_A.mdb")).Try("BEGIN EXCLUSIVE; COMMIT"), 0);
 }
 
-TEST_F(RecordFormTest, ExitWithAReadOnlyMap_PassesThatOver_AndKeepsWhatWasTyped)
+TEST_F(RecordFormTest, ExitWithAReadOnlyMap_TellsSo_AndKeepsWhatWasTyped)
 {
     GivenRecordForm();
     P.Form3->Text2.Text = u"Brown"_s;
     Home.MakeReadOnly(u"LfgDat_A/LfgDat_A.cfg");
     const QByteArray before = MapOf(u'A');
+    ExpectFatalBox(u"Run-time error '75':\n\nPath/File access error",
+                   u"This can't be opened, made, changed or removed:\n"_s + Home.Path(u"LfgDat_A/LfgDat_A.cfg"));
 
     Click(P.Form3->mnuExit.Click);
 

@@ -541,8 +541,8 @@ TEST_F(RecordScannerTest, RunOfOneRecord_StopsOnIt)
 TEST_F(RecordScannerTest, TicksWhileAnotherBoxIsOpen_WalkOn)
 {
     Press(&forms::Form3::Picture2);
-    P.Record.sPicFile = u"missing.jpg"_s;
-    ExpectMissingPicture(u"missing.jpg", [&] { Tick(); });
+    RemovePicture(u"A001");
+    ExpectMissingPicture(u"A001Sub.Jpg", [&] { Tick(); });
 
     P.Form3->Image1.Click();
 

@@ -395,6 +395,59 @@ TEST_F(RecordTransferTest, TextsPendingThatCannotBeStored_StayPending_WhenTheUse
     EXPECT_EQ(Stored("Surname"), u"Brown"_s);
 }
 
+class LockedTransferTest : public RecordTransferTest
+{
+protected:
+    // Another program begins when the number is asked for.
+    void ExpectTransferUnderALock()
+    {
+        ExpectConfirmation(Answer::Ok);
+        Prompts.ExpectInput(u"Data Record Destination.", u"Enter Destination Data Ref Number.", u"A002",
+                            [&] { Other = LockDatabase(u'A'); });
+    }
+
+    std::unique_ptr<SqliteFile> Other;
+};
+
+TEST_F(LockedTransferTest, Cancel_GivesTheTransferUp_WithTheRecordsWhole)
+{
+    const auto before = Rows("1");
+    ExpectTransferUnderALock();
+    ExpectDatabaseInUse(Answer::Cancel);
+
+    Press();
+
+    Other.reset();
+    EXPECT_EQ(Rows("1"), before);
+}
+
+TEST_F(LockedTransferTest, Retry_GoesOnWithIt)
+{
+    ExpectTransferUnderALock();
+    ExpectDatabaseInUse(Answer::Retry, [&] { Other.reset(); });
+
+    Press();
+
+    EXPECT_EQ(Stored("Forename", "A002"), u"John"_s);
+    EXPECT_EQ(PictureOf(u"A002"), Red);
+}
+
+TEST_F(LockedTransferTest, WithTextsPending_Cancel_AsksNothingFurther_AndTheTextsWait)
+{
+    P.Form3->Text2.Text = u"Brown"_s;
+    const Tree before = Home.Snapshot();
+    Other = LockDatabase(u'A');
+    ExpectDatabaseInUse(Answer::Cancel);
+
+    Press();
+
+    Other.reset();
+    EXPECT_EQ(ChangesSince(before), QStringList());
+    EXPECT_EQ(P.Form3->Text2.Text.value(), u"Brown"_s);
+    Records(P).MoveNext();
+    EXPECT_EQ(Stored("Surname"), u"Brown"_s);
+}
+
 // The scan has gone on under the question, so that the record must be read anew.
 TEST_F(RecordTransferTest, RecordThatIsGoneByThen_IsNotTransferred_AndTold)
 {

@@ -222,30 +222,76 @@ TEST_F(SiblingTransferTest, NoSuchBranch_TheWorkGoesOnInTheOwn)
 TEST_F(SiblingTransferTest, BranchWithoutDatabase_TheOwnRecordsAreSearched)
 {
     QFile::remove(Home.Path(u"LfgDat_B/LfgDat_B.mdb"));
+    Records(P).MoveNext();
     const auto own = Rows("1");
     ExpectTransferTo(u"B001");
-    ExpectNoMatch(u"A001");
+    ExpectNoMatch(u"B001");
 
     Press();
 
     EXPECT_EQ(Rows("1"), own);
+    EXPECT_EQ(PictureOf(u"B001", u'B'), Red);
     EXPECT_FALSE(Home.Exists(u"LfgDat_B/LfgDat_B.mdb"));
     ExpectStillInBranchA();
 }
 
 TEST_F(SiblingTransferTest, ReadOnlyDatabaseThere_StaysWhole_AndTheOwnIsAsItWas)
 {
+    Records(P).MoveNext();
     const auto own = Rows("1");
     const auto there = Rows("1", u'B');
     Home.MakeReadOnly(u"LfgDat_B/LfgDat_B.mdb");
     ExpectTransferTo(u"B001");
-    ExpectNoMatch(u"A001");
+    ExpectNoMatch(u"B001");
 
     Press();
 
     EXPECT_EQ(Rows("1"), own);
     EXPECT_EQ(Rows("1", u'B'), there);
+    EXPECT_EQ(PictureOf(u"B001", u'B'), Red);
+    EXPECT_EQ(ColourOf(P.Form1->Image1), u"red"_s);
     ExpectStillInBranchA();
+}
+
+TEST_F(SiblingTransferTest, ReadOnlyDatabaseThere_APictureThatIsMissingThere_IsCopiedAllTheSame)
+{
+    Home.MakeReadOnly(u"LfgDat_B/LfgDat_B.mdb");
+    ExpectTransferTo(u"B009");
+    ExpectNoMatch(u"B009");
+
+    Press();
+
+    EXPECT_EQ(Home.ReadFile(u"LfgDat_B/B009sub.jpg"), Red);
+    ExpectStillInBranchA();
+}
+
+TEST_F(SiblingTransferTest, LockedThere_Cancel_NothingThereIsTouched_AndTheOwnIsAsItWas)
+{
+    Records(P).MoveNext();
+    const Tree before = Home.Snapshot();
+    auto other = LockDatabase(u'B');
+    ExpectTransferTo(u"B001");
+    ExpectDatabaseInUse(Answer::Cancel);
+
+    Press();
+
+    other.reset();
+    EXPECT_EQ(ChangesSince(before), QStringList());
+    EXPECT_EQ(Current(), u"A002"_s);
+    ExpectStillInBranchA();
+}
+
+TEST_F(SiblingTransferTest, LockedThere_Retry_TransfersTheRecord)
+{
+    Records(P).MoveNext();
+    auto other = LockDatabase(u'B');
+    ExpectTransferTo(u"B001");
+    ExpectDatabaseInUse(Answer::Retry, [&] { other.reset(); });
+
+    Press();
+
+    EXPECT_EQ(StoredIn(u'B', "Forename", "B001"), u"Mary"_s);
+    EXPECT_EQ(PictureOf(u"B001", u'B'), Green);
 }
 
 TEST_F(SiblingTransferTest, ReadOnlyPictureThere_StaysWhole_AndTheFieldsAreTransferred)

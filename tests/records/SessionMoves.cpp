@@ -107,11 +107,31 @@ MoveKind ClipEntry(const QString& name, int weight, void (Session::*inModel)(), 
     return kind;
 }
 
+// Which moves the cursor of the record form.
+MoveKind Moving(const QString& name, int weight, bool (*isPossible)(const Session&), void (Session::*inModel)(),
+                const std::function<void(Program& p)>& inProgram)
+{
+    return {name, weight, isPossible, [=](Session&) {
+                return SessionMove{{},
+                                   [inModel](Session& session) {
+                                       (session.*inModel)();
+                                       session.FollowWithPicture();
+                                   },
+                                   inProgram};
+            }};
+}
+
 template <class Control>
 MoveKind Compared(const QString& name, int weight, bool (*isPossible)(const Session&), void (Session::*inModel)(),
                   Control Form6::*control)
 {
     return Command(name, weight, isPossible, inModel, [control](Program& p) { Fire(((*p.Form6).*control).Click); });
+}
+
+MoveKind MovingCompared(const QString& name, int weight, bool (*isPossible)(const Session&), void (Session::*inModel)(),
+                        Button Form6::*button)
+{
+    return Moving(name, weight, isPossible, inModel, [button](Program& p) { Fire(((*p.Form6).*button).Click); });
 }
 
 // ---- branches
@@ -125,7 +145,11 @@ void ChooseInList(Program& p, QChar letter)
 SessionMove OpenBranch(Session& session)
 {
     const QChar letter = u"AAABBC"[session.Dice(6)];
-    return {letter, [letter](Session& s) { s.OpenBranch(letter); },
+    return {letter,
+            [letter](Session& s) {
+                s.OpenBranch(letter);
+                s.FollowWithPicture();
+            },
             [letter](Program& p) {
                 Fire(p.Form1->Open.Click);
                 ChooseInList(p, letter);
@@ -136,7 +160,11 @@ SessionMove DoubleClick(Session& session)
 {
     const int x = 1000 + 700 * session.Dice(7) + session.Dice(700);
     const int y = 600 + session.Dice(240);
-    return {u"at %1,%2"_s.arg(x).arg(y), [x, y](Session& s) { s.DoubleClick(x, y); },
+    return {u"at %1,%2"_s.arg(x).arg(y),
+            [x, y](Session& s) {
+                s.DoubleClick(x, y);
+                s.FollowWithPicture();
+            },
             [x, y](Program& p) {
                 p.Mouse.DownX = x;
                 p.Mouse.DownY = y;
@@ -261,7 +289,12 @@ SessionMove OpenCompare(Session& session)
     const QChar letter = u"BBBBAC"[session.Dice(6)];
     const bool isCancelled = session.Dice(8) == 0;
     return {isCancelled ? u"none"_s : QString(letter),
-            [=](Session& s) { isCancelled ? s.CancelCompare() : s.OpenCompare(letter); },
+            [=](Session& s) {
+                const bool isRefused = s.IsAlternate;
+                isCancelled ? s.CancelCompare() : s.OpenCompare(letter);
+                if (!isCancelled && !isRefused)
+                    s.FollowWithPicture();
+            },
             [=](Program& p) {
                 Fire(p.Form6->mnuOpen.Click);
                 if (p.Branch.UsingAlternate == 1)
@@ -287,7 +320,12 @@ SessionMove TickKey(Session& session)
 SessionMove Next(Session& session)
 {
     const bool isCompare = session.Dice(2) == 0;
-    return {isCompare ? u"compare"_s : u"current"_s, [isCompare](Session& s) { s.Next(isCompare); },
+    return {isCompare ? u"compare"_s : u"current"_s,
+            [isCompare](Session& s) {
+                s.Next(isCompare);
+                if (!isCompare)
+                    s.FollowWithPicture();
+            },
             [isCompare](Program& p) { Fire(isCompare ? p.Form6->Command5.Click : p.Form6->Command6.Click); }};
 }
 
@@ -375,8 +413,8 @@ std::vector<MoveKind> MovesOfRecords()
 std::vector<MoveKind> MovesOfComparison()
 {
     return {
-        Command(u"Compare Records"_s, 4, OnMap, &Session::OpenComparison,
-                [](Program& p) { Fire(p.Form1->mnuComp.Click); }),
+        Moving(u"Compare Records"_s, 4, OnMap, &Session::OpenComparison,
+               [](Program& p) { Fire(p.Form1->mnuComp.Click); }),
         Command(u"Compare"_s, 2, WithCompareButton, &Session::ReturnToComparison,
                 [](Program& p) { Fire(p.Form1->Command5.Click); }),
         Compared(u"Tree of the comparison"_s, 2, OnComparison, &Session::ShowTree, &Form6::Command4),
@@ -389,14 +427,14 @@ std::vector<MoveKind> MovesOfComparison()
                     p.Form6->Option1.Value = !p.Form6->Option1.Value;
                     p.Form6->Option2.Value = !p.Form6->Option1.Value;
                 }),
-        Compared(u"Search"_s, 25, OnFullComparison, &Session::SearchPairs, &Form6::Command1),
-        Compared(u"Search"_s, 1, OnComparison, &Session::SearchPairs, &Form6::Command1),
-        Compared(u"Reset"_s, 5, OnComparison, &Session::Reset, &Form6::Command2),
+        MovingCompared(u"Search"_s, 25, OnFullComparison, &Session::SearchPairs, &Form6::Command1),
+        MovingCompared(u"Search"_s, 1, OnComparison, &Session::SearchPairs, &Form6::Command1),
+        MovingCompared(u"Reset"_s, 5, OnComparison, &Session::Reset, &Form6::Command2),
         {u"next"_s, 6, OnComparison, Next},
         {u"compare bar"_s, 3, OnFullComparison, StepCompare},
         Compared(u"Copy a Field"_s, 5, OnComparison, &Session::CopyField, &Form6::Command3),
         Compared(u"Copy all Fields"_s, 3, OnComparison, &Session::CopyAllFields, &Form6::Command7),
-        Compared(u"Append"_s, 3, OnComparison, &Session::Append, &Form6::Command8),
+        MovingCompared(u"Append"_s, 3, OnComparison, &Session::Append, &Form6::Command8),
         {u"type in comparison"_s, 2, OnComparison, TypeInComparison},
         {u"click in comparison"_s, 4, OnComparison, ClickInComparison},
         Compared(u"copy in comparison"_s, 1, OnComparison, &Session::CopyCompare, &Form6::mnuCopy),

@@ -173,6 +173,40 @@ TEST_F(SubjectPictureTest, BranchDirectoryVanished_NothingIsTold)
     EXPECT_FALSE(Home.Exists(u"LfgDat_A"));
 }
 
+// The scanner runs on under the dialog.
+class ScannedPictureTest : public SubjectPictureTest
+{
+protected:
+    ScannedPictureTest() { P.Form3->Picture2.Click(); }
+
+    void ChooseWhileItScans(const QString& chosen)
+    {
+        ExpectQuestion(Answer::Ok);
+        Prompts.ExpectOpenFile(u"Select Picture Source File", u"Graphics|*.jpg|All Files|*.*|", chosen,
+                               [&] { P.Form3->Timer1.Tick(); });
+        Click(P.Form3->mnuSubPicture.Click);
+        EXPECT_EQ(ExitCode(), std::nullopt);
+        EXPECT_EQ(Current(), u"A001"_s);
+    }
+};
+
+TEST_F(ScannedPictureTest, PictureIsThatOfTheRecordThatWasAskedAbout_WhichIsShownWithIt)
+{
+    ChooseWhileItScans(Album);
+
+    EXPECT_EQ(Picture(), Blue);
+    EXPECT_EQ(Picture(u"A002"), PictureBytes(Qt::green));
+    EXPECT_EQ(ColourOf(P.Form3->Image1), u"blue"_s);
+}
+
+TEST_F(ScannedPictureTest, RefusedPicture_LeavesTheOldOneOfTheRecordThatWasAskedAbout)
+{
+    ChooseWhileItScans(Home.Path(u"Album/nobody.jpg"));
+
+    EXPECT_EQ(Picture(), Red);
+    EXPECT_EQ(ColourOf(P.Form3->Image1), u"red"_s);
+}
+
 TEST_F(SubjectPictureTest, TextsPending_StayPending)
 {
     P.Form3->Text2.Text = u"Brown"_s;

@@ -16,6 +16,7 @@
 #include "program/BranchUi.h"
 #include "records/GalleryDoors.h"
 #include "records/RecordForm.h"
+#include "records/RecordPicture.h"
 #include "shell/BackUpBranch.h"
 #include "shell/CloseBranch.h"
 #include "shell/DeleteBranch.h"
@@ -87,7 +88,10 @@ void InstallForm1(Program& p, forms::Form1& form)
     form.mnuPaste.Click = [&p] { PasteMapPicture(p); };
     form.mnuDataBase.Click = [&p] { TellIfNoBranch(p); };
     form.mnuViewRecs.Click = [&p] { ShowRecordForm(p); };
-    form.mnuComp.Click = [&p] { OpenComparison(p); };
+    form.mnuComp.Click = [&p] {
+        OpenComparison(p);
+        FollowWithPicture(p);
+    };
     form.mnuDelSub.Click = [&p] { DeleteBranch(p); };
     form.mnuTreeGraphics.Click = [&p] { OpenEditingMenu(p); };
     form.mnuTreeTools.Click = [&p] { OpenTools(p); };
@@ -104,7 +108,10 @@ void InstallForm1(Program& p, forms::Form1& form)
         MoveOverMap(p, buttons, shift, x, y);
     };
     form.Picture1.MouseUp = [&p](int, int, double x, double y) { ReleaseMap(p, x, y); };
-    form.Picture1.DblClick = [&p] { DoubleClickOnMap(p); };
+    form.Picture1.DblClick = [&p] {
+        DoubleClickOnMap(p);
+        FollowWithPicture(p);
+    };
 
     form.Command1.Click = [&p] { ShowRecordForm(p); };
     form.Command2.Click = [&p] { GoToGalleryFromMap(p); };
