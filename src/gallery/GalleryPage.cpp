@@ -63,16 +63,18 @@ void TellWrongEnding(Program& p, const QString& name)
                      Buttons::Information);
 }
 
-// False when the file has an ending that no gallery has.
+// False when the file has an ending that no gallery has. Error 9 for a place that no page has, whatever the ending, and
+// before the page counts it.
 bool PutOnPage(Program& p, const QString& name, PageFiles& files)
 {
     const int subscript = SubscriptOf(name);
+    PageFile& place = files[subscript];
     p.Gallery.GalleryTop = std::max<int>(p.Gallery.GalleryTop, subscript);
     const std::optional<GalleryKind> kind = KindOf(name);
     if (!kind)
         return false;
     const QString icons = p.Scratch.sNewDir + PathSeparator;
-    files[subscript] = {name, TilePicturePath(p.Gallery.PageDirectory + name, *kind, icons)};
+    place = {name, TilePicturePath(p.Gallery.PageDirectory + name, *kind, icons)};
     return true;
 }
 

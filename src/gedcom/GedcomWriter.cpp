@@ -160,7 +160,7 @@ void CreateGedcomFile(Program& p)
     p.Form12->VScroll1.Value = 0;
     if (TellIfIncomplete(p) || TellIfNoBranch(p))
         return;
-    // A branch whose database was refused is named, but what is open is another one's.
+    // A deletion has left the branch's name, and no more.
     if (!IsWalkable(p))
         return TellNoBranch(p);
     WriteGedcomFile(p);
@@ -184,6 +184,11 @@ void WriteGedcomFile(Program& p)
         DropUnfinished(p, path);
     } catch (const RuntimeError& refusal) {
         if (refusal.IsTold)
+            KillUnfinished(p, path);
+        throw;
+    } catch (const ProgramEnded&) {
+        // After an unmet error the file has been closed, and stays with what it holds.
+        if (p.Lineage.GedcomFile)
             KillUnfinished(p, path);
         throw;
     }

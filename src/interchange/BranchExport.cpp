@@ -47,6 +47,8 @@ bool CopyBranch(Program& p, const QString& source, const QString& directory, con
     p.Screen.Pointer = MousePointer::Hourglass;
     const auto pointerBack = qScopeGuard([&p] { p.Screen.Pointer = MousePointer::Default; });
     CopyDirectory(p, source, directory);
+    // It has gone through the names of the files, and ends behind the last; so it is meant to be.
+    p.Record.sPicFile.clear();
     if (!MakeDirectory(p, gallery))
         return false;
     CopyDirectory(p, source + GalleryName(source.right(2).left(1)), gallery);

@@ -2,6 +2,7 @@
 
 #include "interchange/BranchDatabase.h"
 #include "map/EnterBranch.h"
+#include "map/tools/LeaveTools.h"
 #include "program/AliasList.h"
 #include "program/BranchPaths.h"
 #include "program/BranchUi.h"
@@ -63,12 +64,15 @@ void CopyBranch(Program& p, const QString& source, const QString& directory, con
     CopyDirectory(p, source + gallery, target + gallery);
 }
 
-// A database that can't be opened ends it as it ends Open: with a box, and with the branch named all the same.
+// A database that can't be opened ends it as it ends Open: with a box, and with the branch named all the same. Tools
+// that are open have no map to draw on then.
 void OpenImported(Program& p, const QString& name, const QString& directory)
 {
     const bool isOpen = EnterBranch(p, name, directory);
     p.Screen.Pointer = MousePointer::Default;
-    if (!isOpen || TellIfEmptyBranch(p))
+    if (!isOpen)
+        return LeaveToolsIfOpen(p);
+    if (TellIfEmptyBranch(p))
         return;
     EnableBranchUI(p);
     ShowFirstSubject(p);

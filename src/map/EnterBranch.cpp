@@ -19,6 +19,32 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
+// Before the branch is left that it was typed for. What its database refuses is told and given up.
+void StoreOrGiveUpTyped(Program& p)
+{
+    try {
+        StoreTyped(p);
+    } catch (const RuntimeError& refusal) {
+        // Who has been asked already, and hasn't waited, keeps his text, and the branch with it.
+        if (refusal.IsTold)
+            throw;
+        ReportError(p, refusal);
+        p.Form3->Data1.GiveUpEdits();
+    }
+}
+
+// The program is named after another branch than the one whose records are open: any command would act on both. So the
+// records go, with all windows that show them, as when a branch is closed.
+void LetGoOfRecords(Program& p)
+{
+    p.Form2.Unload();
+    p.Form3.Unload();
+    p.Form5.Unload();
+    p.Form6.Unload();
+    // The gallery may have hidden it.
+    p.Form1->Show();
+}
+
 bool OpenDatabase(Program& p, const QString& directory)
 {
     p.Branch.WorkDir = p.Branch.HomeDir + directory;
@@ -30,6 +56,7 @@ bool OpenDatabase(Program& p, const QString& directory)
         PointAtDatabase(p, path);
         return true;
     } catch (const RuntimeError& refusal) {
+        LetGoOfRecords(p);
         TellDatabaseRefused(p, path, refusal);
         return false;
     }
@@ -45,6 +72,18 @@ void PutMapAway(Program& p)
         EndAlternate(p);
 }
 
+void ReturnToOwnSubject(Program& p)
+{
+    if (p.Branch.UsingAlternate != 1)
+        return;
+    ReturnFromSibling(p);
+    p.Errors.Ignoring([&] { SetPictureName(p); });
+    p.Form1->Image1.Picture = QImage();
+    p.Errors.Ignoring([&] { LoadSubjectPicture(p, p.Form1->Image1); });
+    p.Errors.Ignoring([&] { FillSubjectLabels(p); });
+    p.Errors.Ignoring([&] { MarkCurrentBox(p); });
+}
+
 void DrawBranchMap(Program& p)
 {
     p.Errors.Ignoring([&] { ReadMapFile(p); });
@@ -53,7 +92,7 @@ void DrawBranchMap(Program& p)
 
 bool EnterBranch(Program& p, const QString& name, const QString& directory)
 {
-    StoreTyped(p);
+    StoreOrGiveUpTyped(p);
     // Who doesn't wait for another program keeps the branch that he has.
     const auto database = ReachDatabase(p, DatabasePath(p.Branch.HomeDir + directory));
     p.Branch.sBranchName = name;

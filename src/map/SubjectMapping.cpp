@@ -249,7 +249,7 @@ void GiveNewSubjectItsPicture(Program& p)
 
 bool TellIfNothingToMap(Program& p)
 {
-    const bool isNone = p.Branch.sDbaseName.isEmpty();
+    const bool isNone = !IsBranchOpen(p);
     if (isNone)
         p.Prompts.MsgBox(u"Data not available"_s, u"Cannot Map until database file is Opened"_s, Buttons::Information);
     return isNone;

@@ -90,16 +90,16 @@ QString LineOf(const Recordset& record, const ReportLine& line)
     return line.Label + record.Text(line.Field);
 }
 
-void WriteWrapped(TextWriter& file, const QString& value)
+void WriteWrapped(Program& p, const QString& value)
 {
-    for (const QString& line : Wrapped(value))
-        file.Line(fileIndent, line);
+    for (const QString& line : Wrapped(p.Scratch, value))
+        p.Output.TextFile->Line(fileIndent, line);
 }
 
-void PrintWrapped(Printer& printer, const QString& value)
+void PrintWrapped(Program& p, const QString& value)
 {
-    for (const QString& line : Wrapped(value))
-        printer.PrintLine(QString(paperIndent, u' ') + line);
+    for (const QString& line : Wrapped(p.Scratch, value))
+        p.Printer.PrintLine(QString(paperIndent, u' ') + line);
 }
 
 template <std::size_t Count>
@@ -129,10 +129,10 @@ void WriteRecordToFile(Program& p)
     for (const ReportLine& line : fileLines)
         file.Line(line.Label, record.Text(line.Field));
     file.Line(u"Notes(1):       ");
-    WriteWrapped(file, record.Text(u"Medical"));
+    WriteWrapped(p, record.Text(u"Medical"));
     // One blank fewer than its sister; so it is meant to be.
     file.Line(u"Notes(2):      ");
-    WriteWrapped(file, record.Text(u"Notes"));
+    WriteWrapped(p, record.Text(u"Notes"));
     file.Line({});
 }
 
@@ -151,11 +151,11 @@ void PrintRecord(Program& p)
     PrintOrigin(printer, record);
     PrintLines(printer, record, lifeOnPaper);
     printer.PrintLine(u"           Notes(1):      "_s);
-    PrintWrapped(printer, record.Text(u"Medical"));
+    PrintWrapped(p, record.Text(u"Medical"));
     // The empty line stands below this one only.
     printer.PrintLine(u"           Notes(2):      "_s);
     printer.PrintLine({});
-    PrintWrapped(printer, record.Text(u"Notes"));
+    PrintWrapped(p, record.Text(u"Notes"));
     printer.PrintLine({});
     printer.PrintLine({});
     if (p.Output.OutputMode != OutputMode::SingleToPrinter)
@@ -169,7 +169,7 @@ QString RecordAsText(Program& p)
     for (const ClipboardLine& line : clipboardLines) {
         const QString value = record.Text(line.Field);
         text += line.Label;
-        text += line.IsWrapped ? Wrapped(value).join(u'\n' + QString(clipboardIndent, u' ')) : value;
+        text += line.IsWrapped ? Wrapped(p.Scratch, value).join(u'\n' + QString(clipboardIndent, u' ')) : value;
         text += u'\n';
     }
     return text;

@@ -5,32 +5,34 @@ namespace lineforge
 
 namespace
 {
-constexpr qsizetype width = 80;
+constexpr int width = 80;
 
-// How much of the text goes into its first line. There is a blank at least at its end.
-qsizetype FirstLine(QStringView text)
+// Where a text that is too long for a line is cut. There is a blank at least at its end.
+qsizetype CutOf(QStringView text)
 {
-    if (text.size() < width)
-        return text.size();
     const qsizetype blank = text.first(width).lastIndexOf(u' ');
     return (blank >= 0 ? blank : text.indexOf(u' ', width)) + 1;
 }
 } // namespace
 
-QStringList Wrapped(const QString& value)
+// Counts in the shared indexes, and leaves the length of the last piece to a lineage, which begins there; so it is
+// meant to be.
+QStringList Wrapped(ScratchState& scratch, const QString& value)
 {
     const QString text = value + u' ';
+    QStringView rest(text);
     QStringList lines;
-    qsizetype start = 0;
-    // A text that has been cut at its very end leaves an empty line behind; so it is meant to be.
-    bool isCut = true;
-    while (isCut) {
-        const QStringView rest = QStringView(text).sliced(start);
-        const qsizetype length = FirstLine(rest);
-        isCut = rest.size() >= width;
-        lines.push_back(rest.first(length).toString());
-        start += length;
+    for (;;) {
+        scratch.IdxA = static_cast<int>(rest.size());
+        scratch.LenScratch = width;
+        if (rest.size() < width)
+            break;
+        scratch.LenScratch = static_cast<int>(CutOf(rest));
+        lines.push_back(rest.first(scratch.LenScratch).toString());
+        rest = rest.sliced(scratch.LenScratch);
     }
+    // A text that has been cut at its very end leaves an empty line behind; so it is meant to be.
+    lines.push_back(rest.toString());
     return lines;
 }
 

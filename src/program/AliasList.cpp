@@ -68,19 +68,31 @@ void PublishAliasList(Program& p, Refusals refusals)
         Do(p, step, refusals);
 }
 
-// What the reader makes of a name. A comma and a closing bracket do worse, to the entries around; so it is meant to be.
-QString AsRead(QString name)
-{
-    return name.removeIf([](QChar character) { return character == u'[' || character == u'\n' || character == u'\r'; });
-}
-
-// Whether the branch list can give the name back: the first equals sign ends it there, and a row of nothing but blanks
-// and of what the reader takes for marks of its own isn't seen or isn't there.
+// Whether the branch list can give the name back: the first equals sign ends it there, the reader drops what is lost on
+// it, and a row of nothing but blanks and marks isn't seen or isn't there. A comma and a closing bracket among other
+// characters do worse, to the entries around, and are taken all the same; so it is meant to be.
 bool IsGivenBack(const QString& name)
 {
-    constexpr QStringView marks = u",[]";
+    constexpr QStringView lost = u"=[\n\r";
+    constexpr QStringView marks = u",]";
+    const auto isLost = [&](QChar character) { return lost.contains(character); };
     const auto isNothing = [&](QChar character) { return character.isSpace() || marks.contains(character); };
-    return !name.contains(u'=') && !std::ranges::all_of(name, isNothing);
+    return std::ranges::none_of(name, isLost) && !std::ranges::all_of(name, isNothing);
+}
+
+// A name with commas makes several entries, of which only the last has the directory.
+void RemoveWholeName(QString& aliasList, const QString& name, const QString& directory)
+{
+    const QString before = u',' + aliasList;
+    const QString entry = u',' + name + u'=' + directory + u',';
+    aliasList = QString(before).replace(entry, u","_s, Qt::CaseInsensitive).sliced(1);
+}
+
+void RemoveEntriesOf(QString& aliasList, const QString& directory)
+{
+    QStringList entries = aliasList.split(u',');
+    entries.removeIf([&](const QString& entry) { return SameText(entry.right(directoryLength), directory); });
+    aliasList = entries.join(u',');
 }
 } // namespace
 
@@ -131,7 +143,7 @@ QString AskBranchName(Program& p, const QString& title, const QString& prompt)
 {
     for (;;) {
         QString name = p.Prompts.InputBox(title, prompt);
-        if (name.isEmpty() || (IsGivenBack(name) && !IsNameListed(p, AsRead(name))))
+        if (name.isEmpty() || (IsGivenBack(name) && !IsNameListed(p, name)))
             return name;
         p.Prompts.MsgBox(u"Duplicate Name entered."_s, u"Cannot have Tree Branch databases with same name"_s,
                          Buttons::Information);
@@ -145,13 +157,12 @@ void AddAlias(Program& p, const QString& name, const QString& directory, Refusal
     PublishAliasList(p, refusals);
 }
 
-void RemoveAlias(Program& p, const QString& name)
+// By the directory: under the name the list may have another branch, of which this one's name is the beginning, and the
+// directory may be listed under other names too.
+void RemoveAlias(Program& p, const QString& name, const QString& directory)
 {
-    QString& list = p.Alias.sAliasList;
-    // Up to its comma: in a list that somebody has changed a directory may be of any length, and a name may go on
-    // behind what the branch list shows of it.
-    if (const qsizetype entry = EntryOf(list, name); entry >= 0)
-        list.remove(entry, list.indexOf(u',', entry) - entry + 1);
+    RemoveWholeName(p.Alias.sAliasList, name, directory);
+    RemoveEntriesOf(p.Alias.sAliasList, directory);
     PublishAliasList(p, Refusals::CostTheirStep);
 }
 

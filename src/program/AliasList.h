@@ -34,8 +34,8 @@ enum class Refusals {
 
 // Brings a branch into the registry and the branch list.
 void AddAlias(Program& p, const QString& name, const QString& directory, Refusals refusals);
-// Takes one out of both; a refusal costs its step.
-void RemoveAlias(Program& p, const QString& name);
+// Takes one out of both, whatever the registry calls its directory; a refusal costs its step.
+void RemoveAlias(Program& p, const QString& name, const QString& directory);
 
 // Puts the friendly names into the branch list, in the table's order, and selects the open branch. Does nothing while
 // `sAliasList` is empty.

@@ -57,12 +57,20 @@ void TellNoBranch(Program& p)
     p.Prompts.MsgBox(u"Data not available"_s, u"Cannot View until database file is Opened"_s, Buttons::Information);
 }
 
+bool IsBranchOpen(Program& p)
+{
+    if (p.Branch.sDbaseName.isEmpty())
+        return false;
+    // A deletion leaves the name, and a command that comes upon it goes on to fail at the records; so it is meant to be.
+    return p.Branch.WorkDir.isEmpty() || (p.Form3.IsLoaded() && p.Form3->Data1.IsOpen());
+}
+
 bool TellIfNoBranch(Program& p)
 {
-    const bool isNone = p.Branch.sDbaseName.isEmpty();
-    if (isNone)
+    const bool isOpen = IsBranchOpen(p);
+    if (!isOpen)
         TellNoBranch(p);
-    return isNone;
+    return !isOpen;
 }
 
 void TellNoRecords(Program& p)

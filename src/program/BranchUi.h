@@ -19,6 +19,9 @@ void ClearMapCursor(Program& p);
 // `sCurFile` and `sPicFile` from the record form.
 void SetPictureName(Program& p);
 
+// Whether a branch is open, its records too: one whose database was refused is named, and no more.
+bool IsBranchOpen(Program& p);
+
 // Tells that no branch is open.
 void TellNoBranch(Program& p);
 // The same if none is; false when one is.

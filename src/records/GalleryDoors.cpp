@@ -80,6 +80,9 @@ void LeaveGalleryForTree(Program& p)
 void LeaveGalleryForRecords(Program& p)
 {
     forms::Form3& form = *p.Form3;
+    // An export has emptied it.
+    if (p.Record.sPicFile.isEmpty())
+        SetPictureName(p);
     ShowNamedPicture(p);
     form.Show();
     p.Form5->Hide();

@@ -41,8 +41,9 @@ void WriteBackup(Program& p, const QString& chosen)
 
 void BackUpBranch(Program& p)
 {
-    if (TellIfNoBranch(p))
-        return;
+    // Also one whose database can't be opened: its files can be copied all the same.
+    if (p.Branch.sDbaseName.isEmpty())
+        return TellNoBranch(p);
     p.Prompts.MsgBox(
         u"Backup Database"_s,
         u"Backup will copy your current Database File \nand Tree Config file to your chosen destination."_s,

@@ -1,11 +1,11 @@
 #include "shell/DeleteBranch.h"
 
 #include "gallery/GalleryFile.h"
+#include "map/EnterBranch.h"
 #include "map/SubjectPanel.h"
 #include "map/tools/LeaveTools.h"
 #include "platform/DirectoryFiles.h"
 #include "program/AliasList.h"
-#include "program/AlternateBranch.h"
 #include "program/BranchPaths.h"
 #include "program/BranchUi.h"
 #include "program/WorkDatabase.h"
@@ -60,14 +60,6 @@ bool AskAgain(Program& p)
                             Buttons::ErrorYesNo) == Answer::Yes;
 }
 
-void ReturnToOwnBranch(Program& p)
-{
-    if (p.Branch.UsingAlternate != 1)
-        return;
-    ReturnFromSibling(p);
-    Records(p).MoveFirst();
-}
-
 void RemoveDirectory(Program& p, const QString& directory)
 {
     RemoveWithFiles(p.Files.Resolve(directory), p.Files.Resolve(p.Branch.HomeDir));
@@ -90,14 +82,14 @@ void DeleteBranch(Program& p)
 {
     if (!RequireBranch(p) || !Ask(p))
         return;
-    ReturnToOwnBranch(p);
+    ReturnToOwnSubject(p);
     if (!AskAgain(p))
         return;
     LeaveToolsIfOpen(p);
 
     const QString directory = p.Branch.WorkDir;
     RemoveDirectory(p, GalleryDirectory(directory));
-    RemoveAlias(p, p.Branch.sBranchName);
+    RemoveAlias(p, p.Branch.sBranchName, DirectoryName(directory));
     if (p.Form3.IsLoaded()) {
         p.Form3->Caption = u"Lineforge. "_s;
         // What is typed goes with its record; refused by the database, it would hold the form and the file.

@@ -31,6 +31,8 @@ void PutOldMapAway(Program& p)
         SaveBoxes(p);
     LeaveToolsIfOpen(p);
     StoreTyped(p);
+    // Whoever gives the command up stays in the branch that he has open.
+    ReturnToOwnSubject(p);
     PutMapAway(p);
 }
 

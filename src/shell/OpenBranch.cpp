@@ -107,6 +107,8 @@ void ChangeHomeDirectory(Program& p)
         p.Alias.AliasAttr = 0;
         p.Processes.ClaimHome(homeBefore);
     } else {
+        // Also where a record of another branch is left after it.
+        p.Branch.HomeDirSaved = p.Branch.HomeDir;
         FillBranchList(p);
     }
 }

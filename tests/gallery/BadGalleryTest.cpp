@@ -47,6 +47,12 @@ INSTANTIATE_TEST_SUITE_P(
         FatalFile{"A001_99.jpg", nullptr,
                   "Run-time error '9':\n\nSubscript out of range\n\nThe list or table that is needed has no place of "
                   "this number:\n99\n"},
+        FatalFile{"A001_99.doc", nullptr,
+                  "Run-time error '9':\n\nSubscript out of range\n\nThe list or table that is needed has no place of "
+                  "this number:\n99\n"},
+        FatalFile{"A001_00.doc", nullptr,
+                  "Run-time error '9':\n\nSubscript out of range\n\nThe list or table that is needed has no place of "
+                  "this number:\n0\n"},
         FatalFile{"A001_-1.jpg", nullptr,
                   "Run-time error '9':\n\nSubscript out of range\n\nThe list or table that is needed has no place of "
                   "this number:\n-1\n"},

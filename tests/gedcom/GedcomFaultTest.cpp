@@ -278,14 +278,7 @@ INSTANTIATE_TEST_SUITE_P(Yields, LeavingTest,
 TEST_F(GedcomFaultTest, BranchDeletedDuringARun_IsTold_AndItsDirectoryIsGone)
 {
     AtYield(amongTheLineage, [&] {
-        const QString text = u"All files in %1\n'Smiths' Ancestral Tree Branch will be deleted.\n"
-                             u"This includes the Database, Gallery and its Directories\n"
-                             u"Are you sure this is what you want ? "_s.arg(Home.Path(u"LfgDat_A"));
-        Prompts.Expect(u"Delete 'Smiths' DataBase and Galleries",
-                       u"Do you really want to delete the Database\nand Gallery files in 'Smiths' Tree Branch ?",
-                       Buttons::QuestionYesNo, Answer::Yes);
-        Prompts.Expect(u"Deletion of 'Smiths' Database, Gallery and Files", text, Buttons::ErrorYesNo, Answer::Yes);
-        Click(P.Form1->mnuDelSub.Click);
+        DeleteForGood();
         ExpectLeftBox();
     });
 
@@ -324,18 +317,58 @@ TEST_F(GedcomFaultTest, SameBranchOpenedAgainDuringARun_IsWalkedOn)
     EXPECT_TRUE(File().endsWith("1 DESC 2\r\n1 ORDI N\r\n0 TRLR\r\n"));
 }
 
-TEST_F(GedcomFaultTest, ProgramLeftDuringARun_EndsQuietly_AndTheFileIsClosedWithIt)
+class EndedRunTest : public GedcomFaultTest, public testing::WithParamInterface<Leaving>
 {
-    AtYield(amongTheLineage, [&] {
-        Click(P.Form1->mnuExit.Click);
+};
+
+TEST_P(EndedRunTest, ProgramThatIsLeft_EndsTheRunQuietly_AndNoUnfinishedFileIsLeft)
+{
+    AtYield(GetParam().Yield, [&] {
+        Click([&] { GetParam().Leave(P); });
+        EXPECT_EQ(ExitCode(), 0);
         Ended();
     });
 
     CreateFile();
 
-    EXPECT_EQ(ExitCode(), 0);
-    P.Lineage.GedcomFile.reset();
+    EXPECT_FALSE(P.Lineage.GedcomFile);
+    EXPECT_FALSE(Home.Exists(u"LfgDat_A/Gedcom.tmp"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Ways, EndedRunTest,
+    testing::Values(Leaving{"menu", 1, [](Program& p) { p.Form1->mnuExit.Click(); }},
+                    Leaving{"menu", 6, [](Program& p) { p.Form1->mnuExit.Click(); }},
+                    Leaving{"frame", 3, [](Program& p) { p.Form1->CloseByFrame(); }},
+                    Leaving{"gallery's menu", 3, [](Program& p) { p.Form5->mnuExit.Click(); }},
+                    Leaving{"record form's menu", 3, [](Program& p) { p.Form3->mnuExit.Click(); }}));
+
+TEST_F(GedcomFaultTest, FatalErrorInAnotherHandler_KeepsWhatWasWritten)
+{
+    AtYield(amongTheLineage, [&] {
+        ExpectFatalBox(u"Run-time error '6':\n\nOverflow");
+        Click([] { throw RuntimeError(ErrorNumber::Overflow); });
+        Ended();
+    });
+
+    CreateFile();
+
     EXPECT_TRUE(File().endsWith("2 PHON Text5\r\n"));
+}
+
+TEST_F(GedcomFaultTest, OpeningThatIsRefusedDuringARun_EndsIt_IsTold_AndNoUnfinishedFileIsLeft)
+{
+    Home.WriteFile(u"LfgDat_B/LfgDat_B.mdb", "no database");
+    AtYield(amongTheLineage, [&] {
+        ExpectCannotOpenBox();
+        Choose(u"Jones");
+        ExpectLeftBox();
+    });
+
+    CreateFile();
+
+    EXPECT_EQ(ExitCode(), std::nullopt);
+    EXPECT_FALSE(Home.Exists(u"LfgDat_A/Gedcom.tmp"));
 }
 
 } // namespace

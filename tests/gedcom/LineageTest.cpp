@@ -266,6 +266,69 @@ INSTANTIATE_TEST_SUITE_P(Counts, StaleCountTest,
                                          StaleCount{6, u"|A001||A004|    |", 2},
                                          StaleCount{100, u"|A001||A004|    |", 2}));
 
+// A report counts the characters of its long fields in the shared index: what is left there is the length of the last
+// piece of the last one, with the blank behind it.
+struct ReportBefore {
+    const char* Name;
+    QString Notes;
+    QStringView Row;
+    void (*PutOut)(Program& p, ScriptedPrompts& user);
+};
+
+void PrintTo(const ReportBefore& report, std::ostream* out)
+{
+    *out << report.Name;
+}
+
+class ReportBeforeLineageTest : public LineageTest, public testing::WithParamInterface<ReportBefore>
+{
+};
+
+TEST_P(ReportBeforeLineageTest, FirstRow_BeginsAtTheLengthOfItsLastPiece)
+{
+    GivenPeople({{u"A001"_s, u"A004"_s}, {u"A002"_s, u"A001"_s}, {u"A003"_s, u"A001"_s}, {u"A004"_s}});
+    Records(P).Edit();
+    Records(P).Put(u"Notes", GetParam().Notes);
+    Records(P).Update();
+    P.Scratch.IdxA = 100;
+
+    GetParam().PutOut(P, Prompts);
+    CollectFrom(u"A001"_s);
+
+    EXPECT_EQ(Table().first(), GetParam().Row);
+}
+
+void CopyToClipboard(Program& p, ScriptedPrompts&)
+{
+    p.Form3->mnuCopyRecToClip.Click();
+}
+
+void PrintOnPaper(Program& p, ScriptedPrompts&)
+{
+    p.Form1->mnuPrintRecord.Click();
+}
+
+// Its last record is A004, without notes.
+void WriteToFile(Program& p, ScriptedPrompts& user)
+{
+    const QString text =
+        u"Database will be Copied to the Text File located at\n"_s + p.Branch.WorkDir + PathSeparator + u"LfgDat_A.txt";
+    user.Expect(u"Make a Text File.", text, Buttons::Information);
+    p.Form1->mnuTxtDBase.Click();
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Reports, ReportBeforeLineageTest,
+    testing::Values(
+        ReportBefore{"no notes", QString(), u"|A001||A004|    |,A002,A003", CopyToClipboard},
+        ReportBefore{"four letters", u"Cats"_s, u"|A001||A004|    |,,,,,A002", CopyToClipboard},
+        ReportBefore{"five letters", u"Horse"_s, u"|A001||A004|    |", CopyToClipboard},
+        ReportBefore{"second line", QString(79, u'x') + u" on", u"|A001||A004|    |,,,A002,A003", CopyToClipboard},
+        // Nothing is left behind the cut.
+        ReportBefore{"cut at the end", QString(79, u'x'), u"Fam|A001||A004|    |A002,A003", CopyToClipboard},
+        ReportBefore{"paper", u"Cat"_s, u"|A001||A004|    |,,,,A002,A003", PrintOnPaper},
+        ReportBefore{"text file", u"Cat"_s, u"|A001||A004|    |,A002,A003", WriteToFile}));
+
 // What a run leaves in the shared index is what the lines of the next one show.
 TEST_F(LineageTest, LastThreeOffspring_AreThoseOfTheRowThatAnEarlierSearchEndedAt)
 {

@@ -148,7 +148,56 @@ TEST_F(BranchExportTest, AClosedBranchBesideAnOpenOne_CanBeExported)
     Export(u'A', Home.Path(u"stick"));
 
     EXPECT_EQ(TreeOf(u"stick/LfgDat_A"_s), TreeOf(u"LfgDat_A"_s));
-    // The open branch goes on with its own picture.
+}
+
+TEST_F(BranchExportTest, NameOfThePicture_IsEmptyAfterTheListing_AndInAGedcomFile)
+{
+    Choose(u"Jones");
+
+    Export(u'A', Home.Path(u"stick"));
+
+    EXPECT_EQ(P.Record.sPicFile, QString());
+    P.Form12->Command1.Click();
+    EXPECT_TRUE(Home.ReadFile(u"LfgDat_B/Gedcom.tmp").contains("\r\n1 FILE \r\n"));
+}
+
+TEST_F(BranchExportTest, NameOfThePicture_IsEmptyWhereTheGalleryIsInTheWay)
+{
+    Choose(u"Jones");
+    GivenChosen();
+    P.Form4->Dir1.GoTo(Home.Path(u"stick"));
+    ExpectExportQuestion(Home.Path(u"stick/LfgDat_A"), Answer::Ok,
+                         [&] { Home.MakeDirectory(u"stick/LfgDat_A/LfgGal_A"); });
+    const QString text = Home.Path(u"stick/LfgDat_A/LfgGal_A") +
+                         u" Directory already exists.\nYou must first move or delete this Directory.";
+    Prompts.Expect(u"Error Creating New Directory", text, Buttons::Information);
+
+    P.Form4->Command1.Click();
+
+    EXPECT_EQ(P.Record.sPicFile, QString());
+}
+
+TEST_F(BranchExportTest, NameOfThePicture_StaysWhereNothingIsCopied)
+{
+    Choose(u"Jones");
+    GivenChosen();
+    P.Form4->Dir1.GoTo(Home.Path(u"stick"));
+    ExpectExportQuestion(Home.Path(u"stick/LfgDat_A"), Answer::Cancel);
+
+    P.Form4->Command1.Click();
+
+    EXPECT_EQ(P.Record.sPicFile, u"B001Sub.Jpg"_s);
+}
+
+TEST_F(BranchExportTest, RecordThatTheGalleryIsLeftFor_ShowsItsPictureAllTheSame)
+{
+    Choose(u"Jones");
+    Click(P.Form1->Command2.Click);
+    Export(u'A', Home.Path(u"stick"));
+
+    Click(P.Form5->Command2.Click);
+
+    EXPECT_FALSE(P.Form3->Image1.Picture.value().isNull());
     EXPECT_EQ(P.Record.sPicFile, u"B001Sub.Jpg"_s);
 }
 

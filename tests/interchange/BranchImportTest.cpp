@@ -242,7 +242,7 @@ TEST_F(BranchImportTest, NameInUse_CaseIgnored_IsToldAndAskedAgain)
 TEST_F(BranchImportTest, NameThatTheListWouldntGiveBack_IsRefusedAsOneInUse)
 {
     ExpectImportDialog(OnStick(u'C'));
-    for (const QStringView name : {u"Bro=wns", u" ", u"[]", u"[Smiths"}) {
+    for (const QStringView name : {u"Bro=wns", u" ", u"[]", u"[Smiths", u"Bro[wns"}) {
         ExpectImportName(name);
         Prompts.Expect(u"Duplicate Name entered.", u"Cannot have Tree Branch databases with same name",
                        Buttons::Information);
@@ -437,8 +437,8 @@ TEST_F(BranchImportTest, FileThatIsNoDatabase_IsListed_AndLeavesWhatOpenWouldLea
 {
     const auto left = [this] {
         return std::tuple(P.Branch.WorkDir, P.Branch.sDbaseName, P.Branch.sBranchName, int(P.Branch.UsingAlternate),
-                          P.Files.CurDir(), P.Form1->Caption.value(), P.Form3->Caption.value(),
-                          P.Form3->Data1.DatabaseName, P.Form1->Label9.Caption.value(), P.Form1->Shape1.Visible.value(),
+                          P.Files.CurDir(), P.Form1->Caption.value(), P.Form3.IsLoaded(),
+                          P.Form1->Label9.Caption.value(), P.Form1->Shape1.Visible.value(),
                           P.Form1->Image1.Picture.value().isNull(), P.Map.BoxArr[0][BoxColumn::File].Text(),
                           IsBlank(P.Form1->Picture1), P.Form1->mnuTreeGraphics.Enabled.value(),
                           P.Screen.Pointer.value());

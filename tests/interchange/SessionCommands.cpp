@@ -303,7 +303,7 @@ void SessionModel::Delete()
               Answer::Yes, Answer::No))
         return;
     RemoveWithFiles(GalleryOf(WorkDir));
-    RemoveAlias(BranchName);
+    RemoveAlias(BranchName, WorkDir);
     RemoveWithFiles(WorkDir);
     WorkDir.clear();
     Current = root_;

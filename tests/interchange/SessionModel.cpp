@@ -53,7 +53,8 @@ bool SessionModel::Asks(const QString& title, const QString& text, Buttons butto
 {
     const bool confirms = user_.Confirms();
     std::function<void()> meanwhile;
-    if (!forestalled.isEmpty() && user_.IsForestalled()) {
+    // Not where a file is in the way.
+    if (!forestalled.isEmpty() && user_.IsForestalled() && !Files.contains(forestalled)) {
         Files[forestalled] = "<dir>";
         meanwhile = [path = QString(root_ + u'/' + forestalled)] { QDir().mkdir(path); };
     }
@@ -175,10 +176,8 @@ bool SessionModel::IsListed(const QString& name) const
 bool SessionModel::IsRefused(const QString& name) const
 {
     QString seen = name;
-    QString read = name;
-    seen.remove(u',').remove(u'[').remove(u']');
-    read.remove(u'[');
-    return name.contains(u'=') || seen.trimmed().isEmpty() || IsListed(name) || IsListed(read);
+    seen.remove(u',').remove(u']');
+    return name.contains(u'=') || name.contains(u'[') || seen.trimmed().isEmpty() || IsListed(name);
 }
 
 QString SessionModel::AskName(QStringView title, QStringView prompt)
@@ -200,18 +199,23 @@ void SessionModel::AddAlias(const QString& name, const QString& directory)
     ReadList();
 }
 
-// What stood before the name, and what stands behind the sign and nine characters more.
-void SessionModel::RemoveAlias(const QString& name)
+// Whatever the list calls the directory. A name with commas makes several entries, of which the last has it.
+void SessionModel::RemoveAlias(const QString& name, const QString& directory)
 {
-    qsizetype start = 0;
-    for (qsizetype at = 0; at < AliasList.size(); ++at) {
-        if (AliasList[at] == u',')
-            start = at + 1;
-        if (AliasList[at] == u'=' && Same(AliasList.sliced(start, at - start), name)) {
-            AliasList = AliasList.left(start) + AliasList.mid(at + 1 + 9);
-            break;
-        }
+    QStringList entries;
+    QStringList listed = AliasList.split(u',');
+    listed.removeLast(); // what stands behind the last comma
+    for (const QString& entry : listed) {
+        entries << entry;
+        if (!Same(entry.right(8), directory))
+            continue;
+        const qsizetype pieces = name.count(u',') + 1;
+        const bool isWhole = Same(entries.last(std::min(pieces, entries.size())).join(u','), name + u'=' + directory);
+        entries.resize(entries.size() - (isWhole ? pieces : 1));
     }
+    AliasList.clear();
+    for (const QString& entry : entries)
+        AliasList += entry + u',';
     WriteList();
     ReadList();
 }

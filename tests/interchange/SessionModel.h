@@ -96,7 +96,7 @@ private:
     bool IsRefused(const QString& name) const;
     QString AskName(QStringView title, QStringView prompt);
     void AddAlias(const QString& name, const QString& directory);
-    void RemoveAlias(const QString& name);
+    void RemoveAlias(const QString& name, const QString& directory);
     void WriteMap();
     void SaveBoxes();
     void ReadMap();

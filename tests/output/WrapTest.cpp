@@ -34,7 +34,12 @@ class WrapTest : public testing::Test, public WithParamInterface<Cut>
 
 TEST_P(WrapTest, Value_BecomesTheseLines)
 {
-    EXPECT_EQ(Wrapped(GetParam().Value), GetParam().Lines);
+    ScratchState scratch;
+
+    EXPECT_EQ(Wrapped(scratch, GetParam().Value), GetParam().Lines);
+
+    EXPECT_EQ(scratch.IdxA, GetParam().Lines.last().size());
+    EXPECT_EQ(scratch.LenScratch, 80);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -86,7 +91,9 @@ class WrapLongRunTest : public testing::Test, public WithParamInterface<int>
 
 TEST_P(WrapLongRunTest, AloneWithoutABlank_IsPutOutWhole_AndNothingIsLost)
 {
-    const QStringList lines = Wrapped(RunOf(GetParam()));
+    ScratchState scratch;
+
+    const QStringList lines = Wrapped(scratch, RunOf(GetParam()));
 
     EXPECT_EQ(lines.first(), RunOf(GetParam()) + u' ');
     EXPECT_EQ(lines.join(QString()), RunOf(GetParam()) + u' ');
@@ -96,7 +103,9 @@ TEST_P(WrapLongRunTest, AmongWords_StandsOnALineOfItsOwn_AndNothingIsLost)
 {
     const QString value = u"before it "_s + RunOf(GetParam()) + u" behind it"_s;
 
-    const QStringList lines = Wrapped(value);
+    ScratchState scratch;
+
+    const QStringList lines = Wrapped(scratch, value);
 
     EXPECT_EQ(lines, QStringList({u"before it "_s, RunOf(GetParam()) + u' ', u"behind it "_s}));
     EXPECT_EQ(lines.join(QString()), value + u' ');
@@ -109,7 +118,9 @@ TEST(WrapLongValueTest, MillionCharacters_TakeNoTime)
 {
     const QString value = QString(u"word "_s).repeated(200'000);
 
-    EXPECT_EQ(Wrapped(value).join(QString()), value + u' ');
+    ScratchState scratch;
+
+    EXPECT_EQ(Wrapped(scratch, value).join(QString()), value + u' ');
 }
 
 } // namespace

@@ -122,6 +122,20 @@ TEST_F(BackUpBranchTest, NameShorterThanAnEnding_EndsInSilence_WithTheRecordForm
     EXPECT_EQ(ExitCode(), std::nullopt);
 }
 
+TEST_F(BackUpBranchTest, RecordFormThatIsClosedByIt_IsToldOf_UntilABackupOpensItAgain)
+{
+    BackUpAs(u"/ab"_s);
+    Prompts.Expect(u"Data not available", u"Cannot View until database file is Opened", Buttons::Information);
+    Click(P.Form1->Command1.Click);
+    EXPECT_EQ(ExitCode(), std::nullopt);
+
+    BackUpAs(Home.Path(u"safe/x.mdb"));
+    Click(P.Form1->Command1.Click);
+
+    EXPECT_TRUE(P.Form3->Visible);
+    EXPECT_EQ(Records(P).Text(u"File"), u"A001"_s);
+}
+
 TEST_F(BackUpBranchTest, PlaceThatCantBeWritten_EndsInSilence)
 {
     BackUpAs(Home.Path(u"gone/x.mdb"));

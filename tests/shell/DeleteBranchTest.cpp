@@ -1,4 +1,5 @@
 #include "ShellTest.h"
+#include "map/SubjectPanel.h"
 #include "program/AliasList.h"
 #include "program/AlternateBranch.h"
 #include "program/WorkDatabase.h"
@@ -22,28 +23,7 @@ protected:
         Choose(u"Smiths");
     }
 
-    void ExpectFirst(Answer answer, const QString& name = u"Smiths"_s)
-    {
-        const QString title = u"Delete '%1' DataBase and Galleries"_s.arg(name);
-        const QString text =
-            u"Do you really want to delete the Database\nand Gallery files in '%1' Tree Branch ?"_s.arg(name);
-        Prompts.Expect(title, text, Buttons::QuestionYesNo, answer);
-    }
-    void ExpectSecond(Answer answer, const QString& name = u"Smiths"_s, QStringView directory = u"LfgDat_A")
-    {
-        const QString title = u"Deletion of '%1' Database, Gallery and Files"_s.arg(name);
-        const QString text = u"All files in %1\n'%2' Ancestral Tree Branch will be deleted.\n"
-                             u"This includes the Database, Gallery and its Directories\n"
-                             u"Are you sure this is what you want ? "_s.arg(Home.Path(directory), name);
-        Prompts.Expect(title, text, Buttons::ErrorYesNo, answer);
-    }
     void Delete() { Click(P.Form1->mnuDelSub.Click); }
-    void DeleteForGood()
-    {
-        ExpectFirst(Answer::Yes);
-        ExpectSecond(Answer::Yes);
-        Delete();
-    }
     void ExpectRefused()
     {
         Prompts.Expect(u"Data not available", u"Cannot View until database file is Opened", Buttons::Information);
@@ -91,10 +71,10 @@ TEST_F(DeleteBranchTest, BothConfirmed_TheBranchGoes_AndNothingElse)
 TEST_F(DeleteBranchTest, NoAtEither_LeavesEverything)
 {
     const Tree before = Home.Snapshot();
-    ExpectFirst(Answer::No);
+    ExpectDeletionQuestion(Answer::No);
     Delete();
-    ExpectFirst(Answer::Yes);
-    ExpectSecond(Answer::No);
+    ExpectDeletionQuestion(Answer::Yes);
+    ExpectDeletionWarning(Answer::No);
     Delete();
 
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
@@ -106,8 +86,8 @@ TEST_F(DeleteBranchTest, NoAtTheSecond_StillReturnsFromTheOtherBranch)
 {
     SwitchToSibling(P, u"B");
     const Tree before = Home.Snapshot();
-    ExpectFirst(Answer::Yes);
-    ExpectSecond(Answer::No);
+    ExpectDeletionQuestion(Answer::Yes);
+    ExpectDeletionWarning(Answer::No);
 
     Delete();
 
@@ -117,10 +97,27 @@ TEST_F(DeleteBranchTest, NoAtTheSecond_StillReturnsFromTheOtherBranch)
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
 }
 
+TEST_F(DeleteBranchTest, NoAtTheSecond_OnARecordOfAnotherBranch_ShowsTheOwnFirstSubject)
+{
+    SwitchToSibling(P, u"B");
+    Records(P).MoveLast();
+    ShowRecordOnMap(P);
+    ExpectDeletionQuestion(Answer::Yes);
+    ExpectDeletionWarning(Answer::No);
+
+    Delete();
+
+    EXPECT_EQ(P.Form1->Label9.Caption.value(), u"John"_s);
+    EXPECT_EQ(P.Form1->Frame1.Caption.value(), u"Ref  A001"_s);
+    EXPECT_GT(P.Form1->Image1.Picture.value().pixelColor(10, 10).red(), 200);
+    EXPECT_TRUE(P.Form1->Shape1.Visible);
+    EXPECT_EQ(P.Form1->Shape1.Left, 1200 + BoxCentreX - 60);
+}
+
 TEST_F(DeleteBranchTest, NoAtTheFirst_LeavesTheOtherBranchOnShow)
 {
     SwitchToSibling(P, u"B");
-    ExpectFirst(Answer::No);
+    ExpectDeletionQuestion(Answer::No);
 
     Delete();
 
@@ -275,8 +272,8 @@ TEST_F(DeleteBranchTest, ImportedBranch_GoesWithItsEntry)
     GivenRegistry({{u"Smiths", u"Import_A"}, {u"Jones", u"LfgDat_B"}});
     BranchOf(u'A').InDirectory(u"Import_A").Gallery({{u"A001_01.jpg"_s, "picture"}}).Build();
     Choose(u"Smiths");
-    ExpectFirst(Answer::Yes);
-    ExpectSecond(Answer::Yes, u"Smiths"_s, u"Import_A");
+    ExpectDeletionQuestion(Answer::Yes);
+    ExpectDeletionWarning(Answer::Yes, u"Smiths"_s, u"Import_A");
 
     Delete();
 
@@ -289,8 +286,8 @@ TEST_F(DeleteBranchTest, ToolsThatAreOpen_AreLeftBehindBothConfirmations_AndABra
 {
     P.Form1->mnuTreeTools.Click();
     ASSERT_EQ(P.Tools.ToolMode, 3);
-    ExpectFirst(Answer::Yes);
-    ExpectSecond(Answer::Yes);
+    ExpectDeletionQuestion(Answer::Yes);
+    ExpectDeletionWarning(Answer::Yes);
     ExpectToolsQuestion(Answer::No);
     Delete();
 
@@ -303,10 +300,10 @@ TEST_F(DeleteBranchTest, ToolsThatAreOpen_AreLeftBehindBothConfirmations_AndABra
 TEST_F(DeleteBranchTest, NoAtEither_LeavesTheToolsOpen)
 {
     P.Form1->mnuTreeTools.Click();
-    ExpectFirst(Answer::No);
+    ExpectDeletionQuestion(Answer::No);
     Delete();
-    ExpectFirst(Answer::Yes);
-    ExpectSecond(Answer::No);
+    ExpectDeletionQuestion(Answer::Yes);
+    ExpectDeletionWarning(Answer::No);
     Delete();
 
     EXPECT_EQ(P.Tools.ToolMode, 3);
@@ -396,14 +393,59 @@ TEST_F(DeleteBranchTest, NameWithTheSignThatEndsIt_TakesItsWholeEntryAlong)
 {
     GivenRegistry({{u"Smi=ths", u"LfgDat_A"}, {u"Jones", u"LfgDat_B"}});
     Choose(u"Smi");
-    ExpectFirst(Answer::Yes, u"Smi"_s);
-    ExpectSecond(Answer::Yes, u"Smi"_s);
+    ExpectDeletionQuestion(Answer::Yes, u"Smi"_s);
+    ExpectDeletionWarning(Answer::Yes, u"Smi"_s);
 
     Delete();
 
     EXPECT_TRUE(Registry().contains("[Jones=LfgDat_B,]"));
     EXPECT_EQ(P.Form8->List1.Items.value(), QStringList{u"Jones"_s});
 }
+
+// The list shows the second by its own name, but opens the first one.
+TEST_F(DeleteBranchTest, NameThatBeginsAnEarlierName_TakesTheEntryOfTheDeletedBranchAlone)
+{
+    GivenRegistry({{u"Smiths", u"LfgDat_A"}, {u"Smith", u"LfgDat_B"}});
+    Choose(u"Smith");
+
+    DeleteForGood(u"Smith"_s);
+
+    EXPECT_FALSE(Home.Exists(u"LfgDat_A"));
+    EXPECT_TRUE(Home.Exists(u"LfgDat_B/LfgDat_B.mdb"));
+    EXPECT_TRUE(Registry().contains("[Smith=LfgDat_B,]"));
+}
+
+TEST_F(DeleteBranchTest, DirectoryThatIsListedTwice_LosesBothEntries)
+{
+    GivenRegistry({{u"Smiths", u"LfgDat_A"}, {u"Jones", u"LfgDat_B"}, {u"Old Smiths", u"lfgdat_a"}});
+
+    DeleteForGood();
+
+    EXPECT_TRUE(Registry().contains("[Jones=LfgDat_B,]"));
+}
+
+class MadeAndDeletedTest : public ShellTest, public testing::WithParamInterface<QStringView>
+{
+};
+
+TEST_P(MadeAndDeletedTest, NameThatTheListCutsUp_LeavesNothingOfItself)
+{
+    GivenSmithsAndJones();
+    AnswerName(GetParam());
+    Confirm(GetParam(), u"LfgDat_C");
+    ExpectEmptyBox();
+    P.Form1->New.Click();
+
+    DeleteForGood(GetParam().toString(), u"LfgDat_C");
+
+    EXPECT_FALSE(Home.Exists(u"LfgDat_C"));
+    EXPECT_TRUE(Registry().contains("[Smiths=LfgDat_A,Jones=LfgDat_B,]"));
+    EXPECT_EQ(P.Form8->List1.Items.value(), (QStringList{u"Smiths"_s, u"Jones"_s}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Names, MadeAndDeletedTest,
+                         testing::Values(u"Browns", u"Browns, of Leeds", u"Browns,", u",Browns", u"Browns, of, Leeds",
+                                         u"Bro]wns", u"Jones, of Leeds"));
 
 TEST_F(DeleteBranchTest, BoxesOfOtherBranches_KeepTheirPeople_AndShowTheNumberAlone)
 {
@@ -427,15 +469,15 @@ TEST_F(DeleteBranchTest, BoxesOfOtherBranches_KeepTheirPeople_AndShowTheNumberAl
     EXPECT_TRUE(MapOf(u'B').contains("A001"));
 }
 
-TEST_F(DeleteBranchTest, NameWithoutAnEntry_DeletesTheBranch_AndLeavesTheList)
+TEST_F(DeleteBranchTest, NameThatTheListDoesntHave_TakesTheEntryOfItsDirectoryAlong)
 {
     P.Branch.sBranchName = u"Unlisted"_s;
-    ExpectFirst(Answer::Yes, u"Unlisted"_s);
-    ExpectSecond(Answer::Yes, u"Unlisted"_s);
+    ExpectDeletionQuestion(Answer::Yes, u"Unlisted"_s);
+    ExpectDeletionWarning(Answer::Yes, u"Unlisted"_s);
 
     Delete();
 
-    EXPECT_TRUE(Registry().contains("[Smiths=LfgDat_A,Jones=LfgDat_B,]"));
+    EXPECT_TRUE(Registry().contains("[Jones=LfgDat_B,]"));
     EXPECT_FALSE(Home.Exists(u"LfgDat_A"));
 }
 

@@ -1,4 +1,6 @@
 #include "ShellTest.h"
+#include "map/tools/ToolMouse.h"
+#include "program/AlternateBranch.h"
 
 #include <QFile>
 
@@ -93,6 +95,50 @@ TEST_F(HomeDirectoryTest, OpenBranchOfTheOldHome_StaysOpen_AndIsSavedToItsOwnPla
 
     EXPECT_TRUE(MapOf(u'A').contains("1300,600,255,A001"));
     EXPECT_EQ(Differences(others, Other.Snapshot()), QStringList());
+}
+
+class HomeOnSiblingTest : public HomeDirectoryTest
+{
+protected:
+    HomeOnSiblingTest()
+    {
+        P.Form8->List1.SetText(u"Smiths"_s);
+        P.Form8->Command1.Click();
+        SwitchToSibling(P, u"B");
+        P.Form1->Open.Click();
+    }
+
+    // A double click on an own box; the record of the other branch is left by it.
+    void DoubleClickFirstBox()
+    {
+        P.Form8->Command2.Click();
+        PressMap(P, 0, 1300, 700);
+        P.Form1->Picture1.DblClick();
+        ASSERT_EQ(P.Branch.UsingAlternate, 0);
+        ASSERT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_A"));
+    }
+};
+
+TEST_F(HomeOnSiblingTest, NewHome_HoldsBeyondTheReturnToTheMapsOwnBranch)
+{
+    PickFile(Other.Path(u"AliasList.cfg"));
+    DoubleClickFirstBox();
+
+    EXPECT_EQ(P.Branch.HomeDir, Other.Path() + PathSeparator);
+    P.Form1->Open.Click();
+    EXPECT_EQ(P.Form8->List1.Items.value(), (QStringList{u"Browns"_s, u"Greens"_s}));
+}
+
+TEST_F(HomeOnSiblingTest, RefusedRegistry_LeavesTheOldHomeBeyondIt)
+{
+    Other.MakeReadOnly(u"AliasList.cfg");
+    Prompts.ExpectOpenFile(title, filter, Other.Path(u"AliasList.cfg"));
+    Prompts.Expect(u"File Attribute set for Read Only.",
+                   u"Cannot access a Read Only File. Use 'Import File' to read this File.", Buttons::Information);
+    P.Form8->Command3.Click();
+    DoubleClickFirstBox();
+
+    EXPECT_EQ(P.Branch.HomeDir, Home.Path() + PathSeparator);
 }
 
 TEST_F(HomeDirectoryTest, Cancel_ChangesNothing)

@@ -1,5 +1,7 @@
 #include "NewBranchTest.h"
+#include "map/SubjectPanel.h"
 #include "program/AlternateBranch.h"
+#include "program/WorkDatabase.h"
 #include "support/Pixels.h"
 
 namespace lineforge
@@ -7,9 +9,22 @@ namespace lineforge
 namespace
 {
 
-enum class Question { Name, Confirmation };
+enum class WayOut { Name, Confirmation, FullTable };
 
-class CancelledNewTest : public MadeBranchTest, public testing::WithParamInterface<Question>
+const char* NameOf(WayOut way)
+{
+    switch (way) {
+    case WayOut::Name:
+        return "AtTheName";
+    case WayOut::Confirmation:
+        return "AtTheConfirmation";
+    case WayOut::FullTable:
+        break;
+    }
+    return "AtTheFullTable";
+}
+
+class CancelledNewTest : public MadeBranchTest, public testing::WithParamInterface<WayOut>
 {
 protected:
     CancelledNewTest()
@@ -21,13 +36,28 @@ protected:
 
     void CancelNew()
     {
-        if (GetParam() == Question::Name) {
+        switch (GetParam()) {
+        case WayOut::Name:
             AnswerName({});
-        } else {
+            break;
+        case WayOut::Confirmation:
             AnswerName(u"Browns");
             Confirm(u"Browns", u"LfgDat_C", Answer::Cancel);
+            break;
+        case WayOut::FullTable:
+            Home.MakeDirectory(u"LfgDat_Z");
+            ExpectFullBox();
         }
         P.Form1->New.Click();
+    }
+
+    // Her picture is blue; that of the first record is red.
+    void GivenSecondRecordOfJones()
+    {
+        SwitchToSibling(P, u"B");
+        Records(P).MoveLast();
+        ShowRecordOnMap(P);
+        ASSERT_EQ(P.Form1->Frame1.Caption.value(), u"Ref  B002"_s);
     }
 
     QByteArray Saved;
@@ -98,10 +128,49 @@ TEST_P(CancelledNewTest, OnARecordOfAnotherBranch_NeitherMapIsTouched)
     EXPECT_EQ(MapOf(u'B'), other);
 }
 
-INSTANTIATE_TEST_SUITE_P(Questions, CancelledNewTest, testing::Values(Question::Name, Question::Confirmation),
-                         [](const auto& question) {
-                             return question.param == Question::Name ? "AtTheName" : "AtTheConfirmation";
-                         });
+TEST_P(CancelledNewTest, OnARecordOfAnotherBranch_TheMapsOwnIsOpenAgain_WithItsFirstSubject)
+{
+    GivenSecondRecordOfJones();
+
+    CancelNew();
+
+    EXPECT_EQ(P.Branch.UsingAlternate, 0);
+    EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_A"));
+    EXPECT_TRUE(P.Branch.sDbaseName.endsWith(u"Lfgdat_A.mdb"_s));
+    EXPECT_EQ(Records(P).Text(u"File"), u"A001"_s);
+    EXPECT_EQ(P.Form1->Label9.Caption.value(), u"John"_s);
+    EXPECT_EQ(P.Form1->Frame1.Caption.value(), u"Ref  A001"_s);
+    EXPECT_GT(P.Form1->Image1.Picture.value().pixelColor(10, 10).red(), 200);
+}
+
+TEST_P(CancelledNewTest, OnARecordOfAnotherBranch_ADeleteAfterItTakesTheMapsOwn)
+{
+    Home.WriteFile(u"LfgDat_B/LfgGal_B/B002_01.jpg", "picture");
+    GivenSecondRecordOfJones();
+    CancelNew();
+
+    DeleteForGood();
+
+    EXPECT_FALSE(Home.Exists(u"LfgDat_A"));
+    EXPECT_TRUE(Home.Exists(u"LfgDat_B/LfgDat_B.mdb"));
+    EXPECT_TRUE(Home.Exists(u"LfgDat_B/LfgGal_B/B002_01.jpg"));
+    EXPECT_TRUE(Registry().contains("[Jones=LfgDat_B,]"));
+}
+
+TEST_P(CancelledNewTest, OnARecordOfAnotherBranch_WithoutPictures_ShowsNobodyElses)
+{
+    GivenSecondRecordOfJones();
+    QFile::remove(Home.Path(u"LfgDat_A/A001Sub.jpg"));
+
+    CancelNew();
+
+    EXPECT_TRUE(P.Form1->Image1.Picture.value().isNull());
+    EXPECT_EQ(P.Form1->Frame1.Caption.value(), u"Ref  A001"_s);
+}
+
+INSTANTIATE_TEST_SUITE_P(WaysOut, CancelledNewTest,
+                         testing::Values(WayOut::Name, WayOut::Confirmation, WayOut::FullTable),
+                         [](const auto& turn) { return NameOf(turn.param); });
 
 } // namespace
 } // namespace lineforge

@@ -63,8 +63,8 @@ TEST_P(LostNameTest, IsRefusedAsOneThatExists_AndAskedForAgain)
 INSTANTIATE_TEST_SUITE_P(Names, LostNameTest,
                          testing::Values(u"=", u"Browns=", u"=Browns", u"Browns=Greens", u"Browns, of Leeds=", u" ",
                                          u"   ", u"\t", u"[", u"]", u",", u"[]", u"[,]", u"[ ]", u" , ",
-                                         // What the list would read of them stands in it already.
-                                         u"[Smiths", u"smi[ths", u"Jones[["));
+                                         u"[Smiths", u"smi[ths", u"Jones[[", u"Bro[wns", u"[Browns", u"Browns[",
+                                         u"Browns, of [Leeds]", u"Bro\nwns", u"Browns\r"));
 
 // And names that it gives back.
 class KeptNameTest : public MadeBranchTest, public testing::WithParamInterface<QStringView>
@@ -117,17 +117,6 @@ TEST_F(MadeBranchTest, NameWithClosingBracket_IsLostFromMemory_AndFromTheFileAtT
 
     Make(u"Greens", u"LfgDat_D");
     EXPECT_EQ(Registry(), RegistryWith("Greens=LfgDat_D"));
-}
-
-TEST_F(MadeBranchTest, OpeningBracketInAName_VanishesAtTheNextRead)
-{
-    AnswerName(u"Bro[wns");
-    Confirm(u"Bro[wns", u"LfgDat_C");
-    ExpectEmptyBox();
-    P.Form1->New.Click();
-
-    EXPECT_EQ(P.Form8->List1.Items.value().last(), u"Browns"_s);
-    EXPECT_EQ(P.Branch.sBranchName, u"Bro[wns"_s);
 }
 
 } // namespace

@@ -16,12 +16,6 @@ class OpenBranchTest : public ShellTest
 protected:
     OpenBranchTest() { GivenSmithsAndJones(); }
 
-    void ExpectCannotOpenBox(ScriptedPrompts::WhileOpen whileOpen = {})
-    {
-        Prompts.Expect(u"Read Only or Incorrect Database", u"Cannot open this database", Buttons::Information,
-                       Answer::Ok, std::move(whileOpen));
-    }
-
     void ExpectPictureBox(QStringView picture, ScriptedPrompts::WhileOpen whileOpen = {})
     {
         const QString text = u"Searched Image File for "_s + picture;

@@ -46,7 +46,7 @@ void ReadBackFromLists(Program& p)
 
 void ReturnToRecord(Program& p)
 {
-    if (!Records(p).IsEmpty()) {
+    if (IsBranchOpen(p) && !Records(p).IsEmpty()) {
         p.Errors.Ignoring([&] { Records(p).SetBookmark(p.Tools.ToolBookmark); });
         MarkCurrentBox(p);
         // Even where no box holds the record and the marker stands wherever it stood; so it is meant to be.
@@ -59,16 +59,18 @@ void ReturnToRecord(Program& p)
 
 void LeaveTools(Program& p)
 {
+    const bool isAlternate = p.Branch.UsingAlternate == 1;
     FinishGesture(p);
     p.Form1->Picture1.ForeColor = p.Tools.ToolColour;
     HideTools(p);
-    if (p.Branch.sDbaseName.isEmpty()) {
-        // The branch has been closed behind the tools: there is nothing left to be saved.
+    if (p.Branch.sDbaseName.isEmpty() || (!isAlternate && p.Map.Owner != p.Branch.WorkDir)) {
+        // The branch has been closed behind the tools, or left for one that can't be opened: there is nothing left to
+        // be saved.
         PutToolsDown(p);
         return;
     }
     // The tools left to themselves, somebody may be looking at a subject of another branch: the map is the own one's.
-    if (p.Branch.UsingAlternate == 1)
+    if (isAlternate)
         ReturnFromSibling(p);
     const Answer save =
         p.Prompts.MsgBox(u"Closing Graphics Tools"_s, u"Save the Tree Graphic changes ?"_s, Buttons::InformationYesNo);
