@@ -61,7 +61,8 @@ bool IsBranchOpen(Program& p)
 {
     if (p.Branch.sDbaseName.isEmpty())
         return false;
-    // A deletion leaves the name, and a command that comes upon it goes on to fail at the records; so it is meant to be.
+    // A deletion leaves the name, and a command that comes upon it goes on to fail at the records; so it is meant to
+    // be.
     return p.Branch.WorkDir.isEmpty() || (p.Form3.IsLoaded() && p.Form3->Data1.IsOpen());
 }
 
