@@ -12,7 +12,7 @@ Answer NoUser::MsgBox(const QString& title, const QString& text, Buttons)
     qFatal("unexpected box: %s / %s", qUtf8Printable(title), qUtf8Printable(text));
 }
 
-std::unique_ptr<QPagedPaintDevice> NoPrinter::NewJob(bool)
+std::shared_ptr<QPagedPaintDevice> NoPrinter::NewJob(bool)
 {
     throw RuntimeError(ErrorNumber::PrinterError);
 }

@@ -55,7 +55,7 @@ public:
 class NoPrinter : public PrintSystem
 {
 public:
-    std::unique_ptr<QPagedPaintDevice> NewJob(bool landscape) override;
+    std::shared_ptr<QPagedPaintDevice> NewJob(bool landscape) override;
 };
 
 class NoProcesses : public Processes

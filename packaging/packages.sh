@@ -1,11 +1,13 @@
 # The distribution packages that this project stands on. Sourced by the scripts at the top.
 
-build_packages="g++ cmake ninja-build ccache qt6-base-dev qt6-multimedia-dev qt6-svg-dev libgl1-mesa-dev libsqlite3-dev pkgconf mdbtools-dev"
+build_packages="g++ cmake ninja-build ccache qt6-base-dev qt6-multimedia-dev qt6-svg-dev libgl1-mesa-dev libsqlite3-dev libcups2-dev pkgconf mdbtools-dev"
 run_packages="fonts-liberation qt6-qpa-plugins libqt6multimedia6 libmdb3 gstreamer1.0-plugins-good"
 screen_packages="xvfb xauth libxcb1-dev libxcb-xtest0-dev poppler-utils"
 cpack_packages="dpkg-dev file"
 bench_packages="libbenchmark-dev mdbtools" # whose export is what a conversion is measured by
-test_packages="libgtest-dev libgmock-dev appstream desktop-file-utils $cpack_packages $screen_packages"
+queue_packages="cups-daemon cups-client cups-filters-core-drivers" # a print server for the tests
+reader_packages="python3-gi gir1.2-atspi-2.0 at-spi2-core dbus" # what screen readers reach a program by
+test_packages="libgtest-dev libgmock-dev appstream desktop-file-utils $cpack_packages $screen_packages $queue_packages $reader_packages"
 
 # Installs those of the named packages that are missing; says nothing when none is.
 install_missing() {

@@ -23,28 +23,44 @@ constexpr int penTwips = 7;
 class Printer::Job
 {
 public:
-    explicit Job(std::unique_ptr<QPagedPaintDevice> device) : device_(std::move(device))
+    explicit Job(std::shared_ptr<QPagedPaintDevice> device) : device_(std::move(device)), nowhere_(&scrap_)
     {
-        if (!Painter.begin(device_.get()))
-            throw RuntimeError(ErrorNumber::PrinterError);
-        Painter.scale(device_->logicalDpiX() / twipsAnInch, device_->logicalDpiY() / twipsAnInch);
+        BeginPage();
     }
 
-    bool Send() { return Painter.end(); }
-
+    // On the page at hand; on nothing when nobody wants that page.
+    QPainter& Painter() { return IsWanted() ? paper_ : nowhere_; }
     int Width() const { return static_cast<int>(device_->width() * twipsAnInch / device_->logicalDpiX()); }
     int Height() const { return static_cast<int>(device_->height() * twipsAnInch / device_->logicalDpiY()); }
+
     void NewPage()
     {
-        if (!device_->newPage())
-            throw RuntimeError(ErrorNumber::PrinterError);
+        ++page_;
+        BeginPage();
     }
 
-private:
-    std::unique_ptr<QPagedPaintDevice> device_;
+    // False when there is nothing to be sent, too.
+    bool Send() { return paper_.isActive() && paper_.end(); }
 
-public:
-    QPainter Painter; // ends itself, while the device is still there
+private:
+    bool IsWanted() const { return device_->pageRanges().isEmpty() || device_->pageRanges().contains(page_); }
+
+    void BeginPage()
+    {
+        if (!IsWanted())
+            return;
+        const bool isFirst = !paper_.isActive();
+        if (isFirst ? !paper_.begin(device_.get()) : !device_->newPage())
+            throw RuntimeError(ErrorNumber::PrinterError);
+        if (isFirst)
+            paper_.scale(device_->logicalDpiX() / twipsAnInch, device_->logicalDpiY() / twipsAnInch);
+    }
+
+    std::shared_ptr<QPagedPaintDevice> device_;
+    int page_ = 1;
+    QImage scrap_{1, 1, QImage::Format_RGB32};
+    QPainter nowhere_;
+    QPainter paper_; // ends itself, while the device is still there
 };
 
 Printer::Printer(PrintSystem& system) : system_(system) {}
@@ -70,8 +86,8 @@ void Printer::Line(Point from, Point to)
     Job* job = Begun();
     if (!job)
         return;
-    job->Painter.setPen(QPen(ToQColor(ForeColor), DrawWidth * penTwips, Qt::SolidLine, Qt::SquareCap));
-    job->Painter.drawLine(from.X, from.Y, to.X, to.Y);
+    job->Painter().setPen(QPen(ToQColor(ForeColor), DrawWidth * penTwips, Qt::SolidLine, Qt::SquareCap));
+    job->Painter().drawLine(from.X, from.Y, to.X, to.Y);
 }
 
 void Printer::Box(Rectangle place)
@@ -79,9 +95,9 @@ void Printer::Box(Rectangle place)
     Job* job = Begun();
     if (!job)
         return;
-    job->Painter.setPen(QPen(ToQColor(ForeColor), DrawWidth * penTwips, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    job->Painter.setBrush(Qt::NoBrush);
-    job->Painter.drawRect(place.Left, place.Top, place.Width, place.Height);
+    job->Painter().setPen(QPen(ToQColor(ForeColor), DrawWidth * penTwips, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    job->Painter().setBrush(Qt::NoBrush);
+    job->Painter().drawRect(place.Left, place.Top, place.Width, place.Height);
 }
 
 void Printer::Print(const QString& text)
@@ -90,9 +106,9 @@ void Printer::Print(const QString& text)
     if (!job)
         return;
     const QFont font = FontInTwips(Font);
-    job->Painter.setFont(font);
-    job->Painter.setPen(ToQColor(ForeColor));
-    job->Painter.drawText(CurrentX, CurrentY + QFontMetrics(font).ascent(), text);
+    job->Painter().setFont(font);
+    job->Painter().setPen(ToQColor(ForeColor));
+    job->Painter().drawText(CurrentX, CurrentY + QFontMetrics(font).ascent(), text);
     CurrentX = 0;
     CurrentY += TextHeight(text);
 }
@@ -128,7 +144,7 @@ void Printer::PrintPicture(const QImage& picture, int width)
     const QSizeF wanted(width, 1.0 * width * picture.height() / picture.width());
     const QSizeF page(job->Width(), job->Height());
     const bool fits = wanted.width() <= page.width() && wanted.height() <= page.height();
-    job->Painter.drawImage(QRectF(QPointF(), fits ? wanted : wanted.scaled(page, Qt::KeepAspectRatio)), picture);
+    job->Painter().drawImage(QRectF(QPointF(), fits ? wanted : wanted.scaled(page, Qt::KeepAspectRatio)), picture);
 }
 
 void Printer::NewPage()
@@ -141,7 +157,7 @@ void Printer::NewPage()
 
 void Printer::EndDoc()
 {
-    const bool isSent = !job_ || job_->Send();
+    const bool isSent = !job_ || (job_->Send() && system_.IsTaken());
     Abort();
     if (!isSent)
         throw RuntimeError(ErrorNumber::PrinterError);

@@ -17,12 +17,17 @@ class PrintSystem
 {
 public:
     virtual ~PrintSystem() = default;
-    // A new job, its first page still blank; error 482 when there is no printer.
-    virtual std::unique_ptr<QPagedPaintDevice> NewJob(bool landscape) = 0;
+    // A new job, its first page still blank; error 482 when there is no printer. Its `pageRanges` are the pages that
+    // the user wants, which whoever draws sees to; empty for all.
+    virtual std::shared_ptr<QPagedPaintDevice> NewJob(bool landscape) = 0;
+    // Whether the job that has just been ended is on its way.
+    virtual bool IsTaken() const { return true; }
 };
 
 // The printer as a surface. The first thing that is put on it begins a job, `EndDoc` sends it off. Twips from the top
 // left of the area that can be printed on; what lies outside is cut off.
+//
+// Pages that the user doesn't want are left out.
 //
 // Error 482 when a job can't be begun. The rest of that job is then dropped without another word, so that whoever goes
 // on regardless hears of it once.
@@ -50,7 +55,7 @@ public:
     // Begins a job before anything is put on it.
     void Begin() { Begun(); }
     void NewPage();
-    // Nothing when no job is under way. Error 482 when it can't be sent off.
+    // Nothing when no job is under way. Error 482 when it can't be sent off, or has none of the pages that are wanted.
     void EndDoc();
     // Forgets the job that is under way, or refused.
     void Abort();

@@ -95,12 +95,18 @@ private:
 class MarkingSystem : public PrintSystem
 {
 public:
-    std::unique_ptr<QPagedPaintDevice> NewJob(bool) override
+    std::shared_ptr<QPagedPaintDevice> NewJob(bool) override
     {
         ++Jobs;
-        return std::make_unique<MarkedPaper>(Marks);
+        auto paper = std::make_shared<MarkedPaper>(Marks);
+        paper->setPageRanges(Wanted);
+        return paper;
     }
+    bool IsTaken() const override { return Takes; }
+
     std::vector<Mark> Marks;
+    QPageRanges Wanted;
+    bool Takes = true;
     int Jobs = 0;
 };
 
@@ -234,7 +240,7 @@ TEST_F(PrinterTest, Abort_ForgetsTheRefusedJob_AndGoesToTheTopLeft)
 TEST_F(PrinterTest, JobThatCannotBeWritten_IsPrinterError)
 {
     struct Unwritable : PrintSystem {
-        std::unique_ptr<QPagedPaintDevice> NewJob(bool) override { return std::make_unique<QPdfWriter>(File); }
+        std::shared_ptr<QPagedPaintDevice> NewJob(bool) override { return std::make_shared<QPdfWriter>(File); }
         QString File;
     } system;
     system.File = System.Paper.Path(u"missing/job.pdf");
@@ -284,6 +290,41 @@ protected:
     MarkingSystem System;
     Printer Paper{System};
 };
+
+TEST_F(PrintedPageTest, PagesThatAreNotWanted_AreLeftOut)
+{
+    System.Wanted = QPageRanges::fromString(u"2-3"_s);
+    for (const QStringView text : {u"one", u"two", u"three", u"four"}) {
+        Paper.Print(text.toString());
+        Paper.Line({0, 0}, {100, 100});
+        Paper.NewPage();
+    }
+    Paper.EndDoc();
+    EXPECT_EQ(Lines(1), QStringList{u"two"_s});
+    EXPECT_EQ(Lines(2), QStringList{u"three"_s});
+    EXPECT_EQ(LastPage(), 2);
+    EXPECT_EQ(System.Marks.size(), 4u);
+}
+
+TEST_F(PrintedPageTest, JobWithoutAnyPageThatIsWanted_IsPrinterError)
+{
+    System.Wanted = QPageRanges::fromString(u"2-3"_s);
+    Paper.Print(u"one"_s);
+    EXPECT_EQ(RefusalOf([this] { Paper.EndDoc(); }), ErrorNumber::PrinterError);
+    EXPECT_TRUE(System.Marks.empty());
+    EXPECT_EQ(RefusalOf([this] { Paper.EndDoc(); }), 0);
+}
+
+TEST_F(PrintedPageTest, JobThatIsNotTaken_IsPrinterError_AndTheNextOneIsAnother)
+{
+    System.Takes = false;
+    Paper.Print(u"one"_s);
+    EXPECT_EQ(RefusalOf([this] { Paper.EndDoc(); }), ErrorNumber::PrinterError);
+    System.Takes = true;
+    Paper.Print(u"two"_s);
+    EXPECT_EQ(RefusalOf([this] { Paper.EndDoc(); }), 0);
+    EXPECT_EQ(System.Jobs, 2);
+}
 
 TEST_F(PrintedPageTest, LinesAndBoxes_StandWhereTheyWerePut)
 {

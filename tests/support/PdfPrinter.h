@@ -14,13 +14,13 @@ namespace lineforge
 class PdfPrinter : public PrintSystem
 {
 public:
-    std::unique_ptr<QPagedPaintDevice> NewJob(bool landscape) override
+    std::shared_ptr<QPagedPaintDevice> NewJob(bool landscape) override
     {
         ++Asked;
         if (!IsThere)
             throw RuntimeError(ErrorNumber::PrinterError);
         const QString file = Paper.Path(QString(u"job-" + QString::number(Jobs.size() + 1) + u".pdf"));
-        auto job = std::make_unique<QPdfWriter>(file);
+        auto job = std::make_shared<QPdfWriter>(file);
         job->setPageSize(QPageSize(QPageSize::A4));
         job->setPageMargins(QMarginsF());
         if (landscape)

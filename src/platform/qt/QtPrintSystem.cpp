@@ -6,6 +6,8 @@
 #include <QPrintDialog>
 #include <QPrinterInfo>
 
+#include <cups/cups.h>
+
 namespace lineforge
 {
 
@@ -13,18 +15,25 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
+const QString documentName = u"Lineforge"_s;
+
+bool IsThere(const QString& queue)
+{
+    return !QPrinterInfo::printerInfo(queue).isNull();
+}
+
 void CopySettings(const QPrinter& from, QPrinter& to)
 {
     to.setOutputFormat(from.outputFormat());
-    if (from.outputFormat() == QPrinter::NativeFormat) {
-        if (QPrinterInfo::printerInfo(from.printerName()).isNull())
-            throw RuntimeError(ErrorNumber::PrinterError);
+    if (from.outputFormat() == QPrinter::NativeFormat)
         to.setPrinterName(from.printerName());
-    }
     to.setPageLayout(from.pageLayout());
     to.setCopyCount(from.copyCount());
+    to.setCollateCopies(from.collateCopies());
     to.setColorMode(from.colorMode());
     to.setDuplex(from.duplex());
+    to.setPrintRange(from.printRange());
+    to.setPageRanges(from.pageRanges());
 }
 } // namespace
 
@@ -41,26 +50,40 @@ QString QtPrintSystem::UsualPrinterOfDesktop()
     return all.first();
 }
 
-std::unique_ptr<QPagedPaintDevice> QtPrintSystem::NewJob(bool landscape)
+std::shared_ptr<QPrinter> QtPrintSystem::Usual() const
 {
-    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    if (chosen_)
-        CopySettings(*chosen_, *printer);
-    else
-        printer->setPrinterName(usual_());
-    if (printer->outputFormat() == QPrinter::PdfFormat)
+    auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
+    printer->setPrinterName(usual_());
+    return printer;
+}
+
+std::shared_ptr<QPagedPaintDevice> QtPrintSystem::NewJob(bool landscape)
+{
+    std::shared_ptr<QPrinter> printer = chosen_ ? chosen_ : Usual();
+    isQueued_ = printer->outputFormat() == QPrinter::NativeFormat;
+    if (isQueued_ && !IsThere(printer->printerName()))
+        throw RuntimeError(ErrorNumber::PrinterError);
+    if (!isQueued_)
         printer->setOutputFileName(NextFile());
-    printer->setDocName(u"Lineforge"_s);
+    printer->setDocName(documentName);
+    if (chosen_)
+        printer->setPageOrientation(chosenOrientation_);
     if (landscape)
         printer->setPageOrientation(QPageLayout::Landscape);
     return printer;
+}
+
+// The toolkit hands a whole job over when it ends, in this thread, and doesn't look at the answer.
+bool QtPrintSystem::IsTaken() const
+{
+    return !isQueued_ || cupsLastError() <= IPP_STATUS_OK_EVENTS_COMPLETE;
 }
 
 // The dialog has asked about the file itself; the jobs behind the first may take no other file's place, least of all
 // the one's before: "Map.pdf" is followed by "Map-2.pdf".
 QString QtPrintSystem::NextFile()
 {
-    const QFileInfo file(chosen_->outputFileName());
+    const QFileInfo file(chosenFile_);
     if (++jobsToFile_ == 1)
         return file.filePath();
     const QString suffix = file.suffix().isEmpty() ? QString() : QString(u'.' + file.suffix());
@@ -74,16 +97,24 @@ QString QtPrintSystem::NextFile()
 void QtPrintSystem::SetChosen(std::unique_ptr<QPrinter> printer)
 {
     chosen_ = std::move(printer);
+    chosenOrientation_ = chosen_ ? chosen_->pageLayout().orientation() : QPageLayout::Portrait;
+    chosenFile_ = chosen_ ? chosen_->outputFileName() : QString();
     jobsToFile_ = 0;
 }
 
+// On a printer of its own: the dialog changes it before it is accepted.
 void QtPrintSystem::Choose(QWidget* parent)
 {
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    if (chosen_ && chosen_->outputFormat() == QPrinter::PdfFormat)
+    printer->setDocName(documentName);
+    if (chosen_ && (chosen_->outputFormat() != QPrinter::NativeFormat || IsThere(chosen_->printerName()))) {
         CopySettings(*chosen_, *printer);
+        printer->setPageOrientation(chosenOrientation_);
+        printer->setOutputFileName(chosenFile_);
+    }
     QPrintDialog dialog(printer.get(), parent);
-    dialog.setOptions(QAbstractPrintDialog::PrintToFile);
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
+                      QAbstractPrintDialog::PrintShowPageSize | QAbstractPrintDialog::PrintCollateCopies);
     if (dialog.exec() == QDialog::Accepted)
         SetChosen(std::move(printer));
 }

@@ -2,6 +2,7 @@
 
 #include "platform/Printer.h"
 
+#include <QPageLayout>
 #include <QPrinter>
 
 #include <functional>
@@ -23,20 +24,28 @@ public:
     // The default printer, or where none is named so the first.
     static QString UsualPrinterOfDesktop();
 
-    std::unique_ptr<QPagedPaintDevice> NewJob(bool landscape) override;
+    // One job at a time: the printer that the user has chosen is that of all his jobs, with all that he has chosen for
+    // it.
+    std::shared_ptr<QPagedPaintDevice> NewJob(bool landscape) override;
+    bool IsTaken() const override;
 
-    // Asks for a printer, or for a file to print to; a cancelled question leaves the one before.
+    // Asks for a printer, or for a file to print to, for its paper and for the pages that are wanted; shows the present
+    // choice. A cancelled question leaves the one before.
     void Choose(QWidget* parent);
 
     // What the user has chosen; null for the default printer.
     void SetChosen(std::unique_ptr<QPrinter> printer);
 
 private:
+    std::shared_ptr<QPrinter> Usual() const;
     QString NextFile();
 
     UsualPrinter usual_;
-    std::unique_ptr<QPrinter> chosen_;
+    std::shared_ptr<QPrinter> chosen_;
+    QPageLayout::Orientation chosenOrientation_ = QPageLayout::Portrait;
+    QString chosenFile_;
     int jobsToFile_ = 0;
+    bool isQueued_ = false; // the last job
 };
 
 } // namespace lineforge

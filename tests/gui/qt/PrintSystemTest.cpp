@@ -7,6 +7,8 @@
 #include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinterInfo>
+#include <QRadioButton>
+#include <QSpinBox>
 #include <QTest>
 #include <QTimer>
 
@@ -50,23 +52,48 @@ struct PrintSystemTest : WindowTest {
         return bytes.mid(start, bytes.indexOf(']', start) - start);
     }
 
+    // Meets the dialog of the printer's set-up; `meet` ends it.
+    void SetUpPrinter(const std::function<void(QDialog& dialog)>& meet)
+    {
+        const NextDialog next(meet);
+        Machine().Bundle().Prompts.PickPrinter();
+    }
+
+    template <class Widget>
+    static Widget& In(const QDialog& dialog, const QString& name)
+    {
+        auto* found = dialog.findChild<Widget*>(name);
+        if (!found)
+            throw std::runtime_error("the dialog has no " + name.toStdString());
+        return *found;
+    }
+
     // Sets the printer up as a user does who prints to that file.
     void ChooseFile(const QString& file)
     {
-        const NextDialog next([&file](QDialog& dialog) {
-            auto* name = dialog.findChild<QLineEdit*>(u"filename"_s);
-            ASSERT_NE(name, nullptr);
-            name->setText(file);
+        SetUpPrinter([&file](QDialog& dialog) {
+            In<QLineEdit>(dialog, u"filename"_s).setText(file);
             dialog.accept();
         });
-        Machine().Bundle().Prompts.PickPrinter();
     }
 
     void Cancel()
     {
-        const NextDialog next([](QDialog& dialog) { PressKey(dialog, Qt::Key_Escape); });
-        Machine().Bundle().Prompts.PickPrinter();
+        SetUpPrinter([](QDialog& dialog) { PressKey(dialog, Qt::Key_Escape); });
     }
+
+    // A report of so many pages.
+    void PrintPages(int pages)
+    {
+        Printer paper(Printers());
+        for (int page = 1; page <= pages; ++page) {
+            if (page > 1)
+                paper.NewPage();
+            paper.Print(u"page %1"_s.arg(page));
+        }
+        paper.EndDoc();
+    }
+    qsizetype PagesOf(QStringView file) { return Home.ReadFile(file).count("/Type /Page\n"); }
 
     TemporaryHome Home;
 };
@@ -141,7 +168,7 @@ TEST_F(PrintSystemTest, PaperChosen_IsThatOfTheJob)
 
 TEST_F(PrintSystemTest, JobsAreAsFineAsThePrinterCan)
 {
-    Printers().SetChosen(PrinterToFile(Home.Path(u"map.pdf")));
+    ChooseFile(Home.Path(u"map.pdf"));
     EXPECT_GE(Printers().NewJob(false)->logicalDpiX(), 600);
 }
 
@@ -150,6 +177,53 @@ TEST_F(PrintSystemTest, FileNamedInTheDialog_TakesTheJobs)
     ChooseFile(Home.Path(u"chosen.pdf"));
     PrintPage();
     EXPECT_EQ(Files(), QStringList{u"chosen.pdf"_s});
+}
+
+TEST_F(PrintSystemTest, TheDialog_AsksForPaperAndPages)
+{
+    SetUpPrinter([](QDialog& dialog) {
+        const auto& asking = dynamic_cast<QPrintDialog&>(dialog);
+        EXPECT_TRUE(asking.testOption(QAbstractPrintDialog::PrintShowPageSize));
+        EXPECT_TRUE(asking.testOption(QAbstractPrintDialog::PrintPageRange));
+        EXPECT_TRUE(asking.testOption(QAbstractPrintDialog::PrintCollateCopies));
+        dialog.reject();
+    });
+}
+
+TEST_F(PrintSystemTest, PagesChosenInTheDialog_AreThoseThatArePrinted_UntilAllAreChosenAgain)
+{
+    SetUpPrinter([this](QDialog& dialog) {
+        In<QLineEdit>(dialog, u"filename"_s).setText(Home.Path(u"pages.pdf"));
+        In<QRadioButton>(dialog, u"printRange"_s).setChecked(true);
+        In<QSpinBox>(dialog, u"from"_s).setValue(2);
+        In<QSpinBox>(dialog, u"to"_s).setValue(3);
+        dialog.accept();
+    });
+    PrintPages(4);
+    EXPECT_EQ(PagesOf(u"pages.pdf"), 2);
+
+    SetUpPrinter([this](QDialog& dialog) {
+        EXPECT_TRUE(In<QRadioButton>(dialog, u"printRange"_s).isChecked());
+        EXPECT_EQ(In<QSpinBox>(dialog, u"from"_s).value(), 2);
+        In<QLineEdit>(dialog, u"filename"_s).setText(Home.Path(u"all.pdf"));
+        In<QRadioButton>(dialog, u"printAll"_s).setChecked(true);
+        dialog.accept();
+    });
+    PrintPages(4);
+    EXPECT_EQ(PagesOf(u"all.pdf"), 4);
+}
+
+TEST_F(PrintSystemTest, OpenedAgain_TheDialogShowsWhatWasChosen)
+{
+    auto printer = PrinterToFile(Home.Path(u"map.pdf"));
+    printer->setPageSize(QPageSize(QPageSize::Letter));
+    Printers().SetChosen(std::move(printer));
+    PrintPage();
+    SetUpPrinter([this](QDialog& dialog) {
+        EXPECT_EQ(In<QLineEdit>(dialog, u"filename"_s).text(), Home.Path(u"map.pdf"));
+        EXPECT_EQ(dynamic_cast<QPrintDialog&>(dialog).printer()->pageLayout().pageSize().id(), QPageSize::Letter);
+        dialog.reject();
+    });
 }
 
 TEST_F(PrintSystemTest, DialogCancelled_LeavesWhatWasChosenBefore)

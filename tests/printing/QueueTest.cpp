@@ -1,0 +1,233 @@
+#include "gui/ProgramWindowTest.h"
+#include "gui/qt/Dialogs.h"
+
+#include <QComboBox>
+#include <QPrintDialog>
+#include <QPrinterInfo>
+#include <QProcess>
+#include <QRadioButton>
+#include <QRegularExpression>
+#include <QSpinBox>
+#include <QTest>
+
+namespace lineforge
+{
+namespace
+{
+using namespace Qt::StringLiterals;
+
+QByteArray OutputOf(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
+        throw std::runtime_error(program.toStdString() + ": " + process.readAllStandardError().toStdString());
+    return process.readAllStandardOutput();
+}
+
+// The whole program, and a real print server with queues whose paper are files.
+class QueueTest : public WindowTest
+{
+protected:
+    QueueTest()
+    {
+        BranchBuilder(Home, u'A')
+            .Row({{u"File", u"A001"}, {u"Forename", u"John"}, {u"Surname", u"Smith"}, {u"BirthDate", u"3 May 1871"}})
+            .Row({{u"File", u"A002"}, {u"Forename", u"Mary"}, {u"Surname", u"Smith"}})
+            .Row({{u"File", u"A003"}, {u"Forename", u"Anne"}, {u"Surname", u"Smith"}})
+            .Row({{u"File", u"A004"}, {u"Forename", u"Rose"}, {u"Surname", u"Smith"}})
+            .Row({{u"File", u"A005"}, {u"Forename", u"Hugh"}, {u"Surname", u"Smith"}})
+            .Boxes(u"1200,600,255,A001,John,2400,600,255,A002,Mary,")
+            .Picture(u"A001", Qt::red)
+            .Build();
+        WriteAliasList(Home, {{u"Smiths", u"LfgDat_A"}});
+        for (const QStringView queue : {u"study", u"attic"})
+            OutputOf(u"lpadmin"_s,
+                     {u"-p"_s, queue.toString(), u"-E"_s, u"-v"_s, u"file:"_s + Paper(queue), u"-P"_s, driver});
+        InstallHandlers(P);
+        StartProgram(P);
+        P.Form1->Open.Click();
+        P.Form8->List1.SetText(u"Smiths"_s);
+        P.Form8->Command1.Click();
+        PassEventLoop(); // which the list of branches goes with, before a dialog could stand above it
+        Activate(*P.Form1);
+    }
+    ~QueueTest() override
+    {
+        System().CloseAll();
+        for (const QStringView queue : {u"study", u"attic"})
+            QProcess::execute(u"lpadmin"_s, {u"-x"_s, queue.toString()});
+    }
+
+    QString Paper(QStringView queue) const { return Home.Path() + u'/' + queue + u".pdf"; }
+    QString TextOn(QStringView queue) const
+    {
+        return QString::fromUtf8(OutputOf(u"pdftotext"_s, {u"-layout"_s, Paper(queue), u"-"_s}));
+    }
+    // "595 x 842", rounded, of each page.
+    QStringList SizesOn(QStringView queue) const
+    {
+        const QString told = QString::fromUtf8(OutputOf(u"pdfinfo"_s, {u"-l"_s, u"-1"_s, Paper(queue)}));
+        static const QRegularExpression size(u"size: +([0-9.]+) x ([0-9.]+)"_s);
+        QStringList sizes;
+        for (const auto& match : size.globalMatch(told))
+            sizes += u"%1 x %2"_s.arg(qRound(match.captured(1).toDouble())).arg(qRound(match.captured(2).toDouble()));
+        return sizes;
+    }
+    // Until the server has put the job on its paper.
+    static bool IsPrinted(QStringView queue)
+    {
+        return QTest::qWaitFor(
+            [queue] {
+                return OutputOf(u"lpstat"_s, {u"-W"_s, u"not-completed"_s, u"-o"_s, queue.toString()}).isEmpty();
+            },
+            patience);
+    }
+
+    void Choose(QStringView queue, QPageSize::PageSizeId size)
+    {
+        auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        printer->setPrinterName(queue.toString());
+        printer->setPageSize(QPageSize(size));
+        Machine().Printers().SetChosen(std::move(printer));
+    }
+
+    // Sets the printer up in its dialog; `set` leaves it to be accepted.
+    void SetUpPrinter(const std::function<void(QPrintDialog& dialog)>& set)
+    {
+        const NextDialog next([&set](QDialog& dialog) {
+            set(dynamic_cast<QPrintDialog&>(dialog));
+            dialog.accept();
+        });
+        Machine().Bundle().Prompts.PickPrinter();
+    }
+    template <class Widget>
+    static Widget& In(const QDialog& dialog, const QString& name)
+    {
+        auto* found = dialog.findChild<Widget*>(name);
+        if (!found)
+            throw std::runtime_error("the dialog has no " + name.toStdString());
+        return *found;
+    }
+
+    TemporaryHome Home;
+    ScriptedPrompts Prompts;
+    const Platform Real = Machine().Bundle();
+    const Platform Bundle{Real.Windows,   Prompts,          Real.Loop,      Real.Screen,
+                          Real.Clipboard, Real.PrintSystem, Real.Processes, Home.Path() + PathSeparator};
+    Program P{Bundle};
+
+    static constexpr int patience = 40000;
+    const QString driver = QStringLiteral(LINEFORGE_PRINTER_DRIVER);
+};
+
+class PaperTest : public QueueTest, public testing::WithParamInterface<QPageSize::PageSizeId>
+{
+protected:
+    // As it comes out of the printer, whichever way is up on it.
+    static QString Size()
+    {
+        const QSize points = QPageSize::sizePoints(GetParam());
+        return u"%1 x %2"_s.arg(points.width()).arg(points.height());
+    }
+    // The room that a word takes on the paper.
+    static QSizeF RoomOf(const QString& word, const QString& paper)
+    {
+        const QString told = QString::fromUtf8(OutputOf(u"pdftotext"_s, {u"-bbox"_s, paper, u"-"_s}));
+        static const QString number = u"=\"([0-9.]+)\" ?"_s;
+        const QRegularExpression room(u"xMin%1yMin%1xMax%1yMax%1>%2<"_s.arg(number, word));
+        const QRegularExpressionMatch found = room.match(told);
+        const auto edge = [&found](int index) { return found.captured(index).toDouble(); };
+        return {edge(3) - edge(1), edge(4) - edge(2)};
+    }
+};
+INSTANTIATE_TEST_SUITE_P(Sizes, PaperTest, testing::Values(QPageSize::A4, QPageSize::Letter),
+                         [](const auto& size) { return QPageSize::key(size.param).toStdString(); });
+
+TEST_P(PaperTest, TheMap_LiesAcross)
+{
+    Choose(u"study", GetParam());
+    P.Form1->mnuPrint.Click();
+    ASSERT_TRUE(IsPrinted(u"study"));
+    EXPECT_EQ(SizesOn(u"study"), QStringList{Size()});
+    const QSizeF room = RoomOf(u"A001"_s, Paper(u"study"));
+    EXPECT_GT(room.height(), room.width());
+    for (const QString& words : {u"A001"_s, u"John"_s, u"B :1871"_s, u"A002"_s, u"Mary"_s})
+        EXPECT_TRUE(TextOn(u"study").contains(words)) << words.toStdString();
+}
+
+TEST_P(PaperTest, ARecord_StandsUpright)
+{
+    Choose(u"study", GetParam());
+    P.Form1->mnuPrintRecord.Click();
+    ASSERT_TRUE(IsPrinted(u"study"));
+    EXPECT_EQ(SizesOn(u"study"), QStringList{Size()});
+    const QSizeF room = RoomOf(u"1871"_s, Paper(u"study"));
+    EXPECT_GT(room.width(), room.height());
+    EXPECT_TRUE(TextOn(u"study").contains(u"3 May 1871"));
+}
+
+TEST_F(QueueTest, PageSetAndQueueOfTheDialog_AreThoseOfTheJob)
+{
+    SetUpPrinter([](QPrintDialog& dialog) {
+        auto& queues = In<QComboBox>(dialog, u"printers"_s);
+        queues.setCurrentIndex(queues.findText(u"attic"_s));
+        auto& pages = In<QComboBox>(dialog, u"pageSetCombo"_s);
+        pages.setCurrentIndex(pages.findText(u"Odd Pages"_s));
+    });
+    Prompts.Expect(u"DataBase Print"_s, u"Ready to Print Complete DataBase ?"_s, Buttons::QuestionOkCancel, Answer::Ok);
+    P.Form3->mnuPrinDatabase.Click();
+    ASSERT_TRUE(IsPrinted(u"attic"));
+    const QString text = TextOn(u"attic");
+    EXPECT_EQ(text.count(u'\f'), 2);
+    EXPECT_FALSE(text.contains(u"Anne"));
+    EXPECT_TRUE(text.contains(u"John"));
+}
+
+TEST_F(QueueTest, PagesNamedInTheDialog_AreThoseOfTheJob)
+{
+    Choose(u"study", QPageSize::A4);
+    SetUpPrinter([](QPrintDialog& dialog) {
+        In<QRadioButton>(dialog, u"printRange"_s).setChecked(true);
+        In<QSpinBox>(dialog, u"from"_s).setValue(2);
+        In<QSpinBox>(dialog, u"to"_s).setValue(3);
+    });
+    Prompts.Expect(u"DataBase Print"_s, u"Ready to Print Complete DataBase ?"_s, Buttons::QuestionOkCancel, Answer::Ok);
+    P.Form3->mnuPrinDatabase.Click();
+    ASSERT_TRUE(IsPrinted(u"study"));
+    const QString text = TextOn(u"study");
+    EXPECT_EQ(text.count(u'\f'), 2);
+    EXPECT_FALSE(text.contains(u"John"));
+    for (const QStringView wanted : {u"Anne", u"Hugh"})
+        EXPECT_TRUE(text.contains(wanted)) << wanted.toUtf8().toStdString();
+}
+
+TEST_F(QueueTest, OpenedAgain_TheDialogShowsTheChosenQueue_AndItsPaper)
+{
+    for (const QStringView queue : {u"attic", u"study"}) {
+        Choose(queue, QPageSize::A5);
+        SetUpPrinter([queue](QPrintDialog& dialog) {
+            EXPECT_EQ(In<QComboBox>(dialog, u"printers"_s).currentText(), queue.toString());
+            EXPECT_EQ(dialog.printer()->pageLayout().pageSize().id(), QPageSize::A5);
+        });
+    }
+}
+
+TEST_F(QueueTest, AQueueThatRejects_IsTold)
+{
+    Choose(u"study", QPageSize::A4);
+    OutputOf(u"cupsreject"_s, {u"study"_s});
+    Prompts.Expect(u"Error"_s, u"Error # 482 was generated by Lineforge\rPrinter error"_s, Buttons::Plain, Answer::Ok);
+    P.Form1->mnuPrintRecord.Click();
+}
+
+TEST_F(QueueTest, AQueueThatIsGone_IsTold)
+{
+    Choose(u"study", QPageSize::A4);
+    OutputOf(u"lpadmin"_s, {u"-x"_s, u"study"_s});
+    Prompts.Expect(u"Error"_s, u"Error # 482 was generated by Lineforge\rPrinter error"_s, Buttons::Plain, Answer::Ok);
+    P.Form1->mnuPrintRecord.Click();
+}
+
+} // namespace
+} // namespace lineforge
