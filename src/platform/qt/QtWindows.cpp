@@ -77,7 +77,7 @@ private:
         }
         if (!view_)
             view_ = std::make_unique<WindowView>(form_, scale_, gate_);
-        view_->show();
+        view_->Show();
     }
 
     void Serve(const Container& container)

@@ -12,6 +12,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QStyle>
+#include <QWindow>
 
 #include <algorithm>
 #include <iterator>
@@ -33,6 +34,8 @@ WindowView::WindowView(Form& form, const Scale& scale, std::shared_ptr<const Gat
         BuildMenus(*menuBar(), form.Menus, gate_, bindings_);
     }
     BuildClient();
+    if (!form.Frameless)
+        frame_.setTop(style()->pixelMetric(QStyle::PM_TitleBarHeight));
     FollowForm();
 }
 
@@ -61,11 +64,6 @@ bool WindowView::HasOwnSize() const
     return Size{form_.Width, form_.Height} != form_.Client;
 }
 
-int WindowView::TitleHeight() const
-{
-    return form_.Frameless ? 0 : style()->pixelMetric(QStyle::PM_TitleBarHeight);
-}
-
 QSize WindowView::InnerSize(QSize available) const
 {
     QSize wanted = scale_.ToPixels(form_.Client);
@@ -74,7 +72,7 @@ QSize WindowView::InnerSize(QSize available) const
     if (HasOwnSize()) {
         // The program leaves a strip of the screen free, whether or not there is something in it. That must not cut off
         // what the window holds.
-        const QSize own = scale_.ToPixels(Size{form_.Width, form_.Height}) - QSize(0, TitleHeight());
+        const QSize own = scale_.ToPixels(Size{form_.Width, form_.Height}).shrunkBy(frame_);
         wanted = own.expandedTo({own.width(), wanted.height()});
     }
     return wanted.boundedTo(available).expandedTo({1, 1});
@@ -84,8 +82,8 @@ void WindowView::TakePlace()
 {
     const QScreen& monitor = *QGuiApplication::primaryScreen();
     const QRect available = monitor.availableGeometry();
-    const QSize inner = InnerSize(available.size() - QSize(0, TitleHeight()));
-    const QSize whole = inner + QSize(0, TitleHeight());
+    const QSize inner = InnerSize(available.size().shrunkBy(frame_));
+    const QSize whole = inner.grownBy(frame_);
     const QPoint spare(available.width() - whole.width(), available.height() - whole.height());
     const bool isPlaced = HasOwnSize() || form_.Left != 0 || form_.Top != 0;
     const QPoint wanted =
@@ -103,9 +101,15 @@ void WindowView::TakePlace()
          std::clamp(wanted.y(), available.top(), available.top() + spare.y()));
 }
 
+void WindowView::Show()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+}
+
 void WindowView::Appear()
 {
-    show();
+    Show();
     raise();
     activateWindow();
 }
@@ -141,6 +145,31 @@ void WindowView::hideEvent(QHideEvent* event)
 {
     ClosePopupsOf(*this);
     QMainWindow::hideEvent(event);
+}
+
+void WindowView::showEvent(QShowEvent* event)
+{
+    windowHandle()->installEventFilter(this);
+    QMainWindow::showEvent(event);
+}
+
+// A desktop has put its frame around a window before the window is first seen.
+bool WindowView::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == windowHandle() && event->type() == QEvent::Expose)
+        MeetFrame();
+    return QMainWindow::eventFilter(watched, event);
+}
+
+// Only once: from then on the window stands where the user has put it.
+void WindowView::MeetFrame()
+{
+    const QMargins met = windowHandle()->frameMargins();
+    if (isFrameMet_ || met.isNull())
+        return;
+    isFrameMet_ = true;
+    if (std::exchange(frame_, met) != met)
+        TakePlace();
 }
 
 void WindowView::keyPressEvent(QKeyEvent* event)

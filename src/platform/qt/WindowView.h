@@ -7,6 +7,7 @@
 
 #include <QImage>
 #include <QMainWindow>
+#include <QMargins>
 
 #include <memory>
 
@@ -15,13 +16,16 @@ namespace lineforge
 
 // What shows one window. Without a size of its own the window has exactly the client area of its design, in the middle
 // of the screen unless it has been placed; a size that the program gave is that of the whole window with its frame, but
-// no lower than its design as long as the screen has room.
+// no lower than its design as long as the screen has room. Window and frame lie within what is free of the screen: the
+// frame is reckoned with as the style tells it, and once the window is on the screen as it really is.
 class WindowView : public QMainWindow
 {
 public:
     WindowView(Form& form, const Scale& scale, std::shared_ptr<const Gate> gate);
 
-    // Before all other windows.
+    // On the screen, also when the user has minimised it.
+    void Show();
+    // The same, and before all other windows.
     void Appear();
     // What it shows below its menus, without a pointer, which belongs to the hand and not to the window.
     QImage Picture() const;
@@ -33,6 +37,9 @@ protected:
     void hideEvent(QHideEvent* event) override;
     // Escape closes a window whose missing frame has no button for that.
     void keyPressEvent(QKeyEvent* event) override;
+    // Of the window on the screen.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     void BuildClient();
@@ -40,11 +47,13 @@ private:
     bool HasOwnSize() const;
     QSize InnerSize(QSize available) const;
     void TakePlace();
-    int TitleHeight() const;
+    void MeetFrame();
 
     Form& form_;
     const Scale scale_;
     std::shared_ptr<const Gate> gate_;
+    QMargins frame_;
+    bool isFrameMet_ = false;
     Bindings bindings_;
 };
 

@@ -4,8 +4,8 @@
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QScreen>
-#include <QStyle>
 #include <QTest>
+#include <QWindow>
 
 namespace lineforge
 {
@@ -30,7 +30,13 @@ struct WindowViewTest : WindowTest {
     Window<PlainForm> Plain{System()};
     QMainWindow& View() { return static_cast<QMainWindow&>(ViewOf(*Plain)); }
     static QRect Available() { return QGuiApplication::primaryScreen()->availableGeometry(); }
-    int TitleHeight() { return View().style()->pixelMetric(QStyle::PM_TitleBarHeight); }
+    // Once the desktop has put its frame around it.
+    QRect WithFrame()
+    {
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&View()));
+        EXPECT_FALSE(View().windowHandle()->frameMargins().isNull());
+        return View().frameGeometry();
+    }
 };
 
 TEST_F(WindowViewTest, HiddenItHasNoWidgetsAtAll)
@@ -70,6 +76,31 @@ TEST_F(WindowViewTest, ShowBringsAWindowBeforeTheOthers_AlsoWhenItIsOnTheScreenA
     EXPECT_TRUE(QTest::qWaitForWindowActive(&View()));
 }
 
+TEST_F(WindowViewTest, AMinimisedWindow_ComesBack_WhenItIsShown)
+{
+    Plain->Show();
+    View().showMinimized();
+    Plain->Show();
+    EXPECT_FALSE(View().isMinimized());
+
+    View().showMinimized();
+    Plain->Hide();
+    Plain->Visible = true;
+    EXPECT_FALSE(View().isMinimized());
+    EXPECT_TRUE(View().isVisible());
+}
+
+TEST_F(WindowViewTest, AMaximisedWindow_StaysSo_WhenItIsShownAgain)
+{
+    Plain->Width = 4500;
+    Plain->Show();
+    View().showMaximized();
+    View().setWindowState(View().windowState() | Qt::WindowMinimized);
+    Plain->Show();
+    EXPECT_TRUE(View().isMaximized());
+    EXPECT_FALSE(View().isMinimized());
+}
+
 TEST_F(WindowViewTest, NameAndTitleFollow)
 {
     Plain->Visible = true;
@@ -105,9 +136,9 @@ TEST_F(WindowViewTest, ASizeThatTheProgramGivesIsThatOfTheWholeWindow)
     Plain->Width = 4500;
     Plain->Height = 3600;
     Plain->Visible = true;
-    EXPECT_EQ(View().size(), PixelScale().ToPixels(Size{4500, 3600}) - QSize(0, TitleHeight()));
+    EXPECT_EQ(WithFrame().size(), PixelScale().ToPixels(Size{4500, 3600}));
     Plain->Height = 4500;
-    EXPECT_EQ(View().height(), PixelScale().ToPixels(4500) - TitleHeight());
+    EXPECT_EQ(WithFrame().height(), PixelScale().ToPixels(4500));
 }
 
 TEST_F(WindowViewTest, ASizeThatTheProgramGivesCutsNothingOff)
@@ -124,8 +155,31 @@ TEST_F(WindowViewTest, AWindowAsLargeAsTheScreenStaysWithinWhatIsFree)
     Plain->Height = screen.Height;
     Plain->Left = 3000;
     Plain->Visible = true;
-    EXPECT_EQ(View().size(), Available().size() - QSize(0, TitleHeight()));
-    EXPECT_EQ(View().pos(), Available().topLeft());
+    EXPECT_EQ(WithFrame(), Available());
+}
+
+TEST_F(WindowViewTest, WhereverItIsPut_WindowAndFrameStayWithinWhatIsFree)
+{
+    const Screen& screen = Machine().Bundle().Screen;
+    Plain->Visible = true;
+    for (const Point corner :
+         {Point{-3000, -3000}, Point{screen.Width, screen.Height}, Point{screen.Width - 6000, 15}}) {
+        Plain->Left = corner.X;
+        Plain->Top = corner.Y;
+        EXPECT_TRUE(Available().contains(WithFrame())) << corner.X << ", " << corner.Y;
+    }
+}
+
+TEST_F(WindowViewTest, OnceItIsOnTheScreen_ItStaysWhereTheUserPutsIt)
+{
+    Plain->Visible = true;
+    WithFrame();
+    View().move(View().pos() + QPoint(30, 20));
+    const QPoint put = View().pos();
+    Plain->Hide();
+    Plain->Show();
+    WithFrame();
+    EXPECT_EQ(View().pos(), put);
 }
 
 TEST_F(WindowViewTest, StandsWhereTheProgramPutsIt)
@@ -133,7 +187,7 @@ TEST_F(WindowViewTest, StandsWhereTheProgramPutsIt)
     Plain->Left = 1500;
     Plain->Top = 750;
     Plain->Visible = true;
-    EXPECT_EQ(View().pos(), QPoint(PixelScale().ToPixels(1500), PixelScale().ToPixels(750)));
+    EXPECT_EQ(WithFrame().topLeft(), QPoint(PixelScale().ToPixels(1500), PixelScale().ToPixels(750)));
     Plain->Left = 1800;
     EXPECT_EQ(View().x(), PixelScale().ToPixels(1800));
 }
@@ -141,7 +195,7 @@ TEST_F(WindowViewTest, StandsWhereTheProgramPutsIt)
 TEST_F(WindowViewTest, UnplacedItStandsInTheMiddle)
 {
     Plain->Visible = true;
-    const QRect whole(View().pos(), View().size() + QSize(0, TitleHeight()));
+    const QRect whole = WithFrame();
     EXPECT_NEAR(whole.center().x(), Available().center().x(), 1);
     EXPECT_NEAR(whole.center().y(), Available().center().y(), 1);
 }
