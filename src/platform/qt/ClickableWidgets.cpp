@@ -213,4 +213,13 @@ void ClickByKey(QWidget& field, std::function<void()> clicked)
     QObject::connect(keys, &QShortcut::activated, &field, std::move(clicked));
 }
 
+void OnEnter(QWidget& widget, const std::function<void()>& entered)
+{
+    for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* key = new QShortcut(enter, &widget, nullptr, nullptr, Qt::WidgetShortcut);
+        key->setAutoRepeat(false);
+        QObject::connect(key, &QShortcut::activated, &widget, entered);
+    }
+}
+
 } // namespace lineforge

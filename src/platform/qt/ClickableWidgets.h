@@ -92,4 +92,7 @@ private:
 // The same by Ctrl and the space bar, for a field of text; what is selected in it stays so.
 void ClickByKey(QWidget& field, std::function<void()> clicked);
 
+// Tells of Enter and Return in a widget that has no use for them.
+void OnEnter(QWidget& widget, const std::function<void()>& entered);
+
 } // namespace lineforge

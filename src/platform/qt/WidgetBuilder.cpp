@@ -342,6 +342,10 @@ void WidgetBuilder::Visit(ListBox& list)
         gate->Run([view, &list] { list.ListIndex = SelectedRow(*view); });
     });
     QObject::connect(view, &QListWidget::itemDoubleClicked, view, [gate = gate_, &list] { gate->Run(list.DblClick); });
+    OnEnter(*view, [gate = gate_, view, &list] {
+        if (SelectedRow(*view) >= 0)
+            gate->Run(list.DblClick);
+    });
     NameForReaders(view, list);
     Dress(view, list);
 }

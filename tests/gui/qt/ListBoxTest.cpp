@@ -85,6 +85,25 @@ TEST_F(ListBoxTest, GettingTheFocusSelectsNothing)
     EXPECT_EQ(Lists->List1.ListIndex.value(), -1);
 }
 
+TEST_F(ListBoxTest, Enter_IsTheDoubleClickOfWhatIsSelected)
+{
+    int opened = 0;
+    Lists->List1.DblClick = [&opened] { ++opened; };
+    Activate(*Lists);
+    View().setFocus();
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
+        QTest::keyClick(ViewOf(*Lists).windowHandle(), key);
+    QTest::keyClick(ViewOf(*Lists).windowHandle(), Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(opened, 3);
+
+    Lists->List1.ListIndex = -1;
+    QTest::keyClick(ViewOf(*Lists).windowHandle(), Qt::Key_Return);
+    Lists->List1.ListIndex = 0;
+    Find<QWidget>(*Lists, u"Command1"_s).setFocus();
+    QTest::keyClick(ViewOf(*Lists).windowHandle(), Qt::Key_Return);
+    EXPECT_EQ(opened, 3);
+}
+
 TEST_F(ListBoxTest, ADoubleClickSelectsFirst_ThenFires)
 {
     std::vector<int> seen;
