@@ -7,6 +7,7 @@
 #include <QImage>
 
 #include <functional>
+#include <vector>
 
 namespace lineforge
 {
@@ -18,6 +19,14 @@ inline constexpr int Shift = 1;
 inline constexpr int Ctrl = 2;
 inline constexpr int Alt = 4;
 } // namespace ShiftMask
+
+// One thing that a picture shows, as it is read aloud.
+struct PicturePart {
+    int Number = 0; // by which it is known as long as it is there
+    Rectangle Place;
+    QString SpokenName;
+    QString SpokenPlace;
+};
 
 // A picture that keeps what is drawn on it: an image of one pixel to `TwipsPerPixel` twips, drawn without smoothing, so
 // that the same text printed in the background colour leaves no pixel behind and the two exclusive-or pens undo
@@ -55,6 +64,10 @@ public:
     MouseEvent MouseMove;
     MouseEvent MouseUp;
     Event DblClick;
+
+    // What stands on it, for those who can't see it; set by whoever draws. Asked again only after something has been
+    // drawn.
+    std::function<std::vector<PicturePart>()> Parts;
 
     // Told of each stretch of the drawing that has changed, in pixels of the drawing.
     std::function<void(const QRect& pixels)> Changed;

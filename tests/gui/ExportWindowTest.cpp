@@ -2,6 +2,7 @@
 #include "gui/ProgramWindowTest.h"
 #include "platform/qt/DirectoryView.h"
 
+#include <QAccessible>
 #include <QPushButton>
 #include <QTest>
 
@@ -53,6 +54,15 @@ protected:
         ServeEvents();
     }
 };
+
+TEST_F(ExportWindowTest, TheListOfDrives_HasItsLabel)
+{
+    QStringList labels;
+    auto* drives = QAccessible::queryAccessibleInterface(&Find<QWidget>(*P.Form4, u"Drive1"_s));
+    for (const auto& [label, relation] : drives->relations(QAccessible::Label))
+        labels += label->text(QAccessible::Name);
+    EXPECT_EQ(labels, QStringList{u"Drive"_s});
+}
 
 TEST_F(ExportWindowTest, DirectoryByDoubleClick_ThenOk_Exports)
 {

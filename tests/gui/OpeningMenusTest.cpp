@@ -401,6 +401,7 @@ TEST_P(ReaderPressTest, ComesBeforeAnEntryThatIsPressedWithoutTheMenu)
     ItemTold(ViewOf(*Opened), Opened->Menus, path)
         ->actionInterface()
         ->doAction(QAccessibleActionInterface::pressAction());
+    ServeEvents();
     EXPECT_TRUE(wasDone);
 }
 

@@ -41,23 +41,6 @@ bool IsField(const Control& control)
            dynamic_cast<const DriveList*>(&control) || dynamic_cast<const DirectoryList*>(&control);
 }
 
-// The nearest one on the left that says something, else the one right above.
-const Label* LabelOf(const Control& field, const Container& container)
-{
-    const Label* nearest = nullptr;
-    const Label* above = nullptr;
-    for (const Control* other : container.Controls()) {
-        const auto* label = dynamic_cast<const Label*>(other);
-        if (!label || label->Caption.Shown().isEmpty())
-            continue;
-        if (IsLeftOf(*label, field) && (!nearest || label->Left.value() > nearest->Left.value()))
-            nearest = label;
-        if (IsAbove(*label, field))
-            above = label;
-    }
-    return nearest ? nearest : above;
-}
-
 QString WithoutColon(const QString& caption)
 {
     return caption.endsWith(u':') ? caption.chopped(1).trimmed() : caption;
@@ -95,6 +78,22 @@ QString SpokenCaption(const QString& caption)
         spoken += caption[at];
     }
     return spoken;
+}
+
+const Label* LabelOf(const Control& field, const Container& container)
+{
+    const Label* nearest = nullptr;
+    const Label* above = nullptr;
+    for (const Control* other : container.Controls()) {
+        const auto* label = dynamic_cast<const Label*>(other);
+        if (!label || label->Caption.Shown().isEmpty())
+            continue;
+        if (IsLeftOf(*label, field) && (!nearest || label->Left.value() > nearest->Left.value()))
+            nearest = label;
+        if (IsAbove(*label, field))
+            above = label;
+    }
+    return nearest ? nearest : above;
 }
 
 QString BorrowedName(const Control& control, const Container& container)

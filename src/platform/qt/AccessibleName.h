@@ -17,6 +17,10 @@ QString SpokenCaption(const QString& caption);
 // is the last resort. A tool tip that isn't the name is read out as the description.
 QString BorrowedName(const Control& control, const Container& container);
 
+// The label that names a field: the nearest one on the left that says something, else the one right above; null for
+// none.
+const Label* LabelOf(const Control& field, const Container& container);
+
 // What readers take a widget of ours for, which to the toolkit is nothing but an area.
 void TakeFor(QWidget& widget, QAccessible::Role role);
 

@@ -45,13 +45,20 @@ public:
 
     void doAction(const QString& action) override
     {
-        if (action == pressAction() && view_.isEnabled())
-            view_.Press();
+        if (action == pressAction())
+            QMetaObject::invokeMethod(
+                &view_, [view = &view_] { PressUnlessBlocked(*view); }, Qt::QueuedConnection);
         else
             QAccessibleWidget::doAction(action);
     }
 
 private:
+    // Once whoever asks has his answer: a box that comes up would keep him waiting.
+    static void PressUnlessBlocked(const ImageView& view)
+    {
+        if (CanBePressed(view))
+            view.Press();
+    }
     bool IsButton() const { return view_.focusPolicy() != Qt::NoFocus; }
 
     ImageView& view_;
@@ -63,6 +70,12 @@ QAccessibleInterface* ReadableImage(const QString&, QObject* object)
     return view ? new ImageForReaders(*view) : nullptr;
 }
 } // namespace
+
+bool CanBePressed(const QWidget& widget)
+{
+    const QWidget* asking = QApplication::activeModalWidget();
+    return widget.isEnabled() && (!asking || asking == widget.window());
+}
 
 void ClientArea::mousePressEvent(QMouseEvent* event)
 {
@@ -220,6 +233,17 @@ void OnEnter(QWidget& widget, const std::function<void()>& entered)
         key->setAutoRepeat(false);
         QObject::connect(key, &QShortcut::activated, &widget, entered);
     }
+}
+
+// A click has had its say by the time that this is looked at. One of a set that goes off does so for the one that has
+// come on.
+void WhenSwitchedUnclicked(QAbstractButton& button, const QProperty<bool>& value, std::function<void()> switched)
+{
+    const auto look = [&button, &value, switched = std::move(switched)] {
+        if (button.isChecked() != value && (button.isChecked() || !button.autoExclusive()))
+            switched();
+    };
+    QObject::connect(&button, &QAbstractButton::toggled, &button, look, Qt::QueuedConnection);
 }
 
 } // namespace lineforge

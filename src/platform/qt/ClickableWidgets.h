@@ -3,6 +3,7 @@
 #include <QGroupBox>
 #include <QImage>
 #include <QPixmap>
+#include <QProperty>
 #include <QPushButton>
 #include <QWidget>
 
@@ -10,6 +11,9 @@
 
 namespace lineforge
 {
+
+// Whether a press would reach the widget: it is enabled, and no box waits for an answer first.
+bool CanBePressed(const QWidget& widget);
 
 // The bare area of a window below its menus. A click on anything that stands in it is not a click on it.
 class ClientArea : public QWidget
@@ -94,5 +98,8 @@ void ClickByKey(QWidget& field, std::function<void()> clicked);
 
 // Tells of Enter and Return in a widget that has no use for them.
 void OnEnter(QWidget& widget, const std::function<void()>& entered);
+
+// Tells when readers have switched a button, which is no click to the toolkit. `value` is what it should show.
+void WhenSwitchedUnclicked(QAbstractButton& button, const QProperty<bool>& value, std::function<void()> switched);
 
 } // namespace lineforge

@@ -70,6 +70,27 @@ KeyboardPointer::KeyboardPointer(QWidget& over) : QWidget(&over), over_(over)
     over_.installEventFilter(this);
 }
 
+std::optional<QPoint> KeyboardPointer::Place() const
+{
+    return isVisible() ? std::optional(geometry().center()) : std::nullopt;
+}
+
+void KeyboardPointer::StandAt(QPoint place)
+{
+    over_.setFocus(Qt::OtherFocusReason);
+    Appear();
+    MoveTo(place, {});
+}
+
+bool KeyboardPointer::event(QEvent* event)
+{
+    const bool isDone = QWidget::event(event);
+    const QEvent::Type type = event->type();
+    if ((type == QEvent::Move || type == QEvent::Show || type == QEvent::Hide) && Moved)
+        Moved();
+    return isDone;
+}
+
 // Dark within light, so that it shows on any picture. A button that is held down is a ring around the place.
 void KeyboardPointer::paintEvent(QPaintEvent*)
 {
@@ -145,13 +166,17 @@ void KeyboardPointer::Press(const QKeyEvent& event)
     if (LetGo(modifiers))
         return;
     Appear();
-    const bool isDouble = event.key() != Qt::Key_Space;
+    if (event.key() != Qt::Key_Space)
+        return DoubleClick(modifiers);
     Hold(modifiers & ~Qt::ShiftModifier);
-    if (!isDouble && modifiers.testFlag(Qt::ShiftModifier))
-        return;
+    if (!modifiers.testFlag(Qt::ShiftModifier))
+        LetGo(modifiers);
+}
+
+void KeyboardPointer::DoubleClick(Qt::KeyboardModifiers modifiers)
+{
+    Hold(modifiers & ~Qt::ShiftModifier);
     LetGo(modifiers);
-    if (!isDouble)
-        return;
     Send(QEvent::MouseButtonDblClick, true, modifiers);
     Send(QEvent::MouseButtonRelease, false, modifiers);
 }

@@ -4,6 +4,9 @@
 #include <QString>
 #include <QWidget>
 
+#include <functional>
+#include <optional>
+
 class QKeyEvent;
 
 namespace lineforge
@@ -21,7 +24,17 @@ public:
 
     explicit KeyboardPointer(QWidget& over);
 
+    // On the widget, while it is seen.
+    std::optional<QPoint> Place() const;
+    // Told whenever it stands elsewhere, comes up or goes.
+    std::function<void()> Moved;
+
+    // As the keys do.
+    void StandAt(QPoint place);
+    void DoubleClick(Qt::KeyboardModifiers modifiers);
+
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     // Of the widget below.
     bool eventFilter(QObject* watched, QEvent* event) override;

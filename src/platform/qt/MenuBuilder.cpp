@@ -1,6 +1,7 @@
 #include "platform/qt/MenuBuilder.h"
 
 #include "platform/qt/AccessibleName.h"
+#include "platform/qt/ClickableWidgets.h"
 
 #include <QMenu>
 #include <QMenuBar>
@@ -24,7 +25,7 @@ using MenuPath = std::vector<const MenuItem*>;
 class MenuUse : public QObject
 {
 public:
-    MenuUse(QMenuBar& bar, std::shared_ptr<const Gate> gate) : QObject(&bar), gate_(std::move(gate)) {}
+    MenuUse(QMenuBar& bar, std::shared_ptr<const Gate> gate) : QObject(&bar), bar_(bar), gate_(std::move(gate)) {}
 
     void Opens(const MenuItem& menu)
     {
@@ -36,22 +37,43 @@ public:
     // The toolkit closes a menu just before it runs the entry that was chosen from it.
     void Closes(const MenuItem& menu)
     {
-        Later([this, &menu] { std::erase(open_, &menu); });
+        closing_.push_back(&menu);
+        Later([this, &menu] {
+            std::erase(open_, &menu);
+            std::erase(closing_, &menu);
+        });
     }
 
-    // Readers choose an entry without opening the menus above it, which is as if they did, and could.
+    // Readers choose an entry of a menu that stays open or has never been, and wait for an answer, which a box would
+    // keep from them.
     void Chooses(const MenuItem& entry, const MenuPath& above)
+    {
+        if (above.empty() || IsAmong(closing_, above.back()))
+            return Run(entry, above);
+        Later([this, &entry, above] {
+            if (gate_->IsOpen() && entry.Enabled && CanBePressed(bar_))
+                Run(entry, above);
+        });
+    }
+
+private:
+    static bool IsAmong(const MenuPath& menus, const MenuItem* menu)
+    {
+        return std::ranges::find(menus, menu) != menus.end();
+    }
+
+    void Later(const Event& step) { QMetaObject::invokeMethod(this, step, Qt::QueuedConnection); }
+
+    // As if all menus above had been opened, and could be.
+    void Run(const MenuItem& entry, const MenuPath& above)
     {
         if (!gate_->IsOpen() || !std::ranges::all_of(above, [](const MenuItem* menu) { return menu->Enabled.value(); }))
             return;
         std::ranges::copy_if(above, std::back_inserter(untold_),
-                             [this](const MenuItem* menu) { return std::ranges::find(open_, menu) == open_.end(); });
+                             [this](const MenuItem* menu) { return !IsAmong(open_, menu); });
         TellOpenings();
         gate_->Run(entry.Click);
     }
-
-private:
-    void Later(const Event& step) { QMetaObject::invokeMethod(this, step, Qt::QueuedConnection); }
 
     // One after the other, also when the first one's box lets the event loop run.
     void TellOpenings()
@@ -66,8 +88,10 @@ private:
         }
     }
 
+    const QMenuBar& bar_;
     std::shared_ptr<const Gate> gate_;
-    std::vector<const MenuItem*> open_;
+    MenuPath open_;
+    MenuPath closing_;
     std::deque<const MenuItem*> untold_;
     bool isTelling_ = false;
 };

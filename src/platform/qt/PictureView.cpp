@@ -1,5 +1,7 @@
 #include "platform/qt/PictureView.h"
 
+#include "platform/qt/AccessibleName.h"
+
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -52,7 +54,8 @@ QRect Shrunk(const QRect& devicePixels, double ratio)
 } // namespace
 
 PictureView::PictureView(QWidget* parent, PictureBox& picture, const Scale& scale, std::shared_ptr<const Gate> gate)
-    : QWidget(parent), picture_(picture), scale_(scale), gate_(std::move(gate)), pacer_([this] { ShowChanges(); })
+    : QWidget(parent), picture_(picture), scale_(scale), gate_(std::move(gate)), pacer_([this] { ShowChanges(); }),
+      parts_(*this, picture, scale, gate_)
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
@@ -65,11 +68,14 @@ PictureView::PictureView(QWidget* parent, PictureBox& picture, const Scale& scal
         if (open->IsOpen())
             Take(pixels);
     };
+    ServeReadersOfPictures();
+    TellReadersAnew(*this);
 }
 
 void PictureView::Take(const QRect& drawingPixels)
 {
     changed_ |= scaled_.Invalidate(drawingPixels);
+    parts_.PictureChanged();
     pacer_.Request();
 }
 

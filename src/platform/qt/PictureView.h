@@ -3,6 +3,7 @@
 #include "platform/PictureBox.h"
 #include "platform/qt/FramePacer.h"
 #include "platform/qt/Handlers.h"
+#include "platform/qt/PictureParts.h"
 #include "platform/qt/Scale.h"
 #include "platform/qt/ScaledPicture.h"
 
@@ -19,6 +20,9 @@ class PictureView : public QWidget
 {
 public:
     PictureView(QWidget* parent, PictureBox& picture, const Scale& scale, std::shared_ptr<const Gate> gate);
+
+    bool HearsMouse() const { return picture_.MouseDown != nullptr; }
+    PictureParts& Parts() { return parts_; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -40,6 +44,10 @@ private:
     ScaledPicture scaled_;
     QRect changed_; // in pixels of the screen, not yet asked to be painted
     FramePacer pacer_;
+    PictureParts parts_;
 };
+
+// From now on readers meet in a picture, besides its controls, what stands on it.
+void ServeReadersOfPictures();
 
 } // namespace lineforge

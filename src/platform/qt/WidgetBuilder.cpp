@@ -10,6 +10,7 @@
 #include "platform/qt/DraggableImage.h"
 #include "platform/qt/KeyboardPointer.h"
 #include "platform/qt/LabelView.h"
+#include "platform/qt/LineView.h"
 #include "platform/qt/PictureView.h"
 #include "platform/qt/PlayerView.h"
 #include "platform/qt/RecordBar.h"
@@ -20,7 +21,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
@@ -64,16 +64,6 @@ int SelectedRow(const QListWidget& list)
 {
     const QList<QListWidgetItem*> selected = list.selectedItems();
     return selected.isEmpty() ? -1 : list.row(selected.first());
-}
-
-// The cursor stays where the user works, and a long text begins with its beginning for everybody else.
-void ShowInLine(QLineEdit& line, const QString& text)
-{
-    if (line.text() == text)
-        return;
-    const int cursor = line.hasFocus() ? line.cursorPosition() : 0;
-    line.setText(text);
-    line.setCursorPosition(cursor);
 }
 
 // The toolkit itself would leave one of a set on, and would switch off others that the program means to be on.
@@ -209,64 +199,53 @@ void WidgetBuilder::Visit(TextBox& box)
 
 void WidgetBuilder::VisitLine(TextBox& box)
 {
-    auto* line = new QLineEdit(parent_);
+    auto* line = new LineView(parent_, box.MaxLength);
     const int margin = scale_.ToPixels(textMargin) - ownTextMargin;
     line->setTextMargins(margin, 0, margin, 0);
-    if (box.MaxLength > 0)
-        line->setMaxLength(box.MaxLength);
-    bindings_.Follow(box.Text, [line, &box] { ShowInLine(*line, box.Text.Shown()); });
-    QObject::connect(line, &QLineEdit::textEdited, line,
-                     [gate = gate_, &box](const QString& typed) { gate->Run([&box, typed] { box.Text = typed; }); });
-    const auto click = [gate = gate_, &box] { gate->Run(box.Click); };
-    new ClickWatcher(line, click);
-    ClickByKey(*line, click);
-    const auto keepSelection = [gate = gate_, line, &box] {
-        if (!gate->IsOpen())
-            return;
-        box.SelText = line->selectedText();
-        box.SelStart = line->hasSelectedText() ? line->selectionStart() : line->cursorPosition();
-    };
-    QObject::connect(line, &QLineEdit::selectionChanged, line, keepSelection);
-    QObject::connect(line, &QLineEdit::cursorPositionChanged, line, keepSelection);
-    box.CaretMoved = [gate = gate_, line, &box] {
-        if (gate->IsOpen())
-            line->setCursorPosition(box.SelStart);
-    };
-    NameForReaders(line, box);
-    Dress(line, box);
-    AddAccessKey(line, box);
+    Tie(line, line, box);
 }
 
 void WidgetBuilder::VisitLines(TextBox& box)
 {
     auto* lines = new TextView(parent_, box.MaxLength);
     lines->document()->setDocumentMargin(scale_.ToPixels(textMargin));
-    lines->Edited = [gate = gate_, &box](const QString& typed) { gate->Run([&box, typed] { box.Text = typed; }); };
+    Tie(lines, lines->viewport(), box);
+    bindings_.Follow(box.Marked, [lines, &box] { lines->Mark(box.Marked); });
+}
+
+template <class View>
+void WidgetBuilder::Tie(View* view, QWidget* clicked, TextBox& box)
+{
+    view->Edited = [gate = gate_, view, &box](const QString& text) {
+        if (view->isEnabled())
+            gate->Run([&box, text] { box.Text = text; });
+        else if (gate->IsOpen())
+            view->Show(box.Text.Shown()); // readers reach a box that no key does
+    };
     const auto click = [gate = gate_, &box] { gate->Run(box.Click); };
-    new ClickWatcher(lines->viewport(), click);
-    ClickByKey(*lines, click);
-    const auto keepSelection = [gate = gate_, lines, &box] {
+    new ClickWatcher(clicked, click);
+    ClickByKey(*view, click);
+    const auto keepSelection = [gate = gate_, view, &box] {
         if (!gate->IsOpen())
             return;
-        box.SelText = lines->SelectedText();
-        box.SelStart = lines->SelectionStart();
+        box.SelText = view->SelectedText();
+        box.SelStart = view->SelectionStart();
     };
     // Showing a text is no event of the widget's, but it moves the caret.
-    bindings_.Follow(box.Text, [lines, &box, keepSelection] {
-        lines->Show(box.Text.Shown());
-        lines->Mark(box.Marked);
+    bindings_.Follow(box.Text, [view, &box, keepSelection] {
+        view->Show(box.Text.Shown());
+        view->Mark(box.Marked);
         keepSelection();
     });
-    bindings_.Follow(box.Marked, [lines, &box] { lines->Mark(box.Marked); });
-    QObject::connect(lines, &TextView::selectionChanged, lines, keepSelection);
-    QObject::connect(lines, &TextView::cursorPositionChanged, lines, keepSelection);
-    box.CaretMoved = [gate = gate_, lines, &box] {
+    QObject::connect(view, &View::selectionChanged, view, keepSelection);
+    QObject::connect(view, &View::cursorPositionChanged, view, keepSelection);
+    box.CaretMoved = [gate = gate_, view, &box] {
         if (gate->IsOpen())
-            lines->SetCaret(box.SelStart);
+            view->SetCaret(box.SelStart);
     };
-    NameForReaders(lines, box);
-    Dress(lines, box);
-    AddAccessKey(lines, box);
+    NameForReaders(view, box);
+    Dress(view, box);
+    AddAccessKey(view, box);
 }
 
 void WidgetBuilder::Visit(Button& button)
@@ -277,7 +256,10 @@ void WidgetBuilder::Visit(Button& button)
     view->setIconSize(scale_.ToPixels(Size{button.Width, button.Height}));
     bindings_.Follow(button.Picture, [view, &button] { ShowOnButton(*view, button.Picture); });
     bindings_.Follow(button.BackColor, [view, &button] { ColourButton(*view, button.BackColor); });
-    QObject::connect(view, &QPushButton::clicked, view, [gate = gate_, &button] { gate->Run(button.Click); });
+    QObject::connect(view, &QPushButton::clicked, view, [gate = gate_, view, &button] {
+        if (CanBePressed(*view))
+            gate->Run(button.Click);
+    });
     if (button.AccessKey != 0)
         view->setShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(button.AccessKey)));
     FollowCaption(view, button, button.Caption);
@@ -289,12 +271,14 @@ void WidgetBuilder::Visit(CheckBox& box)
     auto* view = new QCheckBox(parent_);
     bindings_.Follow(box.Caption, [view, &box] { view->setText(box.Caption); });
     bindings_.Follow(box.Value, [view, &box] { view->setChecked(box.Value); });
-    QObject::connect(view, &QCheckBox::clicked, view, [gate = gate_, &box](bool checked) {
-        gate->Run([&box, checked] {
-            box.Value = checked;
+    const auto click = [gate = gate_, view, &box] {
+        gate->Run([view, &box] {
+            box.Value = view->isChecked();
             Fire(box.Click);
         });
-    });
+    };
+    QObject::connect(view, &QCheckBox::clicked, view, click);
+    WhenSwitchedUnclicked(*view, box.Value, click);
     FollowCaption(view, box, box.Caption);
     Dress(view, box);
 }
@@ -304,10 +288,12 @@ void WidgetBuilder::Visit(OptionButton& option)
     auto* view = new QRadioButton(parent_);
     bindings_.Follow(option.Caption, [view, &option] { view->setText(option.Caption); });
     bindings_.Follow(option.Value, [view, &option] { Show(*view, option.Value); });
-    QObject::connect(view, &QRadioButton::clicked, view, [gate = gate_, view, &option, &container = *container_] {
+    const auto click = [gate = gate_, view, &option, &container = *container_] {
         Show(*view, true); // where the program has switched on two, the toolkit has just switched this one off
         gate->Run([&option, &container] { Choose(option, container); });
-    });
+    };
+    QObject::connect(view, &QRadioButton::clicked, view, click);
+    WhenSwitchedUnclicked(*view, option.Value, click);
     FollowCaption(view, option, option.Caption);
     Dress(view, option);
 }
@@ -364,6 +350,9 @@ void WidgetBuilder::Visit(DriveList& list)
     });
     NameForReaders(view, list);
     Dress(view, list);
+    // Readers are told what is chosen in the place of a name, and look for the label.
+    if (const Label* label = LabelOf(list, *container_))
+        parent_->findChild<QLabel*>(label->Name, Qt::FindDirectChildrenOnly)->setBuddy(view);
 }
 
 void WidgetBuilder::Visit(DirectoryList& list)
@@ -474,14 +463,13 @@ void WidgetBuilder::Visit(TextPanel& panel)
 void WidgetBuilder::Visit(PictureBox& picture)
 {
     auto* view = new PictureView(parent_, picture, scale_, gate_);
-    TakeFor(*view, picture.MouseDown ? QAccessible::Canvas : QAccessible::Grouping);
     NameForReaders(view, picture);
     Dress(view, picture);
     Frame* outer = std::exchange(frame_, nullptr);
     Build(picture, view);
     frame_ = outer;
     if (picture.MouseDown)
-        new KeyboardPointer(*view);
+        view->Parts().Follow(*new KeyboardPointer(*view));
     FollowChildren(picture, view);
 }
 

@@ -48,6 +48,9 @@ private:
     void VisitDraggable(Image& image);
     void VisitLine(TextBox& box);
     void VisitLines(TextBox& box);
+    // Keeps a view of a text box in step with it; clicks come to the widget `clicked`.
+    template <class View>
+    void Tie(View* view, QWidget* clicked, TextBox& box);
     // What all kinds have in common: name, place, being visible and enabled.
     void Dress(QWidget* widget, Control& control);
     // The same for a widget that finds its place itself.

@@ -6,6 +6,7 @@
 #include "map/LineageMarks.h"
 #include "map/MapClipboard.h"
 #include "map/MapInteraction.h"
+#include "map/SpokenBoxes.h"
 #include "map/SubjectMapping.h"
 #include "map/tools/LeaveTools.h"
 #include "map/tools/ToolButtons.h"
@@ -112,6 +113,7 @@ void InstallForm1(Program& p, forms::Form1& form)
         DoubleClickOnMap(p);
         FollowWithPicture(p);
     };
+    form.Picture1.Parts = [&p] { return SpokenBoxes(p); };
 
     form.Command1.Click = [&p] { ShowRecordForm(p); };
     form.Command2.Click = [&p] { GoToGalleryFromMap(p); };

@@ -354,6 +354,7 @@ constexpr Scene scenes[] = {
          QAccessible::queryAccessibleInterface(&t.Widget(u"Image1"_s))
              ->actionInterface()
              ->doAction(QAccessibleActionInterface::pressAction());
+         ServeEvents();
      }},
     {"BareWindow",
      [](BoxWhileTest& t) {

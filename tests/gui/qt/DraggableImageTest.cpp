@@ -170,6 +170,7 @@ TEST_F(DraggableImageTest, KeyboardAndReaders_ClickIt)
     ASSERT_NE(reader, nullptr);
     EXPECT_EQ(reader->role(), QAccessible::Button);
     reader->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    ServeEvents();
     EXPECT_EQ(Tiles->Drops.size(), 4);
 }
 

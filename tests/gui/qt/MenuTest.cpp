@@ -1,7 +1,9 @@
+#include "gui/qt/Dialogs.h"
 #include "gui/qt/WindowTest.h"
 
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QTest>
 
 namespace lineforge
@@ -60,8 +62,48 @@ TEST_F(MenuTest, AnEntryRunsItsHandler)
 {
     int runs = 0;
     Menus->mnuBackup.Click = [&runs] { ++runs; };
-    Action(u"mnuBackup"_s).trigger();
+    QTest::keyClick(&ViewOf(*Menus), Qt::Key_F, Qt::AltModifier);
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Return}) {
+        ServeEvents();
+        ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+        QTest::keyClick(QApplication::activePopupWidget(), key);
+    }
     EXPECT_EQ(runs, 1);
+}
+
+TEST_F(MenuTest, ReadersChooseAnEntry_OnceTheyHaveTheirAnswer_WhetherItsMenuIsOpenOrNot)
+{
+    QStringList story;
+    Menus->mnuFile.Click = [&story] { story += u"File"_s; };
+    Menus->Open.Click = [&story] { story += u"Open"_s; };
+    Action(u"Open"_s).trigger();
+    EXPECT_EQ(story, QStringList());
+    ServeEvents();
+    EXPECT_EQ(story, QStringList({u"File"_s, u"Open"_s}));
+
+    auto& menu = Find<QMenu>(*Menus, u"mnuFile"_s);
+    menu.popup({10, 10});
+    ServeEvents();
+    Action(u"Open"_s).trigger();
+    EXPECT_EQ(story.size(), 3);
+    ServeEvents();
+    EXPECT_EQ(story.mid(2), QStringList({u"File"_s, u"Open"_s}));
+    menu.close();
+}
+
+TEST_F(MenuTest, WhileABoxWaitsForAnAnswer_ReadersChooseAndPressNothing)
+{
+    int runs = 0;
+    Menus->Open.Click = Menus->Command1.Click = [&runs] { ++runs; };
+    const NextDialog next([&](QDialog& box) {
+        Action(u"Open"_s).trigger();
+        Find<QPushButton>(*Menus, u"Command1"_s).click();
+        ServeEvents();
+        box.reject();
+    });
+    Machine().Bundle().Prompts.MsgBox(u"Title"_s, u"Text"_s, Buttons::Plain);
+    ServeEvents();
+    EXPECT_EQ(runs, 0);
 }
 
 TEST_F(MenuTest, OpeningAMenuIsItsClick)
@@ -108,9 +150,11 @@ TEST_F(MenuTest, AnEntryOfADisabledMenu_IsDeadForReadersToo)
     Menus->mnuBackup.Click = [&story] { story += u"Backup"_s; };
     Menus->mnuFile.Enabled = false;
     Action(u"mnuBackup"_s).trigger();
+    ServeEvents();
     EXPECT_EQ(story, QStringList());
     Menus->mnuFile.Enabled = true;
     Action(u"mnuBackup"_s).trigger();
+    ServeEvents();
     EXPECT_EQ(story, QStringList({u"File"_s, u"Copy"_s, u"Backup"_s}));
 }
 
@@ -131,6 +175,7 @@ TEST_F(MenuTest, AHandlerMayUnloadItsOwnWindow)
 {
     Menus->Open.Click = [this] { Menus.Unload(); };
     Action(u"Open"_s).trigger();
+    ServeEvents();
     EXPECT_FALSE(Menus.IsLoaded());
     PassEventLoop();
 }

@@ -1,5 +1,6 @@
 #include "gui/qt/WindowTest.h"
 
+#include <QAccessible>
 #include <QRadioButton>
 #include <QTest>
 
@@ -49,6 +50,22 @@ TEST_F(OptionButtonTest, Captions_Show_AndAreSpokenWithoutTheMarkOfTheAccessKey)
     Options->Option2.Caption = u"Other"_s;
     EXPECT_EQ(View(2).text(), u"Other"_s);
     EXPECT_EQ(View(2).accessibleName(), u"Other"_s);
+}
+
+TEST_F(OptionButtonTest, ReadersSwitchOneOn_AsAClickDoes)
+{
+    int clicks = 0;
+    Options->Option4.Click = [&] {
+        ++clicks;
+        EXPECT_FALSE(Options->Option3.Value);
+    };
+    auto* told = QAccessible::queryAccessibleInterface(&View(4))->actionInterface();
+    told->doAction(QAccessibleActionInterface::toggleAction());
+    ServeEvents();
+    ExpectOn({false, false, false, true});
+    ClickOn(4);
+    ServeEvents();
+    EXPECT_EQ(clicks, 2);
 }
 
 TEST_F(OptionButtonTest, ASetMayBeginWithNoneOn)

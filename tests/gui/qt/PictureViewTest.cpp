@@ -29,6 +29,7 @@ struct PictureViewTest : WindowTest {
         Pictures->Picture1.MouseUp = Recorder(u"up"_s);
         Pictures->Picture1.DblClick = [this] { Story += u"double"_s; };
         Pictures->Visible = true;
+        ServeEvents(); // the frame comes, and with it the last place of the window
     }
 
     PictureBox::MouseEvent Recorder(const QString& what)
