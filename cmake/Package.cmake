@@ -27,6 +27,7 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # What the program loads or reads by name, so that no look at its libraries shows it.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation, gstreamer1.0-plugins-good, qt6-qpa-plugins")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "gstreamer1.0-libav") # most films that people have
 
 foreach(page lineforge.1 lineforge-check.1)
     add_custom_command(

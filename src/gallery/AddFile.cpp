@@ -71,10 +71,22 @@ QString SubscriptInName(int subscript)
     return subscript == LastSubscript ? QString() : SubscriptText(subscript);
 }
 
+// A copy that can't be shown would end the program with every page of the record from then on.
+QImage PictureOfAddedFile(Program& p, GalleryKind kind)
+{
+    try {
+        return LoadTilePicture(p, TilePicturePath(p.Scratch.sFileB, kind, p.Branch.HomeDir));
+    } catch (const RuntimeError&) {
+        if (kind == GalleryKind::Picture)
+            p.Files.Kill(p.Scratch.sFileB);
+        throw;
+    }
+}
+
 void ShowAddedFile(Program& p, int subscript, GalleryKind kind)
 {
     Image& tile = p.Form5->Image1[subscript - 1];
-    tile.Picture = LoadTilePicture(p, TilePicturePath(p.Scratch.sFileB, kind, p.Branch.HomeDir));
+    tile.Picture = PictureOfAddedFile(p, kind);
     tile.Tag = p.Scratch.sFileB;
     tile.Visible = true;
     p.Loop.DoEvents();

@@ -300,13 +300,19 @@ TEST_F(AddPictureTest, OpenItemIsClosedFirst_EvenIfTheQuestionIsDeclined)
     EXPECT_EQ(Page(), QStringList({u"0 A001_01.jpg blue"_s, u"1 2 empty"_s}));
 }
 
-TEST_F(AddPictureTest, FileThatIsNoPicture_IsCopied_AndItsTileStaysEmpty)
+TEST_F(AddPictureTest, FileThatIsNoPicture_EndsItInSilence_AndLeavesNoCopy)
 {
-    OpenGallery();
-    Add(Home.WriteFile(u"a.jpg", "no picture"));
-    EXPECT_EQ(FilesInGallery(), QStringList{u"A001_01.jpg"_s});
-    EXPECT_EQ(Page(), QStringList({u"0 1 empty"_s, u"1 2 empty"_s}));
-    EXPECT_EQ(ExitCode(), std::nullopt);
+    OpenGallery({u"A001_01.jpg"_s});
+    for (const QByteArray& bytes : {QByteArray(), QByteArray("no picture"), PictureBytes(Qt::red).first(100)}) {
+        const QString source = Home.WriteFile(u"a.jpg", bytes);
+        Add(source);
+        EXPECT_EQ(FilesInGallery(), QStringList{u"A001_01.jpg"_s});
+        EXPECT_EQ(Page(), QStringList({u"0 A001_01.jpg blue"_s, u"1 2 empty"_s, u"2 3 empty"_s}));
+        EXPECT_TRUE(QFile::exists(source));
+        EXPECT_EQ(ExitCode(), std::nullopt);
+    }
+    Add(Home.WriteFile(u"b.jpg", PictureBytes(Qt::red)));
+    EXPECT_EQ(Page(), QStringList({u"0 A001_01.jpg blue"_s, u"1 A001_02.jpg red"_s, u"2 3 empty"_s}));
 }
 
 TEST_F(AddPictureTest, PictureOfAnotherFormat_IsCopiedUnderItsOwnEnding)

@@ -8,6 +8,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 namespace lineforge
 {
@@ -84,6 +85,18 @@ FilmView::FilmView(QWidget* parent) : QWidget(parent)
 void FilmView::Show(const QImage& picture)
 {
     picture_ = picture;
+    Describe();
+}
+
+void FilmView::Run(bool isRunning)
+{
+    if (std::exchange(isRunning_, isRunning) != isRunning)
+        Describe();
+}
+
+void FilmView::Describe()
+{
+    setAccessibleDescription(LacksPicture() ? tr("This film's picture can't be shown here.") : QString());
     update();
 }
 
@@ -91,6 +104,11 @@ void FilmView::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::black);
+    if (LacksPicture()) {
+        painter.setPen(Qt::white);
+        painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, accessibleDescription());
+        return;
+    }
     QRect place(QPoint(), picture_.size().scaled(size(), Qt::KeepAspectRatio));
     place.moveCenter(rect().center());
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
@@ -142,6 +160,8 @@ void PlayerView::ShowFilm(const QImage& picture)
 
 void PlayerView::ShowTime(int position, int length)
 {
+    if (film_)
+        film_->Run(position > 0);
     time_->setText(length > 0 ? PlayingTime(position, length) : QString());
 }
 

@@ -18,12 +18,18 @@ class FilmView : public QWidget
 public:
     explicit FilmView(QWidget* parent);
     void Show(const QImage& picture);
+    // What runs without a picture says so.
+    void Run(bool isRunning);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void Describe();
+    bool LacksPicture() const { return isRunning_ && picture_.isNull(); }
+
     QImage picture_;
+    bool isRunning_ = false;
 };
 
 // A player: its film above, its five buttons below, and between them the time where there is room for it.

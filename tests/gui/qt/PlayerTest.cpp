@@ -1,5 +1,6 @@
 #include "gui/qt/PlayerTest.h"
 
+#include "gui/qt/Films.h"
 #include "platform/RuntimeError.h"
 #include "support/Refusal.h"
 
@@ -81,6 +82,17 @@ TEST_F(PlayerTest, AFilmIsSeenInItsWindow_WhicheverCameFirst)
     OpenFilm();
     ASSERT_TRUE(ShowsAPicture());
     EXPECT_EQ(seen(), first);
+}
+
+TEST_F(PlayerTest, AFilmWhosePictureIsInAFormThatNobodyKnows_IsHeard_AndSaysSo)
+{
+    Open(Home.WriteFile(u"unseen.avi", FilmThatNobodyCanSee()));
+    EXPECT_TRUE(Player().IsOpen);
+    Press(u"Play");
+    EXPECT_TRUE(ReachesItsEnd());
+    EXPECT_TRUE(Player().Screen.value().isNull());
+    Panels->Show();
+    EXPECT_NE(Find<QWidget>(*Panels, u"MMControl1Screen"_s).accessibleDescription(), QString());
 }
 
 TEST_F(PlayerTest, AFileThatIsNotThereIsRefused)

@@ -126,6 +126,25 @@ TEST_F(PlayerViewTest, TheFilmKeepsItsProportions_OnBlack)
     EXPECT_EQ(Seen(u"MMControl1Screen"_s).pixel(seen.width() / 2, middle), black);
 }
 
+TEST_F(PlayerViewTest, AFilmThatRunsWithoutAPicture_SaysSo)
+{
+    const auto& film = Find<QWidget>(*Panels, u"MMControl1Screen"_s);
+    const QImage black = Seen(u"MMControl1Screen"_s);
+    EXPECT_EQ(film.accessibleDescription(), QString());
+    Panels->MMControl1.Position = 40;
+    EXPECT_NE(Seen(u"MMControl1Screen"_s), black);
+    EXPECT_EQ(film.accessibleDescription(), u"This film's picture can't be shown here."_s);
+    QImage picture(black.size(), QImage::Format_RGB32);
+    picture.fill(Qt::black);
+    Panels->MMControl1.Screen = picture;
+    EXPECT_EQ(Seen(u"MMControl1Screen"_s), black);
+    EXPECT_EQ(film.accessibleDescription(), QString());
+    Panels->MMControl1.Screen = QImage();
+    Panels->MMControl1.Position = 0;
+    EXPECT_EQ(Seen(u"MMControl1Screen"_s), black);
+    EXPECT_EQ(film.accessibleDescription(), QString());
+}
+
 TEST_F(PlayerViewTest, APlayerOfSoundsHasNoScreen)
 {
     QImage film(4, 4, QImage::Format_RGB32);
