@@ -24,7 +24,7 @@ function(install_on_system kind source destination)
 endfunction()
 install_on_system(PROGRAMS packaging/launcher.sh ${CMAKE_INSTALL_BINDIR} RENAME lineforge)
 install_on_system(FILES data/desktop/lineforge.desktop ${CMAKE_INSTALL_DATADIR}/applications)
-install_on_system(FILES data/desktop/technology.tarnwick.Lineforge.metainfo.xml ${CMAKE_INSTALL_DATADIR}/metainfo)
+install_on_system(FILES data/desktop/technology.tarnwick.lineforge.metainfo.xml ${CMAKE_INSTALL_DATADIR}/metainfo)
 install_on_system(FILES data/lineforge.svg ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install_on_system(DIRECTORY ${CMAKE_BINARY_DIR}/theme-icons/ ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
 # The check asks nothing of where it stands.
@@ -33,3 +33,4 @@ install_on_system(FILES ${CMAKE_BINARY_DIR}/lineforge-check.link ${CMAKE_INSTALL
 install_on_system(FILES ${CMAKE_BINARY_DIR}/lineforge.1.gz ${CMAKE_INSTALL_MANDIR}/man1)
 install_on_system(FILES ${CMAKE_BINARY_DIR}/lineforge-check.1.gz ${CMAKE_INSTALL_MANDIR}/man1)
 install_on_system(FILES packaging/copyright ${CMAKE_INSTALL_DATADIR}/doc/lineforge)
+install_on_system(FILES ${CMAKE_BINARY_DIR}/changelog.gz ${CMAKE_INSTALL_DATADIR}/doc/lineforge)

@@ -29,13 +29,16 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation, gstreamer1.0-plugins-good, qt6-qpa-plugins")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "gstreamer1.0-libav") # most films that people have
 
-foreach(page lineforge.1 lineforge-check.1)
+set(packed_documents)
+foreach(document data/desktop/lineforge.1 data/desktop/lineforge-check.1 packaging/changelog)
+    cmake_path(GET document FILENAME name)
     add_custom_command(
-        OUTPUT ${CMAKE_BINARY_DIR}/${page}.gz
-        COMMAND gzip -9cn ${PROJECT_SOURCE_DIR}/data/desktop/${page} > ${CMAKE_BINARY_DIR}/${page}.gz
-        DEPENDS ${PROJECT_SOURCE_DIR}/data/desktop/${page}
+        OUTPUT ${CMAKE_BINARY_DIR}/${name}.gz
+        COMMAND gzip -9cn ${PROJECT_SOURCE_DIR}/${document} > ${CMAKE_BINARY_DIR}/${name}.gz
+        DEPENDS ${PROJECT_SOURCE_DIR}/${document}
         VERBATIM)
+    list(APPEND packed_documents ${CMAKE_BINARY_DIR}/${name}.gz)
 endforeach()
-add_custom_target(manual_pages ALL DEPENDS ${CMAKE_BINARY_DIR}/lineforge.1.gz ${CMAKE_BINARY_DIR}/lineforge-check.1.gz)
+add_custom_target(packed_documents ALL DEPENDS ${packed_documents})
 
 include(CPack)

@@ -8,7 +8,8 @@ bench_packages="libbenchmark-dev mdbtools" # whose export is what a conversion i
 queue_packages="cups-daemon cups-client cups-filters-core-drivers" # a print server for the tests
 reader_packages="python3-gi gir1.2-atspi-2.0 at-spi2-core dbus" # what screen readers reach a program by
 foreign_packages="gramps" # which reads what we hand on
-test_packages="libgtest-dev libgmock-dev appstream desktop-file-utils $cpack_packages $screen_packages $queue_packages $reader_packages $foreign_packages"
+rule_packages="appstream desktop-file-utils lintian" # which judge what is given away
+test_packages="libgtest-dev libgmock-dev $rule_packages $cpack_packages $screen_packages $queue_packages $reader_packages $foreign_packages"
 
 # Installs those of the named packages that are missing; says nothing when none is.
 install_missing() {
