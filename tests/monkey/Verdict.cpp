@@ -9,20 +9,14 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-// Of "LfgDat_A/LfgDat_A.cfg".
-QString LetterOf(const QString& file)
-{
-    return file.section(u'.', -2, -2).right(1);
-}
-
-// Numbers are typed as the user likes; a record is deleted whatever other branch's map shows it; a picture goes along
-// to a record that is found not to be there only then.
+// Numbers are typed as the user likes. A deleted record leaves its gallery, its second box, and its boxes on maps of
+// other branches and on the one that an imported branch came with; a picture goes along to a record that is found not
+// to be there only then. All that is meant to be.
 bool MayBeTheUsers(const check::Finding& finding)
 {
     using check::Kind;
-    return check::IsNote(finding.Kind) || finding.Kind == Kind::Link ||
-           (finding.Kind == Kind::Box && finding.Record.left(1) != LetterOf(finding.File)) ||
-           (finding.Kind == Kind::SubjectPicture && finding.Text.contains(u"of a record that isn't there"));
+    return check::IsNote(finding.Kind) || finding.Kind == Kind::Link || finding.Kind == Kind::Box ||
+           finding.Text.contains(u"of a record that isn't there");
 }
 
 // A branch takes what is wrong with it along to another directory, and a new record its number from those before it.

@@ -38,11 +38,13 @@ TEST(VerdictTest, WhatTheUserMayBringAbout_IsNoFinding_ATornPictureIs)
 {
     EXPECT_TRUE(NewFindings({}, With({{Kind::Link, u"LfgDat_A/LfgDat_A.mdb"_s, u"A001"_s, u"FatherRec leads to"_s},
                                       {Kind::Box, u"LfgDat_A/LfgDat_A.cfg"_s, u"B001"_s, u"which isn't there"_s},
+                                      {Kind::GalleryFile, u"LfgDat_A/LfgGal_A/A009_01.jpg"_s, u"A009"_s,
+                                       u"the file of a record that isn't there"_s},
                                       {Kind::SubjectPicture, u"LfgDat_A/A009Sub.jpg"_s, u"A009"_s,
                                        u"the picture of a record that isn't there"_s}}))
                     .empty());
     EXPECT_EQ(NewFindings({}, With({{Kind::SubjectPicture, u"LfgDat_A/A001Sub.jpg"_s, u"A001"_s, u"no picture"_s},
-                                    {Kind::Box, u"LfgDat_A/LfgDat_A.cfg"_s, u"A009"_s, u"which isn't there"_s}}))
+                                    {Kind::MapItem, u"LfgDat_A/LfgDat_A.cfg"_s, {}, u"cut"_s}}))
                   .size(),
               2);
 }
