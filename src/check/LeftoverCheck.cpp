@@ -32,7 +32,7 @@ const std::vector<Sign>& Signs()
         {named(uR"(\.arriving-.*)"_s), u"left by a start that was cut off"_s},
         {named(uR"(.*\.(mdb|jet)\.new(-journal)?)"_s), u"left by a conversion that was cut off"_s},
         {named(uR"(.*-(journal|wal|shm))"_s),
-         u"left by a change that was cut off, or that is just being made; the next opening sees to it"_s},
+         u"left by a change that was cut off, or that is just being made; the branch's next change sees to it"_s},
         // What a file of the program's is written to before it takes its name.
         {named(uR"((|AliasList|(LfgDat|Import)_.|Gedcom|.*Sub|.{4,5}_\d\d?)\.[~a-z]{2,3}\.[a-z]{6})"_s),
          u"left by a writing that was cut off"_s},

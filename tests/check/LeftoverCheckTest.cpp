@@ -23,7 +23,7 @@ constexpr QStringView start = u"left by a start that was cut off";
 constexpr QStringView conversion = u"left by a conversion that was cut off";
 constexpr QStringView writing = u"left by a writing that was cut off";
 constexpr QStringView change =
-    u"left by a change that was cut off, or that is just being made; the next opening sees to it";
+    u"left by a change that was cut off, or that is just being made; the branch's next change sees to it";
 
 INSTANTIATE_TEST_SUITE_P(
     Files, LeftoverTest,

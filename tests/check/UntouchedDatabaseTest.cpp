@@ -14,7 +14,7 @@ namespace
 using namespace Qt::StringLiterals;
 
 constexpr QStringView change =
-    u"left by a change that was cut off, or that is just being made; the next opening sees to it";
+    u"left by a change that was cut off, or that is just being made; the branch's next change sees to it";
 
 class UntouchedDatabaseTest : public CheckTest
 {
