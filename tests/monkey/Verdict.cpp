@@ -43,8 +43,11 @@ check::Report WithoutUnfinished(check::Report report)
     for (const check::Finding& finding : report.Findings)
         if (finding.Kind == check::Kind::Registry && finding.Text.contains(u"isn't in the list of branches"))
             unfinished += finding.File;
-    std::erase_if(report.Findings,
-                  [&](const check::Finding& finding) { return unfinished.contains(finding.File.section(u'/', 0, 0)); });
+    // A journal that the engine had not got as far as to fill stays until the next change.
+    std::erase_if(report.Findings, [&](const check::Finding& finding) {
+        return unfinished.contains(finding.File.section(u'/', 0, 0)) ||
+               (finding.Kind == check::Kind::Leftover && finding.File.endsWith(u"-journal"));
+    });
     return report;
 }
 

@@ -12,6 +12,7 @@ namespace lineforge::monkey
 QStringList NewFindings(const check::Report& before, const check::Report& now);
 
 // Without branches that aren't in the list: whatever makes a branch tells the list last, and may be killed before.
+// Without the journals of changes that were cut off.
 check::Report WithoutUnfinished(check::Report report);
 
 } // namespace lineforge::monkey

@@ -57,6 +57,14 @@ TEST(VerdictTest, BranchThatIsntInTheList_IsUnfinished_TheOthersAreNot)
     EXPECT_EQ(WithoutUnfinished(With({torn, empty})).Findings.size(), 2U);
 }
 
+TEST(VerdictTest, AKillMayLeaveAJournal_ButNoOtherLeftover)
+{
+    const check::Finding journal{Kind::Leftover, u"LfgDat_A/LfgDat_A.mdb-journal"_s, {}, u"left by a change"_s};
+    const check::Finding copy{Kind::Leftover, u"LfgDat_A/.lineforge-abc"_s, {}, u"left by a copy"_s};
+    EXPECT_EQ(WithoutUnfinished(With({journal, copy})).Findings, std::vector{copy});
+    EXPECT_EQ(NewFindings({}, With({journal})).size(), 1);
+}
+
 TEST(VerdictTest, NotesAreNoFindings)
 {
     EXPECT_TRUE(

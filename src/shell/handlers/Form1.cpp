@@ -110,8 +110,11 @@ void InstallForm1(Program& p, forms::Form1& form)
     };
     form.Picture1.MouseUp = [&p](int, int, double x, double y) { ReleaseMap(p, x, y); };
     form.Picture1.DblClick = [&p] {
+        const bool isMapping = p.Tools.MapCursorMode == MapCursor::Mapping;
         DoubleClickOnMap(p);
-        FollowWithPicture(p);
+        // A mapping shows its subject's picture itself, or leaves its place empty.
+        if (!isMapping)
+            FollowWithPicture(p);
     };
     form.Picture1.Parts = [&p] { return SpokenBoxes(p); };
 

@@ -16,8 +16,8 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-const QString firstJob = u"print.pdf"_s; // what the dialog proposes, in the user's home
-const QString secondJob = u"print-2.pdf"_s;
+const QString firstJob = u"Lineforge.pdf"_s; // what the dialog proposes, in the user's home
+const QString secondJob = u"Lineforge-2.pdf"_s;
 const QString textFile = u"LfgDat_A/LfgDat_A.txt"_s;
 
 void Select(Tour& tour, const QString& file)
