@@ -61,6 +61,16 @@ bool OpenDatabase(Program& p, const QString& directory)
         return false;
     }
 }
+
+// The current record beside the map and its marker, each as far as it can be had. False without a picture.
+bool ShowSubject(Program& p)
+{
+    p.Errors.Ignoring([&] { SetPictureName(p); });
+    const bool hasPicture = ShowSubjectPicture(p);
+    p.Errors.Ignoring([&] { MarkCurrentBox(p); });
+    p.Errors.Ignoring([&] { FillSubjectLabels(p); });
+    return hasPicture;
+}
 } // namespace
 
 void PutMapAway(Program& p)
@@ -77,11 +87,7 @@ void ReturnToOwnSubject(Program& p)
     if (p.Branch.UsingAlternate != 1)
         return;
     ReturnFromSibling(p);
-    p.Errors.Ignoring([&] { SetPictureName(p); });
-    p.Form1->Image1.Picture = QImage();
-    p.Errors.Ignoring([&] { LoadSubjectPicture(p, p.Form1->Image1); });
-    p.Errors.Ignoring([&] { FillSubjectLabels(p); });
-    p.Errors.Ignoring([&] { MarkCurrentBox(p); });
+    ShowSubject(p);
 }
 
 void DrawBranchMap(Program& p)
@@ -121,18 +127,10 @@ bool TellIfEmptyBranch(Program& p)
 void ShowFirstSubject(Program& p)
 {
     forms::Form1& form = *p.Form1;
-    p.Errors.Ignoring([&] { SetPictureName(p); });
-    bool hasPicture = false;
-    p.Errors.Ignoring([&] {
-        LoadSubjectPicture(p, form.Image1);
-        hasPicture = true;
-    });
-    p.Errors.Ignoring([&] { MarkCurrentBox(p); });
-    p.Errors.Ignoring([&] { FillSubjectLabels(p); });
+    const bool hasPicture = ShowSubject(p);
     form.Caption = u"Lineforge "_s + p.Branch.sBranchName + u" Tree Branch.";
     p.Form3->Caption = u"Lineforge "_s + p.Branch.sBranchName + u" Records.";
     if (!hasPicture) {
-        form.Image1.Picture = QImage();
         form.Shape1.Visible = false;
         TellPictureMissing(p);
     }

@@ -51,19 +51,25 @@ void LoadSubjectPicture(Program& p, Image& target)
     target.Picture = p.Pictures.Load(p.Files, p.Branch.WorkDir + PathSeparator + p.Record.sPicFile);
 }
 
-void ShowRecordOnMap(Program& p)
+bool ShowSubjectPicture(Program& p)
 {
-    SetPictureName(p);
     bool hasPicture = false;
     p.Errors.Ignoring([&] {
         LoadSubjectPicture(p, p.Form1->Image1);
         hasPicture = true;
     });
-    FillSubjectLabels(p);
-    if (!hasPicture) {
+    if (!hasPicture)
         p.Form1->Image1.Picture = QImage();
+    return hasPicture;
+}
+
+void ShowRecordOnMap(Program& p)
+{
+    SetPictureName(p);
+    const bool hasPicture = ShowSubjectPicture(p);
+    FillSubjectLabels(p);
+    if (!hasPicture)
         TellPictureMissing(p);
-    }
 }
 
 void TellPictureMissing(Program& p)

@@ -22,6 +22,9 @@ void EmptySubjectLabels(Program& p, std::initializer_list<Label forms::Form1::*>
 // it shows.
 void LoadSubjectPicture(Program& p, Image& target);
 
+// The same beside the map; false, and no picture there, when it can't be loaded.
+bool ShowSubjectPicture(Program& p);
+
 // The current record beside the map: picture, labels, number. A picture that isn't there empties the panel's and is
 // told.
 void ShowRecordOnMap(Program& p);

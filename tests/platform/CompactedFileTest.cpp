@@ -36,13 +36,6 @@ protected:
         ASSERT_NE(Numbers(), before) << "otherwise nothing is tested";
     }
 
-    void Rename(Recordset& people, const QString& name)
-    {
-        people.Edit();
-        people.Put(u"Name", name);
-        people.Update();
-    }
-
     // Standing on Dora, at rest.
     void GoToDora(Recordset& people)
     {

@@ -36,26 +36,6 @@ protected:
         lockGoesAt = goesAt;
     }
 
-    // The number of a refusal of which the user has been told, 0 for none.
-    template <class Act>
-    static int ToldRefusalOf(Act&& act)
-    {
-        try {
-            act();
-        } catch (const RuntimeError& refusal) {
-            EXPECT_TRUE(refusal.IsTold);
-            return refusal.Number;
-        }
-        return 0;
-    }
-
-    static void Rename(Recordset& people, const QString& name)
-    {
-        people.Edit();
-        people.Put(u"Name", name);
-        people.Update();
-    }
-
     std::unique_ptr<SqliteFile> other;
     int lockGoesAt = 0;
     int questions = 0;

@@ -26,34 +26,6 @@ protected:
 
     void Execute(const QByteArray& sql) { SqliteFile(FilePath()).Execute(sql); }
 
-    // The number of a refusal of which the user has been told, 0 for none.
-    template <class Act>
-    static int ToldRefusalOf(Act&& act)
-    {
-        try {
-            act();
-        } catch (const RuntimeError& refusal) {
-            EXPECT_TRUE(refusal.IsTold);
-            return refusal.Number;
-        }
-        return 0;
-    }
-
-    static void Rename(Recordset& people, const QString& name)
-    {
-        people.Edit();
-        people.Put(u"Name", name);
-        people.Update();
-    }
-
-    // On Bob, read and at rest.
-    Recordset& OnBob(Recordset& people)
-    {
-        people.Seek(u"Name", u"Bob"_s);
-        EXPECT_EQ(people.Text(u"File"), u"A002");
-        return people;
-    }
-
     QStringList told;
 };
 

@@ -49,6 +49,34 @@ protected:
         return names;
     }
 
+    // The number of a refusal of which the user has been told, 0 for none.
+    template <class Act>
+    static int ToldRefusalOf(Act&& act)
+    {
+        try {
+            act();
+        } catch (const RuntimeError& refusal) {
+            EXPECT_TRUE(refusal.IsTold);
+            return refusal.Number;
+        }
+        return 0;
+    }
+
+    static void Rename(Recordset& people, const QString& name)
+    {
+        people.Edit();
+        people.Put(u"Name", name);
+        people.Update();
+    }
+
+    // On Bob, the second, read and at rest.
+    static Recordset& OnBob(Recordset& people)
+    {
+        people.Seek(u"Name", QStringLiteral("Bob"));
+        EXPECT_EQ(people.Text(u"File"), u"A002");
+        return people;
+    }
+
     TemporaryHome home;
     FileSystem files{home.Path()};
     Databases databases;

@@ -44,19 +44,6 @@ protected:
         return std::exchange(told, {});
     }
 
-    Recordset& OnBob(Recordset& people)
-    {
-        people.Seek(u"Name", u"Bob"_s);
-        EXPECT_EQ(people.Text(u"File"), u"A002");
-        return people;
-    }
-    static void Rename(Recordset& people, const QString& name)
-    {
-        people.Edit();
-        people.Put(u"Name", name);
-        people.Update();
-    }
-
     QStringList told;
 };
 

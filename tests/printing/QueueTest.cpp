@@ -101,14 +101,6 @@ protected:
         });
         Machine().Bundle().Prompts.PickPrinter();
     }
-    template <class Widget>
-    static Widget& In(const QDialog& dialog, const QString& name)
-    {
-        auto* found = dialog.findChild<Widget*>(name);
-        if (!found)
-            throw std::runtime_error("the dialog has no " + name.toStdString());
-        return *found;
-    }
 
     TemporaryHome Home;
     ScriptedPrompts Prompts;

@@ -5,6 +5,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <stdexcept>
 
 namespace lineforge
 {
@@ -40,6 +41,16 @@ private:
     QTimer timer_;
     QStringList told_;
 };
+
+// The widget of that name in a dialog; a test that looks for another fails and ends.
+template <class Widget>
+Widget& In(const QDialog& dialog, const QString& name)
+{
+    auto* found = dialog.findChild<Widget*>(name);
+    if (!found)
+        throw std::runtime_error("the dialog has no " + name.toStdString());
+    return *found;
+}
 
 // The dialog as a message box; a test that meets another fails and ends.
 QMessageBox& AsMessageBox(QDialog& dialog);

@@ -59,15 +59,6 @@ struct PrintSystemTest : WindowTest {
         Machine().Bundle().Prompts.PickPrinter();
     }
 
-    template <class Widget>
-    static Widget& In(const QDialog& dialog, const QString& name)
-    {
-        auto* found = dialog.findChild<Widget*>(name);
-        if (!found)
-            throw std::runtime_error("the dialog has no " + name.toStdString());
-        return *found;
-    }
-
     // Sets the printer up as a user does who prints to that file.
     void ChooseFile(const QString& file)
     {
