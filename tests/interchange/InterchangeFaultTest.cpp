@@ -1,5 +1,6 @@
 #include "interchange/InterchangeTest.h"
 #include "support/ChildProcess.h"
+#include "support/HomeVerdict.h"
 #include "support/SmallDisk.h"
 
 #include <QDir>
@@ -158,8 +159,13 @@ struct FullDiskStory : InterchangeFaultTest {
     {
         for (const QStringView file : {u"A001_02.jpg", u"A001_03.jpg", u"A001_04.jpg"})
             Home.WriteFile(QString(u"LfgDat_A/LfgGal_A/"_s + file), QByteArray(900'000, 'p'));
+        Home.WriteFile(u"stick/AliasList.cfg", Registry());
+        const QStringList faults = FaultsOf(Home.Path());
         Export(u'A', Home.Path(u"stick"));
         ExpectWholeOrAbsent(u"stick/LfgDat_A"_s, u"LfgDat_A"_s);
+        EXPECT_EQ(FaultsOf(Home.Path()), faults);
+        for (const QString& fault : FaultsOf(Home.Path(u"stick")))
+            EXPECT_TRUE(faults.contains(fault) || fault.endsWith(u"isn't there")) << qUtf8Printable(fault);
         EXPECT_EQ(Home.ReadFile(u"stick/LfgDat_A/LfgGal_A/A001_01.jpg"), "picture");
         if (IsDiskSmall) {
             EXPECT_LT(TreeOf(u"stick/LfgDat_A"_s).size(), TreeOf(u"LfgDat_A"_s).size());

@@ -1,5 +1,6 @@
 #include "jet/OldBranchTest.h"
 #include "support/ChildProcess.h"
+#include "support/HomeVerdict.h"
 
 #include <QElapsedTimer>
 
@@ -42,6 +43,7 @@ TEST_F(ConversionKillTest, KilledAtMomentsAllOverTheConversion_TheBranchOpens)
     GivenOldBranch(u'A', u"jet4/rows999.mdb"_s);
     auto fastest = ConvertUndisturbed();
     const QStringList names = Home.Snapshot().keys();
+    const QStringList faults = FaultsOf(Home.Path());
     int cutShort = 0;
     for (int moment = 0; moment < moments; ++moment) {
         SCOPED_TRACE(moment);
@@ -53,6 +55,9 @@ TEST_F(ConversionKillTest, KilledAtMomentsAllOverTheConversion_TheBranchOpens)
         cutShort += converter.Wait() == -1 ? 1 : 0;
         const bool isOld = Home.ReadFile(u"LfgDat_A/LfgDat_A.mdb") == old;
         EXPECT_TRUE(isOld || StoredRecords(path) == expected);
+        if (!isOld) {
+            EXPECT_EQ(FaultsOf(Home.Path(), Leftovers::Pass), faults);
+        }
 
         const auto time = ConvertUndisturbed();
 
@@ -62,6 +67,7 @@ TEST_F(ConversionKillTest, KilledAtMomentsAllOverTheConversion_TheBranchOpens)
         EXPECT_EQ(StoredRecords(path), expected);
         EXPECT_EQ(Home.ReadFile(u"LfgDat_A/LfgDat_A.jet"), old);
         EXPECT_EQ(Home.Snapshot().keys(), names);
+        EXPECT_EQ(FaultsOf(Home.Path()), faults);
     }
     EXPECT_GT(cutShort, moments / 2);
 }

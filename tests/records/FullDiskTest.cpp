@@ -1,6 +1,7 @@
 #include "records/DeleteRecordTest.h"
 #include "records/RecordTransferTest.h"
 #include "support/ChildProcess.h"
+#include "support/HomeVerdict.h"
 #include "support/SmallDisk.h"
 
 // Commands on a disk that has no room left. What was there before is whole afterwards.
@@ -20,10 +21,14 @@ class FullDiskStory : public User
 public:
     explicit FullDiskStory(SmallDisk& disk) : disk_(disk) {}
 
+    // The home is no worse than before the disk was full.
+    void ExpectNothingSpoilt() const { EXPECT_EQ(FaultsOf(this->Home.Path(), Leftovers::Pass), faults_); }
+
 protected:
     void GivenFullDisk()
     {
         before_ = this->Home.Snapshot();
+        faults_ = FaultsOf(this->Home.Path());
         disk_.Fill();
     }
     void ExpectRefusal(const QString& subject) { this->ExpectFatalBox(disk_.Refusal(subject)); }
@@ -38,6 +43,7 @@ protected:
 private:
     SmallDisk& disk_;
     Tree before_;
+    QStringList faults_;
 };
 
 class FullDiskTest : public testing::Test
@@ -51,6 +57,7 @@ protected:
             {
                 Story story(disk);
                 story.TestBody();
+                story.ExpectNothingSpoilt();
             }
             return HasFailure() ? 1 : 0;
         });
