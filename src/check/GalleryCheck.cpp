@@ -3,6 +3,7 @@
 #include "check/LeftoverCheck.h"
 #include "check/PictureCheck.h"
 #include "gallery/GalleryFile.h"
+#include "platform/MediaSignature.h"
 #include "platform/RuntimeError.h"
 #include "platform/Text.h"
 
@@ -67,8 +68,8 @@ private:
                  record);
         else if (*kind == GalleryKind::Picture)
             RequirePicture(home_, Kind::GalleryFile, PathOf(name), record);
-        else
-            home_.RequireReadable(PathOf(name));
+        else if (home_.RequireReadable(PathOf(name)) && *kind != GalleryKind::Text && !IsMediaFile(PathOf(name)))
+            Tell(Kind::GalleryFile, name, u"no sound or film that can be played"_s, record);
     }
 
     static std::optional<int> TileOf(const QString& name)

@@ -2,6 +2,7 @@
 
 #include "platform/RuntimeError.h"
 
+#include <QFileInfo>
 #include <QImageReader>
 
 #include <algorithm>
@@ -15,6 +16,11 @@ namespace
 // where little of it is kept.
 constexpr qint64 mostDots = 128'000'000;
 constexpr int bytesADot = 4;
+constexpr qint64 mostBytes = 1 << 30; // of a file
+
+// What cameras, scanners and painters make. What else the toolkit reads are drawings in a script, a few lines of which
+// may keep it busy for ever, and relics that nobody looks after.
+constexpr QByteArrayView families[] = {"jpeg", "jpg", "png", "bmp", "gif", "ico", "tif", "tiff", "webp"};
 
 // The toolkit's own limit is lower, and holds for some formats only.
 void AllowLargestPicture()
@@ -48,10 +54,15 @@ QString Require(const FileSystem& files, const QString& path)
 QImage DecodePicture(const QString& file, const DecodedSize& sizeFor)
 {
     AllowLargestPicture();
+    if (QFileInfo(file).size() > mostBytes)
+        throw RuntimeError(ErrorNumber::InvalidPicture, file);
     QImageReader reader(file);
     reader.setAutoTransform(true);
     // A picture is what its content says, whatever its name ends in.
     reader.setDecideFormatFromContent(true);
+    // Before anything else is asked, which a reader may answer by reading all of it.
+    if (std::ranges::find(families, QByteArrayView(reader.format())) == std::end(families))
+        throw RuntimeError(ErrorNumber::InvalidPicture, file);
     const QSize stored = reader.size();
     if (qint64{stored.width()} * stored.height() > mostDots)
         throw RuntimeError(ErrorNumber::InvalidPicture, file);

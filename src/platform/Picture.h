@@ -15,7 +15,7 @@ namespace lineforge
 using DecodedSize = std::function<QSize(QSize size)>;
 
 // Decodes a picture file under its absolute path, upright as its camera says, at the size asked for. Error 481 when it
-// is no picture, or one larger than a picture in memory may be. May be called beside the program's one thread.
+// is none that is photographed, scanned or painted, or larger than one in memory may be. May be called in any thread.
 QImage DecodePicture(const QString& file, const DecodedSize& sizeFor);
 
 // A picture file, upright as its camera says. Error 53 when it isn't there, 481 when it is no picture or one larger

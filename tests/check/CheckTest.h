@@ -47,7 +47,7 @@ protected:
             .Picture(u"A003", Qt::blue)
             .Gallery({{QStringLiteral("A001_01.jpg"), PictureBytes(Qt::red)},
                       {QStringLiteral("A001_2.txt"), "text"},
-                      {QStringLiteral("a003_98.WAV"), "sound"}})
+                      {QStringLiteral("a003_98.WAV"), "RIFFxxxxWAVEfmt "}})
             .Build();
     }
 

@@ -55,7 +55,7 @@ class GalleryLegalNameTest : public GalleryCheckTest, public testing::WithParamI
 
 TEST_P(GalleryLegalNameTest, IsLegal)
 {
-    home.WriteFile(In(GetParam()), PictureBytes(Qt::red));
+    home.WriteFile(In(GetParam()), GetParam().endsWith(u"avi") ? "RIFFxxxxAVI LIST" : PictureBytes(Qt::red));
     EXPECT_EQ(Findings(), Found());
 }
 
@@ -66,7 +66,7 @@ INSTANTIATE_TEST_SUITE_P(Names, GalleryLegalNameTest,
 
 TEST_F(GalleryCheckTest, TwoFilesOnOneTile_AreTold)
 {
-    home.WriteFile(In(u"A001_01.wav"), "sound");
+    home.WriteFile(In(u"A001_01.wav"), "RIFFxxxxWAVEfmt ");
     EXPECT_EQ(Findings(), Found{Of(Kind::GalleryFile, In(u"A001_01.jpg"), u"A001",
                                    u"hidden by A001_01.wav, which stands on the same tile")});
 }
@@ -75,6 +75,13 @@ TEST_F(GalleryCheckTest, PictureThatNoReaderTakes_IsTold)
 {
     home.WriteFile(In(u"A002_01.bmp"), "BM, it says");
     EXPECT_EQ(Findings(), Found{Of(Kind::GalleryFile, In(u"A002_01.bmp"), u"A002", u"no picture that can be shown")});
+}
+
+TEST_F(GalleryCheckTest, SoundOrFilmThatNoPlayerTakes_IsTold)
+{
+    home.WriteFile(In(u"A002_01.avi"), "#EXTM3U");
+    EXPECT_EQ(Findings(),
+              Found{Of(Kind::GalleryFile, In(u"A002_01.avi"), u"A002", u"no sound or film that can be played")});
 }
 
 TEST_F(GalleryCheckTest, GalleryThatIsNotThere_IsNoted)

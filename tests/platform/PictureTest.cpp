@@ -4,6 +4,7 @@
 #include "support/TemporaryHome.h"
 
 #include <QBuffer>
+#include <QFile>
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -47,6 +48,32 @@ TEST_F(PictureTest, FileThatIsNoPicture_Is481)
         EXPECT_EQ(RefusalOf([&] { LoadPicture(files, name); }), ErrorNumber::InvalidPicture) << qUtf8Printable(name);
         EXPECT_EQ(RefusalOf([&] { cache.Load(files, name); }), ErrorNumber::InvalidPicture) << qUtf8Printable(name);
     }
+}
+
+TEST_F(PictureTest, DrawingInAScript_AndRelic_Are481)
+{
+    home.WriteFile(u"drawing.jpg", "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'><rect/></svg>");
+    home.WriteFile(u"bits.jpg", "#define a_width 8\n#define a_height 1\nstatic char a_bits[] = { 0x55 };\n");
+    home.WriteFile(u"pixels.jpg", "/* XPM */\nstatic char * a[] = {\n\"1 1 1 1\",\n\"a c #FF0000\",\n\"a\"};\n");
+
+    for (const QString& name : {u"drawing.jpg"_s, u"bits.jpg"_s, u"pixels.jpg"_s})
+        EXPECT_EQ(RefusalOf([&] { LoadPicture(files, name); }), ErrorNumber::InvalidPicture) << qUtf8Printable(name);
+}
+
+TEST_F(PictureTest, EveryKindThatIsPainted_IsRead)
+{
+    for (const char* format : {"jpg", "png", "bmp", "ico"}) {
+        GivenPicture(u"one.jpg", {30, 20}, Qt::red, format);
+        EXPECT_EQ(LoadPicture(files, u"one.jpg"_s).size(), QSize(30, 20)) << format;
+    }
+}
+
+TEST_F(PictureTest, FileLargerThanAnyPicture_Is481)
+{
+    GivenPicture(u"one.bmp", {30, 20}, Qt::red, "bmp");
+    ASSERT_TRUE(QFile::resize(home.Path(u"one.bmp"), (qint64{1} << 30) + 1));
+
+    EXPECT_EQ(RefusalOf([&] { LoadPicture(files, u"one.bmp"_s); }), ErrorNumber::InvalidPicture);
 }
 
 TEST_F(PictureTest, NameInOtherCase_AndEndingOfAnotherKind_AreRead)

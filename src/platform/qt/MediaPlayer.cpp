@@ -1,5 +1,6 @@
 #include "platform/qt/MediaPlayer.h"
 
+#include "platform/MediaSignature.h"
 #include "platform/RuntimeError.h"
 
 #include <QAudioOutput>
@@ -14,6 +15,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace lineforge
 {
@@ -25,6 +27,12 @@ constexpr int patience = 5000;
 constexpr int soundStep = 100; // milliseconds
 // Of a film that doesn't tell how long it shows a picture.
 constexpr double usualPicturesASecond = 25;
+
+// A file may claim any length.
+int Milliseconds(qint64 told)
+{
+    return static_cast<int>(std::clamp<qint64>(told, 0, std::numeric_limits<int>::max()));
+}
 } // namespace
 
 // The toolkit's player and where it plays to.
@@ -63,7 +71,8 @@ void MediaPlayer::Open()
     const QFileInfo file(control_.FileName);
     if (!file.exists())
         throw RuntimeError(ErrorNumber::FileNotFound, control_.FileName);
-    if (!file.isFile())
+    // What only pretends to be sound or film is kept away from the machinery that would take it apart.
+    if (!IsMediaFile(file.absoluteFilePath()))
         throw RuntimeError(ErrorNumber::InvalidFileFormat, control_.FileName);
     Load(file.absoluteFilePath());
     if (!machine_)
@@ -73,7 +82,7 @@ void MediaPlayer::Open()
         throw RuntimeError(ErrorNumber::InvalidFileFormat, control_.FileName);
     }
     Follow();
-    control_.Length = static_cast<int>(machine_->Player.duration());
+    control_.Length = Milliseconds(machine_->Player.duration());
     control_.IsOpen = true;
 }
 
@@ -102,7 +111,7 @@ void MediaPlayer::Follow()
     const QMediaPlayer& player = machine_->Player;
     QObject* listener = &machine_->Listener;
     QObject::connect(&player, &QMediaPlayer::durationChanged, listener,
-                     [this](qint64 length) { control_.Length = static_cast<int>(length); });
+                     [this](qint64 length) { control_.Length = Milliseconds(length); });
     const auto showPosition = [this] { ShowPosition(); };
     QObject::connect(&player, &QMediaPlayer::positionChanged, listener, showPosition);
     QObject::connect(&player, &QMediaPlayer::mediaStatusChanged, listener, showPosition);
@@ -124,7 +133,7 @@ void MediaPlayer::Follow()
 // stop that was on its way when the user went back to the beginning is none.
 void MediaPlayer::ShowPosition()
 {
-    const int position = static_cast<int>(machine_->Player.position());
+    const int position = Milliseconds(machine_->Player.position());
     const int length = control_.Length;
     control_.Position = IsAtEnd() && position > 0 ? length : std::clamp(position, 0, std::max(0, length - 1));
 }

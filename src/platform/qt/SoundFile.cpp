@@ -1,9 +1,11 @@
 #include "platform/qt/SoundFile.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QtEndian>
 
 #include <algorithm>
+#include <limits>
 
 namespace lineforge
 {
@@ -14,6 +16,7 @@ constexpr qsizetype headBytes = 12;
 constexpr qsizetype chunkHeadBytes = 8;
 constexpr qsizetype formatBytes = 16;
 constexpr int plainSamples = 1;
+constexpr qint64 mostBytes = 64 << 20; // of a click or a tune, far more than any lasts
 
 template <class Integer>
 Integer NumberAt(const QByteArray& bytes, qsizetype at)
@@ -36,7 +39,8 @@ bool TakeFormat(const QByteArray& chunk, SoundFile& sound)
 int SoundFile::Milliseconds() const
 {
     const qint64 bytesASecond = qint64{SamplesASecond} * Channels * (BitsASample / 8);
-    return bytesASecond == 0 ? 0 : static_cast<int>(Samples.size() * 1000 / bytesASecond);
+    const qint64 length = bytesASecond == 0 ? 0 : Samples.size() * 1000 / bytesASecond;
+    return static_cast<int>(std::min<qint64>(length, std::numeric_limits<int>::max()));
 }
 
 std::optional<SoundFile> ParseSound(const QByteArray& file)
@@ -67,7 +71,8 @@ std::optional<SoundFile> ParseSound(const QByteArray& file)
 std::optional<SoundFile> ReadSound(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    // Opening what is no file may wait for ever.
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly) || file.size() > mostBytes)
         return std::nullopt;
     return ParseSound(file.readAll());
 }

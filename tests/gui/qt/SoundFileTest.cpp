@@ -60,6 +60,20 @@ TEST(SoundFileTest, AChunkLongerThanAnyFileIsNoTrap)
     EXPECT_FALSE(ParseSound(file));
 }
 
+TEST(SoundFileTest, SamplesThatClaimToLastForMonths_LastNoLongerThanCanBeTold)
+{
+    EXPECT_GT(ParseSound(WavFile(1, 1, 8, QByteArray(3'000'000, 'x')))->Milliseconds(), 2'000'000'000);
+}
+
+TEST(SoundFileTest, AFileLargerThanAnySound_IsNone)
+{
+    TemporaryHome home;
+    QFile file(home.WriteFile(QStringLiteral("long.wav"), WavFile(8000, 1, 8, "abcd")));
+    ASSERT_TRUE(ReadSound(file.fileName()));
+    ASSERT_TRUE(file.resize(qint64{1} << 30));
+    EXPECT_FALSE(ReadSound(file.fileName()));
+}
+
 TEST(SoundFileTest, AMissingFileIsNoSound)
 {
     const TemporaryHome home;
