@@ -1,0 +1,276 @@
+#include "interchange/InterchangeTest.h"
+#include "program/WorkDatabase.h"
+#include "support/ChildProcess.h"
+#include "support/HomeVerdict.h"
+#include "support/SqliteFile.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <array>
+#include <chrono>
+#include <random>
+#include <thread>
+#include <unistd.h>
+
+// A program that is killed at random moments of its work. What it had told as done is there, no file is torn, and the
+// home opens again.
+namespace lineforge
+{
+namespace
+{
+
+// As many as the environment says, for whoever has the time.
+int Kills()
+{
+    constexpr int usual = 20;
+    const int asked = qEnvironmentVariableIntValue("LINEFORGE_KILLS");
+    return asked > 0 ? asked : usual;
+}
+
+enum Work { Edited, Added, Saved, Listed, BackedUp, Exported, Imported, Kinds };
+using Done = std::array<int, Kinds>; // how often each was told as done
+
+// A line from the worker to whoever watches.
+class Pipe
+{
+public:
+    Pipe() { EXPECT_EQ(pipe(ends_.data()), 0); }
+    ~Pipe()
+    {
+        close(ends_[0]);
+        close(ends_[1]);
+    }
+    Pipe(const Pipe&) = delete;
+    Pipe& operator=(const Pipe&) = delete;
+
+    void Tell(char work) const
+    {
+        if (write(ends_[1], &work, 1) != 1)
+            _exit(1);
+    }
+    // Only the worker keeps that end open, so that its end is heard.
+    void Watch()
+    {
+        close(ends_[1]);
+        ends_[1] = -1;
+    }
+    // Nothing when there will never be anything more.
+    std::optional<Work> Hear() const
+    {
+        char work = 0;
+        return read(ends_[0], &work, 1) == 1 ? std::optional(static_cast<Work>(work)) : std::nullopt;
+    }
+
+private:
+    std::array<int, 2> ends_{};
+};
+
+class WorkKillTest : public InterchangeTest
+{
+protected:
+    WorkKillTest()
+    {
+        GivenRegistry({{u"Smiths", u"LfgDat_A"}});
+        GivenBranch();
+        BranchOf(u'C').Gallery({{u"C001_01.jpg"_s, PictureBytes(Qt::red)}}).Build();
+        WriteTemplates(Home);
+        Home.WriteFile(u"Tree99.jpg", PictureBytes(Qt::blue));
+        Home.MakeDirectory(u"safe");
+        Home.MakeDirectory(u"gift");
+        EXPECT_TRUE(QDir().rename(Home.Path(u"LfgDat_C"), Home.Path(u"gift/LfgDat_C")));
+        Home.WriteFile(u"stick/AliasList.cfg", Registry());
+        StartProgram(P);
+    }
+
+    void GivenBranch()
+    {
+        QDir(Home.Path(u"LfgDat_A")).removeRecursively();
+        BranchOf(u'A').Gallery({{u"A001_01.jpg"_s, PictureBytes(Qt::red)}}).Build();
+    }
+
+    // Round by round, for ever.
+    [[noreturn]] void DoAll(const Pipe& pipe)
+    {
+        Choose(u"Smiths");
+        for (;;) {
+            for (const auto& [work, command] : commands_) {
+                (this->*command)();
+                pipe.Tell(work);
+            }
+        }
+    }
+
+    // What was done by a worker that has been killed after some work and some time.
+    Done KillAfter(int works, std::chrono::microseconds time)
+    {
+        Pipe pipe;
+        ChildProcess worker([&]() -> int { DoAll(pipe); });
+        pipe.Watch();
+        Done done{};
+        for (int work = 0; work < works; ++work)
+            if (const auto told = pipe.Hear())
+                ++done[*told];
+        std::this_thread::sleep_for(time);
+        worker.KillNow();
+        EXPECT_EQ(worker.Wait(), -1) << "it has come to its end by itself";
+        while (const auto told = pipe.Hear())
+            ++done[*told];
+        return done;
+    }
+
+    // A branch that is just being taken in or out may lack files, but none of them is torn.
+    QStringList Faults(Leftovers leftovers) const
+    {
+        QStringList faults = FaultsOf(Home.Path(), leftovers);
+        faults.removeIf([](const QString& fault) {
+            return fault.contains(u"LfgDat_C") &&
+                   (fault.endsWith(u"isn't there") || fault.endsWith(u"isn't in the list of branches"));
+        });
+        return faults;
+    }
+
+    void ExpectWholeCopies() const
+    {
+        for (const QString& fault : FaultsOf(Home.Path(u"stick"), Leftovers::Pass))
+            EXPECT_TRUE(fault.endsWith(u"isn't there")) << qUtf8Printable(fault);
+        if (Home.Exists(u"safe/x.~md")) {
+            EXPECT_EQ(SqliteFile(Home.Path(u"safe/x.~md")).Value("PRAGMA integrity_check"), u"ok"_s);
+        }
+    }
+
+    void ExpectDone(const Done& before, const Done& done)
+    {
+        SqliteFile file(Home.Path(u"LfgDat_A/LfgDat_A.mdb"));
+        const int edits = file.Value("SELECT Notes FROM Tree99 WHERE File = 'A001'").value_or(u"0"_s).toInt();
+        EXPECT_GE(edits, before[Edited] + done[Edited]);
+        EXPECT_GE(file.Value("SELECT count(*) FROM Tree99")->toInt(), 2 + before[Added] + done[Added]);
+        const int saved = P.Map.BoxArr[0][BoxColumn::X].Number() - firstPlace;
+        EXPECT_GE(saved, before[Saved] + done[Saved]);
+    }
+
+    // What has been done in all, however it was told.
+    Done Counted()
+    {
+        SqliteFile file(Home.Path(u"LfgDat_A/LfgDat_A.mdb"));
+        Done counted{};
+        counted[Edited] = file.Value("SELECT Notes FROM Tree99 WHERE File = 'A001'").value_or(u"0"_s).toInt();
+        counted[Added] = file.Value("SELECT count(*) FROM Tree99")->toInt() - 2;
+        counted[Saved] = P.Map.BoxArr[0][BoxColumn::X].Number() - firstPlace;
+        return counted;
+    }
+
+    void PutBranchAway()
+    {
+        P.Form1->mnuCloseDB.Click();
+        QDir(Home.Path(u"LfgDat_C")).removeRecursively();
+        GivenRegistry({{u"Smiths", u"LfgDat_A"}});
+    }
+
+private:
+    static constexpr int firstPlace = 1200; // of the first box
+
+    void Edit()
+    {
+        P.Form3->Text11.Text = QString::number(P.Form3->Text11.Text.value().toInt() + 1);
+        Records(P).MoveNext();
+        Records(P).MoveFirst();
+    }
+
+    void Add()
+    {
+        Prompts.Expect(u"New Database Record", u"Adding a new Record here will not \nbe mapped into the Tree system.",
+                       Buttons::InformationOkCancel, Answer::Ok);
+        Records(P).MoveLast();
+        const QString last = Records(P).Text(u"File");
+        const QString text = u"New Record A%1 created."_s.arg(last.right(3).toInt() + 1, 3, 10, QChar(u'0'));
+        Prompts.Expect(u"New Blank Record Created", text, Buttons::Information);
+        P.Form3->mnuAdd.Click();
+    }
+
+    void Save()
+    {
+        P.Map.BoxArr[0][BoxColumn::X] = P.Map.BoxArr[0][BoxColumn::X].Number() + 1;
+        P.Form1->mnuCloseDB.Click();
+        Choose(u"Smiths");
+    }
+
+    void List()
+    {
+        Prompts.Expect(
+            u"Make a Text File.",
+            QString(u"Database will be Copied to the Text File located at\n"_s + Home.Path(u"LfgDat_A/LfgDat_A.txt")),
+            Buttons::Information);
+        P.Form1->mnuTxtDBase.Click();
+    }
+
+    void BackUp()
+    {
+        Prompts.Expect(
+            u"Backup Database",
+            u"Backup will copy your current Database File \nand Tree Config file to your chosen destination.",
+            Buttons::Information);
+        Prompts.ExpectSaveFile(u"Select Backup Destination Directory", u"DataBase *.mdb|*.mdb|All Files|*.*|",
+                               Home.Path(u"safe/x.mdb"));
+        P.Form1->mnuBackup.Click();
+    }
+
+    void ExportAll()
+    {
+        QDir(Home.Path(u"stick/LfgDat_A")).removeRecursively();
+        P.Form1->mnuCloseDB.Click();
+        Export(u'A', Home.Path(u"stick"));
+        Choose(u"Smiths");
+    }
+
+    // And out again by hand, so that there is room for the next time.
+    void ImportAll()
+    {
+        P.Form1->mnuCloseDB.Click();
+        ExpectImportDialog(Home.Path(u"gift/LfgDat_C/LfgDat_C.mdb"));
+        ExpectImportName(u"Jones");
+        ExpectImportQuestion(u"Jones"_s, u"LfgDat_C"_s);
+        Import();
+        PutBranchAway();
+        Choose(u"Smiths");
+    }
+
+    const std::array<std::pair<char, void (WorkKillTest::*)()>, Kinds> commands_{
+        {{Edited, &WorkKillTest::Edit},
+         {Added, &WorkKillTest::Add},
+         {Saved, &WorkKillTest::Save},
+         {Listed, &WorkKillTest::List},
+         {BackedUp, &WorkKillTest::BackUp},
+         {Exported, &WorkKillTest::ExportAll},
+         {Imported, &WorkKillTest::ImportAll}}};
+};
+
+TEST_F(WorkKillTest, KilledAtRandomMoments_NothingThatWasDoneIsLost_NothingIsTorn_AndTheBranchOpens)
+{
+    std::mt19937 random(20261122);
+    Choose(u"Smiths");
+    Done before = Counted();
+    PutBranchAway();
+    for (int kill = 0; kill < Kills() && !HasFailure(); ++kill) {
+        SCOPED_TRACE(kill);
+        const int works = static_cast<int>(random() % (2 * Kinds));
+        const Done done = KillAfter(works, std::chrono::microseconds(random() % 20'000));
+        EXPECT_EQ(Faults(Leftovers::Pass), QStringList());
+        ExpectWholeCopies();
+
+        Choose(u"Smiths");
+
+        ExpectDone(before, done);
+        before = Counted();
+        PutBranchAway();
+        EXPECT_EQ(Faults(Leftovers::Pass), QStringList());
+        // Numbers end at 999.
+        if (before[Added] > 500) {
+            GivenBranch();
+            before = {};
+        }
+    }
+}
+
+} // namespace
+} // namespace lineforge
