@@ -10,6 +10,7 @@ reader_packages="python3-gi gir1.2-atspi-2.0 at-spi2-core dbus" # what screen re
 foreign_packages="gramps" # which reads what we hand on
 rule_packages="appstream desktop-file-utils lintian" # which judge what is given away
 test_packages="libgtest-dev libgmock-dev $rule_packages $cpack_packages $screen_packages $queue_packages $reader_packages $foreign_packages"
+fuzz_packages="clang libclang-rt-14-dev"
 
 # Installs those of the named packages that are missing; says nothing when none is.
 install_missing() {

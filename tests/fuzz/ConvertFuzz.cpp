@@ -1,14 +1,11 @@
-#include "Machine.h"
+#include "FuzzHome.h"
 #include "gedcom/GedcomConversion.h"
 #include "gedcom/LiteralMachine.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <cstdint>
-#include <cstdlib>
-
-namespace lineforge
+namespace lineforge::fuzz
 {
 namespace
 {
@@ -18,28 +15,6 @@ using namespace Qt::StringLiterals;
 // Every run comes to the children that the literal machine is given before it has yielded so often.
 constexpr int manyChildren = 10;
 constexpr int manyYields = 5000;
-
-class Windows : public WindowSystem
-{
-public:
-    void Made(Form&) override {}
-    void Retire(std::unique_ptr<Form> form) override { retired_ = std::move(form); }
-
-private:
-    std::unique_ptr<Form> retired_;
-};
-
-// Chooses the file, and confirms.
-class User : public bench::NoUser
-{
-public:
-    explicit User(QString path) : path_(std::move(path)) {}
-    Answer MsgBox(const QString&, const QString&, Buttons) override { return Answer::Ok; }
-    std::optional<QString> OpenFile(const FileQuestion&) override { return path_; }
-
-private:
-    QString path_;
-};
 
 // Ends the program in the middle of a run that takes too long.
 class ImpatientLoop : public EventLoop
@@ -59,6 +34,8 @@ public:
 class Converter
 {
 public:
+    Converter() { user_.Picked = path_; }
+
     void Run(const QByteArray& source)
     {
         Write(source);
@@ -76,12 +53,6 @@ public:
     }
 
 private:
-    static void Require(bool holds)
-    {
-        if (!holds)
-            std::abort();
-    }
-
     void Write(const QByteArray& source)
     {
         QFile file(path_);
@@ -106,7 +77,7 @@ private:
     QTemporaryDir directory_;
     QString path_ = directory_.filePath(u"fuzz.ged"_s);
     Windows windows_;
-    User user_{path_};
+    User user_;
     ImpatientLoop loop_;
     Screen screen_{12000, 9000};
     bench::NoClipboard clipboard_;
@@ -116,11 +87,13 @@ private:
 };
 
 } // namespace
-} // namespace lineforge
+} // namespace lineforge::fuzz
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static lineforge::Converter converter;
-    converter.Run(QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)));
+    using namespace lineforge::fuzz;
+
+    static Converter converter;
+    converter.Run(BytesOf(data, size));
     return 0;
 }

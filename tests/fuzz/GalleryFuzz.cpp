@@ -1,0 +1,107 @@
+#include "FuzzHome.h"
+#include "gallery/AddFile.h"
+#include "gallery/DeleteFile.h"
+#include "gallery/GalleryFile.h"
+#include "gallery/GalleryItem.h"
+#include "gallery/GalleryPage.h"
+#include "gallery/Rearrange.h"
+#include "records/RecordPicture.h"
+
+#include <QFile>
+
+#include <filesystem>
+
+namespace lineforge::fuzz
+{
+namespace
+{
+
+using namespace Qt::StringLiterals;
+namespace fs = std::filesystem;
+
+constexpr qsizetype mostNames = 8;
+constexpr qsizetype longestName = 64;
+
+class Gallery
+{
+public:
+    Gallery()
+    {
+        QImage picture(4, 4, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        for (const QString& name : {u"picture.bmp"_s, u"GalAud.bmp"_s, u"GalVid.bmp"_s, u"GalTxt.bmp"_s})
+            Require(picture.save(home_.Path(name), "BMP"));
+        home_.User.Picked = home_.Path(u"picture.bmp"_s);
+        p_.Form5.Load();
+    }
+
+    // The first line is the number of the record that is shown, the others are names in its branch's gallery.
+    void Run(const QByteArray& input)
+    {
+        const QList<QByteArray> lines = input.split('\n');
+        p_.Form3->Label25.Caption = QString::fromUtf8(lines.first().left(longestName));
+        Fill(lines.sliced(1));
+        Use();
+    }
+
+private:
+    // Every file is the same one, so that its picture is decoded once.
+    void Fill(const QList<QByteArray>& names) const
+    {
+        std::error_code error;
+        for (const fs::directory_entry& file : fs::directory_iterator(directory_))
+            fs::remove(file, error);
+        for (const QByteArray& name : names.first(std::min(names.size(), mostNames)))
+            if (!name.isEmpty() && !name.contains('/') && !name.contains('\0'))
+                fs::create_hard_link(picture_, directory_ / name.left(longestName).toStdString(), error);
+    }
+
+    std::ptrdiff_t Files() const { return std::distance(fs::directory_iterator(directory_), fs::directory_iterator()); }
+
+    // How many files there are more after a command that may be refused.
+    template <class Command>
+    std::ptrdiff_t GrowthBy(Command&& command)
+    {
+        const std::ptrdiff_t before = Files();
+        try {
+            command();
+        } catch (const RuntimeError&) {
+        }
+        return Files() - before;
+    }
+
+    Image& Tile(int index) { return p_.Form5->Image1[index]; }
+
+    void Use()
+    {
+        p_.Scratch.ScanState = GalleryScan::Browsing;
+        Require(GrowthBy([&] { ShowRecordPicture(p_); }) == 0);
+        Require(GrowthBy([&] { BuildGalleryPage(p_); }) == 0);
+        Require(GrowthBy([&] { DropOnTile(p_, 0, Tile(0)); }) == 0);
+        CloseGalleryItem(p_);
+        Require(GrowthBy([&] { RearrangeTiles(p_, Tile(0), Tile(1)); }) == 0);
+        Require(GrowthBy([&] { RearrangeTiles(p_, Tile(2), Tile(0)); }) == 0);
+        // Under a name that is taken already a file is replaced.
+        Require(GrowthBy([&] { AddGalleryFile(p_, GalleryKind::Text); }) <= 1);
+        Require(GrowthBy([&] { DeleteFileOfTile(p_, 0); }) <= 0);
+        Require(GrowthBy([&] { BuildGalleryPage(p_); }) == 0);
+    }
+
+    FuzzHome home_;
+    Program& p_ = home_.P;
+    const fs::path directory_ = QFile::encodeName(home_.Path(u"LfgDat_A/LfgGal_A"_s)).toStdString();
+    const fs::path picture_ = QFile::encodeName(home_.Path(u"picture.bmp"_s)).toStdString();
+};
+
+} // namespace
+} // namespace lineforge::fuzz
+
+// Whatever the names in a gallery: its page is shown or refused, and no command loses a file that it isn't told to.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    using namespace lineforge::fuzz;
+
+    static Gallery gallery;
+    gallery.Run(BytesOf(data, size));
+    return 0;
+}
