@@ -1,14 +1,19 @@
 #include "gui/ProgramWindowTest.h"
 #include "gui/qt/Dialogs.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QPrintDialog>
 #include <QPrinterInfo>
 #include <QProcess>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
+#include <QScrollArea>
 #include <QSpinBox>
 #include <QTest>
+
+#include <cups/cups.h>
 
 namespace lineforge
 {
@@ -23,6 +28,25 @@ QByteArray OutputOf(const QString& program, const QStringList& arguments)
     if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
         throw std::runtime_error(program.toStdString() + ": " + process.readAllStandardError().toStdString());
     return process.readAllStandardOutput();
+}
+
+// What the server was told of it; empty when nothing.
+QByteArray OptionOfLastJob(const char* queue, const char* option)
+{
+    cups_job_t* jobs = nullptr;
+    const int count = cupsGetJobs2(CUPS_HTTP_DEFAULT, &jobs, queue, 0, CUPS_WHICHJOBS_ALL);
+    if (count < 1)
+        throw std::runtime_error("the server knows of no job");
+    const QByteArray job = "ipp://localhost/jobs/" + QByteArray::number(jobs[count - 1].id);
+    cupsFreeJobs(count, jobs);
+    ipp_t* const request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, job.constData());
+    ipp_t* const answer = cupsDoRequest(CUPS_HTTP_DEFAULT, request, "/jobs");
+    char value[80] = "";
+    if (ipp_attribute_t* found = ippFindAttribute(answer, option, IPP_TAG_ZERO))
+        ippAttributeString(found, value, sizeof value);
+    ippDelete(answer);
+    return value;
 }
 
 // The whole program, and a real print server with queues whose paper are files.
@@ -109,6 +133,15 @@ protected:
                           Real.Clipboard, Real.PrintSystem, Real.Processes, Home.Path() + PathSeparator};
     Program P{Bundle};
 
+    // The text of what all records make up.
+    QString PrintDatabaseOn(QStringView queue)
+    {
+        Prompts.Expect(u"DataBase Print"_s, u"Ready to Print Complete DataBase ?"_s, Buttons::QuestionOkCancel,
+                       Answer::Ok);
+        P.Form3->mnuPrinDatabase.Click();
+        return IsPrinted(queue) ? TextOn(queue) : QString();
+    }
+
     static constexpr int patience = 40000;
     const QString driver = QStringLiteral(LINEFORGE_PRINTER_DRIVER);
 };
@@ -167,10 +200,7 @@ TEST_F(QueueTest, PageSetAndQueueOfTheDialog_AreThoseOfTheJob)
         auto& pages = In<QComboBox>(dialog, u"pageSetCombo"_s);
         pages.setCurrentIndex(pages.findText(u"Odd Pages"_s));
     });
-    Prompts.Expect(u"DataBase Print"_s, u"Ready to Print Complete DataBase ?"_s, Buttons::QuestionOkCancel, Answer::Ok);
-    P.Form3->mnuPrinDatabase.Click();
-    ASSERT_TRUE(IsPrinted(u"attic"));
-    const QString text = TextOn(u"attic");
+    const QString text = PrintDatabaseOn(u"attic");
     EXPECT_EQ(text.count(u'\f'), 2);
     EXPECT_FALSE(text.contains(u"Anne"));
     EXPECT_TRUE(text.contains(u"John"));
@@ -184,14 +214,64 @@ TEST_F(QueueTest, PagesNamedInTheDialog_AreThoseOfTheJob)
         In<QSpinBox>(dialog, u"from"_s).setValue(2);
         In<QSpinBox>(dialog, u"to"_s).setValue(3);
     });
-    Prompts.Expect(u"DataBase Print"_s, u"Ready to Print Complete DataBase ?"_s, Buttons::QuestionOkCancel, Answer::Ok);
-    P.Form3->mnuPrinDatabase.Click();
-    ASSERT_TRUE(IsPrinted(u"study"));
-    const QString text = TextOn(u"study");
+    const QString text = PrintDatabaseOn(u"study");
     EXPECT_EQ(text.count(u'\f'), 2);
     EXPECT_FALSE(text.contains(u"John"));
     for (const QStringView wanted : {u"Anne", u"Hugh"})
         EXPECT_TRUE(text.contains(wanted)) << wanted.toUtf8().toStdString();
+}
+
+TEST_F(QueueTest, ReverseOrderOfTheDialog_IsThatOfTheJob)
+{
+    Choose(u"study", QPageSize::A4);
+    SetUpPrinter([](QPrintDialog& dialog) { In<QCheckBox>(dialog, u"reverse"_s).setChecked(true); });
+    const QString text = PrintDatabaseOn(u"study");
+    EXPECT_EQ(text.count(u'\f'), 3);
+    EXPECT_LT(text.indexOf(u"Hugh"), text.indexOf(u"Anne"));
+    EXPECT_LT(text.indexOf(u"Anne"), text.indexOf(u"John"));
+}
+
+TEST_F(QueueTest, ReverseOrder_IsShownWhenTheDialogIsOpenedAgain_AndEndsThere)
+{
+    Choose(u"study", QPageSize::A4);
+    SetUpPrinter([](QPrintDialog& dialog) { In<QCheckBox>(dialog, u"reverse"_s).setChecked(true); });
+    SetUpPrinter([](QPrintDialog& dialog) {
+        EXPECT_TRUE(In<QCheckBox>(dialog, u"reverse"_s).isChecked());
+        In<QCheckBox>(dialog, u"reverse"_s).setChecked(false);
+    });
+    const QString text = PrintDatabaseOn(u"study");
+    EXPECT_LT(text.indexOf(u"John"), text.indexOf(u"Hugh"));
+}
+
+TEST_F(QueueTest, ReverseOrderOfOddPages_IsTheirOrder)
+{
+    Choose(u"study", QPageSize::A4);
+    SetUpPrinter([](QPrintDialog& dialog) {
+        In<QCheckBox>(dialog, u"reverse"_s).setChecked(true);
+        auto& pages = In<QComboBox>(dialog, u"pageSetCombo"_s);
+        pages.setCurrentIndex(pages.findText(u"Odd Pages"_s));
+    });
+    const QString text = PrintDatabaseOn(u"study");
+    EXPECT_EQ(text.count(u'\f'), 2);
+    EXPECT_FALSE(text.contains(u"Anne"));
+    EXPECT_LT(text.indexOf(u"Hugh"), text.indexOf(u"John"));
+}
+
+TEST_F(QueueTest, PropertiesOfTheQueue_AreThoseOfTheJob)
+{
+    Choose(u"study", QPageSize::A4);
+    SetUpPrinter([](QPrintDialog& dialog) {
+        const NextDialog next([](QDialog& properties) {
+            auto& pages = In<QComboBox>(properties, u"pagesPerSheetCombo"_s);
+            pages.setCurrentIndex(pages.findText(u"2"_s, Qt::MatchStartsWith));
+            auto& kind = *In<QScrollArea>(properties, u"scrollArea"_s).findChild<QComboBox*>();
+            kind.setCurrentIndex(kind.findText(u"Photographic"_s));
+            properties.accept();
+        });
+        In<QPushButton>(dialog, u"properties"_s).click();
+    });
+    EXPECT_EQ(PrintDatabaseOn(u"study").count(u'\f'), 2);
+    EXPECT_EQ(OptionOfLastJob("study", "MediaType"), "Photo");
 }
 
 TEST_F(QueueTest, OpenedAgain_TheDialogShowsTheChosenQueue_AndItsPaper)

@@ -4,6 +4,7 @@
 
 #include <QFileInfo>
 #include <QPrintDialog>
+#include <QPrintEngine>
 #include <QPrinterInfo>
 
 #include <cups/cups.h>
@@ -30,10 +31,23 @@ void CopySettings(const QPrinter& from, QPrinter& to)
     to.setPageLayout(from.pageLayout());
     to.setCopyCount(from.copyCount());
     to.setCollateCopies(from.collateCopies());
+    to.setPageOrder(from.pageOrder());
     to.setColorMode(from.colorMode());
     to.setDuplex(from.duplex());
     to.setPrintRange(from.printRange());
     to.setPageRanges(from.pageRanges());
+}
+
+// The toolkit's dialog asks for the order of the pages, but its jobs don't tell the server of it.
+void TellOrderOfPages(const QPrinter& printer)
+{
+    if (printer.outputFormat() != QPrinter::NativeFormat || printer.pageOrder() == QPrinter::FirstPageFirst)
+        return;
+    // Where the dialog leaves what it has to tell the server, names and values in turn.
+    constexpr auto serverOptions = static_cast<QPrintEngine::PrintEnginePropertyKey>(0xFE00);
+    QPrintEngine& engine = *printer.printEngine();
+    const QStringList inReverse{u"outputorder"_s, u"reverse"_s};
+    engine.setProperty(serverOptions, engine.property(serverOptions).toStringList() + inReverse);
 }
 } // namespace
 
@@ -100,6 +114,8 @@ void QtPrintSystem::SetChosen(std::unique_ptr<QPrinter> printer)
     chosenOrientation_ = chosen_ ? chosen_->pageLayout().orientation() : QPageLayout::Portrait;
     chosenFile_ = chosen_ ? chosen_->outputFileName() : QString();
     jobsToFile_ = 0;
+    if (chosen_)
+        TellOrderOfPages(*chosen_);
 }
 
 // On a printer of its own: the dialog changes it before it is accepted.
