@@ -80,8 +80,8 @@ void LeaveGalleryForTree(Program& p)
 void LeaveGalleryForRecords(Program& p)
 {
     forms::Form3& form = *p.Form3;
-    // An export has emptied it.
-    if (p.Record.sPicFile.isEmpty())
+    // An export has emptied it. In a branch without records nobody has a picture to be named.
+    if (p.Record.sPicFile.isEmpty() && !form.Label25.Caption.value().isEmpty())
         SetPictureName(p);
     ShowNamedPicture(p);
     form.Show();

@@ -14,17 +14,19 @@ void CloseBranch(Program& p)
 {
     LeaveToolsIfOpen(p);
     SaveBoxes(p);
+    const QString maidenName = p.Form1->Label15.Caption;
     StoreTyped(p);
     p.Form5->MMControl1.Command(u"Close");
     EraseMap(p);
     p.Branch.UsingAlternate = 0;
 
     forms::Form1& form = *p.Form1;
-    // The maiden name keeps its text.
     EmptySubjectLabels(p,
                        {&forms::Form1::Label9, &forms::Form1::Label10, &forms::Form1::Label11, &forms::Form1::Label12,
                         &forms::Form1::Label14, &forms::Form1::Label17},
                        u"Ref  "_s);
+    // It is meant to keep its text, whatever has been stored meanwhile.
+    form.Label15.Caption = maidenName;
     form.Picture1.Cls();
     form.Image1.Picture = QImage();
     form.Shape1.Visible = false;

@@ -195,5 +195,17 @@ TEST_F(GalleryDoorsTest, EmptyBranch_ShowsOneEmptyTile)
     EXPECT_FALSE(P.Form5->Image1[1].Visible);
 }
 
+TEST_F(GalleryDoorsTest, EmptyBranch_LeftForTheRecordForm_NamesNobodysPicture)
+{
+    Click(P.Form1->mnuCloseDB.Click);
+    ExpectEmptyBox();
+    Choose(u"Nobody");
+    PressOnMap();
+    PressRecords();
+    EXPECT_EQ(P.Record.sPicFile, QString());
+    EXPECT_EQ(P.Record.sCurFile, u"A001"_s);
+    EXPECT_EQ(ColourOf(P.Form3->Image1), u"none"_s);
+}
+
 } // namespace
 } // namespace lineforge

@@ -54,6 +54,30 @@ TEST_F(CloseBranchTest, Subject_IsEmptied_ButForTheMaidenName)
     EXPECT_FALSE(P.Form1->Shape1.Visible);
 }
 
+TEST_F(CloseBranchTest, MaidenName_KeepsWhatItShowed_WhereAnotherWasStillPending)
+{
+    P.Form3->Text16.Text = u"Miller"_s;
+
+    Close();
+
+    EXPECT_EQ(P.Form1->Label15.Caption.value(), u"none"_s);
+    EXPECT_EQ(SqliteFile(Home.Path(u"LfgDat_A/LfgDat_A.mdb")).Value("SELECT Maiden FROM Tree99 WHERE File = 'A001'"),
+              u"Miller"_s);
+}
+
+TEST_F(CloseBranchTest, MaidenName_KeepsWhatItShowed_WhereItWasTypedForNobody)
+{
+    Records(P).MoveLast();
+    Records(P).MoveNext();
+    P.Form3->Text16.Text = u"Miller"_s;
+    Prompts.Expect(u"Image not Present", u"Searched Image File for Sub.Jpg", Buttons::Information);
+    P.Form3->Command2.Click();
+
+    Close();
+
+    EXPECT_EQ(P.Form1->Label15.Caption.value(), u"Miller"_s);
+}
+
 TEST_F(CloseBranchTest, Variables_TellThatNoBranchIsOpen)
 {
     Close();
