@@ -49,11 +49,12 @@ void Refuse(Program& p, const Addition& addition)
 
 // The lowest subscript that no file has; 99 when all are taken. Nothing, after a box, when the last place is in use,
 // which is asked of the one name that ends in an asterisk; so it is meant to be.
-std::optional<int> FreeSubscript(Program& p, const Addition& addition)
+std::optional<int> FreeSubscript(Program& p, const Addition& addition, const QString& key)
 {
-    FixedArray<bool, 1, LastSubscript> taken;
-    for (const QString& name : GalleryFiles(p, p.Record.sCurFile)) {
-        if (SameText(name, QString(p.Record.sCurFile + u"98.*"))) {
+    // A file numbered 0 takes no place that an addition would.
+    FixedArray<bool, 0, LastSubscript> taken;
+    for (const QString& name : GalleryFiles(p, key)) {
+        if (SameText(name, QString(key + u"98.*"))) {
             Refuse(p, addition);
             return std::nullopt;
         }
@@ -87,13 +88,17 @@ void ShowAddedFile(Program& p, int subscript, GalleryKind kind)
 {
     Image& tile = p.Form5->Image1[subscript - 1];
     tile.Picture = PictureOfAddedFile(p, kind);
+    // It may stand there enlarged, empty since its last file was deleted; closed, it shows this one as well.
+    if (p.Gallery.EnlargedTile == subscript - 1)
+        p.Gallery.TilePicture = tile.Picture;
     tile.Tag = p.Scratch.sFileB;
     tile.Visible = true;
     p.Loop.DoEvents();
 }
 
-// A cancelled dialog leaves the current directory in the gallery.
-void CopyChosenFile(Program& p, int subscript, const Addition& addition)
+// A cancelled dialog leaves the current directory in the gallery. The name is the command's own: under the dialog the
+// scanner goes on, and writes its records' numbers where such names are kept.
+void CopyChosenFile(Program& p, const QString& name, int subscript, const Addition& addition)
 {
     const std::optional<QString> chosen =
         p.Prompts.OpenFile({addition.DialogTitle.toString(), addition.Filter.toString()});
@@ -105,7 +110,7 @@ void CopyChosenFile(Program& p, int subscript, const Addition& addition)
         ShowEmptyTile(p, p.Gallery.GalleryTop);
     }
     const QString ending = addition.Ending.isEmpty() ? chosen->right(4) : addition.Ending.toString();
-    p.Scratch.sFileB = p.Gallery.PageDirectory + p.Record.sCurFile + ending;
+    p.Scratch.sFileB = p.Gallery.PageDirectory + name + ending;
     p.Files.FileCopy(p.Scratch.sFileA, p.Scratch.sFileB);
     p.Files.ChDir(p.Branch.WorkDir);
     ShowAddedFile(p, subscript, addition.Kind);
@@ -124,12 +129,11 @@ void AddGalleryFile(Program& p, GalleryKind kind)
     if (p.Gallery.PageRecord.isEmpty())
         return TellNoRecords(p);
     p.Files.ChDir(p.Gallery.PageDirectory);
-    p.Record.sCurFile = GalleryKey(p);
-    const std::optional<int> subscript = FreeSubscript(p, addition);
+    const QString key = GalleryKey(p);
+    const std::optional<int> subscript = FreeSubscript(p, addition, key);
     if (!subscript || *subscript > LastSubscript)
         return;
-    p.Record.sCurFile += SubscriptInName(*subscript);
-    p.Errors.Ignoring([&] { CopyChosenFile(p, *subscript, addition); });
+    p.Errors.Ignoring([&] { CopyChosenFile(p, key + SubscriptInName(*subscript), *subscript, addition); });
 }
 
 } // namespace lineforge

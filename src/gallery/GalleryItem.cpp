@@ -48,7 +48,7 @@ void ShowPage(Program& p, bool isShown)
     form.Command1.Visible = isShown;
     form.Command2.Visible = isShown;
     for (int index = 0; index <= p.Gallery.GalleryTop; ++index)
-        form.Image1[index].Visible = isShown;
+        form.Image1[index].Visible = isShown && IsBuilt(form.Image1[index]);
 }
 
 // A tile keeps a small picture only. The whole one is read first, so that one that can't be leaves the page as it is.

@@ -48,7 +48,7 @@ void PlacePlayers(Program& p, forms::Form5& form)
 
 void ClearPage(Program& p)
 {
-    for (int index = 0; index <= p.Gallery.GalleryTop; ++index) {
+    for (int index = 0; index <= forms::Form5::LastTile; ++index) {
         Image& tile = p.Form5->Image1[index];
         tile.Visible = false;
         tile.Tag = QString();
@@ -116,7 +116,7 @@ void ShowTiles(Program& p, const PageFiles& files, int page)
     for (int index = 0; p.Gallery.Page == page && index <= p.Gallery.GalleryTop; ++index) {
         const int subscript = index + 1;
         const bool hasFile = subscript <= LastSubscript && !files[subscript].ImagePath.isEmpty();
-        if (p.Form5->Image1[index].Visible)
+        if (IsBuilt(p.Form5->Image1[index]))
             continue;
         if (hasFile)
             ShowFile(p, index, files[subscript]);
@@ -141,6 +141,11 @@ void LoadImageGrid(Program& p)
             PlaceTile(form, index);
     }
     PlacePlayers(p, form);
+}
+
+bool IsBuilt(const Image& tile)
+{
+    return !tile.Tag.value().isEmpty();
 }
 
 bool IsPageOfRecord(Program& p)

@@ -8,6 +8,9 @@ namespace lineforge
 // The load of the gallery window: sizes it to the screen, and places its tiles in 7 rows of 14, 100 twips apart.
 void LoadImageGrid(Program& p);
 
+// Whether the page has come to the tile, which may be hidden for the time of an open item: it has its tag then.
+bool IsBuilt(const Image& tile);
+
 // Whether the page on show is that of the record form's record: behind the window the cursor may have gone on.
 bool IsPageOfRecord(Program& p);
 

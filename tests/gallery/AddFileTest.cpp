@@ -211,20 +211,25 @@ TEST_P(AddFileTest, OtherRecordsFiles_TakeNoSubscript)
     EXPECT_TRUE(Home.Exists(InGallery(Named(u"01"))));
 }
 
-TEST_P(AddFileTest, SubscriptOf99Or00_EndsTheProgram)
+TEST_P(AddFileTest, SubscriptOf99_EndsTheProgram)
 {
     OpenGallery({u"A001_01.jpg"_s});
-    for (const QString& name : {u"A001_99.jpg"_s, u"A001_00.jpg"_s}) {
-        GivenFiles({name});
-        ExpectQuestion();
-        const QString subscript = QString::number(name.sliced(5, 2).toInt());
-        ExpectFatalBox(u"Run-time error '9':\n\nSubscript out of range",
-                       u"The list or table that is needed has no place of this number:\n%1\n%2"_s.arg(
-                           subscript, GalleryPathOf(name)));
-        Add();
-        EXPECT_TRUE(ExitCode().has_value());
-        P.Files.Kill(GalleryPathOf(name));
-    }
+    GivenFiles({u"A001_99.jpg"_s});
+    ExpectQuestion();
+    ExpectFatalBox(u"Run-time error '9':\n\nSubscript out of range",
+                   u"The list or table that is needed has no place of this number:\n99\n"_s +
+                       GalleryPathOf(u"A001_99.jpg"));
+    Add();
+    EXPECT_TRUE(ExitCode().has_value());
+}
+
+TEST_P(AddFileTest, SubscriptOf00_TakesNoPlace)
+{
+    OpenGallery();
+    GivenFiles({u"A001_00.jpg"_s});
+    AddSource();
+    EXPECT_EQ(FilesInGallery(), QStringList({u"A001_00.jpg"_s, Named(u"01")}));
+    EXPECT_EQ(ExitCode(), std::nullopt);
 }
 
 TEST_P(AddFileTest, SubscriptThatIsNoNumber_EndsTheProgram)
@@ -340,6 +345,18 @@ TEST_F(AddPictureTest, RecordTheUserHasGoneOnTo_DoesntGetTheFile)
     OpenGallery();
     P.Form3->Data1.Records().MoveNext(); // the scanner runs on behind the gallery
     Add(Home.WriteFile(u"a.jpg", PictureBytes(Qt::red)));
+    EXPECT_EQ(FilesInGallery(), QStringList{u"A001_01.jpg"_s});
+}
+
+TEST_F(AddPictureTest, ScannerThatGoesOnBehindTheDialog_DoesntNameTheFile)
+{
+    OpenGallery();
+    P.Form3->Picture2.Click();
+    ExpectQuestion();
+    Prompts.ExpectOpenFile(picture.DialogTitle, picture.Filter, Home.WriteFile(u"a.jpg", PictureBytes(Qt::red)),
+                           [&] { Click(P.Form3->Timer1.Tick); });
+    Click(P.Form5->mnuPic.Click);
+    EXPECT_EQ(P.Form3->Label25.Caption.value(), u"A002"_s);
     EXPECT_EQ(FilesInGallery(), QStringList{u"A001_01.jpg"_s});
 }
 

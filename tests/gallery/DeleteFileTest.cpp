@@ -59,6 +59,20 @@ TEST_F(DeleteFileTest, HighestFile_TakesTheTrailingTileAway_AndItsOwnTileOpensEm
     EXPECT_EQ(State(), 0);
 }
 
+TEST_F(DeleteFileTest, FileAddedToTheTileThatHasOpenedEmpty_StaysThereWhenItIsClosed)
+{
+    OpenGallery({u"A001_01.jpg"_s, u"A001_02.jpg"_s});
+    BeginDeletion();
+    ClickTile(1);
+    Prompts.Expect(u"Gallery Sound Clip Addition.", u"Add new *.Wav Sound clip ?", Buttons::QuestionOkCancel);
+    Prompts.ExpectOpenFile(u"Select Sound Clip Source File", u"Audio(*.Wav)|*.Wav|All Files(*.*)|*.*|",
+                           Home.WriteFile(u"bells.wav", "ding"));
+    Click(P.Form5->mnuAud.Click);
+    ClickTile(1);
+    EXPECT_EQ(Page(), QStringList({u"0 A001_01.jpg blue"_s, u"1 A001_02.wav sound"_s, u"2 3 empty"_s}));
+    EXPECT_EQ(State(), 0);
+}
+
 TEST_F(DeleteFileTest, HighestSound_EndsInTheBoxOfAMissingFile)
 {
     OpenGallery({u"A001_01.wav"_s});

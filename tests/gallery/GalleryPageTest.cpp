@@ -187,6 +187,39 @@ TEST_F(GalleryPageTest, FileAddedWhileThePageIsBuilt_KeepsItsTile)
               QStringList({u"0 A001_01.jpg blue"_s, u"1 A001_02.txt text"_s, u"2 A001_03.jpg blue"_s, u"3 4 empty"_s}));
 }
 
+TEST_F(GalleryPageTest, PictureOpenedAndClosedWhileThePageIsBuilt_KeepsNoTileFromItsFile)
+{
+    GivenFiles({u"A001_01.jpg"_s, u"A001_02.jpg"_s, u"A001_03.jpg"_s});
+    Choose(u"Smiths");
+    QStringList closed;
+    Machine.Loop.AtNextYield([] {});
+    Machine.Loop.AtNextYield([&] {
+        ClickTile(0);
+        ClickTile(0);
+        closed = Page();
+    });
+    Click(P.Form1->Command2.Click);
+    EXPECT_EQ(closed, QStringList{u"0 A001_01.jpg blue"_s});
+    EXPECT_EQ(Page(),
+              QStringList({u"0 A001_01.jpg blue"_s, u"1 A001_02.jpg blue"_s, u"2 A001_03.jpg blue"_s, u"3 4 empty"_s}));
+}
+
+// The tile behind the page, hidden by the deletion, is one of the next page's.
+TEST_F(GalleryPageTest, PageAfterADeletionOfTheHighestFile_HasAllItsTiles)
+{
+    OpenGallery({u"A001_01.jpg"_s, u"A002_01.jpg"_s, u"A002_02.jpg"_s, u"A002_03.jpg"_s});
+    Prompts.Expect(u"Deleting Gallery File.", u"Click on the File Icon you want to Delete.",
+                   Buttons::InformationOkCancel);
+    Click(P.Form5->MnuDeleteFile.Click);
+    ClickTile(0);
+    ClickTile(0);
+    P.Form3->Data1.Records().MoveNext();
+    P.Gallery.FirstShow = 1;
+    Click(P.Form1->Command2.Click);
+    EXPECT_EQ(Page(),
+              QStringList({u"0 A002_01.jpg blue"_s, u"1 A002_02.jpg blue"_s, u"2 A002_03.jpg blue"_s, u"3 4 empty"_s}));
+}
+
 TEST_F(GalleryPageTest, BranchClosedWhileThePageIsBuilt_EndsIt)
 {
     GivenFiles({u"A001_01.jpg"_s, u"A001_02.jpg"_s});
