@@ -1,6 +1,7 @@
 #include "compare/CompareClipboard.h"
 
 #include "compare/CompareSearch.h"
+#include "compare/RefusedChange.h"
 #include "compare/Sides.h"
 
 namespace lineforge
@@ -40,14 +41,16 @@ void Store(Program& p, const QString& text)
     if (HasRecord(p, box.Owner) && !IsSeen(p))
         return;
     const QString field = box.Field.isEmpty() ? p.Compare.sCompField : box.Field.toString();
-    if (box.Field.isEmpty())
-        ShowField(p, box.Owner, text);
-    else
-        ((*p.Form6).*box.Box).Text = text;
-    Recordset& records = box.Owner.Records(p);
-    records.Edit();
-    records.Put(field, text);
-    records.Update();
+    ChangeOrShowAgain(p, box.Owner, [&] {
+        if (box.Field.isEmpty())
+            ShowField(p, box.Owner, text);
+        else
+            ((*p.Form6).*box.Box).Text = text;
+        Recordset& records = box.Owner.Records(p);
+        records.Edit();
+        records.Put(field, text);
+        records.Update();
+    });
 }
 } // namespace
 

@@ -1,6 +1,7 @@
 #include "compare/FieldCopy.h"
 
 #include "compare/CompareSearch.h"
+#include "compare/RefusedChange.h"
 #include "compare/Sides.h"
 #include "platform/Number.h"
 #include "platform/Text.h"
@@ -117,19 +118,16 @@ void CopyField(Program& p)
     if (!IsPairSeen(p))
         return;
     const QString& field = p.Compare.sCompField;
-    const QString before = ((*p.Form6).*way.To.Field).Text;
     try {
-        Recordset& to = way.To.Records(p);
-        const FieldValue value = way.From.Records(p).Value(field);
-        to.Edit();
-        to.Put(field, value);
-        ShowField(p, way.To, value.value_or(QString()));
-        to.Update();
+        ChangeOrShowAgain(p, way.To, [&] {
+            Recordset& to = way.To.Records(p);
+            const FieldValue value = way.From.Records(p).Value(field);
+            to.Edit();
+            to.Put(field, value);
+            ShowField(p, way.To, value.value_or(QString()));
+            to.Update();
+        });
     } catch (const RuntimeError& refusal) {
-        // Nothing that was refused may stay behind for the next saving.
-        if (DataControl& data = way.To.Data(p); data.IsOpen())
-            data.Records().CancelUpdate();
-        ShowField(p, way.To, before);
         if (refusal.IsTold)
             return;
         p.Prompts.MsgBox(u"Copy Error"_s, u"There is no record to copy across."_s, Buttons::Information);
@@ -141,10 +139,12 @@ void CopyAllFields(Program& p)
     if (!IsPairSeen(p))
         return;
     const Direction& way = DirectionOf(p);
-    Recordset& to = way.To.Records(p);
-    to.Edit();
-    CopyFields(way.From.Records(p), to);
-    to.Update();
+    ChangeOrShowAgain(p, way.To, [&] {
+        Recordset& to = way.To.Records(p);
+        to.Edit();
+        CopyFields(way.From.Records(p), to);
+        to.Update();
+    });
 }
 
 // Both begin with the compare recordset's first record: to the current branch it is that one which is appended, not the

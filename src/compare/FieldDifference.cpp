@@ -194,6 +194,12 @@ void FieldDifferenceSearch(Program& p)
     }
 }
 
+QStringView FieldNamedBy(const QString& caption)
+{
+    const auto named = std::ranges::find(ComparedFields, caption, &ComparedField::Caption);
+    return named == ComparedFields.end() ? QStringView() : named->Field;
+}
+
 void ShowComparePair(Program& p)
 {
     const PersonTexts current = ReadPerson(p, CurrentSide, NullForename::Refused);

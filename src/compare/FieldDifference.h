@@ -9,6 +9,9 @@ namespace lineforge
 // end of a pair that was searched for says so, else goes on with the next pair. The ends of the recordsets are told.
 void FieldDifferenceSearch(Program& p);
 
+// The field of the table that such a caption names; empty when it names none.
+QStringView FieldNamedBy(const QString& caption);
+
 // Both sides' records. Error 94 for a forename that is Null.
 void ShowComparePair(Program& p);
 

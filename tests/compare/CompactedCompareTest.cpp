@@ -116,6 +116,31 @@ TEST_F(CompactedCompareTest, FieldNotCopiedForThatReason_GetsNoSecondBox)
     EXPECT_EQ(Stored(u'B', "Surname", "B002"), u"our Surname"_s);
 }
 
+TEST_F(CompactedCompareTest, RecordChangedSinceItWasShown_IsShownAsItIsNow)
+{
+    Search();
+    ASSERT_EQ(Captions(), u"Field: Surname|Field: Surname"_s);
+    Machine.Clipboard.Text = u"pasted"_s;
+    Click(P.Form6->Text4.Click);
+    const std::pair<const Event*, QByteArray> commands[] = {
+        {&P.Form6->Command3.Click, "once"}, {&P.Form6->Command7.Click, "twice"}, {&P.Form6->mnuPaste.Click, "thrice"}};
+    for (const auto& [command, change] : commands) {
+        ChangeOutside(u'B', "UPDATE Tree99 SET Surname = '" + change + "', Forename = '" + change +
+                                " more' WHERE File = 'B002'");
+        Tell(u"Record changed", u"Record B002 has been changed by another program.\n"
+                                u"Nothing was stored. The Record is shown as it is now.");
+        Click(*command);
+
+        EXPECT_EQ(Texts(), u"our Surname|"_s + QString::fromLatin1(change));
+        EXPECT_EQ(P.Form6->Text3.Text.value(), QString::fromLatin1(change));
+        EXPECT_EQ(P.Form6->Text6.Text.value(), QString::fromLatin1(change + " more"));
+        EXPECT_EQ(Captions(), u"Field: Surname|Field: Surname"_s);
+        EXPECT_EQ(ShownPair(), u"A002 B002"_s);
+    }
+    Click(P.Form6->Command7.Click);
+    EXPECT_EQ(Stored(u'B', "Surname", "B002"), u"our Surname"_s);
+}
+
 // The same files, held by another program that isn't waited for.
 class LockedCompareTest : public CompactedCompareTest
 {
@@ -157,6 +182,23 @@ TEST_F(LockedCompareTest, FieldsThatAreNotCopied_AreCopiedTheNextTime)
     ExpectUnchanged();
     Click(P.Form6->Command7.Click);
     EXPECT_EQ(Stored(u'B', "Surname", "B002"), u"our Surname"_s);
+}
+
+TEST_F(LockedCompareTest, BoxThatIsNotCutOrPastedInto_GetsItsStoredTextBack)
+{
+    SearchTimes(2);
+    ASSERT_EQ(Captions(), u"Field: Forename|Field: Forename"_s);
+    Machine.Clipboard.Text = u"pasted"_s;
+    for (const TextBox* box : {&P.Form6->Text3, &P.Form6->Text4})
+        for (const Event* command : {&P.Form6->mnuPaste.Click, &P.Form6->mnuCut.Click}) {
+            Click(box->Click);
+            GiveUp(*command);
+            ExpectUnchanged();
+            EXPECT_EQ(CompareTest::Surnames(), u"our Surname|their Surname"_s);
+            EXPECT_EQ(Texts(), u"our Forename|their Forename"_s);
+            EXPECT_EQ(P.Form6->Text4.Marked.value(), TextRange(0, 4));
+            Machine.Clipboard.Text = u"pasted"_s;
+        }
 }
 
 TEST_F(LockedCompareTest, RecordThatIsNotAppended_IsNotShownAsIfItWere)

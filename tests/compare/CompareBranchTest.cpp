@@ -41,7 +41,7 @@ TEST_F(CompareBranchTest, Command_BeginsWithTheFirstRecord_WhereverTheFormStood)
     EXPECT_TRUE(P.Form6->Visible);
     EXPECT_TRUE(P.Form1->Command5.Visible);
     EXPECT_EQ(P.Compare.ResetDone, 0);
-    EXPECT_EQ(P.Compare.sCompField, u"Notes"_s);
+    EXPECT_EQ(P.Compare.sCompField, QString());
 }
 
 TEST_F(CompareBranchTest, Command_SelectsNoField_SoThatCutTakesTheFatalPath)
@@ -54,6 +54,27 @@ TEST_F(CompareBranchTest, Command_SelectsNoField_SoThatCutTakesTheFatalPath)
     Click(P.Form6->mnuCut.Click);
     EXPECT_TRUE(ExitCode().has_value());
     EXPECT_EQ(Stored(u'A', "Surname", "A001"), u"Smith"_s);
+}
+
+// The window names the surname.
+TEST_F(CompareBranchTest, CommandAfterASearch_LeavesNoFieldToBeWritten)
+{
+    GivenOpenBranch();
+    Compare();
+    ChooseCompare(u"Jones");
+    SearchTimes(2);
+    ASSERT_EQ(Captions(), u"Field: Forename|Field: Forename"_s);
+    const auto ours = Rows(u'A');
+    const auto theirs = Rows(u'B');
+    Compare();
+    Tell(u"Copy Error", u"There is no record to copy across.");
+    Click(P.Form6->Command3.Click);
+    P.Form6->Text2.Click();
+    ExpectFatalBox(u"Run-time error '3265':\n\nItem not found in this collection.",
+                   u"The records have no such field:\n\n"_s + Home.Path(u"LfgDat_A/LfgDat_A.mdb"));
+    Click(P.Form6->mnuCut.Click);
+    EXPECT_EQ(Rows(u'A'), ours);
+    EXPECT_EQ(Rows(u'B'), theirs);
 }
 
 TEST_F(CompareBranchTest, NullNames_AreShownEmpty)

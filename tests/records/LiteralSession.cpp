@@ -144,6 +144,7 @@ void LiteralSession::OpenComparison()
     ShowSide(Ours, ReadSide(Current, true));
     Ours.Field = Ours.Surname;
     Ours.FieldCaption = u"Field: Surname"_s;
+    CompField.clear();
     IsCompareButtonVisible = true;
     ResetDone = 0;
     IsCompareVisible = true;
@@ -352,7 +353,6 @@ void LiteralSession::Store(const QString& text)
 {
     if (HasRow(SelBox <= 2 ? Current : Compare) && !IsSeen())
         return;
-    BoxText(SelBox) = text;
     const bool isField = SelBox == 2 || SelBox == 4;
     LiteralCursor& cursor = SelBox <= 2 ? Current : RequireCompare();
     const QString field = isField ? CompField : u"Surname"_s;
@@ -360,6 +360,7 @@ void LiteralSession::Store(const QString& text)
     if (field == u"Nation" || field == u"Father" || field == u"Mother" || field.isEmpty())
         throw RuntimeError(ErrorNumber::ItemNotFound, field + u'\n' + DatabaseOf(cursor.Letter));
     Put(cursor, field, text);
+    BoxText(SelBox) = text;
     Update(cursor);
 }
 

@@ -1,0 +1,42 @@
+#include "compare/RefusedChange.h"
+
+#include "compare/FieldDifference.h"
+
+namespace lineforge
+{
+
+namespace
+{
+// Another program has it in use or has changed it: what is written over the next time has been seen.
+void ShowAsItIsNow(Program& p, const Side& side)
+{
+    if (!IsOnShow(p, side))
+        return;
+    const PersonTexts person = ReadPerson(p, side, NullForename::Empty);
+    const QStringView field = FieldNamedBy(((*p.Form6).*side.FieldFrame).Caption);
+    const FieldValue text = field.isEmpty() ? FieldValue() : side.Records(p).Text(field);
+    ShowPerson(p, side, person);
+    if (text)
+        ShowField(p, side, *text);
+}
+} // namespace
+
+void ChangeOrShowAgain(Program& p, const Side& side, const std::function<void()>& change)
+{
+    forms::Form6& form = *p.Form6;
+    const QString surname = (form.*side.Surname).Text;
+    const QString field = (form.*side.Field).Text;
+    try {
+        change();
+    } catch (const RuntimeError& refusal) {
+        if (DataControl& data = side.Data(p); data.IsOpen())
+            data.Records().CancelUpdate();
+        (form.*side.Surname).Text = surname;
+        ShowField(p, side, field);
+        if (refusal.IsTold)
+            p.Errors.Ignoring([&] { ShowAsItIsNow(p, side); });
+        throw;
+    }
+}
+
+} // namespace lineforge
