@@ -64,12 +64,15 @@ void PutLine(Program& p, ReportLine line, QByteArrayView content)
         p.Form11->Picture1.Print(DecodeText(Filled(forms.Panel, content)));
 }
 
+// What is done meanwhile uses the state word as well, on which the next seek decides where it stops.
 void ConvertStep(Program& p)
 {
+    const Integer16 scanState = p.Scratch.ScanState;
     if (p.Form11.IsLoaded())
         StepPanel(p, p.Form11->Picture1, p.Form11->VScroll1);
     else
         p.Loop.DoEvents();
+    p.Scratch.ScanState = scanState;
 }
 
 } // namespace lineforge

@@ -114,10 +114,10 @@ bool KeepPositionInBranch(Program& p)
     return true;
 }
 
-// Stands on the record of `sCurFile`; false, and a box, when there is none. The switch of branch stays.
-bool FindPressedRecord(Program& p)
+// Stands on the record; false, and a box, when there is none. The switch of branch stays.
+bool FindPressedRecord(Program& p, const QString& file)
 {
-    if (Records(p).Seek(u"File", p.Record.sCurFile))
+    if (Records(p).Seek(u"File", file))
         return true;
     Tell(p, u"Database Searched"_s, u"No File data found"_s);
     ComeBack(p);
@@ -125,12 +125,12 @@ bool FindPressedRecord(Program& p)
 }
 
 // Ties the pressed box to a record, or asks when it has one. An empty box belongs to no other branch.
-void MapPressedBox(Program& p)
+void MapPressedBox(Program& p, const QString& file)
 {
-    const bool isEmptyBox = p.Record.sCurFile.startsWith(u'0');
-    if (!isEmptyBox && (!GoToBranchOf(p, p.Record.sCurFile) || !KeepPositionInBranch(p)))
+    const bool isEmptyBox = file.startsWith(u'0');
+    if (!isEmptyBox && (!GoToBranchOf(p, file) || !KeepPositionInBranch(p)))
         return;
-    if (Records(p).Seek(u"File", p.Record.sCurFile))
+    if (Records(p).Seek(u"File", file))
         AskSubjectPicture(p);
     else
         MapNewSubject(p);
@@ -147,10 +147,10 @@ void MarkSubject(Program& p)
         p.Screen.Pointer = MousePointer::Cross;
 }
 
-void ShowPressedSubject(Program& p)
+void ShowPressedSubject(Program& p, const QString& file)
 {
-    const bool isEmptyBox = p.Record.sCurFile == u"0" && p.Tools.MapCursorMode == MapCursor::Normal;
-    if (isEmptyBox || !GoToBranchOf(p, p.Record.sCurFile) || !KeepPositionInBranch(p) || !FindPressedRecord(p))
+    const bool isEmptyBox = file == u"0" && p.Tools.MapCursorMode == MapCursor::Normal;
+    if (isEmptyBox || !GoToBranchOf(p, file) || !KeepPositionInBranch(p) || !FindPressedRecord(p, file))
         return;
     ShowRecordOnMap(p);
     p.Form1->Image1.Visible = true;
@@ -198,13 +198,15 @@ void DoubleClickOnMap(Program& p)
         MapNewSubject(p);
         return;
     }
-    p.Record.sCurFile = PressedNumber(p);
-    if (p.Record.sCurFile.isEmpty())
+    // On the way there a box may open, under which the scanner puts its own record at hand.
+    const QString file = PressedNumber(p);
+    p.Record.sCurFile = file;
+    if (file.isEmpty())
         return;
     if (isMapping)
-        MapPressedBox(p);
+        MapPressedBox(p, file);
     else
-        ShowPressedSubject(p);
+        ShowPressedSubject(p, file);
 }
 
 } // namespace lineforge

@@ -53,7 +53,7 @@ void StopMapping(Program& p)
 
 void TellNotPresent(Program& p, const QString& text)
 {
-    p.Prompts.MsgBox(u"Record not Present"_s, text + p.Record.sCurFile, Buttons::Information);
+    p.Prompts.MsgBox(u"Record not Present"_s, text, Buttons::Information);
     StopMapping(p);
 }
 
@@ -120,30 +120,33 @@ void MapFirstRecord(Program& p)
     p.Record.sCurFile = p.Mapping.NewFile;
 }
 
-// False, and a box, when no number of four characters was entered, or one that would break the map file.
-bool TakeEnteredNumber(Program& p)
+// Nothing, and a box, when no number of four characters was entered, or one that would break the map file. Kept by the
+// command: under each further box the scanner puts its own record at hand.
+std::optional<QString> TakeEnteredNumber(Program& p)
 {
-    p.Record.sCurFile = p.Form7->Text1.Text;
-    if (p.Record.sCurFile.size() == numberLength && FitsList(p.Record.sCurFile))
-        return true;
-    TellNotPresent(p, u"Incorrect Record Number "_s);
-    return false;
+    const QString number = p.Form7->Text1.Text;
+    p.Record.sCurFile = number;
+    if (number.size() == numberLength && FitsList(number))
+        return number;
+    TellNotPresent(p, u"Incorrect Record Number "_s + number);
+    return std::nullopt;
 }
 
 // False, and a box, when the open database has no such record.
-bool StandOnEnteredRecord(Program& p)
+bool StandOnRecord(Program& p, const QString& number)
 {
-    if (Records(p).Seek(u"File", p.Record.sCurFile))
+    if (Records(p).Seek(u"File", number))
         return true;
-    TellNotPresent(p, u"Record not Found: "_s);
+    TellNotPresent(p, u"Record not Found: "_s + number);
     return false;
 }
 
 bool MapUnmappedRecord(Program& p)
 {
-    if (!TakeEnteredNumber(p) || !StandOnEnteredRecord(p))
+    const std::optional<QString> number = TakeEnteredNumber(p);
+    if (!number || !StandOnRecord(p, *number))
         return false;
-    LinkBox(p, PressedBox(p), p.Record.sCurFile, Records(p).Text(u"Forename"));
+    LinkBox(p, PressedBox(p), *number, Records(p).Text(u"Forename"));
     p.Mapping.MapOption = newRecord;
     SaveBoxes(p);
     return true;
@@ -151,23 +154,25 @@ bool MapUnmappedRecord(Program& p)
 
 bool MapAlternateRecord(Program& p)
 {
-    if (!TakeEnteredNumber(p))
+    const std::optional<QString> number = TakeEnteredNumber(p);
+    if (!number)
         return false;
+    const QString letter = number->first(1);
     // Before the box is tied to it.
-    if (!TakeOldSibling(p, p.Record.sCurFile.first(1)))
+    if (!TakeOldSibling(p, letter))
         return false;
-    const auto sibling = ReachDatabase(p, DatabasePath(SiblingDirectory(p.Branch.WorkDir, p.Record.sCurFile.first(1))));
-    Records(p).Seek(u"File", p.Record.sCurFile);
+    const auto sibling = ReachDatabase(p, DatabasePath(SiblingDirectory(p.Branch.WorkDir, letter)));
+    Records(p).Seek(u"File", *number);
     const std::optional<int> row = PressedBox(p);
     p.Screen.Pointer = MousePointer::Hourglass;
-    LinkBox(p, row, p.Record.sCurFile);
+    LinkBox(p, row, *number);
     p.Mapping.PictureOption = leaveUntilLater;
     DrawBoxCaptions(p);
     SaveBoxes(p);
-    SwitchToSibling(p, p.Record.sCurFile.first(1));
+    SwitchToSibling(p, letter);
     for (Button forms::Form3::*transport : forms::Form3::Transport)
         ((*p.Form3).*transport).Enabled = false;
-    return StandOnEnteredRecord(p);
+    return StandOnRecord(p, *number);
 }
 
 bool MapByOption(Program& p)

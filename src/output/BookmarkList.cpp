@@ -58,13 +58,13 @@ void PutOutRecord(Program& p, Pairs& pairs)
 // for the branch's records is no database.
 bool PutOutRecordOfSibling(Program& p, const QString& entry, Pairs& pairs)
 {
-    const auto goBack = qScopeGuard([&p] { p.Errors.Ignoring([&p] { ReturnFromSibling(p); }); });
     try {
         SwitchToSibling(p, entry.left(1));
     } catch (const RuntimeError& refusal) {
         p.Errors.Last = refusal;
         return refusal.Number != ErrorNumber::NotADatabase;
     }
+    const auto goBack = qScopeGuard([&p] { p.Errors.Ignoring([&p] { ReturnFromSibling(p); }); });
     bool isThere = false;
     p.Errors.Ignoring([&] { isThere = Records(p).Seek(u"File", entry); });
     if (isThere)

@@ -33,6 +33,24 @@ TEST_F(GedcomYieldTest, TheScratchUsedMeanwhile_DoesntMoveTheReport)
     EXPECT_FALSE(Home.Exists(u"elsewhere.txt"));
 }
 
+// Whoever opens a window or closes a picture meanwhile must not give one person another's dates.
+TEST_F(GedcomYieldTest, TheStateWordUsedMeanwhile_DoesntMoveTheReport)
+{
+    const QByteArray family = "0 HEAD\n0 @I1@ INDI\n2 GIVN John\n2 SURN Smith\n"
+                              "0 @I2@ INDI\n2 GIVN Mary\n2 SURN Jones\n1 SEX F\n1 BIRT\n2 DATE 1902\n"
+                              "0 @F1@ FAM\n1 HUSB @I1@\n1 WIFE @I2@\n" +
+                              Trailer;
+    P.Scratch.ScanState = 0;
+    const QByteArray report = ReportOf(family);
+    const int yields = Machine.Loop.Yields;
+    for (const int state : {0, 1, 3, 6})
+        for (int yield = 2; yield <= yields; ++yield) { // the first comes before anything is read
+            P.Scratch.ScanState = 0;
+            AtYield(yield, [&] { P.Scratch.ScanState = state; });
+            EXPECT_EQ(ReportOf(family), report) << state << " at " << yield;
+        }
+}
+
 TEST_F(GedcomYieldTest, TheWindowClosedMeanwhile_StaysClosedWhileTheReportIsWritten)
 {
     const QByteArray report = ReportOf(SmallFamily + Trailer);

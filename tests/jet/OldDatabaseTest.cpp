@@ -462,6 +462,53 @@ TEST_F(OldCaptionsTest, NeighbourOfAnOlderInstallation_IsConverted)
     EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_A"));
 }
 
+// The box that stands between the number and the map is no reason for another number.
+TEST_F(OldCaptionsTest, ScannerThatGoesOnBehindTheBox_DoesntChangeTheNumberThatIsMapped)
+{
+    GivenOldBranch(u'B', u"jet3/royals12.mdb"_s);
+    Home.WriteFile(u"LfgDat_B/LfgDat_B.ldb", "a computer");
+    BranchOf(u'A').Boxes(u"1200,600,255,A001,John,2000,600,255,0,,").Build();
+    StartProgram(P);
+    Choose(u"Smiths");
+    P.Form3->Picture4.Click();
+    P.Form1->mnuMapSubject.Click();
+    P.Form7->Option3.Click();
+    P.Form7->Text1.Text = u"B007"_s;
+    P.Form7->Command1.Click();
+    P.Mouse.DownX = 2100;
+    P.Mouse.DownY = 700;
+    Prompts.Expect(u"Old Database may be in use",
+                   u"LfgDat_B.ldb shows that another program may have this database open.\n"
+                   u"What that program writes from now on is not taken over.",
+                   Buttons::Information, Answer::Ok, [&] { Click(P.Form3->Timer1.Tick); });
+    Prompts.Expect(u"Record not Present", u"Record not Found: B007", Buttons::Information);
+
+    Click(P.Form1->Picture1.DblClick);
+
+    EXPECT_TRUE(MapOf(u'A').contains("2000,600,255,B007,,"));
+}
+
+TEST_F(OldCaptionsTest, ScannerThatGoesOnBehindTheBox_DoesntChangeTheRecordThatIsShown)
+{
+    BranchOf(u'A').Boxes(u"1200,600,255,A001,John,2000,600,255,B007,,").Build();
+    StartProgram(P);
+    Choose(u"Smiths");
+    GivenOldBranch(u'B', u"jet4/royals12.mdb"_s);
+    Home.WriteFile(u"LfgDat_B/LfgDat_B.ldb", "a computer");
+    P.Form3->Picture2.Click();
+    P.Mouse.DownX = 2100;
+    P.Mouse.DownY = 700;
+    Prompts.Expect(u"Old Database may be in use",
+                   u"LfgDat_B.ldb shows that another program may have this database open.\n"
+                   u"What that program writes from now on is not taken over.",
+                   Buttons::Information, Answer::Ok, [&] { Click(P.Form3->Timer1.Tick); });
+    Prompts.Expect(u"Database Searched", u"No File data found", Buttons::Information);
+
+    Click(P.Form1->Picture1.DblClick);
+
+    EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_B"));
+}
+
 TEST_F(OldCaptionsTest, SpoiltNeighbour_CostsNoBox)
 {
     GivenOldBranch(u'B', u"jet4/broken/tdef_ff.mdb"_s);

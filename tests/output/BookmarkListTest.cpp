@@ -251,6 +251,23 @@ TEST_F(BookmarkListTest, EntryOfABranchThatIsGone_IsPassedOver)
     EXPECT_EQ(Current(), u"A001"_s);
 }
 
+// The map of the branch before shows somebody of a sibling, so that its directory has been kept for the way back.
+TEST_F(BookmarkListTest, EntryOfABranchThatIsGone_DoesntLeadBackToTheBranchThatWasOpenBefore)
+{
+    GivenPeople(2);
+    Choose(u"Jones");
+    GivenBookmarks({u"Q001"_s, u"B001"_s});
+    GoTo(u"B002");
+    const QString kept = P.Branch.WorkDirSaved;
+
+    Print();
+
+    EXPECT_EQ(RecordsOnJobs(), Pages({{u"B001"_s}}));
+    EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_B"));
+    EXPECT_EQ(P.Branch.WorkDirSaved, kept);
+    EXPECT_EQ(Current(), u"B002"_s);
+}
+
 TEST_F(BookmarkListTest, EntryOfASpoiltBranch_IsPassedOver)
 {
     GivenPeople(1);
