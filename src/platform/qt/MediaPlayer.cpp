@@ -22,8 +22,8 @@ namespace lineforge
 
 namespace
 {
-// How long a file may take until it can be played, in milliseconds.
-constexpr int patience = 5000;
+// Of a file on which the toolkit never decides, in milliseconds.
+constexpr int patience = 20'000;
 constexpr int soundStep = 100; // milliseconds
 // Of a film that doesn't tell how long it shows a picture.
 constexpr double usualPicturesASecond = 25;
@@ -41,21 +41,34 @@ struct MediaPlayer::Machine {
     {
         Player.setAudioOutput(&Loudspeaker);
         Player.setVideoSink(&Screen);
+        QObject::connect(&Screen, &QVideoSink::videoFrameChanged, &Listener, [this](const QVideoFrame& frame) {
+            if (frame.isValid())
+                Picture = frame;
+        });
     }
 
-    bool HasFailed() const
-    {
-        return Player.error() != QMediaPlayer::NoError || Player.mediaStatus() == QMediaPlayer::InvalidMedia;
-    }
+    // An error that leaves the file valid stops nothing: a track that nobody can decode, a device that isn't there.
+    bool HasFailed() const { return !Player.isAvailable() || Player.mediaStatus() == QMediaPlayer::InvalidMedia; }
 
+    // What follows may have begun when it is asked.
     bool IsLoaded() const
     {
         const QMediaPlayer::MediaStatus status = Player.mediaStatus();
-        return status == QMediaPlayer::LoadedMedia || status == QMediaPlayer::BufferedMedia;
+        return status == QMediaPlayer::LoadedMedia || status == QMediaPlayer::BufferingMedia ||
+               status == QMediaPlayer::BufferedMedia;
     }
 
-    bool IsPlayable() const { return !HasFailed() && IsLoaded() && (Player.hasAudio() || Player.hasVideo()); }
+    // A film without a sound is nothing before its first picture.
+    bool IsPlayable() const { return !HasFailed() && IsLoaded() && (Player.hasAudio() || Picture.isValid()); }
 
+    // It ends without a picture if there is none that can be decoded.
+    bool IsDecided() const
+    {
+        return HasFailed() || IsPlayable() || (IsLoaded() && !Player.hasVideo()) ||
+               Player.mediaStatus() == QMediaPlayer::EndOfMedia;
+    }
+
+    QVideoFrame Picture; // the last one that was to be seen
     QAudioOutput Loudspeaker;
     QVideoSink Screen;
     QMediaPlayer Player;
@@ -93,16 +106,18 @@ void MediaPlayer::Load(const QString& path)
     QMediaPlayer& player = machine_->Player;
     QEventLoop loop;
     const auto leaveWhenDecided = [&loop, machine = machine_.get()] {
-        if (machine->HasFailed() || machine->IsLoaded())
+        if (machine->IsDecided())
             loop.quit();
     };
     QObject::connect(&player, &QMediaPlayer::mediaStatusChanged, &loop, leaveWhenDecided);
+    QObject::connect(&player, &QMediaPlayer::hasAudioChanged, &loop, leaveWhenDecided);
     QObject::connect(&player, &QMediaPlayer::errorOccurred, &loop, leaveWhenDecided);
+    QObject::connect(&machine_->Screen, &QVideoSink::videoFrameChanged, &loop, leaveWhenDecided);
     QObject::connect(&machine_->Listener, &QObject::destroyed, &loop, &QEventLoop::quit);
     QTimer::singleShot(patience, &loop, &QEventLoop::quit);
     player.setSource(QUrl::fromLocalFile(path));
     player.pause(); // a player that has been stopped shows no picture
-    if (!machine_->HasFailed() && !machine_->IsLoaded())
+    if (!machine_->IsDecided())
         loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
@@ -117,7 +132,7 @@ void MediaPlayer::Follow()
     QObject::connect(&player, &QMediaPlayer::mediaStatusChanged, listener, showPosition);
     // Later, since a player can't be told to stop by what it is just telling; once, since stopping may fail as well.
     const auto giveUp = [this] {
-        if (IsPlaying())
+        if (IsPlaying() && machine_->HasFailed())
             Stop();
     };
     QObject::connect(&player, &QMediaPlayer::errorOccurred, listener, giveUp, Qt::QueuedConnection);
@@ -126,7 +141,7 @@ void MediaPlayer::Follow()
             control_.Screen = frame.toImage();
     };
     QObject::connect(&machine_->Screen, &QVideoSink::videoFrameChanged, listener, show);
-    show(machine_->Screen.videoFrame());
+    show(machine_->Picture);
 }
 
 // The toolkit tells the last position some time before it stops, or never: the end is reached when it has stopped. A

@@ -117,7 +117,8 @@ TEST_F(PlayerTest, WhatCannotBePlayedIsRefused)
                                           {u"text.wav"_s, "A text that has been given another name.\r\n"},
                                           {u"head.avi"_s, film.first(12)},
                                           {u"cut.avi"_s, film.first(300)},
-                                          {u"cut.wav"_s, sound.first(30)}};
+                                          {u"cut.wav"_s, sound.first(30)},
+                                          {u"unseen.avi"_s, FilmThatNobodyCanSee(false)}};
     for (auto file = files.begin(); file != files.end(); ++file) {
         const QString path = Home.WriteFile(file.key(), file.value());
         EXPECT_EQ(RefusalOf([this, path] { Open(path); }), ErrorNumber::InvalidFileFormat) << qPrintable(file.key());
