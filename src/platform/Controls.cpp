@@ -3,6 +3,7 @@
 #include <QDir>
 
 #include <algorithm>
+#include <limits>
 
 namespace lineforge
 {
@@ -29,14 +30,19 @@ TextBox::TextBox(Container& parent, QStringView name, Rectangle place, int maxLe
 {
 }
 
+int LongestText(int limit, qsizetype present)
+{
+    return limit == 0 ? std::numeric_limits<int>::max() : std::max(limit, static_cast<int>(present));
+}
+
 void TextBox::ReplaceSelection(const QString& text)
 {
     const QString before = Text;
+    if (Locked)
+        return;
     const qsizetype start = std::clamp<qsizetype>(SelStart, 0, before.size());
     const qsizetype rest = std::min(start + SelText.size(), before.size());
-    const qsizetype room =
-        MaxLength > 0 ? std::max<qsizetype>(0, MaxLength - (start + before.size() - rest)) : text.size();
-    const QString taken = text.left(room);
+    const QString taken = text.left(LongestText(MaxLength, before.size()) - (start + before.size() - rest));
     // Nothing put in the place of nothing is no edit: a field that was never filled in stays so.
     if (const QString after = before.first(start) + taken + before.sliced(rest); after != before)
         Text = after;

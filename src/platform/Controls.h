@@ -158,11 +158,16 @@ struct TextRange {
     friend bool operator==(const TextRange&, const TextRange&) = default;
 };
 
+// How long a text may get in a box with that limit, 0 for none, while it holds one of that length. What is longer than
+// the limit has come from elsewhere, and is never cut.
+int LongestText(int limit, qsizetype present);
+
 struct TextBox : ControlKind<TextBox> {
     TextBox(Container& parent, QStringView name, Rectangle place, int maxLength = 0);
     ControlText Text;
-    int MaxLength;          // characters, 0 for no limit
-    char16_t AccessKey = 0; // with Alt it brings the focus here; 0 for none
+    int MaxLength;                 // characters, 0 for no limit
+    char16_t AccessKey = 0;        // with Alt it brings the focus here; 0 for none
+    QProperty<bool> Locked{false}; // can be read and selected in, but not be written in
     // What is selected on the screen; its start is the caret when that is nothing.
     int SelStart = 0;
     QString SelText;

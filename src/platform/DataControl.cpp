@@ -79,6 +79,7 @@ DataControl::~DataControl()
 
 void DataControl::Unbind()
 {
+    LockBoxes(false);
     for (const Binding& binding : bindings_)
         binding.Text->Attach(nullptr);
     bindings_.clear();
@@ -105,27 +106,30 @@ Recordset& DataControl::Records()
     return *records_;
 }
 
-void DataControl::Bind(ControlText& text, const QString& field, bool writes)
+void DataControl::Bind(ControlText& text, const QString& field, TextBox* box)
 {
-    bindings_.push_back({&text, field, writes});
+    bindings_.push_back({&text, field, box});
     text.Attach(this);
 }
 
 void DataControl::Bind(Label& label, const QString& field)
 {
-    Bind(label.Caption, field, false);
+    Bind(label.Caption, field, nullptr);
 }
 
 void DataControl::Bind(TextBox& box, const QString& field)
 {
-    Bind(box.Text, field, true);
+    Bind(box.Text, field, &box);
+    box.Locked = true; // until there is a row
 }
 
 void DataControl::Edited(const ControlText& text)
 {
     for (Binding& binding : bindings_) {
-        if (binding.Text != &text || !binding.Writes || !records_)
+        if (binding.Text != &text || !binding.Box || !records_)
             continue;
+        if (binding.Box->Locked)
+            return MarkStale();
         binding.IsEdited = true;
         records_->Typed(binding.Field);
     }
@@ -147,6 +151,13 @@ void DataControl::DropEdits()
         binding.IsEdited = false;
 }
 
+void DataControl::LockBoxes(bool locked)
+{
+    for (const Binding& binding : bindings_)
+        if (binding.Box)
+            binding.Box->Locked = locked;
+}
+
 void DataControl::GiveUpEdits()
 {
     DropEdits();
@@ -164,19 +175,23 @@ void DataControl::Settle()
     if (!stale_)
         return;
     std::vector<QString> texts(bindings_.size());
+    bool hasRow = false;
     const auto show = [&] {
         stale_ = false;
+        LockBoxes(!hasRow);
         for (std::size_t at = 0; records_ && at < bindings_.size(); ++at)
             bindings_[at].Text->Show(texts[at]);
     };
     try {
         if (records_)
             records_->Rest();
-        if (records_ && records_->HasRow())
+        hasRow = records_ && records_->HasRow();
+        if (hasRow)
             std::ranges::transform(bindings_, texts.begin(),
                                    [this](const Binding& binding) { return records_->Text(binding.Field); });
     } catch (const RuntimeError&) {
         // The next reading tries again. Until then no other record's texts stand there.
+        hasRow = false;
         texts.assign(texts.size(), QString());
         show();
         stale_ = true;

@@ -11,7 +11,8 @@ namespace lineforge
 
 // Points at one table of one database file and feeds the labels and boxes that are bound to it. What a bound control
 // shows follows the current row when it is read or when the event loop next runs, never during a walk. What is typed in
-// a bound box is pending until the row is left or updated; a label never writes.
+// a bound box is pending until the row is left or updated; a label never writes. Without a row, where nothing could
+// keep what is typed, the bound boxes are locked.
 class DataControl : public ControlKind<DataControl>, private TextSource
 {
 public:
@@ -56,17 +57,18 @@ private:
     struct Binding {
         ControlText* Text;
         QString Field;
-        bool Writes;
+        TextBox* Box; // null for a label
         bool IsEdited = false;
     };
 
-    void Bind(ControlText& text, const QString& field, bool writes);
+    void Bind(ControlText& text, const QString& field, TextBox* box);
     void Edited(const ControlText& text) override;
     void Forget(const ControlText& text) override;
     void MarkStale();
     void Unbind();
     bool HasEdits() const;
     void DropEdits();
+    void LockBoxes(bool locked);
 
     std::vector<Binding> bindings_;
     std::unique_ptr<BoundRecordset> records_;

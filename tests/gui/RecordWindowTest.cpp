@@ -93,6 +93,47 @@ TEST_F(RecordWindowTest, DatabaseInUse_AsksOverTheForm_UnderWhichNothingMoves_An
     EXPECT_EQ(Refusals(), std::vector<int>({3260, 3260}));
 }
 
+// An import or another program has brought them.
+TEST_F(RecordWindowTest, TextsBeyondTheLimit_KeepAllThatTheUserLeaves)
+{
+    const QString surname = u"Featherstonehaugh-Cholmondeley-Marjoribanks"_s;
+    const QString note(400, u'n');
+    Records(P).Edit();
+    Records(P).Put(u"Surname", surname);
+    Records(P).Put(u"Notes", note);
+    Records(P).Update();
+    ServeEvents();
+    EXPECT_EQ(Line(u"Text2"_s).text(), surname);
+
+    for (QWidget* box : {static_cast<QWidget*>(&Line(u"Text2"_s)), static_cast<QWidget*>(&Lines(u"Text11"_s))}) {
+        box->setFocus();
+        QTest::keyClick(box, Qt::Key_Home);
+        QTest::keyClick(box, Qt::Key_Delete);
+        QTest::keyClicks(box, u"XY"_s);
+    }
+    PressBar(u"Data1Next"_s);
+
+    EXPECT_EQ(Stored("Surname"), QString(u'X' + surname.mid(1)));
+    EXPECT_EQ(Stored("Notes"), QString(u'X' + note.mid(1)));
+}
+
+TEST_F(RecordWindowTest, WithoutRecords_TheBoxesTakeNoText)
+{
+    for (int record = 0; record < 3; ++record) {
+        Records(P).Delete();
+        Records(P).MoveFirst();
+    }
+    ServeEvents();
+
+    QTest::keyClicks(&Line(u"Text2"_s), u"Smith"_s);
+    QTest::keyClicks(&Lines(u"Text11"_s), u"a note"_s);
+
+    EXPECT_EQ(Line(u"Text2"_s).text(), QString());
+    EXPECT_TRUE(Line(u"Text2"_s).isReadOnly());
+    EXPECT_EQ(Lines(u"Text11"_s).toPlainText(), QString());
+    EXPECT_TRUE(Lines(u"Text11"_s).isReadOnly());
+}
+
 TEST_F(RecordWindowTest, RecordsButton_ShowsTheRecord_WithItsPicture)
 {
     EXPECT_TRUE(ViewOf(*P.Form3).isVisible());

@@ -352,63 +352,76 @@ TEST_F(DataControlTest, AfterRelease_TheControlsAreTheirOwnAgain)
     EXPECT_EQ(Stored(), QStringList(u"Ann"_s));
 }
 
-class TypedWithoutRowTest : public DataControlTest
+// Where nothing could keep what is typed.
+class WithoutRowTest : public DataControlTest
 {
+protected:
+    void ExpectLocked(const char* where)
+    {
+        EXPECT_EQ(name.Text.value(), QString()) << where;
+        EXPECT_TRUE(name.Locked) << where;
+        EXPECT_TRUE(file.Locked) << where;
+        name.Text = u"typed"_s;
+        EXPECT_EQ(name.Text.value(), QString()) << where;
+    }
+    void ExpectFree(const QString& shown)
+    {
+        EXPECT_EQ(name.Text.value(), shown);
+        EXPECT_FALSE(name.Locked) << qUtf8Printable(shown);
+    }
 };
 
-TEST_F(TypedWithoutRowTest, AtEof_ItIsDroppedByTheNextMove)
+TEST_F(WithoutRowTest, BeforeTheFirstOpening_BoxesAreLocked)
 {
-    GivenOpened({u"Ann"_s});
+    EXPECT_TRUE(name.Locked);
+    EXPECT_TRUE(file.Locked);
+}
+
+TEST_F(WithoutRowTest, BoxesTakeNoText_UntilThereIsOneAgain)
+{
+    GivenOpened({u"Ann"_s, u"Bob"_s});
+    ExpectFree(u"Ann"_s);
+
+    data.Records().MovePrevious();
+    ExpectLocked("before the first");
+    data.Records().MoveLast();
+    ExpectFree(u"Bob"_s);
     data.Records().MoveNext();
-    name.Text = u"typed"_s;
-
+    ExpectLocked("behind the last");
+    data.Records().MoveLast();
+    data.Records().Delete();
+    ExpectLocked("on one that is deleted");
     data.Records().MoveFirst();
+    ExpectFree(u"Ann"_s);
 
-    EXPECT_EQ(name.Text.value(), u"Ann");
     EXPECT_EQ(Stored(), QStringList(u"Ann"_s));
 }
 
-TEST_F(TypedWithoutRowTest, InAnEmptyTable_ItIsDroppedByRelease)
+TEST_F(WithoutRowTest, EmptyTable_LocksTheBoxes_UntilARowIsAdded)
 {
     GivenOpened({});
-    name.Text = u"typed"_s;
-
-    EXPECT_EQ(RefusalOf([&] { data.Release(); }), 0);
-    EXPECT_FALSE(data.IsOpen());
-    EXPECT_EQ(Stored(), QStringList());
-}
-
-TEST_F(TypedWithoutRowTest, InAnEmptyTable_ItIsDroppedByTheNextOpening)
-{
-    GivenOpened({});
-    name.Text = u"typed"_s;
-
-    EXPECT_EQ(RefusalOf([&] { data.Refresh(databases, files); }), 0);
-    EXPECT_EQ(Stored(), QStringList());
-    EXPECT_EQ(name.Text.value(), QString());
-}
-
-TEST_F(TypedWithoutRowTest, OnADeletedRow_ItIsDroppedByTheNextMove)
-{
-    GivenOpened({u"Ann"_s, u"Bob"_s});
-    data.Records().Delete();
-    name.Text = u"typed"_s;
-
-    EXPECT_EQ(RefusalOf([&] { data.Records().MoveNext(); }), 0);
-    EXPECT_EQ(name.Text.value(), u"Bob");
-    EXPECT_EQ(Stored(), QStringList(u"Bob"_s));
-}
-
-TEST_F(TypedWithoutRowTest, BeforeAnAdditionToAnEmptyTable_ItIsDropped)
-{
-    GivenOpened({});
-    name.Text = u"typed"_s;
+    ExpectLocked("empty");
 
     data.Records().AddNew();
     data.Records().Put(u"File", u"A001"_s);
     data.Records().Update();
+    ExpectLocked("beside the new one");
+    data.Records().SetBookmark(data.Records().LastModified());
+    ExpectFree(QString());
 
-    EXPECT_EQ(Stored(), QStringList(u"-"_s));
+    name.Text = u"Ann"_s;
+    data.Release();
+    EXPECT_EQ(Stored(), QStringList(u"Ann"_s));
+}
+
+TEST_F(WithoutRowTest, BoxesAreFreeAgain_WhenTheControlLetsGo)
+{
+    GivenOpened({});
+    ExpectLocked("empty");
+
+    data.Release();
+
+    EXPECT_FALSE(name.Locked);
 }
 
 class RepointedTest : public DataControlTest

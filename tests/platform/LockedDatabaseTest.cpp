@@ -244,10 +244,12 @@ TEST_F(LockedBoxTest, RowThatCannotBeRead_ShowsNobodyElsesText_AndNothingIsTyped
 
     EXPECT_EQ(ToldRefusalOf([&] { data.Settle(); }), ErrorNumber::DatabaseBusy);
     EXPECT_EQ(name.Text.Shown(), QString());
+    EXPECT_TRUE(name.Locked);
     EXPECT_EQ(ToldRefusalOf([&] { name.Text = u"x"_s; }), ErrorNumber::DatabaseBusy);
 
     other.reset();
     EXPECT_EQ(name.Text.value(), u"Bob");
+    EXPECT_FALSE(name.Locked);
     data.Records().MoveNext();
     EXPECT_EQ(Stored(), QStringList({u"Ann"_s, u"Bob"_s, u"Cid"_s}));
 }

@@ -71,8 +71,9 @@ INSTANTIATE_TEST_SUITE_P(Limit, ReplaceSelectionTest,
 // The row held more than the box would have taken.
 INSTANTIATE_TEST_SUITE_P(TextBeyondTheLimit, ReplaceSelectionTest,
                          Values(Replacement{u"abcdefgh"_s, 2, u""_s, u"X"_s, u"abcdefgh"_s, 2, 5},
-                                Replacement{u"abcdefgh"_s, 2, u"c"_s, u"X"_s, u"abdefgh"_s, 2, 5},
-                                Replacement{u"abcdefgh"_s, 2, u"cdef"_s, u"XYZ"_s, u"abXgh"_s, 3, 5}));
+                                Replacement{u"abcdefgh"_s, 2, u"c"_s, u"X"_s, u"abXdefgh"_s, 3, 5},
+                                Replacement{u"abcdefgh"_s, 2, u"c"_s, u"XY"_s, u"abXdefgh"_s, 3, 5},
+                                Replacement{u"abcdefgh"_s, 2, u"cdef"_s, u"XYZ"_s, u"abXYZgh"_s, 5, 5}));
 // The text has become another since the box told of its selection.
 INSTANTIATE_TEST_SUITE_P(StaleSelection, ReplaceSelectionTest,
                          Values(Replacement{u"abc"_s, 2, u"cdefgh"_s, u"X"_s, u"abX"_s, 3},
@@ -88,6 +89,21 @@ struct CountingSource : TextSource {
     void Forget(const ControlText&) override {}
     int Edits = 0;
 };
+
+TEST(ReplaceSelectionInBoundBoxTest, LockedItTakesNothing_AndTheSelectionStays)
+{
+    Container window;
+    TextBox box(window, u"Text1", {});
+    box.Text = u"abc"_s;
+    box.SelText = u"b"_s;
+    box.SelStart = 1;
+    box.Locked = true;
+
+    box.ReplaceSelection(u"X"_s);
+
+    EXPECT_EQ(box.Text.value(), u"abc"_s);
+    EXPECT_EQ(box.SelText, u"b"_s);
+}
 
 TEST(ReplaceSelectionInBoundBoxTest, ItIsAnEdit)
 {

@@ -430,12 +430,12 @@ void LiteralRecords::LoseSelection()
 
 void LiteralRecords::ReplaceSelection(const QString& text)
 {
-    if (ClipSource < 1 || ClipSource > 22)
+    if (ClipSource < 1 || ClipSource > 22 || !HasRow(Current))
         return;
     const auto& [field, limit] = clippedBoxes[static_cast<std::size_t>(ClipSource - 1)];
     const QString before = Shown.value(field).value_or(QString());
     const QString rest = before.left(SelectionStart) + before.mid(SelectionStart + Selection.size());
-    const QString taken = limit == 0 ? text : text.left(std::max<qsizetype>(0, limit - rest.size()));
+    const QString taken = limit == 0 ? text : text.left(std::max<qsizetype>(limit, before.size()) - rest.size());
     const QString after = rest.left(SelectionStart) + taken + rest.mid(SelectionStart);
     SelectionStart += static_cast<int>(taken.size());
     Selection.clear();

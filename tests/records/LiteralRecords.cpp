@@ -62,6 +62,8 @@ void LiteralRecords::Open(QChar letter)
 
 void LiteralRecords::Type(const QString& field, const QString& text)
 {
+    if (!HasRow(Current))
+        return;
     Typed[field] = text;
     Shown[field] = text;
     if (Current.Edit)

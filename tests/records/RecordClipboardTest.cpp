@@ -213,6 +213,34 @@ TEST_F(RecordClipboardTest, PasteOfMoreThanTheBoxTakes_IsCutShort)
     EXPECT_EQ(SurnameText(), QString(30, u'x'));
 }
 
+// As a box that is typed in does.
+TEST_F(RecordClipboardTest, PasteWhereNoRecordStands_DoesNothing)
+{
+    Select(Surname(), 0, u"");
+    Records(P).MoveLast();
+    Records(P).MoveNext();
+    Text() = u"Brown"_s;
+
+    P.Form3->mnuPaste.Click();
+
+    EXPECT_EQ(SurnameText(), QString());
+    EXPECT_EQ(Text(), u"Brown"_s);
+}
+
+TEST_F(RecordClipboardTest, PasteIntoATextBeyondTheLimit_TakesItsSelectionAlone)
+{
+    const QString stored(40, u's');
+    Records(P).Edit();
+    Records(P).Put(u"Surname", stored);
+    Records(P).Update();
+    Select(Surname(), 0, u"ss");
+    Text() = u"abc"_s;
+
+    P.Form3->mnuPaste.Click();
+
+    EXPECT_EQ(SurnameText(), QString(u"ab"_s + stored.mid(2)));
+}
+
 TEST_F(RecordClipboardTest, PasteOfAPicture_DoesNothing)
 {
     Machine.Clipboard.Picture = QImage(3, 3, QImage::Format_RGB32);

@@ -5,10 +5,9 @@
 namespace lineforge
 {
 
-LineView::LineView(QWidget* parent, int maxLength) : QLineEdit(parent)
+LineView::LineView(QWidget* parent, int maxLength) : QLineEdit(parent), limit_(maxLength)
 {
-    if (maxLength > 0)
-        setMaxLength(maxLength);
+    setMaxLength(LongestText(limit_, 0));
     connect(this, &QLineEdit::textChanged, this, [this](const QString& text) {
         if (!isShowing_ && Edited)
             Edited(text);
@@ -21,6 +20,9 @@ void LineView::Show(const QString& shown)
         return;
     const QScopedValueRollback<bool> showing(isShowing_, true);
     const int cursor = hasFocus() ? cursorPosition() : 0;
+    // Stays while the user works in it: what he takes out of a longer text can be put back.
+    if (const int longest = LongestText(limit_, shown.size()); longest != maxLength())
+        setMaxLength(longest);
     setText(shown);
     setCursorPosition(cursor);
 }

@@ -16,8 +16,8 @@ public:
     // 0 for no limit.
     LineView(QWidget* parent, int maxLength);
 
-    // Shows a text without calling that an edit, not even when the box has no room for all of it. The cursor stays
-    // where the user works, and a long text begins with its beginning for everybody else.
+    // Shows a text, whole even beyond the limit, without calling that an edit. The cursor stays where the user works,
+    // and a long text begins with its beginning for everybody else.
     void Show(const QString& text);
 
     QString SelectedText() const { return selectedText(); }
@@ -31,6 +31,7 @@ public:
     std::function<void(const QString& text)> Edited;
 
 private:
+    int limit_;
     bool isShowing_ = false;
 };
 

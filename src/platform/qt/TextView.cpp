@@ -3,6 +3,8 @@
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 
+#include <algorithm>
+
 namespace lineforge
 {
 
@@ -13,7 +15,8 @@ namespace
 constexpr QColor markColour(255, 214, 102);
 }
 
-TextView::TextView(QWidget* parent, int maxLength) : QPlainTextEdit(parent), maxLength_(maxLength)
+TextView::TextView(QWidget* parent, int maxLength)
+    : QPlainTextEdit(parent), limit_(maxLength), longest_(LongestText(maxLength, 0))
 {
     setTabChangesFocus(true);
     connect(this, &QPlainTextEdit::textChanged, this, &TextView::TakeEdit);
@@ -25,8 +28,11 @@ void TextView::Show(const QString& text)
     hasCarriageReturns_ = text.contains(u"\r\n"_s);
     QString shown = text;
     shown.remove(u'\r');
-    if (shown != toPlainText())
-        setPlainText(shown);
+    if (shown == toPlainText())
+        return;
+    longest_ = LongestText(limit_, shown.size());
+    setPlainText(shown);
+    before_ = shown;
 }
 
 QString TextView::SelectedText() const
@@ -85,24 +91,28 @@ void TextView::TakeEdit()
     if (cutting_)
         return;
     CutToLimit();
-    QString text = toPlainText();
+    before_ = toPlainText();
+    QString text = before_;
     if (hasCarriageReturns_)
         text.replace(u'\n', u"\r\n"_s);
     if (Edited)
         Edited(text);
 }
 
-// What is too much was typed or pasted just before the cursor.
+// What is too much is taken off the end of what has just come in, wherever the cursor is: a reader enters his text
+// without it. It ends before what stood at the end already.
 void TextView::CutToLimit()
 {
-    const int excess = static_cast<int>(toPlainText().size()) - maxLength_;
-    if (maxLength_ == 0 || excess <= 0)
+    const QString text = toPlainText();
+    const int excess = static_cast<int>(text.size()) - longest_;
+    if (excess <= 0)
         return;
+    const auto stayed = std::mismatch(before_.rbegin(), before_.rend(), text.rbegin(), text.rend()).first;
+    const int end = static_cast<int>(text.size() - (stayed - before_.rbegin()));
     const QScopedValueRollback<bool> cutting(cutting_, true);
-    QTextCursor cursor = textCursor();
-    const int end = cursor.position();
+    QTextCursor cursor(document());
     cursor.joinPreviousEditBlock();
-    cursor.setPosition(std::max(0, end - excess));
+    cursor.setPosition(end - excess);
     cursor.setPosition(end, QTextCursor::KeepAnchor);
     cursor.removeSelectedText();
     cursor.endEditBlock();

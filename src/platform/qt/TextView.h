@@ -16,7 +16,7 @@ public:
     // 0 for no limit.
     TextView(QWidget* parent, int maxLength);
 
-    // Shows a text without calling that an edit.
+    // Shows a text, whole even beyond the limit, without calling that an edit.
     void Show(const QString& text);
 
     // In the text as it was shown, with its own line ends.
@@ -34,7 +34,9 @@ private:
     void TakeEdit();
     void CutToLimit();
 
-    int maxLength_;
+    int limit_;
+    int longest_;    // for as long as the user works in the text that was shown
+    QString before_; // the text, until it is changed
     bool cutting_ = false;
     bool hasCarriageReturns_ = false;
 };

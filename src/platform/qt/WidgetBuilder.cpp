@@ -217,7 +217,7 @@ template <class View>
 void WidgetBuilder::Tie(View* view, QWidget* clicked, TextBox& box)
 {
     view->Edited = [gate = gate_, view, &box](const QString& text) {
-        if (view->isEnabled())
+        if (view->isEnabled() && !view->isReadOnly())
             gate->Run([&box, text] { box.Text = text; });
         else if (gate->IsOpen())
             view->Show(box.Text.Shown()); // readers reach a box that no key does
@@ -239,6 +239,7 @@ void WidgetBuilder::Tie(View* view, QWidget* clicked, TextBox& box)
     });
     QObject::connect(view, &View::selectionChanged, view, keepSelection);
     QObject::connect(view, &View::cursorPositionChanged, view, keepSelection);
+    bindings_.Follow(box.Locked, [view, &box] { view->setReadOnly(box.Locked); });
     box.CaretMoved = [gate = gate_, view, &box] {
         if (gate->IsOpen())
             view->SetCaret(box.SelStart);

@@ -39,6 +39,7 @@ struct EntryForm : Form {
     Field Source;
     TextBox Text1{*this, u"Text1", {150, 150, 3000, 315}, 12};
     TextBox Text2{*this, u"Text2", {150, 600, 3000, 900}, 12};
+    TextBox Text3{*this, u"Text3", {150, 1650, 3000, 315}};
 };
 
 // How a text gets into a box that shows "Smith", with the cursor behind it.
@@ -141,16 +142,103 @@ TEST_P(EveryEntryTest, IsAnEdit_InABoxOfOneLineAndOfSeveral)
     }
 }
 
-TEST_F(TextEntryTest, ATextThatIsLongerThanTheBox_IsShownAsFarAsItGoes_AndIsNoEdit)
+// What is done, with the cursor at the end, to a box for 12 characters that shows "Featherstonehaugh".
+const Entry entriesIntoMore[] = {
+    {"Nothing", [](QWidget&) {}, u"Featherstonehaugh"},
+    {"Keys", [](QWidget& box) { QTest::keyClicks(&box, u"y"_s); }, u"Featherstonehaugh"},
+    {"KeysAtItsBeginning",
+     [](QWidget& box) {
+         QTest::keyClick(&box, Qt::Key_Home);
+         QTest::keyClicks(&box, u"Mc"_s);
+     },
+     u"Featherstonehaugh"},
+    {"Backspace", [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Backspace); }, u"Featherstonehaug"},
+    {"BackspaceThatIsUndone",
+     [](QWidget& box) {
+         QTest::keyClick(&box, Qt::Key_Backspace);
+         QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+     },
+     u"Featherstonehaugh"},
+    {"OneLetterForAnother",
+     [](QWidget& box) {
+         QTest::keyClick(&box, Qt::Key_Left, Qt::ShiftModifier);
+         QTest::keyClicks(&box, u"h"_s);
+     },
+     u"Featherstonehaugh"},
+    {"MoreThanWasSelected",
+     [](QWidget& box) {
+         QTest::keyClick(&box, Qt::Key_Left, Qt::ShiftModifier);
+         Paste(box);
+     },
+     u"Featherstonehaugs"},
+    {"InputMethod", Compose, u"Featherstonehaugh"},
+    {"Drop", Drop, u"Featherstonehaugh"},
+    {"ReadersDeletion", [](QWidget& box) { Told(box).editableTextInterface()->deleteText(0, 7); }, u"stonehaugh"},
+};
+
+class EntryIntoMoreTest : public TextEntryTest, public testing::WithParamInterface<Entry>
+{
+};
+INSTANTIATE_TEST_SUITE_P(Ways, EntryIntoMoreTest, testing::ValuesIn(entriesIntoMore),
+                         [](const auto& way) { return std::string(way.param.Name); });
+
+// It comes from elsewhere.
+TEST_P(EntryIntoMoreTest, ATextBeyondTheLimit_IsShownWhole_AndLosesNothingThatTheUserLeaves)
+{
+    for (TextBox* box : {&Entered->Text1, &Entered->Text2}) {
+        box->Text.Show(u"Featherstonehaugh"_s);
+        GetParam().Do(Shown(box->Name));
+        EXPECT_EQ(box->Text.value(), GetParam().Left.toString()) << box->Name.toStdString();
+    }
+}
+
+TEST_F(TextEntryTest, ATextBeyondTheLimit_IsNoEdit_AndTheNextTextHasTheLimitAgain)
 {
     for (TextBox* box : {&Entered->Text1, &Entered->Text2}) {
         Entered->Source.Edits = 0;
         box->Text.Show(u"Featherstonehaugh"_s);
         ServeEvents();
-        EXPECT_EQ(box->Text.value(), u"Featherstonehaugh"_s);
         EXPECT_EQ(Entered->Source.Edits, 0);
+        box->Text.Show(u"Smith"_s);
+        QTest::keyClicks(&Shown(box->Name), u"-Featherstonehaugh"_s);
+        EXPECT_EQ(box->Text.value(), u"Smith-Feathe"_s) << box->Name.toStdString();
     }
-    EXPECT_EQ(Find<QLineEdit>(*Entered, u"Text1"_s).text(), u"Featherstone"_s);
+}
+
+// Longer than any box of the toolkit is by itself.
+TEST_F(TextEntryTest, ABoxWithoutALimit_TakesATextOfAnyLength)
+{
+    const QString text(100'000, u'x');
+    Entered->Text3.Text.Show(text);
+    QTest::keyClicks(&Shown(u"Text3"_s), u"y"_s);
+    EXPECT_EQ(Entered->Text3.Text.value(), QString(text + u'y'));
+}
+
+// His own place is not that of the cursor, which stands at the end.
+TEST_F(TextEntryTest, WhatAReaderEntersTooMuch_IsCutOffThere_InABoxOfSeveralLines)
+{
+    Entered->Text2.Text.Show(u"Smith, Mary"_s);
+    Told(Shown(u"Text2"_s)).editableTextInterface()->insertText(0, u"Jones "_s);
+    EXPECT_EQ(Entered->Text2.Text.value(), u"JSmith, Mary"_s);
+}
+
+TEST_P(EveryEntryTest, ALockedBox_TakesNothing_AndIsToldToBeReadOnly)
+{
+    for (TextBox* box : {&Entered->Text1, &Entered->Text2}) {
+        box->Text.Show(u"Smith"_s);
+        box->Locked = true;
+        QWidget& shown = Shown(box->Name);
+        GetParam().Do(shown);
+        EXPECT_EQ(box->Text.value(), u"Smith"_s) << box->Name.toStdString();
+        EXPECT_EQ(Told(shown).text(QAccessible::Value), u"Smith"_s) << box->Name.toStdString();
+        EXPECT_EQ(Entered->Source.Edits, 0) << box->Name.toStdString();
+        EXPECT_TRUE(Told(shown).state().readOnly) << box->Name.toStdString();
+
+        box->Locked = false;
+        EXPECT_FALSE(Told(shown).state().readOnly) << box->Name.toStdString();
+        QTest::keyClicks(&Shown(box->Name), u"y"_s);
+        EXPECT_EQ(box->Text.value(), u"Smithy"_s) << box->Name.toStdString();
+    }
 }
 
 TEST_F(TextEntryTest, ReadersPutNothingIntoABoxThatIsDisabled)
