@@ -41,6 +41,9 @@ void ShowCurrentAgain(Program& p)
         ForgetPair(p);
         ShowStepped(p, CurrentSide, NullForename::Empty);
     }
+    // It may be of the same branch.
+    if (IsOnShow(p, CompareSide))
+        ShowPerson(p, CompareSide, ReadPerson(p, CompareSide, NullForename::Empty));
 }
 
 // False, with a box, when there is no such database; what was compared before stays then.

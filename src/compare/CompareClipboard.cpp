@@ -41,15 +41,12 @@ void Store(Program& p, const QString& text)
     if (HasRecord(p, box.Owner) && !IsSeen(p))
         return;
     const QString field = box.Field.isEmpty() ? p.Compare.sCompField : box.Field.toString();
-    ChangeOrShowAgain(p, box.Owner, [&] {
+    ChangeOrShowAgain(p, box.Owner, [&](Recordset& record) {
         if (box.Field.isEmpty())
             ShowField(p, box.Owner, text);
         else
             ((*p.Form6).*box.Box).Text = text;
-        Recordset& records = box.Owner.Records(p);
-        records.Edit();
-        records.Put(field, text);
-        records.Update();
+        record.Put(field, text);
     });
 }
 } // namespace

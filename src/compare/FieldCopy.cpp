@@ -119,13 +119,10 @@ void CopyField(Program& p)
         return;
     const QString& field = p.Compare.sCompField;
     try {
-        ChangeOrShowAgain(p, way.To, [&] {
-            Recordset& to = way.To.Records(p);
+        ChangeOrShowAgain(p, way.To, [&](Recordset& to) {
             const FieldValue value = way.From.Records(p).Value(field);
-            to.Edit();
             to.Put(field, value);
             ShowField(p, way.To, value.value_or(QString()));
-            to.Update();
         });
     } catch (const RuntimeError& refusal) {
         if (refusal.IsTold)
@@ -139,12 +136,7 @@ void CopyAllFields(Program& p)
     if (!IsPairSeen(p))
         return;
     const Direction& way = DirectionOf(p);
-    ChangeOrShowAgain(p, way.To, [&] {
-        Recordset& to = way.To.Records(p);
-        to.Edit();
-        CopyFields(way.From.Records(p), to);
-        to.Update();
-    });
+    ChangeOrShowAgain(p, way.To, [&](Recordset& to) { CopyFields(way.From.Records(p), to); });
 }
 
 // Both begin with the compare recordset's first record: to the current branch it is that one which is appended, not the

@@ -1,6 +1,7 @@
 #include "compare/RefusedChange.h"
 
 #include "compare/FieldDifference.h"
+#include "program/WorkDatabase.h"
 
 namespace lineforge
 {
@@ -19,15 +20,28 @@ void ShowAsItIsNow(Program& p, const Side& side)
     if (text)
         ShowField(p, side, *text);
 }
+
+void ChangeRecord(Program& p, const Side& side, const std::function<void(Recordset& record)>& change)
+{
+    const bool isOne = IsOneRecord(p);
+    if (isOne)
+        StoreTyped(p);
+    Recordset& record = side.Records(p);
+    record.Edit();
+    change(record);
+    record.Update();
+    if (isOne)
+        p.Form3->Data1.GiveUpEdits();
+}
 } // namespace
 
-void ChangeOrShowAgain(Program& p, const Side& side, const std::function<void()>& change)
+void ChangeOrShowAgain(Program& p, const Side& side, const std::function<void(Recordset& record)>& change)
 {
     forms::Form6& form = *p.Form6;
     const QString surname = (form.*side.Surname).Text;
     const QString field = (form.*side.Field).Text;
     try {
-        change();
+        ChangeRecord(p, side, change);
     } catch (const RuntimeError& refusal) {
         if (DataControl& data = side.Data(p); data.IsOpen())
             data.Records().CancelUpdate();

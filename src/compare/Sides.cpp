@@ -137,6 +137,13 @@ bool IsOnShow(Program& p, const Side& side)
     return HasRecord(p, side) && shown.Directory == side.Directory(p) && IsSameRecord(side.Records(p), shown.Record);
 }
 
+bool IsOneRecord(Program& p)
+{
+    return HasRecord(p, CurrentSide) && HasRecord(p, CompareSide) &&
+           CurrentSide.Directory(p) == CompareSide.Directory(p) &&
+           IsSameRecord(CurrentSide.Records(p), CompareSide.Records(p).GetBookmark());
+}
+
 void SetFieldCaptions(Program& p, const QString& current, const QString& compare)
 {
     p.Form6->Frame5.Caption = current;

@@ -50,6 +50,8 @@ void ShowPerson(Program& p, const Side& side, const PersonTexts& person);
 bool HasRecord(Program& p, const Side& side);
 // Whether the side shows the record on which its cursor stands; false without a record.
 bool IsOnShow(Program& p, const Side& side);
+// Whether both sides stand on one record, of one branch.
+bool IsOneRecord(Program& p);
 
 void ShowPicture(Program& p, const Side& side, const QString& file);
 

@@ -159,10 +159,14 @@ void LiteralSession::ReturnToComparison()
     if (!HasRow(Current))
         return;
     PassOver([&] { Leaving(Current); });
-    if (!IsElsewhere(Ours, Current))
-        return ShowSide(Ours, ReadSide(Current, true));
-    ForgetPair();
-    ShowStepped(false, true);
+    if (!IsElsewhere(Ours, Current)) {
+        ShowSide(Ours, ReadSide(Current, true));
+    } else {
+        ForgetPair();
+        ShowStepped(false, true);
+    }
+    if (HasRow(Compare) && !IsElsewhere(Theirs, Compare))
+        ShowSide(Theirs, ReadSide(Compare, true));
 }
 
 void LiteralSession::CloseComparison()
