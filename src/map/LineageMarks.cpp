@@ -40,11 +40,11 @@ void AddFrame(Program& p)
 }
 
 // A record without a box gets its frame where the last box was found. Everything is asked for afresh at each step:
-// while events are served the cursor can move, the record be changed, or the branch closed.
+// while events are served the cursor can move, the record be changed, or the branch closed, which ends it.
 void FrameLine(Program& p, const QString& surname)
 {
     Records(p).MoveFirst();
-    while (!Records(p).Eof()) {
+    while (IsBranchOpen(p) && !Records(p).Eof()) {
         if (IsOfLine(Records(p), surname)) {
             FindBoxOfRecord(p);
             if (p.Mouse.BoxY == 0 && p.Mouse.BoxX != 0) {
@@ -76,7 +76,8 @@ void LineageView(Program& p)
     }
     KeepPosition(p);
     FrameLine(p, surname);
-    ComeBack(p);
+    if (IsBranchOpen(p))
+        ComeBack(p);
 }
 
 void ViewLineage(Program& p)

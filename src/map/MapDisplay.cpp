@@ -4,6 +4,7 @@
 #include "map/MapItems.h"
 #include "map/Pointer.h"
 #include "platform/Text.h"
+#include "program/BranchUi.h"
 #include "program/Position.h"
 
 namespace lineforge
@@ -27,6 +28,9 @@ void RedrawMap(Program& p)
     for (int row = 0; row <= p.Map.SLines; ++row)
         DrawLine(p, row);
 
+    // A backup that failed leaves the branch without its records.
+    if (!IsBranchOpen(p))
+        return;
     KeepPosition(p);
     DrawRecordsInBoxes(p);
     DrawBoxCaptions(p);

@@ -476,15 +476,28 @@ TEST_F(EndlessViewTest, CursorThatLeavesTheLastRowMeanwhile_EndsTheView)
     EXPECT_THROW(P.Loop.DoEvents(), ProgramEnded);
 }
 
-TEST_F(EndlessViewTest, BranchClosedMeanwhile_EndsInAnError)
+TEST_F(EndlessViewTest, BranchClosedMeanwhile_EndsTheView)
 {
     AtYield([&] { P.Form1->mnuCloseDB.Click(); });
     EndAtYield();
 
-    EXPECT_EQ(RefusalOf([&] { View(u"Smith"_s); }), ErrorNumber::ObjectNotSet);
+    EXPECT_EQ(RefusalOf([&] { View(u"Smith"_s); }), 0);
 
     EXPECT_EQ(P.Branch.WorkDir, QString());
     EXPECT_EQ(Frames.Count(), 0U);
+    EXPECT_EQ(Machine.Loop.Yields, 1);
+    EXPECT_THROW(P.Loop.DoEvents(), ProgramEnded);
+}
+
+TEST_F(EndlessViewTest, RecordsThatAFailedBackupTakesMeanwhile_EndTheView)
+{
+    AtYield([&] { P.Form3.Unload(); });
+    EndAtYield();
+
+    EXPECT_EQ(RefusalOf([&] { View(u"Smith"_s); }), 0);
+
+    EXPECT_EQ(Frames.Count(), 0U);
+    EXPECT_THROW(P.Loop.DoEvents(), ProgramEnded);
 }
 
 TEST_F(EndlessViewTest, ProgramExitedMeanwhile_Ends)

@@ -57,6 +57,40 @@ TEST_F(ToolGestureTest, TextWhoseQuestionSwallowedTheRelease_IsFinishedByTheNext
     EXPECT_EQ(P.Map.SBoxes, 2);
 }
 
+// A backup that fails leaves the branch without its records.
+TEST_F(ToolGestureTest, WithoutRecords_EveryPressIsTold_AndTheToolsCanBeClosed)
+{
+    GivenTools();
+    P.Form3.Unload();
+    for (const int tool : {1, 7, 8, 9, 17, 18, 19, 27, 28, 29}) {
+        Choose(tool);
+        Prompts.Expect(u"Data not available", u"Cannot View until database file is Opened", Buttons::Information);
+        Drag({{2300, 600}, {2500, 800}});
+        PutDown();
+    }
+
+    Leave(Answer::Yes);
+
+    EXPECT_EQ(MapBytes(), BytesOf(u"1000,500,0,0,,2000,500,0,A001,John,", u"3000,3000,4000,3000,255,", u""));
+    EXPECT_EQ(P.Tools.ToolMode, 0);
+    EXPECT_FALSE(P.Form3->Data1.IsOpen());
+}
+
+TEST_F(ToolGestureTest, RecordsThatGoInADrag_LetItEnd)
+{
+    GivenTools();
+    Choose(18);
+    Press({2300, 600});
+    Move({2500, 800});
+    ASSERT_EQ(P.Tools.MapCursorMode, MapCursor::MovingSubject);
+    P.Form3.Unload();
+
+    Release({2500, 800});
+
+    EXPECT_EQ(Box(1), (RowTexts{u"2200"_s, u"700"_s, u"0"_s, u"A001"_s, u"John"_s}));
+    EXPECT_EQ(P.Tools.MapCursorMode, MapCursor::Normal);
+}
+
 TEST_F(ToolGestureTest, ToolPressedByKeyInADrag_EndsItFirst)
 {
     GivenTools();

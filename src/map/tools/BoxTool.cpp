@@ -4,6 +4,7 @@
 #include "map/CurrentBox.h"
 #include "map/HitTest.h"
 #include "map/MapItems.h"
+#include "program/BranchUi.h"
 #include "program/WorkDatabase.h"
 
 namespace lineforge
@@ -52,6 +53,18 @@ Pressed TakeHitBox(Program& p, const Pointing& pointing)
     picture.ForeColor = p.Tools.PenSave;
     KeepLast(p, pointing.At);
     return Pressed::Yes;
+}
+
+void PutSubjectDown(Program& p)
+{
+    Records(p).Edit();
+    Records(p).Update();
+    Records(p).SetBookmark(p.Record.SavedBookmark);
+    p.Form1->Picture1.ForeColor = Black;
+    if (HasPlace(p.Map, p.Mouse.BoxIdx)) {
+        TakeBoxPosition(p, p.Mouse.BoxIdx);
+        DrawRecordInBox(p);
+    }
 }
 } // namespace
 
@@ -133,14 +146,9 @@ Released DropBox(Program& p)
     picture.Mode = DrawMode::Copy;
     DrawBoxIn(p, p.Mouse.BoxIdx, ColourOfBox(p.Map, p.Mouse.BoxIdx));
     if (p.Tools.MapCursorMode == MapCursor::MovingSubject) {
-        Records(p).Edit();
-        Records(p).Update();
-        Records(p).SetBookmark(p.Record.SavedBookmark);
-        picture.ForeColor = Black;
-        if (HasPlace(p.Map, p.Mouse.BoxIdx)) {
-            TakeBoxPosition(p, p.Mouse.BoxIdx);
-            DrawRecordInBox(p);
-        }
+        // A backup that has failed meanwhile has left the branch without its records.
+        if (IsBranchOpen(p))
+            PutSubjectDown(p);
         p.Tools.MapCursorMode = MapCursor::Normal;
     }
     return Released::Repaint;

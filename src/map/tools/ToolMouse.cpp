@@ -8,6 +8,7 @@
 #include "map/tools/TextTool.h"
 #include "map/tools/ToolSelection.h"
 #include "map/tools/ZoneTool.h"
+#include "program/BranchUi.h"
 
 #include <algorithm>
 #include <iterator>
@@ -98,6 +99,9 @@ void FinishGesture(Program& p)
 void PressMap(Program& p, int shift, double x, double y)
 {
     FinishGesture(p);
+    // Where the records have gone behind the tools, these can only be closed.
+    if (AreToolsOpen(p) && TellIfNoBranch(p))
+        return;
     p.Tools.IsPressed = true;
     if (AreToolsOpen(p))
         PressTool(p, {PointerOnMap(x, y), shift});
