@@ -22,6 +22,13 @@ Colour MarkerColour(const QString& gender)
     return QbColor(13);
 }
 
+void ShowMarker(Program& p, Point place, const QString& gender)
+{
+    p.Form1->Shape1.Move(place);
+    p.Form1->Shape1.BorderColor = MarkerColour(gender);
+    p.Form1->Shape1.Visible = true;
+}
+
 bool FitsPlace(const Cell& cell)
 {
     using Places = std::numeric_limits<std::int16_t>;
@@ -63,8 +70,7 @@ void FindBoxOfRecord(Program& p)
 
 void MarkCurrentBox(Program& p)
 {
-    forms::Form1& form = *p.Form1;
-    form.Shape1.Visible = false;
+    p.Form1->Shape1.Visible = false;
     p.Gallery.FirstShow = 1;
 
     const Recordset& records = Records(p);
@@ -76,9 +82,20 @@ void MarkCurrentBox(Program& p)
     TakeBoxPosition(p, row);
     p.Mouse.BoxX += BoxCentreX - markerOffset;
     p.Mouse.BoxY += BoxCentreY - markerOffset;
-    form.Shape1.Move({p.Mouse.BoxX, p.Mouse.BoxY});
-    form.Shape1.BorderColor = MarkerColour(records.Text(u"Gender"));
-    form.Shape1.Visible = true;
+    ShowMarker(p, {p.Mouse.BoxX, p.Mouse.BoxY}, records.Text(u"Gender"));
+}
+
+void MarkBoxOf(Program& p, const QString& file, const QString& gender)
+{
+    p.Form1->Shape1.Visible = false;
+    const int row = RowOfRecord(p.Map, file);
+    if (row > LastFiledBox)
+        return;
+    const auto& box = p.Map.BoxArr[row];
+    ShowMarker(p,
+               {box[BoxColumn::X].Number() + BoxCentreX - markerOffset,
+                box[BoxColumn::Y].Number() + BoxCentreY - markerOffset},
+               gender);
 }
 
 } // namespace lineforge

@@ -91,6 +91,12 @@ QString PressedNumber(Program& p)
     return isHit ? p.Map.BoxArr[p.Mouse.BoxIdx][BoxColumn::File].Text() : QString();
 }
 
+// Whoever is current next is of another branch, where the same number may be another person's.
+void LeaveSubject(Program& p)
+{
+    p.Form1->Frame1.Caption = u"Ref  "_s;
+}
+
 // Points the program at the branch that the number belongs to; false, and a box, when that isn't there.
 bool GoToBranchOf(Program& p, const QString& file)
 {
@@ -100,6 +106,7 @@ bool GoToBranchOf(Program& p, const QString& file)
     if (!RequireSibling(p, letter))
         return false;
     SwitchToSibling(p, letter);
+    LeaveSubject(p);
     return true;
 }
 
@@ -187,8 +194,10 @@ void DoubleClickOnMap(Program& p)
             MarkSubject(p);
         return;
     }
-    if (p.Branch.UsingAlternate == 1)
+    if (p.Branch.UsingAlternate == 1) {
         ReturnFromSibling(p);
+        LeaveSubject(p);
+    }
     if (TellIfNoBranch(p))
         return;
 

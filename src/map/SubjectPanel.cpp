@@ -1,5 +1,7 @@
 #include "map/SubjectPanel.h"
 
+#include "map/CurrentBox.h"
+#include "program/BranchPaths.h"
 #include "program/BranchUi.h"
 
 namespace lineforge
@@ -24,6 +26,21 @@ constexpr PanelField panelFields[] = {
     {&forms::Form1::Label15, &forms::Form3::Text16, u"Maiden"},
     {&forms::Form1::Label17, &forms::Form3::Text23, u"Gender"},
 };
+
+const QString frameWithoutNumber = u"Ref  "_s;
+
+// Whether the labels show a record that the frame above them doesn't name, or nobody beside somebody's picture or
+// marker.
+bool HasGoneOn(Program& p)
+{
+    if (!p.Form1.IsLoaded() || !p.Form3.IsLoaded() || !p.Form3->Data1.IsOpen())
+        return false;
+    const forms::Form1& form = *p.Form1;
+    const QString shown = p.Form3->Label25.Caption.Shown();
+    const QString named = form.Frame1.Caption.value().mid(frameWithoutNumber.size());
+    const bool isSomebodyLeft = !form.Image1.Picture.value().isNull() || form.Shape1.Visible;
+    return shown != named || (shown.isEmpty() && isSomebodyLeft);
+}
 } // namespace
 
 void BindSubjectLabels(Program& p, forms::Form3& record)
@@ -36,7 +53,7 @@ void FillSubjectLabels(Program& p)
 {
     for (const PanelField& field : panelFields)
         ((*p.Form1).*field.Shown).Caption = ((*p.Form3).*field.Box).Text.value();
-    p.Form1->Frame1.Caption = u"Ref  "_s + p.Form3->Label25.Caption.value();
+    p.Form1->Frame1.Caption = frameWithoutNumber + p.Form3->Label25.Caption.value();
 }
 
 void EmptySubjectLabels(Program& p, std::initializer_list<Label forms::Form1::*> labels, const QString& frame)
@@ -70,6 +87,34 @@ void ShowRecordOnMap(Program& p)
     FillSubjectLabels(p);
     if (!hasPicture)
         TellPictureMissing(p);
+}
+
+void PartFromFormerSubject(Program& p)
+{
+    if (!HasGoneOn(p))
+        return;
+    p.Form1->Frame1.Caption = frameWithoutNumber;
+    p.Form1->Image1.Picture = QImage();
+    p.Form1->Shape1.Visible = false;
+}
+
+void FollowSubject(Program& p)
+{
+    if (!HasGoneOn(p))
+        return;
+    PartFromFormerSubject(p);
+    const QString number = p.Form3->Label25.Caption.Shown();
+    if (number.isEmpty())
+        return;
+    p.Form1->Frame1.Caption = frameWithoutNumber + number;
+    try {
+        p.Form1->Image1.Picture = p.Pictures.Load(p.Files, SubjectPictureFile(p.Branch.WorkDir, number));
+    } catch (const RuntimeError&) {
+        // No error of the command's: its place stays empty.
+    }
+    // The tools work without the marker.
+    if (p.Tools.ToolMode != ToolsOpen)
+        MarkBoxOf(p, number, p.Form3->Text23.Text.Shown());
 }
 
 void TellPictureMissing(Program& p)

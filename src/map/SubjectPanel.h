@@ -29,6 +29,13 @@ bool ShowSubjectPicture(Program& p);
 // told.
 void ShowRecordOnMap(Program& p);
 
+// The labels go with the cursor wherever a command, a search or the scanner takes it. Once they show another record
+// than the frame names, number, picture and marker go along. Reads nothing but what is shown.
+void FollowSubject(Program& p);
+
+// In the midst of a command, whose cursor may still be on its way: they just go.
+void PartFromFormerSubject(Program& p);
+
 // Tells that the picture of `sPicFile` isn't there.
 void TellPictureMissing(Program& p);
 

@@ -62,6 +62,9 @@ public:
         Command(const Command&) = delete;
         Command& operator=(const Command&) = delete;
 
+        // Whether another one waits for this one's end.
+        bool IsWithinAnother() const { return others_.depth_ > 1; }
+
     private:
         OtherPrograms& others_;
     };

@@ -1,6 +1,7 @@
 #include "shell/FatalPath.h"
 
 #include "gedcom/GedcomConversion.h"
+#include "map/SubjectPanel.h"
 #include "platform/OtherPrograms.h"
 #include "shell/ErrorInWords.h"
 
@@ -46,6 +47,7 @@ void RunHandler(Program& p, const Event& handler)
         } catch (const RuntimeError& error) {
             error.IsTold ? GiveUpCommand(p, error) : EndWithError(p, error);
         }
+        command.IsWithinAnother() ? PartFromFormerSubject(p) : FollowSubject(p);
     } catch (const ProgramEnded&) {
         // The handlers further out learn of the end when their own waiting returns.
     }

@@ -52,6 +52,26 @@ const QByteArray head = "0 HEAD\r\n"
                         "1 SUBN @N01@\r\n"
                         "0 @SUB01@ SUBM\r\n";
 
+// The lineage leaves the cursor on the record that it has looked up last.
+TEST_F(GedcomWriterTest, AfterTheRun_ThatRecordAloneStandsBesideTheMap)
+{
+    const forms::Form1& form = *P.Form1;
+    Click([this] { Records(P).MoveLast(); });
+    Click([this] { P.Form3->Data1.Settle(); });
+    ASSERT_EQ(form.Frame1.Caption.value(), u"Ref  A002"_s);
+    ASSERT_TRUE(form.Image1.Picture.value().isNull());
+    ASSERT_FALSE(form.Shape1.Visible);
+    Fill(u"Zoe Smith"_s, {u"1 Mill Lane"_s, u"York"_s, u"England"_s}, u"01904 1"_s, u"A001"_s);
+
+    CreateFile();
+    Click([this] { P.Form3->Data1.Settle(); });
+
+    EXPECT_EQ(P.Form3->Label25.Caption.value(), u"A001"_s);
+    EXPECT_EQ(form.Frame1.Caption.value(), u"Ref  A001"_s);
+    EXPECT_FALSE(form.Image1.Picture.value().isNull());
+    EXPECT_TRUE(form.Shape1.Visible);
+}
+
 TEST_F(GedcomWriterTest, WholeFile_AsItStandsOnDisk)
 {
     Fill(u"Zo\u00eb Smith"_s, {u"1 Mill Lane"_s, u"York"_s, u"England"_s}, u"01904 1"_s, u"A001"_s);

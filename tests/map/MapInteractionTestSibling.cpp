@@ -171,7 +171,7 @@ TEST_F(SiblingDoubleClickTest, NextDoubleClickBesideAllBoxes_ReturnsAllTheSame)
 
     ExpectOn(u"LfgDat_A", 0);
     EXPECT_EQ(Current(), u"A001"_s); // opened afresh
-    EXPECT_EQ(ShownNumber(), u"Ref  B002"_s);
+    EXPECT_EQ(ShownNumber(), u"Ref  "_s);
 }
 
 TEST_F(SiblingDoubleClickTest, SameBoxAgain_ReturnsFirst_AndOpensTheOtherBranchAfresh)

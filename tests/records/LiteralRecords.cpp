@@ -245,8 +245,10 @@ void LiteralRecords::ReturnFromSibling()
 
 void LiteralRecords::DoubleClick(int x, int y)
 {
-    if (IsAlternate)
+    if (IsAlternate) {
         ReturnFromSibling();
+        PanelFrame = u"Ref  "_s;
+    }
     if (!HasBranch)
         return Tell(u"Data not available"_s, u"Cannot View until database file is Opened"_s);
     bool isHit = false;
@@ -274,6 +276,7 @@ void LiteralRecords::DoubleClick(int x, int y)
         WorkLetter = letter;
         Open(letter);
         IsAlternate = true;
+        PanelFrame = u"Ref  "_s;
     }
     if (Current.IsEmpty())
         return Tell(u"Database Empty"_s, u"This Tree Branch has no records to access"_s);
@@ -300,17 +303,37 @@ int LiteralRecords::RowOf(const LiteralField& file) const
 
 void LiteralRecords::MarkCurrentBox()
 {
-    Marker.IsShown = false;
     FirstShow = 1;
-    const int row = HasRow(Current) ? RowOf(Value(Current, u"File"_s)) : -1;
+    if (HasRow(Current))
+        MarkBoxOf(Value(Current, u"File"_s), Text(Current, u"Gender"_s));
+    else
+        Marker.IsShown = false;
+}
+
+void LiteralRecords::MarkBoxOf(const LiteralField& file, const QString& gender)
+{
+    Marker.IsShown = false;
+    const int row = RowOf(file);
     if (row < 0)
         return;
     const LiteralBox& box = Boxes[static_cast<std::size_t>(row)];
-    const QString gender = Text(Current, u"Gender"_s).left(1).toUpper();
+    const QString letter = gender.left(1).toUpper();
     Marker = {true, box.X + 307 - 60, box.Y + 108 - 60,
-              gender == u"F"   ? Rgb(255, 0, 0)
-              : gender == u"M" ? Rgb(0, 0, 255)
+              letter == u"F"   ? Rgb(255, 0, 0)
+              : letter == u"M" ? Rgb(0, 0, 255)
                                : Rgb(255, 0, 255)};
+}
+
+// What stands beside the map is one person's.
+void LiteralRecords::FollowSubject()
+{
+    const QString number = Shown.value(u"File"_s).value_or(QString());
+    const bool isNobodyShown = PanelPicture.isEmpty() && !Marker.IsShown;
+    if (!Current.IsOpen() || (PanelFrame == u"Ref  "_s + number && (!number.isEmpty() || isNobodyShown)))
+        return;
+    PanelFrame = u"Ref  "_s + number;
+    PanelPicture = PictureIn(WorkLetter, number);
+    MarkBoxOf(number, Shown.value(u"Gender"_s).value_or(QString()));
 }
 
 // ---- the two windows in step

@@ -123,6 +123,8 @@ public:
     void StepByBar(int direction); // -2 first, -1 previous, 1 next, 2 last
     // The picture goes with the record where the form is on the screen.
     void FollowWithPicture();
+    // When the move has ended.
+    void FollowSubject();
     void OpenRecordMenu() { IsBarEnabled = false; }
 
     void StartScan(int mode);
@@ -182,6 +184,7 @@ private:
     void ReturnFromSibling();
     int RowOf(const LiteralField& file) const;
     void MarkCurrentBox();
+    void MarkBoxOf(const LiteralField& file, const QString& gender);
     void SetPictureName();
     void ShowNamedPicture();
     void ShowRecordPicture(const QString& directory);

@@ -147,6 +147,7 @@ bool SessionPlayer::MakeMove(const std::vector<MoveKind>& kinds)
         if (!kind.KeepsSelection)
             next.LoseSelection();
         move.InModel(next);
+        next.FollowSubject();
     } catch (const Unmodelled&) {
         return false;
     } catch (const RuntimeError& error) {
@@ -179,6 +180,9 @@ void SessionPlayer::Perform(const MoveKind& kind, const SessionMove& move)
         LoseSelection();
     try {
         RunHandler(p_, [&] { move.InProgram(p_); });
+        // As the event loop does next.
+        if (p_.Form3.IsLoaded() && !machine_.Loop.ExitCode)
+            RunHandler(p_, [&] { p_.Form3->Data1.Settle(); });
     } catch (const UnscriptedPrompt&) {
         differences_ += u"asked what it shouldn't"_s;
     }
