@@ -22,13 +22,6 @@ Colour MarkerColour(const QString& gender)
     return QbColor(13);
 }
 
-void ShowMarker(Program& p, Point place, const QString& gender)
-{
-    p.Form1->Shape1.Move(place);
-    p.Form1->Shape1.BorderColor = MarkerColour(gender);
-    p.Form1->Shape1.Visible = true;
-}
-
 bool FitsPlace(const Cell& cell)
 {
     using Places = std::numeric_limits<std::int16_t>;
@@ -70,7 +63,8 @@ void FindBoxOfRecord(Program& p)
 
 void MarkCurrentBox(Program& p)
 {
-    p.Form1->Shape1.Visible = false;
+    forms::Form1& form = *p.Form1;
+    form.Shape1.Visible = false;
     p.Gallery.FirstShow = 1;
 
     const Recordset& records = Records(p);
@@ -82,20 +76,9 @@ void MarkCurrentBox(Program& p)
     TakeBoxPosition(p, row);
     p.Mouse.BoxX += BoxCentreX - markerOffset;
     p.Mouse.BoxY += BoxCentreY - markerOffset;
-    ShowMarker(p, {p.Mouse.BoxX, p.Mouse.BoxY}, records.Text(u"Gender"));
-}
-
-void MarkBoxOf(Program& p, const QString& file, const QString& gender)
-{
-    p.Form1->Shape1.Visible = false;
-    const int row = RowOfRecord(p.Map, file);
-    if (row > LastFiledBox)
-        return;
-    const auto& box = p.Map.BoxArr[row];
-    ShowMarker(p,
-               {box[BoxColumn::X].Number() + BoxCentreX - markerOffset,
-                box[BoxColumn::Y].Number() + BoxCentreY - markerOffset},
-               gender);
+    form.Shape1.Move({p.Mouse.BoxX, p.Mouse.BoxY});
+    form.Shape1.BorderColor = MarkerColour(records.Text(u"Gender"));
+    form.Shape1.Visible = true;
 }
 
 } // namespace lineforge

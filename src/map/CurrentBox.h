@@ -14,9 +14,6 @@ void FindBoxOfRecord(Program& p);
 // there.
 void MarkCurrentBox(Program& p);
 
-// The same marker on the box of that record, and nothing else.
-void MarkBoxOf(Program& p, const QString& file, const QString& gender);
-
 // The first filed row whose box holds that record, or the row behind the last. A free row, or a box at no possible
 // place, holds nobody: there is nothing to be marked or printed in.
 int RowOfRecord(const MapState& map, const FieldValue& file);

@@ -1,6 +1,5 @@
 #include "map/SubjectPanel.h"
 
-#include "map/CurrentBox.h"
 #include "program/BranchPaths.h"
 #include "program/BranchUi.h"
 
@@ -29,8 +28,7 @@ constexpr PanelField panelFields[] = {
 
 const QString frameWithoutNumber = u"Ref  "_s;
 
-// Whether the labels show a record that the frame above them doesn't name, or nobody beside somebody's picture or
-// marker.
+// Whether the labels show a record that the frame above them doesn't name, or nobody beside somebody's picture.
 bool HasGoneOn(Program& p)
 {
     if (!p.Form1.IsLoaded() || !p.Form3.IsLoaded() || !p.Form3->Data1.IsOpen())
@@ -38,8 +36,7 @@ bool HasGoneOn(Program& p)
     const forms::Form1& form = *p.Form1;
     const QString shown = p.Form3->Label25.Caption.Shown();
     const QString named = form.Frame1.Caption.value().mid(frameWithoutNumber.size());
-    const bool isSomebodyLeft = !form.Image1.Picture.value().isNull() || form.Shape1.Visible;
-    return shown != named || (shown.isEmpty() && isSomebodyLeft);
+    return shown != named || (shown.isEmpty() && !form.Image1.Picture.value().isNull());
 }
 } // namespace
 
@@ -95,7 +92,6 @@ void PartFromFormerSubject(Program& p)
         return;
     p.Form1->Frame1.Caption = frameWithoutNumber;
     p.Form1->Image1.Picture = QImage();
-    p.Form1->Shape1.Visible = false;
 }
 
 void FollowSubject(Program& p)
@@ -112,9 +108,6 @@ void FollowSubject(Program& p)
     } catch (const RuntimeError&) {
         // No error of the command's: its place stays empty.
     }
-    // The tools work without the marker.
-    if (p.Tools.ToolMode != ToolsOpen)
-        MarkBoxOf(p, number, p.Form3->Text23.Text.Shown());
 }
 
 void TellPictureMissing(Program& p)

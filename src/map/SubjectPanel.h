@@ -30,7 +30,8 @@ bool ShowSubjectPicture(Program& p);
 void ShowRecordOnMap(Program& p);
 
 // The labels go with the cursor wherever a command, a search or the scanner takes it. Once they show another record
-// than the frame names, number, picture and marker go along. Reads nothing but what is shown.
+// than the frame names, number and picture go along. The map itself, with its marker, stays as it was: it follows those
+// who ask for it. Reads nothing but what is shown.
 void FollowSubject(Program& p);
 
 // In the midst of a command, whose cursor may still be on its way: they just go.

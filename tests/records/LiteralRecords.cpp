@@ -303,24 +303,16 @@ int LiteralRecords::RowOf(const LiteralField& file) const
 
 void LiteralRecords::MarkCurrentBox()
 {
-    FirstShow = 1;
-    if (HasRow(Current))
-        MarkBoxOf(Value(Current, u"File"_s), Text(Current, u"Gender"_s));
-    else
-        Marker.IsShown = false;
-}
-
-void LiteralRecords::MarkBoxOf(const LiteralField& file, const QString& gender)
-{
     Marker.IsShown = false;
-    const int row = RowOf(file);
+    FirstShow = 1;
+    const int row = HasRow(Current) ? RowOf(Value(Current, u"File"_s)) : -1;
     if (row < 0)
         return;
     const LiteralBox& box = Boxes[static_cast<std::size_t>(row)];
-    const QString letter = gender.left(1).toUpper();
+    const QString gender = Text(Current, u"Gender"_s).left(1).toUpper();
     Marker = {true, box.X + 307 - 60, box.Y + 108 - 60,
-              letter == u"F"   ? Rgb(255, 0, 0)
-              : letter == u"M" ? Rgb(0, 0, 255)
+              gender == u"F"   ? Rgb(255, 0, 0)
+              : gender == u"M" ? Rgb(0, 0, 255)
                                : Rgb(255, 0, 255)};
 }
 
@@ -328,12 +320,10 @@ void LiteralRecords::MarkBoxOf(const LiteralField& file, const QString& gender)
 void LiteralRecords::FollowSubject()
 {
     const QString number = Shown.value(u"File"_s).value_or(QString());
-    const bool isNobodyShown = PanelPicture.isEmpty() && !Marker.IsShown;
-    if (!Current.IsOpen() || (PanelFrame == u"Ref  "_s + number && (!number.isEmpty() || isNobodyShown)))
+    if (!Current.IsOpen() || (PanelFrame == u"Ref  "_s + number && (!number.isEmpty() || PanelPicture.isEmpty())))
         return;
     PanelFrame = u"Ref  "_s + number;
     PanelPicture = PictureIn(WorkLetter, number);
-    MarkBoxOf(number, Shown.value(u"Gender"_s).value_or(QString()));
 }
 
 // ---- the two windows in step

@@ -184,7 +184,6 @@ private:
     void ReturnFromSibling();
     int RowOf(const LiteralField& file) const;
     void MarkCurrentBox();
-    void MarkBoxOf(const LiteralField& file, const QString& gender);
     void SetPictureName();
     void ShowNamedPicture();
     void ShowRecordPicture(const QString& directory);
