@@ -27,7 +27,8 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # What the program loads or reads by name, so that no look at its libraries shows it.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation, gstreamer1.0-plugins-good, qt6-qpa-plugins")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "gstreamer1.0-libav") # most films that people have
+# Most films that people have; the desktops that aren't X11's own, on which the program would stand as a guest.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "gstreamer1.0-libav, qt6-wayland")
 
 set(packed_documents)
 foreach(document data/desktop/lineforge.1 data/desktop/lineforge-check.1 packaging/changelog)

@@ -1,15 +1,16 @@
 # The distribution packages that this project stands on. Sourced by the scripts at the top.
 
 build_packages="g++ cmake ninja-build ccache qt6-base-dev qt6-multimedia-dev qt6-svg-dev libgl1-mesa-dev libsqlite3-dev libcups2-dev pkgconf mdbtools-dev"
-run_packages="fonts-liberation qt6-qpa-plugins libqt6multimedia6 libmdb3 gstreamer1.0-plugins-good"
+run_packages="fonts-liberation qt6-qpa-plugins qt6-wayland libqt6multimedia6 libmdb3 gstreamer1.0-plugins-good"
 screen_packages="xvfb xauth libxcb1-dev libxcb-xtest0-dev poppler-utils"
 cpack_packages="dpkg-dev file"
 bench_packages="libbenchmark-dev mdbtools" # whose export is what a conversion is measured by
 queue_packages="cups-daemon cups-client cups-filters-core-drivers" # a print server for the tests
 reader_packages="python3-gi gir1.2-atspi-2.0 at-spi2-core dbus" # what screen readers reach a program by
 foreign_packages="gramps" # which reads what we hand on
+compositor_packages="weston" # whose screen nobody sees
 rule_packages="appstream desktop-file-utils lintian" # which judge what is given away
-test_packages="libgtest-dev libgmock-dev $rule_packages $cpack_packages $screen_packages $queue_packages $reader_packages $foreign_packages"
+test_packages="libgtest-dev libgmock-dev $rule_packages $cpack_packages $screen_packages $queue_packages $reader_packages $compositor_packages $foreign_packages"
 fuzz_packages="clang libclang-rt-14-dev"
 
 # Installs those of the named packages that are missing; says nothing when none is.

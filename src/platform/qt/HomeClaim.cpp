@@ -1,5 +1,7 @@
 #include "platform/qt/HomeClaim.h"
 
+#include "platform/qt/Desktop.h"
+
 #include <QFile>
 #include <QGuiApplication>
 #include <QLocalSocket>
@@ -70,8 +72,7 @@ void HomeClaim::ComeToFront() const
         return;
     if (lastInUse_->windowStates().testFlag(Qt::WindowMinimized))
         lastInUse_->setWindowStates(lastInUse_->windowStates() & ~Qt::WindowMinimized);
-    lastInUse_->raise();
-    lastInUse_->requestActivate();
+    BringToFront(*lastInUse_);
 }
 
 bool HomeClaim::CallOwner() const

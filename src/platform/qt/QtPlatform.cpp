@@ -1,5 +1,6 @@
 #include "platform/qt/QtPlatform.h"
 
+#include "platform/qt/Desktop.h"
 #include "platform/qt/ScaledStyle.h"
 
 #include <QApplication>
@@ -22,6 +23,8 @@ Scale ScaleFor(Size mainWindow)
 {
     const int title = QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight);
     const QScreen& screen = *QGuiApplication::primaryScreen();
+    if (DesktopArrangesWindows())
+        return ScaleForRoom(mainWindow, GrantedRoom(), screen.devicePixelRatio());
     return FittingScale(mainWindow, screen.availableSize(), title, screen.devicePixelRatio());
 }
 

@@ -1,6 +1,7 @@
 #include "platform/qt/QtPrompts.h"
 
 #include "platform/PictureBox.h"
+#include "platform/qt/Desktop.h"
 #include "platform/qt/FileFilters.h"
 #include "platform/qt/HelpWindow.h"
 #include "platform/qt/Popups.h"
@@ -17,6 +18,7 @@
 #include <QMessageBox>
 #include <QScreen>
 #include <QStyle>
+#include <QWindow>
 
 #include <algorithm>
 #include <utility>
@@ -242,8 +244,7 @@ void QtPrompts::ShowHelp(const QString& helpFile)
         return;
     }
     help_->show();
-    help_->raise();
-    help_->activateWindow();
+    BringToFront(*help_->windowHandle());
 }
 
 } // namespace lineforge

@@ -1,13 +1,14 @@
 #include "platform/qt/WindowView.h"
 
 #include "platform/qt/ClickableWidgets.h"
+#include "platform/qt/Desktop.h"
 #include "platform/qt/KeyboardPointer.h"
 #include "platform/qt/MenuBuilder.h"
 #include "platform/qt/Popups.h"
 #include "platform/qt/WidgetBuilder.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QScreen>
@@ -89,6 +90,8 @@ void WindowView::TakePlace()
     const QPoint wanted =
         isPlaced ? monitor.geometry().topLeft() + QPoint(scale_.ToPixels(form_.Left), scale_.ToPixels(form_.Top))
                  : available.topLeft() + spare / 2;
+    if (DesktopArrangesWindows() && HasOwnSize() && whole.width() >= available.width())
+        return Maximise(inner);
     // Nothing in a window of designed size could make use of more room.
     if (HasOwnSize()) {
         setMinimumSize(0, 0);
@@ -97,8 +100,19 @@ void WindowView::TakePlace()
     } else {
         setFixedSize(inner);
     }
+    if (DesktopArrangesWindows())
+        return;
     move(std::clamp(wanted.x(), available.left(), available.left() + spare.x()),
          std::clamp(wanted.y(), available.top(), available.top() + spare.y()));
+}
+
+// The desktop ends a program whose maximised window has another size than it has been granted.
+void WindowView::Maximise(QSize otherwise)
+{
+    if (isMaximized())
+        return;
+    resize(otherwise);
+    setWindowState(windowState() | Qt::WindowMaximized);
 }
 
 void WindowView::Show()
@@ -110,8 +124,7 @@ void WindowView::Show()
 void WindowView::Appear()
 {
     Show();
-    raise();
-    activateWindow();
+    BringToFront(*windowHandle());
 }
 
 QImage WindowView::Picture() const
@@ -150,14 +163,19 @@ void WindowView::hideEvent(QHideEvent* event)
 void WindowView::showEvent(QShowEvent* event)
 {
     windowHandle()->installEventFilter(this);
+    isArriving_ = true;
     QMainWindow::showEvent(event);
 }
 
 // A desktop has put its frame around a window before the window is first seen.
 bool WindowView::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == windowHandle() && event->type() == QEvent::Expose)
+    if (watched == windowHandle() && event->type() == QEvent::Expose) {
         MeetFrame();
+        if (std::exchange(isArriving_, false) && DesktopArrangesWindows())
+            // Once it has been painted: before that nothing can belong to it.
+            QMetaObject::invokeMethod(this, &WindowView::TakeTopmostAlong, Qt::QueuedConnection);
+    }
     return QMainWindow::eventFilter(watched, event);
 }
 
@@ -170,6 +188,18 @@ void WindowView::MeetFrame()
     isFrameMet_ = true;
     if (std::exchange(frame_, met) != met)
         TakePlace();
+}
+
+void WindowView::TakeTopmostAlong()
+{
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        const auto* other = dynamic_cast<WindowView*>(window);
+        if (!other || other == this || !other->form_.Topmost || !other->isVisible())
+            continue;
+        window->hide();
+        window->windowHandle()->setTransientParent(windowHandle());
+        window->show();
+    }
 }
 
 void WindowView::keyPressEvent(QKeyEvent* event)

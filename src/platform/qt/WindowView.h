@@ -17,7 +17,8 @@ namespace lineforge
 // What shows one window. Without a size of its own the window has exactly the client area of its design, in the middle
 // of the screen unless it has been placed; a size that the program gave is that of the whole window with its frame, but
 // no lower than its design as long as the screen has room. Window and frame lie within what is free of the screen: the
-// frame is reckoned with as the style tells it, and once the window is on the screen as it really is.
+// frame is reckoned with as the style tells it, and once the window is on the screen as it really is. Where the desktop
+// alone arranges windows, one that is as wide as the screen is maximised instead, and no place is asked for.
 class WindowView : public QMainWindow
 {
 public:
@@ -47,13 +48,18 @@ private:
     bool HasOwnSize() const;
     QSize InnerSize(QSize available) const;
     void TakePlace();
+    // `otherwise` is how large it is when the user ends that.
+    void Maximise(QSize otherwise);
     void MeetFrame();
+    // What is to stay before all others comes before this window, and belongs to it from now on.
+    void TakeTopmostAlong();
 
     Form& form_;
     const Scale scale_;
     std::shared_ptr<const Gate> gate_;
     QMargins frame_;
     bool isFrameMet_ = false;
+    bool isArriving_ = false; // shown, but not yet on the screen
     Bindings bindings_;
 };
 
