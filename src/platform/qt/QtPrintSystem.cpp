@@ -3,6 +3,7 @@
 #include "platform/RuntimeError.h"
 
 #include <QFileInfo>
+#include <QLibrary>
 #include <QPrintDialog>
 #include <QPrintEngine>
 #include <QPrinterInfo>
@@ -36,6 +37,16 @@ void CopySettings(const QPrinter& from, QPrinter& to)
     to.setDuplex(from.duplex());
     to.setPrintRange(from.printRange());
     to.setPageRanges(from.pageRanges());
+}
+
+// What the print server answered last. Its library isn't linked, for it brings some twenty others, which nobody needs
+// who starts the program and doesn't print. The toolkit loads it with its first printer.
+ipp_status_t LastAnswer()
+{
+    constexpr int libraryVersion = 2;
+    static const auto lastAnswer =
+        reinterpret_cast<decltype(&cupsLastError)>(QLibrary::resolve(u"cups"_s, libraryVersion, "cupsLastError"));
+    return lastAnswer ? lastAnswer() : IPP_STATUS_ERROR_INTERNAL;
 }
 
 // The toolkit's dialog asks for the order of the pages, but its jobs don't tell the server of it.
@@ -90,7 +101,7 @@ std::shared_ptr<QPagedPaintDevice> QtPrintSystem::NewJob(bool landscape)
 // The toolkit hands a whole job over when it ends, in this thread, and doesn't look at the answer.
 bool QtPrintSystem::IsTaken() const
 {
-    return !isQueued_ || cupsLastError() <= IPP_STATUS_OK_EVENTS_COMPLETE;
+    return !isQueued_ || LastAnswer() <= IPP_STATUS_OK_EVENTS_COMPLETE;
 }
 
 // The dialog has asked about the file itself; the jobs behind the first may take no other file's place, least of all
