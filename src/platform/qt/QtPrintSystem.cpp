@@ -4,6 +4,7 @@
 
 #include <QFileInfo>
 #include <QLibrary>
+#include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrintEngine>
 #include <QPrinterInfo>
@@ -59,6 +60,14 @@ void TellOrderOfPages(const QPrinter& printer)
     QPrintEngine& engine = *printer.printEngine();
     const QStringList inReverse{u"outputorder"_s, u"reverse"_s};
     engine.setProperty(serverOptions, engine.property(serverOptions).toStringList() + inReverse);
+}
+
+// The toolkit proposes a directory, and a name in it only under X11.
+void ProposeFile(const QPrintDialog& dialog)
+{
+    auto* file = dialog.findChild<QLineEdit*>(u"filename"_s);
+    if (file && file->text().endsWith(u'/'))
+        file->setText(file->text() + documentName + u".pdf");
 }
 } // namespace
 
@@ -142,6 +151,7 @@ void QtPrintSystem::Choose(QWidget* parent)
     QPrintDialog dialog(printer.get(), parent);
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
                       QAbstractPrintDialog::PrintShowPageSize | QAbstractPrintDialog::PrintCollateCopies);
+    ProposeFile(dialog);
     if (dialog.exec() == QDialog::Accepted)
         SetChosen(std::move(printer));
 }

@@ -181,6 +181,14 @@ TEST_F(PrintSystemTest, TheDialog_AsksForPaperAndPages)
     });
 }
 
+TEST_F(PrintSystemTest, TheDialog_ProposesAFileOfTheProgramsName_OnAnyDesktop)
+{
+    SetUpPrinter([](QDialog& dialog) {
+        EXPECT_TRUE(In<QLineEdit>(dialog, u"filename"_s).text().endsWith(u"/Lineforge.pdf"));
+        dialog.reject();
+    });
+}
+
 TEST_F(PrintSystemTest, PagesChosenInTheDialog_AreThoseThatArePrinted_UntilAllAreChosenAgain)
 {
     SetUpPrinter([this](QDialog& dialog) {
