@@ -10,7 +10,7 @@ namespace
 {
 
 constexpr int blocks = 8;
-constexpr int usualSessions = 240;
+constexpr int usualSessions = 400;
 constexpr int movesOfASession = 40;
 
 class RandomSessionTest : public testing::TestWithParam<int>

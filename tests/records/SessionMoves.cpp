@@ -205,9 +205,10 @@ SessionMove Refuse(Session& session)
 
 SessionMove Type(Session& session)
 {
-    // Most of all what the map shows.
+    // Most of all what the map shows, or keeps when the branch is closed: forename, maiden name, gender.
+    constexpr int ofMap[] = {2, 15, 22};
     const int any = session.Dice(24);
-    const FieldBox& box = FieldBoxes()[static_cast<std::size_t>(session.Dice(2) == 0 ? any : any < 12 ? 2 : 22)];
+    const FieldBox& box = FieldBoxes()[static_cast<std::size_t>(session.Dice(2) == 0 ? any : ofMap[any % 3])];
     const QString text = OneOfTyped(session);
     return {u"'%1' in %2"_s.arg(text, box.Field), [=](Session& s) { s.Type(box.Field, text); },
             [=](Program& p) { ((*p.Form3).*box.Box).Text = text; }};
@@ -373,7 +374,7 @@ std::vector<MoveKind> MovesOfMapAndGallery()
         Command(u"Records"_s, 8, OnMap, &Session::ShowRecords, [](Program& p) { Fire(p.Form1->Command1.Click); }),
         Command(u"View Records"_s, 2, OnMap, &Session::ShowRecords,
                 [](Program& p) { Fire(p.Form1->mnuViewRecs.Click); }),
-        Command(u"Gallery on the map"_s, 1, OnMap, &Session::PressGalleryOnMap,
+        Command(u"Gallery on the map"_s, 3, OnMap, &Session::PressGalleryOnMap,
                 [](Program& p) { Fire(p.Form1->Command2.Click); }),
         Command(u"Tree on the gallery"_s, 8, OnGallery, &Session::LeaveGalleryForTree,
                 [](Program& p) { Fire(p.Form5->Command1.Click); }),
