@@ -239,6 +239,13 @@ bool LiteralSession::IsPairSeen()
 
 // ---- copying
 
+// Before the one side's change, which the record form shows, too.
+void LiteralSession::StoreTypedIfOneRecord()
+{
+    if (HasRow(Current) && HasRow(Compare) && Current.Letter == Compare.Letter && Current.Id == Compare.Id)
+        Leaving(Current);
+}
+
 LiteralCursor& LiteralSession::Target()
 {
     return GoesToCompare ? RequireCompare() : Current;
@@ -251,6 +258,7 @@ void LiteralSession::CopyField()
     LiteralSide& side = GoesToCompare ? Theirs : Ours;
     const QString before = side.Field;
     try {
+        StoreTypedIfOneRecord();
         LiteralCursor& to = Target();
         LiteralCursor& from = GoesToCompare ? Current : RequireCompare();
         const bool isField =
@@ -274,6 +282,7 @@ void LiteralSession::CopyAllFields()
 {
     if (TellIfComparesAlternate() || !IsPairSeen())
         return;
+    StoreTypedIfOneRecord();
     LiteralCursor& to = Target();
     Edit(to);
     LiteralCursor& from = GoesToCompare ? Current : RequireCompare();
@@ -360,6 +369,7 @@ void LiteralSession::Store(const QString& text)
     const bool isField = SelBox == 2 || SelBox == 4;
     LiteralCursor& cursor = SelBox <= 2 ? Current : RequireCompare();
     const QString field = isField ? CompField : u"Surname"_s;
+    StoreTypedIfOneRecord();
     Edit(cursor);
     if (field == u"Nation" || field == u"Father" || field == u"Mother" || field.isEmpty())
         throw RuntimeError(ErrorNumber::ItemNotFound, field + u'\n' + DatabaseOf(cursor.Letter));

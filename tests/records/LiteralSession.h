@@ -94,6 +94,7 @@ private:
     void SearchWhereSame();
     bool FindDifference();
     void SearchFields();
+    void StoreTypedIfOneRecord();
     LiteralCursor& Target();
     QString& BoxText(int number);
     void Store(const QString& text);
