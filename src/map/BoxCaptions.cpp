@@ -154,6 +154,16 @@ void DrawCaption(Program& p, Siblings& siblings, int row)
     });
 }
 
+// The mouse hit the box of a record from which the record bar may have gone on since.
+std::optional<int> RowOfSibling(const Program& p, const QString& file)
+{
+    const int hit = p.Mouse.BoxIdx;
+    if (hit <= LastMapRow && !file.isEmpty() && SameText(FiledNumber(p, hit), file))
+        return hit;
+    const int row = RowOfRecord(p.Map, file);
+    return row <= LastFiledBox ? std::optional(row) : std::nullopt;
+}
+
 // The boxes that stand anywhere by the records that they hold.
 QMultiHash<QString, int> BoxesByRecord(const MapState& map)
 {
@@ -281,14 +291,19 @@ void EmptyBox(Program& p, int row)
 
 void EraseBoxCaption(Program& p)
 {
-    if (p.Branch.UsingAlternate == 1) {
-        p.Scratch.IdxA = p.Mouse.BoxIdx;
-        TakeBoxPosition(p, p.Mouse.BoxIdx);
-        p.Record.sForeName = FittedForename(p.Record.sAltName);
-        EmptyBox(p, p.Scratch.IdxA);
-    } else if (const std::optional<int> row = RowToErase(p)) {
+    if (const std::optional<int> row = RowToErase(p))
         EmptyBox(p, *row);
-    }
+}
+
+void EraseSiblingsBox(Program& p, const QString& file)
+{
+    p.Record.sForeName = FittedForename(p.Record.sAltName);
+    const std::optional<int> row = RowOfSibling(p, file);
+    if (!row)
+        return;
+    p.Scratch.IdxA = *row;
+    TakeBoxPosition(p, *row);
+    EmptyBox(p, *row);
 }
 
 } // namespace lineforge

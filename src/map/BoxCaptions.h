@@ -56,8 +56,11 @@ std::optional<int> RowToErase(Program& p);
 // Wipes the caption of that row's box and empties the box. The pen is black afterwards.
 void EmptyBox(Program& p, int row);
 
-// Wipes the caption of the current record's box and empties the box. While a record of another branch is shown the box
-// is the one that the mouse hit, and the forename `sAltName`.
+// Wipes the caption of the current record's box and empties the box.
 void EraseBoxCaption(Program& p);
+
+// The same for that record of another branch, whose forename is `sAltName`: of several boxes the one that the mouse
+// hit. A record without a box takes nobody else's.
+void EraseSiblingsBox(Program& p, const QString& file);
 
 } // namespace lineforge

@@ -22,10 +22,11 @@ Colour MarkerColour(const QString& gender)
     return QbColor(13);
 }
 
-bool FitsPlace(const Cell& cell)
+// With the marker, which stands that much further in.
+bool FitsPlace(const Cell& cell, int marker)
 {
     using Places = std::numeric_limits<std::int16_t>;
-    return cell.IsNumber() && cell.Number() >= Places::min() && cell.Number() <= Places::max();
+    return cell.IsNumber() && cell.Number() >= Places::min() && cell.Number() <= Places::max() - marker;
 }
 } // namespace
 
@@ -43,7 +44,8 @@ int RowOfRecord(const MapState& map, const FieldValue& file)
 bool HasPlace(const MapState& map, int row)
 {
     const auto& box = map.BoxArr[row];
-    return !box[BoxColumn::X].IsZero() && FitsPlace(box[BoxColumn::X]) && FitsPlace(box[BoxColumn::Y]);
+    return !box[BoxColumn::X].IsZero() && FitsPlace(box[BoxColumn::X], BoxCentreX - markerOffset) &&
+           FitsPlace(box[BoxColumn::Y], BoxCentreY - markerOffset);
 }
 
 void TakeBoxPosition(Program& p, int row)

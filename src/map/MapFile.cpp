@@ -1,5 +1,6 @@
 #include "map/MapFile.h"
 
+#include "platform/Text.h"
 #include "platform/TextFile.h"
 #include "program/AlternateBranch.h"
 #include "program/BranchPaths.h"
@@ -176,6 +177,18 @@ void SaveBoxes(Program& p)
 {
     p.Map.sBoxesText = ListOfBoxes(p.Map);
     WriteMapFile(p);
+}
+
+QString ListWithForename(const QString& boxes, const QString& file, const QString& forename)
+{
+    QStringList values = boxes.split(u',');
+    for (qsizetype row = 0; row + BoxColumn::Forename < values.size(); row += BoxColumn::Count) {
+        if (file.isEmpty() || !SameText(values[row + BoxColumn::File], file))
+            continue;
+        values[row + BoxColumn::Forename] = FiledForename(forename);
+        break;
+    }
+    return values.join(u',');
 }
 
 QString ListOfBoxes(const MapState& map)

@@ -38,6 +38,9 @@ void WriteMapFile(Program& p);
 // last read or saved.
 void SaveBoxes(Program& p);
 
+// The list with another forename in the first box of that record; for the time that the arrays are being edited.
+QString ListWithForename(const QString& boxes, const QString& file, const QString& forename);
+
 // The three lists from the arrays, free rows left out.
 QString ListOfBoxes(const MapState& map);
 QString ListOfLines(const MapState& map); // rows 0 to 199

@@ -35,9 +35,13 @@ bool IsTransferPending(const Program& p)
 // one.
 void MoveLinkToPressedBox(Program& p)
 {
-    EraseBoxCaption(p);
+    const QString file = Records(p).Text(u"File");
+    if (p.Branch.UsingAlternate == 1)
+        EraseSiblingsBox(p, file);
+    else
+        EraseBoxCaption(p);
     HitBox(p);
-    TieBox(p, p.Mouse.BoxIdx, Records(p).Text(u"File"), Records(p).Text(u"Forename"));
+    TieBox(p, p.Mouse.BoxIdx, file, Records(p).Text(u"Forename"));
 }
 
 // Writes the boxes to the map's own branch although a record of another one is shown. Leaves the other branch opened
@@ -55,12 +59,14 @@ void SaveBoxesOfOwnBranch(Program& p)
     Records(p).Seek(u"File", file);
 }
 
-// False when there is no record to be transferred. Beside all boxes, or on one that isn't saved, the transfer waits for
-// a better double click, with its cross and the old box.
+// False when there is no record to be transferred, or none any more: the cursor may have gone behind the last one.
+// Beside all boxes, or on one that isn't saved, the transfer waits for a better double click, with its cross and the
+// old box.
 bool FinishTransfer(Program& p)
 {
-    if (Records(p).IsEmpty()) {
-        TellNoRecords(p);
+    if (!Records(p).HasRow()) {
+        if (Records(p).IsEmpty())
+            TellNoRecords(p);
         ClearMapCursor(p);
         return false;
     }

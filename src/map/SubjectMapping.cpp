@@ -170,8 +170,6 @@ bool MapAlternateRecord(Program& p)
     DrawBoxCaptions(p);
     SaveBoxes(p);
     SwitchToSibling(p, letter);
-    for (Button forms::Form3::*transport : forms::Form3::Transport)
-        ((*p.Form3).*transport).Enabled = false;
     return StandOnRecord(p, *number);
 }
 

@@ -53,6 +53,8 @@ struct ToolState {
     Integer16 LineMiss;
     Integer16 ChainTop; // index of the last entry of the map's `LineChain`
 
+    int NewRow = 0;         // of the line or box that is being drawn
+    int CountSave = 0;      // of the lines, kept during the drawing of one
     Colour PenSave = Black; // pen and font of the picture, kept during a gesture
     TextFont FontSave;
 

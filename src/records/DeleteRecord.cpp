@@ -54,9 +54,10 @@ void KillFiles(Program& p, const QString& file)
 
 void Unlink(Program& p)
 {
+    const QString file = Records(p).Text(u"File");
     p.Record.sAltName = Records(p).Text(u"ForeName");
     OpenOwnBranch(p);
-    EraseBoxCaption(p);
+    EraseSiblingsBox(p, file);
     SaveBoxes(p);
     EndAlternate(p);
     Records(p).MoveFirst();

@@ -6,6 +6,7 @@
 #include "map/MapItems.h"
 #include "map/SubjectPanel.h"
 #include "map/tools/LeaveTools.h"
+#include "map/tools/ToolImages.h"
 #include "platform/Text.h"
 #include "program/AlternateBranch.h"
 #include "program/BranchUi.h"
@@ -36,13 +37,20 @@ void CaptionBoxOfRecord(Program& p)
     RenameBox(p, row, Records(p).Text(u"Forename"));
 }
 
+// What is being drawn with the tools is saved when they are closed, or not at all.
+QString ListOfBoxesToSave(Program& p)
+{
+    return AreToolsShown(p) ? ListWithForename(p.Map.sBoxesText, Records(p).Text(u"File"), p.Form3->Text3.Text)
+                            : ListOfBoxes(p.Map);
+}
+
 // A forename changed only in its letters' case counts as unchanged.
 void CarryForenameToMap(Program& p)
 {
     if (SameText(p.Form3->Text3.Text.value(), p.Record.sShownName))
         return;
     p.Errors.Ignoring([&] { RenameBoxOfRecord(p, p.Form3->Text3.Text); });
-    p.Errors.Ignoring([&] { p.Map.sBoxesText = ListOfBoxes(p.Map); });
+    p.Errors.Ignoring([&] { p.Map.sBoxesText = ListOfBoxesToSave(p); });
 }
 
 // The boxes may still have to follow the last move. Where the database refuses that they show another record, whose
@@ -99,10 +107,6 @@ void ShowRecordForm(Program& p)
         return;
     SetPictureName(p);
     forms::Form3& form = *p.Form3;
-    // The record of another branch stands alone: the scanner can't walk that branch.
-    if (p.Branch.UsingAlternate == 1)
-        for (Button forms::Form3::*transport : forms::Form3::Transport)
-            (form.*transport).Enabled = false;
     ShowNamedPicture(p);
     p.Record.sShownName = form.Text3.Text;
     form.Show();

@@ -154,8 +154,8 @@ void TickScan(Program& p)
     constexpr int fastMilliseconds = 250;
     constexpr int slowMilliseconds = 1000;
 
-    // Under that question nothing moves.
-    if (p.Databases.Others().IsAsking())
+    // Under that question nothing moves; and a record of another branch stands alone until the return.
+    if (p.Databases.Others().IsAsking() || p.Branch.UsingAlternate == 1)
         return;
     p.Gallery.FirstShow = 1;
     const ScanMode mode = ModeOf(p);

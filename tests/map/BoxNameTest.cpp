@@ -311,5 +311,53 @@ TEST_F(BoxNameTest, NewSubjectOfAnotherBranch_IsPrintedInItsBox)
     EXPECT_TRUE(SameDrawing(Picture, *Hand));
 }
 
+TEST_F(BoxNameTest, MapCopiedAndPasted_TheOldNameIsStillWiped)
+{
+    GivenPerson(u"John", u"John");
+    P.Form1->mnuCopy.Click();
+    P.Form1->mnuPaste.Click();
+
+    Rename(u"Mary");
+
+    HandPrints(0, u"A001", u"John");
+    HandWipes(0, u"", u"John");
+    HandPrints(0, u"", u"Mary");
+    EXPECT_TRUE(SameDrawing(Picture, *Hand));
+}
+
+TEST_F(BoxNameTest, MapPastedAsItWasBefore_TheNameThatItShowsIsWiped)
+{
+    GivenPerson(u"John", u"John");
+    P.Form1->mnuCopy.Click();
+    Rename(u"Mary");
+    P.Form1->mnuPaste.Click();
+
+    Rename(u"Eve");
+
+    HandPrints(0, u"A001", u"John");
+    HandWipes(0, u"", u"John");
+    HandPrints(0, u"", u"Eve");
+    EXPECT_TRUE(SameDrawing(Picture, *Hand));
+}
+
+// What is drawn isn't saved by it: the tools still ask.
+TEST_F(BoxNameTest, NameChangedWithTheToolsOpen_NoBringsTheBoxesBack_WithTheNewName)
+{
+    GivenPerson(u"John", u"John");
+    P.Form1->Command1.Click();
+    P.Form1->mnuTreeTools.Click();
+    Choose(18);
+    Drag({{3300, 600}, {3400, 1600}});
+    Choose(28);
+    PressAndRelease({3400, 1600});
+    P.Form3->Text3.Text = u"Ma,ry"_s;
+    P.Form3->Command2.Click();
+
+    Leave(Answer::No);
+
+    EXPECT_EQ(Box(0), (RowTexts{u"1000"_s, u"500"_s, u"0"_s, u"A001"_s, u"Mary"_s}));
+    EXPECT_EQ(Box(1), (RowTexts{u"3000"_s, u"500"_s, u"0"_s, u"0"_s, u""_s}));
+}
+
 } // namespace
 } // namespace lineforge

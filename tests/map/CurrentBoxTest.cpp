@@ -105,6 +105,23 @@ TEST_F(CurrentBoxTest, Take_PositionOutsideSixteenBits_IsOverflow)
     EXPECT_EQ(RefusalOf([&] { TakeBoxPosition(P, 0); }), ErrorNumber::Overflow);
 }
 
+TEST_F(CurrentBoxTest, BoxWhoseMarkerWouldStandOutsideSixteenBits_IsNoBoxOfTheRecord)
+{
+    givenRecord();
+    for (const Point corner : {Point{32521, 500}, Point{500, 32720}}) {
+        givenBox(0, corner, u"A001");
+
+        MarkCurrentBox(P);
+
+        EXPECT_FALSE(Marker.Visible);
+    }
+    givenBox(0, {32520, 32719}, u"A001");
+    MarkCurrentBox(P);
+    EXPECT_TRUE(Marker.Visible);
+    EXPECT_EQ(Marker.Left, 32767);
+    EXPECT_EQ(Marker.Top, 32767);
+}
+
 TEST_F(CurrentBoxTest, BoxAtNoPossiblePlace_IsNoBoxOfTheRecord)
 {
     givenRecord();

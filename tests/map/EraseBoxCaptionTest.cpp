@@ -173,7 +173,7 @@ TEST_F(EraseBoxCaptionTest, RecordOfSiblingShown_SelectedBoxIsErased)
     P.Record.sAltName = u"Beatrice"_s;
     P.Branch.UsingAlternate = 1;
 
-    EraseBoxCaption(P);
+    EraseSiblingsBox(P, u"B001"_s);
 
     PictureByHand expected;
     expected->PrintAt({3100, 500}, u"A001"_s);
@@ -194,7 +194,7 @@ TEST_F(EraseBoxCaptionTest, RecordOfSiblingShown_LastBoxRowIsErasedToo)
     P.Record.sAltName = u"Bob"_s;
     P.Branch.UsingAlternate = 1;
 
-    EraseBoxCaption(P);
+    EraseSiblingsBox(P, u"B001"_s);
 
     EXPECT_TRUE(IsBlank(Picture));
     EXPECT_EQ(FileOf(99), u"0"_s);

@@ -85,6 +85,22 @@ TEST_P(LeavingCommandTest, ToolsOpen_No_SavesNoLine_AndABoxOnlyWhereTheCommandSa
     EXPECT_FALSE(bytes.contains("1000,6000"));
 }
 
+// Clear and View take the mouse from them; what has been drawn is still to be saved.
+TEST_P(LeavingCommandTest, ToolsLeftToThemselves_AsksOnce_AndSavesOnYes)
+{
+    GivenTools();
+    PlaceBox({5000, 5000});
+    DrawNewLine({1000, 6000}, {2000, 6000});
+    P.Form1->Command4.Click();
+    ASSERT_EQ(P.Tools.ToolMode, 0);
+    ExpectSaveQuestion(Answer::Yes);
+
+    Run();
+
+    EXPECT_EQ(MapBytes(),
+              BytesOf(u"1000,500,0,A001,John,4693,4892,0,0,,", u"1000,2000,2000,2000,255,1000,6000,2000,6000,0,", u""));
+}
+
 TEST_P(LeavingCommandTest, ToolsClosed_AsksNothing)
 {
     GivenMap();
@@ -95,6 +111,23 @@ TEST_P(LeavingCommandTest, ToolsClosed_AsksNothing)
 }
 
 INSTANTIATE_TEST_SUITE_P(Commands, LeavingCommandTest, testing::ValuesIn(commands));
+
+TEST_F(ToolsTest, ToolsLeftToThemselvesByView_AreClosedByTheNextCommand)
+{
+    BranchA.Row({{u"File", u"A001"}}).Picture(u"A001", Qt::red);
+    GivenTools();
+    DrawNewLine({1000, 6000}, {2000, 6000});
+    P.Form1->Text1.Text = u"Nobody"_s;
+    P.Form1->Command3.Click();
+    ASSERT_EQ(P.Tools.ToolMode, 1);
+    ExpectSaveQuestion(Answer::Yes);
+
+    P.Form1->Command1.Click();
+
+    EXPECT_EQ(MapBytes(), BytesOf(u"", u"1000,6000,2000,6000,0,", u""));
+    EXPECT_EQ(P.Tools.ToolMode, 0);
+    EXPECT_TRUE(P.Form3->Visible);
+}
 
 TEST_F(ToolsTest, LineageMarks_AreNoToolsToBeClosed)
 {

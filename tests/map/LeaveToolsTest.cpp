@@ -425,5 +425,28 @@ TEST_F(LeaveToolsTest, ReadOnlyMap_NoIsNotRefused)
     ExpectMapAsItWas();
 }
 
+TEST_F(LeaveToolsTest, RecordOfTheOpeningIsDeleted_WhoeverIsCurrentStaysSo)
+{
+    ASSERT_EQ(Current(), u"A001"_s);
+    Records(P).Delete();
+    Records(P).MoveLast();
+
+    Leave(Answer::No);
+
+    EXPECT_EQ(Current(), u"A003"_s);
+}
+
+TEST_F(LeaveToolsTest, RecordOfTheOpeningIsDeleted_NobodyIsCurrent_TheFirstBecomesSo)
+{
+    Records(P).Delete();
+    Records(P).MoveLast();
+    Records(P).MoveNext();
+
+    Leave(Answer::No);
+
+    EXPECT_EQ(Current(), u"A002"_s);
+    EXPECT_EQ(P.Form1->Shape1.Left, 2000 + 247);
+}
+
 } // namespace
 } // namespace lineforge

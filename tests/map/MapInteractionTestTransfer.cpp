@@ -349,5 +349,61 @@ TEST_F(TransferTest, AllRowsInUse_BesideAllBoxes_IsNoError)
     EXPECT_EQ(P.Screen.Pointer, MousePointer::Cross);
 }
 
+// The record bar can go on from the record that was chosen on the map.
+TEST_F(TransferTest, AnotherRecordOfTheSibling_MovesWithoutItsBox_AndTheChosenOneKeepsHis)
+{
+    GivenCrossFor(1);
+    Records(P).MoveFirst();
+
+    DoubleClickBox(2);
+
+    EXPECT_EQ(FileOf(1), u"B002"_s);
+    EXPECT_EQ(FileOf(2), u"B001"_s);
+}
+
+TEST_F(TransferTest, AnotherRecordOfTheSibling_LeavesItsOwnBox)
+{
+    givenBox(3, {4000, 500}, u"b001");
+    P.Map.SBoxes = 3;
+    GivenCrossFor(1);
+    Records(P).MoveFirst();
+
+    DoubleClickBox(2);
+
+    EXPECT_EQ(FileOf(1), u"B002"_s);
+    EXPECT_EQ(FileOf(2), u"B001"_s);
+    EXPECT_EQ(FileOf(3), u"0"_s);
+}
+
+TEST_F(TransferTest, SubjectOfASiblingInTwoBoxes_LeavesTheOneThatWasChosen)
+{
+    givenBox(3, {4000, 500}, u"B002");
+    P.Map.SBoxes = 3;
+    GivenCrossFor(3);
+
+    DoubleClickBox(2);
+
+    EXPECT_EQ(FileOf(1), u"B002"_s);
+    EXPECT_EQ(FileOf(2), u"B002"_s);
+    EXPECT_EQ(FileOf(3), u"0"_s);
+}
+
+TEST_F(TransferTest, CursorBehindTheLastRecord_NothingMoves_AndTheCrossGoes)
+{
+    for (const int chosen : {0, 1}) {
+        P.Tools.MapCursorMode = MapCursor::Repositioning;
+        GivenCrossFor(chosen);
+        Records(P).MoveLast();
+        Records(P).MoveNext();
+
+        DoubleClickBox(2);
+
+        EXPECT_EQ(FileOf(0), u"A001"_s);
+        EXPECT_EQ(FileOf(1), u"B002"_s);
+        EXPECT_EQ(FileOf(2), u"0"_s);
+        ExpectCursorGone();
+    }
+}
+
 } // namespace
 } // namespace lineforge

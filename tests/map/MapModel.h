@@ -217,8 +217,10 @@ private:
     void AskPicture();
     void StopMapping();
     void RenameCurrent(const QString& forename);
+    void RenameInList(const QString& file, const QString& forename);
 
     unsigned PenSave = 0;
+    int CountSave = 0; // of the lines
     Font FontSave;
     Point Last;
     Rectangle Kept;

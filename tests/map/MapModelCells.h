@@ -33,11 +33,12 @@ inline bool IsFree(const MapModel::Cells& row)
 // A box that stands anywhere.
 inline bool IsPlaced(const MapModel::Cells& row)
 {
-    const auto fits = [](const QString& cell) {
+    // The marker stands further in.
+    const auto fits = [](const QString& cell, int marker) {
         const std::optional<int> number = NumberIn(cell);
-        return number && *number >= -32768 && *number <= 32767;
+        return number && *number >= -32768 && *number <= 32767 - marker;
     };
-    return !IsFree(row) && fits(row[0]) && fits(row[1]);
+    return !IsFree(row) && fits(row[0], 307 - 60) && fits(row[1], 108 - 60);
 }
 
 // Strictly, whichever of the two is the greater.

@@ -70,6 +70,7 @@ void MapModel::PressTool(int shift, Point at)
 {
     switch (ToolSel) {
     case 7: {
+        CountSave = SLines;
         SLines = RowForNew(Lines, SLines, [](const Line& line) { return line[0] == 0; });
         if ((shift & ctrlKey) != 0) {
             const Line before = SLines == 0 ? Line{} : At(Lines, SLines - 1);
@@ -354,7 +355,7 @@ bool MapModel::EndLine()
 {
     if (std::abs(Moved.X - Down.X) < 100 && std::abs(Moved.Y - Down.Y) < 50) {
         At(Lines, SLines) = {};
-        --SLines;
+        SLines = CountSave;
         Pen = PenSave;
         PromiseLess(Promise::Holes);
         return false;

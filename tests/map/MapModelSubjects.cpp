@@ -54,6 +54,10 @@ bool MapModel::FinishTransfer()
         ClearCursor();
         return false;
     }
+    if (!HasRow()) {
+        ClearCursor();
+        return false;
+    }
     int pressed = 0;
     while (pressed <= SBoxes && !IsInBox(pressed))
         ++pressed;
@@ -61,9 +65,10 @@ bool MapModel::FinishTransfer()
         return false;
     const QString file = CurrentFile();
     const QString forename = Filed(Table()[static_cast<std::size_t>(Cursor)].Forename);
-    // The last box can't be erased; one of another branch is the one that was pressed first.
-    const int old = UsingAlternate ? BoxIdx : RowOfCurrent();
-    if (UsingAlternate || old < 99) {
+    // The last box can't be erased, but one of another branch; of several that is the one that was pressed first.
+    const bool isPressedFirst = UsingAlternate && BoxIdx <= LastRow && IsSame(At(Boxes, BoxIdx)[3], file);
+    const int old = isPressedFirst ? BoxIdx : RowOfCurrent();
+    if (isPressedFirst || old < (UsingAlternate ? 100 : 99)) {
         At(Boxes, old)[3] = u"0"_s;
         At(Boxes, old)[4] = u""_s;
     }
@@ -327,7 +332,7 @@ void MapModel::Remap()
 
 void MapModel::PressRecords()
 {
-    if (ToolMode == 3)
+    if (AreImagesShown)
         LeaveTools();
     CurFile = CurrentFile();
     ShownForename = HasRow() ? Table()[static_cast<std::size_t>(Cursor)].Forename : QString();
@@ -347,6 +352,18 @@ void MapModel::RenameCurrent(const QString& forename)
     PromiseLess(Promise::Holes);
 }
 
+void MapModel::RenameInList(const QString& file, const QString& forename)
+{
+    QStringList values = BoxesList.split(u',');
+    for (qsizetype at = 0; at + 4 < values.size(); at += 5) {
+        if (!file.isEmpty() && IsSame(values[at + 3], file)) {
+            values[at + 4] = Filed(forename);
+            break;
+        }
+    }
+    BoxesList = values.join(u',');
+}
+
 void MapModel::PressTree(const std::optional<QString>& typedForename)
 {
     if (HasRow() && typedForename) {
@@ -357,7 +374,11 @@ void MapModel::PressTree(const std::optional<QString>& typedForename)
     const QString forename = HasRow() ? Table()[static_cast<std::size_t>(Cursor)].Forename : QString();
     if (forename.compare(ShownForename, Qt::CaseInsensitive) != 0) {
         RenameCurrent(forename);
-        BoxesList = ListOfBoxes();
+        // What is drawn with the tools is saved by them alone.
+        if (AreImagesShown)
+            RenameInList(CurrentFile(), forename);
+        else
+            BoxesList = ListOfBoxes();
     }
     if (CursorMode == 1) {
         KeepPosition();

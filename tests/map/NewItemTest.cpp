@@ -7,7 +7,8 @@ namespace
 using namespace Qt::StringLiterals;
 
 // What is drawn after a deletion. The count has gone down by then while the rows have kept their places: the new item
-// goes to the first free row above the count, which rises to it, and leaves those that stand there alone.
+// goes to the first free row above the count, which rises to it, and leaves those that stand there alone. Where that
+// would be no row that is saved it goes to the first free row of all.
 class NewItemTest : public ToolsTest
 {
 protected:
@@ -113,16 +114,34 @@ TEST_F(NewBoxRowTest, BoxAtNoPlaceAboveTheCount_IsWrittenBackAsItStands)
     EXPECT_EQ(MapBytes(), BytesOf(u"2000,500,0,A001,John,here,500,0,A002,Jane,5000,3000,0,0,,", u"", u""));
 }
 
-TEST_F(NewBoxRowTest, NoFreeRowAboveTheCount_IsASubscriptError_AndTheLastBoxStays)
+TEST_F(NewBoxRowTest, NoRowAboveTheCountIsSaved_TheFirstFreeIsTaken_AndTheCountStays)
 {
     GivenTools();
+    givenBox(0, {1000, 500}, u"A001");
     givenBox(200, {3000, 500}, u"A002");
     P.Map.SBoxes = 199;
-    Choose(8);
 
-    EXPECT_EQ(RefusalOf([&] { PressAndRelease({5307, 3108}); }), ErrorNumber::Subscript);
+    PlaceBox({5307, 3108});
 
+    EXPECT_EQ(Box(1), (RowTexts{u"5000"_s, u"3000"_s, u"0"_s, u"0"_s, u""_s}));
     EXPECT_EQ(Box(200), (RowTexts{u"3000"_s, u"500"_s, u"0"_s, u"A002"_s, u""_s}));
+    EXPECT_EQ(P.Map.SBoxes, 199);
+}
+
+// Those above the count are in use: they count again.
+TEST_F(NewBoxRowTest, BoxDeletedOfAFullMap_TheNextTakesItsRow_AndTheHighestIsHitAgain)
+{
+    GivenTools();
+    for (int row = 0; row <= LastFiledBox; ++row)
+        givenBox(row, {10 + row % 10 * 700, 500 + row / 10 * 300});
+    P.Map.SBoxes = LastFiledBox;
+    Delete(28, {2410, 600});
+    ASSERT_EQ(P.Map.SBoxes, 98);
+
+    PlaceBox({5307, 8108});
+
+    EXPECT_EQ(Box(3), (RowTexts{u"5000"_s, u"8000"_s, u"0"_s, u"0"_s, u""_s}));
+    EXPECT_EQ(P.Map.SBoxes, LastFiledBox);
 }
 
 class NewLineRowTest : public NewItemTest
@@ -155,7 +174,7 @@ TEST_F(NewLineRowTest, LineDeleted_ARefusedLineTakesNothingAway)
 
     EXPECT_EQ(Line(2), (std::vector<int>{1000, 3000, 2000, 3000, 255}));
     EXPECT_EQ(Line(3), std::vector<int>(5));
-    EXPECT_EQ(P.Map.SLines, 2);
+    EXPECT_EQ(P.Map.SLines, 1);
     Leave(Answer::Yes);
     EXPECT_EQ(MapBytes(), BytesOf(u"", Survivors, u""));
 }
@@ -169,15 +188,16 @@ TEST_F(NewLineRowTest, LineDeleted_CtrlGoesOnFromTheHighestLine)
     EXPECT_EQ(Line(3), (std::vector<int>{2000, 3000, 5000, 4000, 0}));
 }
 
-TEST_F(NewLineRowTest, NoFreeRowAboveTheCount_IsASubscriptError_AndTheLastLineStays)
+TEST_F(NewLineRowTest, NoRowAboveTheCountIsSaved_TheFirstFreeIsTaken_AndTheCountStays)
 {
     givenLine(200, {1000, 5000}, {2000, 5000});
     P.Map.SLines = 199;
-    Choose(7);
 
-    EXPECT_EQ(RefusalOf([&] { Press({4000, 4000}); }), ErrorNumber::Subscript);
+    DrawNewLine({4000, 4000}, {5000, 4000});
 
+    EXPECT_EQ(Line(0), (std::vector<int>{4000, 4000, 5000, 4000, 0}));
     EXPECT_EQ(Line(200), (std::vector<int>{1000, 5000, 2000, 5000, 0}));
+    EXPECT_EQ(P.Map.SLines, 199);
 }
 
 class NewTextRowTest : public NewItemTest
@@ -205,16 +225,16 @@ TEST_F(NewTextRowTest, TextDeleted_TheHighestTextStays)
                                   u"3000,2000,Four,Arial,8,0,"));
 }
 
-TEST_F(NewTextRowTest, NoFreeRowAboveTheCount_IsASubscriptError_AndTheLastTextStays)
+TEST_F(NewTextRowTest, NoFreeRowAboveTheCount_TheFirstFreeIsTaken_AndTheLastTextCountsAgain)
 {
     givenText(200, {1000, 5000}, u"Last");
     P.Map.STexts = 199;
-    Choose(9);
-    ExpectText(u"One too many");
 
-    EXPECT_EQ(RefusalOf([&] { Press({4000, 4000}); }), ErrorNumber::Subscript);
+    PlaceText({4000, 4050}, u"Four");
 
+    EXPECT_EQ(Text(0)[TextColumn::Text], u"Four"_s);
     EXPECT_EQ(Text(200)[TextColumn::Text], u"Last"_s);
+    EXPECT_EQ(P.Map.STexts, 200);
 }
 
 } // namespace

@@ -190,6 +190,20 @@ TEST_F(ToolsTest, Open_NoBranch_IsRefused)
     EXPECT_FALSE(P.Form1->Image2.Visible);
 }
 
+// A backup that fails leaves the branch without its records.
+TEST_F(ToolsTest, Open_WithoutRecords_IsRefused)
+{
+    GivenMap();
+    P.Form3.Unload();
+    Prompts.Expect(u"DataBase not Opened", u"Cannot Change Tree Map until database\nfile is Opened or begins from New",
+                   Buttons::Information);
+
+    P.Form1->mnuTreeTools.Click();
+
+    EXPECT_EQ(P.Tools.ToolMode, 0);
+    EXPECT_FALSE(P.Form1->Image2.Visible);
+}
+
 TEST_F(ToolsTest, Open_RecordOfAnotherBranch_IsToldBeforeTheMissingBranch)
 {
     P.Branch.UsingAlternate = 1;

@@ -165,12 +165,12 @@ TEST_F(ToolGestureTest, SecondExitThatWasWaiting_AsksOnce)
     EXPECT_EQ(P.Tools.ToolMode, 0);
 }
 
-TEST_F(ToolGestureTest, BranchClosedBehindTheTools_NothingIsAskedOrWritten)
+// An import that fails leaves none in memory.
+TEST_F(ToolGestureTest, MapGoneBehindTheTools_NothingIsAskedOrWritten)
 {
     GivenTools();
     Choose(8);
-    P.Form1->Command4.Click(); // leaves the tools to themselves
-    P.Form1->mnuCloseDB.Click();
+    EraseMap(P);
     const Tree before = Home.Snapshot();
 
     P.Form1->mnuEdit.Click();
@@ -178,6 +178,30 @@ TEST_F(ToolGestureTest, BranchClosedBehindTheTools_NothingIsAskedOrWritten)
     EXPECT_EQ(P.Tools.ToolSel, 0);
     EXPECT_FALSE(P.Form1->Image8.Visible);
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
+}
+
+TEST_F(ToolGestureTest, MapGoneBehindTheTools_ThePointerIsTheArrowAgain)
+{
+    GivenTools();
+    Choose(8);
+    EraseMap(P);
+    ASSERT_EQ(P.Screen.Pointer, MousePointer::Cross);
+
+    P.Form1->mnuEdit.Click();
+
+    EXPECT_EQ(P.Screen.Pointer, MousePointer::Default);
+    EXPECT_EQ(P.Tools.MapCursorMode, MapCursor::Normal);
+}
+
+TEST_F(ToolGestureTest, MapGoneBehindTheTools_ExitLeavesNoHourglass)
+{
+    GivenTools();
+    EraseMap(P);
+
+    P.Form1->Image8.Click();
+
+    EXPECT_FALSE(P.Form1->Image8.Visible);
+    EXPECT_EQ(P.Screen.Pointer, MousePointer::Default);
 }
 
 TEST_F(ToolGestureTest, MapOfNoBranch_CantBeDrawnOn)

@@ -6,6 +6,8 @@
 
 #include <QFile>
 
+#include <algorithm>
+
 namespace lineforge
 {
 namespace
@@ -54,6 +56,25 @@ TEST_F(AlternateBranchTest, Swap_ExchangesBothDirectoriesWithTheSavedOnes)
     EXPECT_EQ(P.Branch.HomeDir, u"saved home"_s);
     EXPECT_EQ(P.Branch.WorkDirSaved, u"work"_s);
     EXPECT_EQ(P.Branch.HomeDirSaved, u"home"_s);
+}
+
+TEST_F(AlternateBranchTest, TransportButtons_AreOffUntilTheReturn)
+{
+    const auto areAll = [this](bool enabled) {
+        return std::ranges::all_of(forms::Form3::Transport, [&](Button forms::Form3::*transport) {
+            return ((*P.Form3).*transport).Enabled == enabled;
+        });
+    };
+    GivenBranch(u'A');
+    GivenBranch(u'B');
+    GivenOpenBranch(u"LfgDat_A");
+    EXPECT_TRUE(areAll(true));
+
+    SwitchToSibling(P, u"B");
+    EXPECT_TRUE(areAll(false));
+
+    ReturnFromSibling(P);
+    EXPECT_TRUE(areAll(true));
 }
 
 TEST_F(AlternateBranchTest, Switching_PointsAtTheSibling_AndSavesTheMapsOwnDirectories)

@@ -75,5 +75,27 @@ TEST_F(DeletedLinkTest, Yes_ThenTheOwnRecordsCanBeDeleted)
     EXPECT_EQ(Numbers(), QStringList({u"A002"_s, u"A003"_s}));
 }
 
+// The record bar can go on from the record that was chosen on the map.
+TEST_F(DeletedLinkTest, AnotherRecordOfTheSibling_ItsOwnBoxGoes)
+{
+    P.Map.BoxArr[1][BoxColumn::File] = u"b001"_s;
+    Records(P).MoveFirst();
+
+    Unlink(Answer::Yes);
+
+    EXPECT_EQ(P.Map.BoxArr[1][BoxColumn::File].Text(), u"0"_s);
+    EXPECT_EQ(P.Map.BoxArr[2][BoxColumn::File].Text(), u"B002"_s);
+}
+
+TEST_F(DeletedLinkTest, AnotherRecordOfTheSibling_WithoutABox_NoneGoes)
+{
+    Records(P).MoveFirst();
+
+    Unlink(Answer::Yes);
+
+    EXPECT_EQ(P.Branch.UsingAlternate, 0);
+    EXPECT_TRUE(MapOf(u'A').contains("1200,600,255,A001,John,3000,600,255,A002,Mary,5000,600,255,B002,"));
+}
+
 } // namespace
 } // namespace lineforge

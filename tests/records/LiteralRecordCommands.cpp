@@ -132,6 +132,8 @@ void LiteralRecords::EndScan(bool hasMoved)
 
 void LiteralRecords::Tick()
 {
+    if (IsAlternate)
+        return;
     FirstShow = 1;
     Interval = ScanMode == 1 || ScanMode == 5 ? 250 : 1000;
     const bool isForward = ScanMode <= 2;
@@ -238,10 +240,15 @@ void LiteralRecords::AddRecord()
 
 void LiteralRecords::Unlink()
 {
-    LiteralBox& box = Boxes.at(static_cast<std::size_t>(HitBox));
+    const QString file = Text(Current, u"File"_s);
+    const bool isHit = HitBox < static_cast<int>(Boxes.size()) && !file.isEmpty() &&
+                       IsSame(Boxes[static_cast<std::size_t>(HitBox)].File, file);
+    const int row = isHit ? HitBox : RowOf(file);
     ReturnFromSibling();
-    box.File = u"0"_s;
-    box.Name.clear();
+    if (row >= 0) {
+        Boxes[static_cast<std::size_t>(row)].File = u"0"_s;
+        Boxes[static_cast<std::size_t>(row)].Name.clear();
+    }
     SaveBoxes();
     MoveFirst(Current);
 }

@@ -277,6 +277,7 @@ void LiteralRecords::DoubleClick(int x, int y)
         Open(letter);
         IsAlternate = true;
         PanelFrame = u"Ref  "_s;
+        AreTransportsEnabled = false;
     }
     if (Current.IsEmpty())
         return Tell(u"Database Empty"_s, u"This Tree Branch has no records to access"_s);
@@ -381,8 +382,6 @@ void LiteralRecords::ShowRecords()
     if (!HasBranch)
         return Tell(u"Data not available"_s, u"Cannot View until database file is Opened"_s);
     SetPictureName();
-    if (IsAlternate)
-        AreTransportsEnabled = false;
     ShowNamedPicture();
     ShownName = Shown.value(u"Forename"_s).value_or(QString());
     IsFormVisible = true;

@@ -587,6 +587,27 @@ TEST_F(RecordScannerTest, ImportedBranch_LeavesTheSameDirectoryAboveIt)
     EXPECT_EQ(P.Files.CurDir(), Home.Path());
 }
 
+// It walks no other branch than the one whose map is shown.
+TEST_F(RecordScannerTest, RecordOfAnotherBranch_TheScanWaitsForTheReturn)
+{
+    P.Map.BoxArr[2][BoxColumn::File] = u"B001"_s;
+    Press(&forms::Form3::Picture2);
+    P.Form1->Picture1.MouseDown(1, 0, 5100, 700);
+    P.Form1->Picture1.DblClick();
+    ASSERT_EQ(Current(), u"B001"_s);
+    P.Gallery.FirstShow = 0;
+
+    Tick();
+
+    EXPECT_EQ(Current(), u"B001"_s);
+    EXPECT_EQ(P.Gallery.FirstShow, 0);
+    EXPECT_TRUE(IsRunning());
+    P.Form1->Picture1.MouseDown(1, 0, 1300, 700);
+    P.Form1->Picture1.DblClick();
+    Tick();
+    EXPECT_EQ(Current(), u"A002"_s);
+}
+
 class AlternateScannerTest : public RecordScannerTest
 {
 protected:
@@ -610,7 +631,7 @@ protected:
 
 TEST_F(AlternateScannerTest, RecordOfAnotherBranch_TurnsAllFiveButtonsOff)
 {
-    EXPECT_EQ(Enabled(), AllOn);
+    EXPECT_EQ(Enabled(), AllOff);
 
     GivenRecordForm();
 

@@ -115,6 +115,36 @@ TEST_F(MadeBranchTest, DirectoriesAreMadeWhereTheCurrentDirectoryIs_AndTheDataba
     EXPECT_EQ(ExitCode(), 1);
 }
 
+TEST_F(MadeBranchTest, AfterABranchWithAFullMap_WhatIsDrawnIsSaved)
+{
+    QString boxes;
+    QString lines;
+    for (int row = 0; row < 100; ++row)
+        boxes += u"%1,%2,0,0,,"_s.arg(10 + row % 10 * 700).arg(500 + row / 10 * 300);
+    for (int row = 0; row < 200; ++row)
+        lines += u"100,%1,1100,%1,0,"_s.arg(100 + 40 * row);
+    GivenRegistry({{u"Smiths", u"LfgDat_A"}, {u"Jones", u"LfgDat_B"}, {u"Greens", u"LfgDat_D"}});
+    BranchOf(u'D').Boxes(boxes).Lines(lines).Build();
+    Choose(u"Greens");
+    Make(u"Browns", u"LfgDat_C");
+    P.Form1->mnuTreeTools.Click();
+    const auto draw = [&](Image forms::Form1::*tool, Point from, Point to) {
+        PictureBox& picture = P.Form1->Picture1;
+        ((*P.Form1).*tool).Click();
+        picture.MouseDown(1, 0, from.X, from.Y);
+        picture.MouseMove(1, 0, to.X, to.Y);
+        picture.MouseUp(1, 0, to.X, to.Y);
+    };
+    draw(&forms::Form1::Image7, {1307, 2108}, {1307, 2108});
+    draw(&forms::Form1::Image6, {1000, 1000}, {2000, 1000});
+    Prompts.Expect(u"Closing Graphics Tools", u"Save the Tree Graphic changes ?", Buttons::InformationYesNo,
+                   Answer::Yes);
+
+    P.Form1->Image8.Click();
+
+    EXPECT_EQ(MapOf(u'C'), MapFileBytes(u"LfgDat_C", u"1000,2000,0,0,,", u"1000,1000,2000,1000,0,", u""));
+}
+
 TEST_F(MadeBranchTest, TwoInARow_TakeTwoLetters)
 {
     Make(u"Browns", u"LfgDat_C");

@@ -71,7 +71,8 @@ void PutSubjectDown(Program& p)
 Pressed BeginBox(Program& p, const Pointing& pointing)
 {
     PictureBox& picture = p.Form1->Picture1;
-    p.Map.SBoxes = RowForNew(p.Map.SBoxes, [&](int row) { return p.Map.BoxArr[row][BoxColumn::X].IsZero(); });
+    p.Tools.NewRow =
+        TakeRow(p.Map.SBoxes, LastFiledBox, [&](int row) { return p.Map.BoxArr[row][BoxColumn::X].IsZero(); });
     p.Tools.PenSave = picture.ForeColor;
     picture.ForeColor = p.Form1->CommonDialog1.Color;
     DrawNewOutline(p);
@@ -83,7 +84,7 @@ Released EndBox(Program& p)
 {
     PictureBox& picture = p.Form1->Picture1;
     DrawNewOutline(p);
-    auto& box = p.Map.BoxArr[p.Map.SBoxes];
+    auto& box = p.Map.BoxArr[p.Tools.NewRow];
     box[BoxColumn::X] = NewCorner(p).X;
     box[BoxColumn::Y] = NewCorner(p).Y;
     box[BoxColumn::Colour] = static_cast<int>(picture.ForeColor);

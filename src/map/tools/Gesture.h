@@ -2,6 +2,8 @@
 
 #include "program/Program.h"
 
+#include <algorithm>
+
 namespace lineforge
 {
 
@@ -19,15 +21,24 @@ enum class Pressed { No, Yes };
 // Whether a release is followed by a full repainting of the map.
 enum class Released { AsItStands, Repaint };
 
-// The row for a new item: the first above the count that is free. After a deletion there are items above the count,
-// whose rows they keep. With none free it is the row behind the last.
+// The row of a new item, which the count covers from now on: the first free one above it. After a deletion there are
+// items above the count, whose rows they keep. Where that would be no row that is saved it is the first free row of
+// all; none of those above the count is free then, and they count again. Only on a full map it is one that isn't saved,
+// or the one behind the last.
 template <class IsFree>
-int RowForNew(int count, IsFree&& isFree)
+int TakeRow(int& count, int lastSaved, IsFree&& isFree)
 {
-    int row = count + 1;
-    while (row <= LastMapRow && !isFree(row))
-        ++row;
-    return row;
+    const auto firstFree = [&](int row) {
+        while (row <= LastMapRow && !isFree(row))
+            ++row;
+        return row;
+    };
+    const int above = firstFree(count + 1);
+    const int lowest = above > lastSaved ? firstFree(0) : above;
+    if (lowest > lastSaved || lowest == above)
+        return count = above;
+    count = std::max(count, lastSaved);
+    return lowest;
 }
 
 // Keeps the pointer of a move; of a line that is drawn it is the far end.

@@ -44,16 +44,35 @@ void ReadBackFromLists(Program& p)
     ParseWhatIsThere(p);
 }
 
+void PutCursorDown(Program& p)
+{
+    p.Tools.MapCursorMode = MapCursor::Normal;
+    p.Screen.Pointer = MousePointer::Default;
+}
+
+// Where that record has been deleted meanwhile, whoever is current stays so; is that nobody, the first becomes it.
+void StandOnRecordOfOpening(Program& p)
+{
+    Recordset& records = Records(p);
+    const Bookmark here = records.HasRow() ? records.GetBookmark() : Bookmark();
+    records.SetBookmark(p.Tools.ToolBookmark);
+    if (records.HasRow())
+        return;
+    if (here)
+        records.SetBookmark(here);
+    else
+        records.MoveFirst();
+}
+
 void ReturnToRecord(Program& p)
 {
     if (IsBranchOpen(p) && !Records(p).IsEmpty()) {
-        p.Errors.Ignoring([&] { Records(p).SetBookmark(p.Tools.ToolBookmark); });
+        p.Errors.Ignoring([&] { StandOnRecordOfOpening(p); });
         MarkCurrentBox(p);
         // Even where no box holds the record and the marker stands wherever it stood; so it is meant to be.
         p.Form1->Shape1.Visible = true;
     }
-    p.Tools.MapCursorMode = MapCursor::Normal;
-    p.Screen.Pointer = MousePointer::Default;
+    PutCursorDown(p);
 }
 } // namespace
 
@@ -64,9 +83,9 @@ void LeaveTools(Program& p)
     p.Form1->Picture1.ForeColor = p.Tools.ToolColour;
     HideTools(p);
     if (p.Branch.sDbaseName.isEmpty() || (!isAlternate && p.Map.Owner != p.Branch.WorkDir)) {
-        // The branch has been closed behind the tools, or left for one that can't be opened: there is nothing left to
-        // be saved.
+        // The branch has been left behind the tools for one that can't be opened: there is nothing left to be saved.
         PutToolsDown(p);
+        PutCursorDown(p);
         return;
     }
     // The tools left to themselves, somebody may be looking at a subject of another branch: the map is the own one's.
@@ -84,7 +103,8 @@ void LeaveTools(Program& p)
 
 void LeaveToolsIfOpen(Program& p)
 {
-    if (p.Tools.ToolMode == ToolsOpen)
+    // Not by their mode: View and Clear take it from them, with what has been drawn still to be saved.
+    if (AreToolsShown(p))
         LeaveTools(p);
 }
 

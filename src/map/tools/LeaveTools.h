@@ -10,7 +10,7 @@ namespace lineforge
 // tools were opened is so again. Errors of the disk; the old file then stays.
 void LeaveTools(Program& p);
 
-// The same, when they are open at all.
+// The same, when they are shown at all.
 void LeaveToolsIfOpen(Program& p);
 
 // The button beside the tools.

@@ -17,15 +17,15 @@ constexpr int shortestDown = 50;
 
 FixedArray<int, 0, 4>& NewLine(Program& p)
 {
-    return p.Map.LineArr[p.Map.SLines];
+    return p.Map.LineArr[p.Tools.NewRow];
 }
 
 // Before the first line of all there is none.
 Point EndOfLineBefore(const Program& p)
 {
-    if (p.Map.SLines == 0)
+    if (p.Tools.NewRow == 0)
         return {};
-    const auto& before = p.Map.LineArr[p.Map.SLines - 1];
+    const auto& before = p.Map.LineArr[p.Tools.NewRow - 1];
     return PointerOnMap(before[LineColumn::X2], before[LineColumn::Y2]);
 }
 
@@ -119,7 +119,9 @@ void WipeWhereTheChainLay(Program& p)
 
 Pressed BeginLine(Program& p, const Pointing& pointing)
 {
-    p.Map.SLines = RowForNew(p.Map.SLines, [&](int row) { return p.Map.LineArr[row][LineColumn::X1] == 0; });
+    p.Tools.CountSave = p.Map.SLines;
+    p.Tools.NewRow =
+        TakeRow(p.Map.SLines, LastFiledLine, [&](int row) { return p.Map.LineArr[row][LineColumn::X1] == 0; });
     if (pointing.Holds(ShiftMask::Ctrl)) {
         const Point end = EndOfLineBefore(p);
         p.Mouse.DownX = end.X;
@@ -148,7 +150,7 @@ Released EndLine(Program& p)
     if (Across(p) < shortestAcross && Downwards(p) < shortestDown) {
         WipeNewLine(p);
         NewLine(p).Erase();
-        p.Map.SLines -= 1;
+        p.Map.SLines = p.Tools.CountSave;
         picture.ForeColor = p.Tools.PenSave;
         return Released::AsItStands;
     }

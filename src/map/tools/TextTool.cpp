@@ -53,10 +53,10 @@ void DrawRubberRectangle(Program& p)
     picture.Font = font;
 }
 
-void StoreText(Program& p, Point place)
+void StoreText(Program& p, int row, Point place)
 {
     const PictureBox& picture = p.Form1->Picture1;
-    auto& cells = p.Map.TextArr[p.Map.STexts];
+    auto& cells = p.Map.TextArr[row];
     cells[TextColumn::X] = place.X;
     cells[TextColumn::Y] = place.Y;
     // A comma in it shifts all values behind it when the map is read again; so it is meant to be.
@@ -81,13 +81,14 @@ void HitText(Program& p)
 Pressed PlaceText(Program& p, const Pointing& pointing)
 {
     PictureBox& picture = p.Form1->Picture1;
-    p.Map.STexts = RowForNew(p.Map.STexts, [&](int row) { return p.Map.TextArr[row][TextColumn::X].IsZero(); });
+    const int row =
+        TakeRow(p.Map.STexts, LastMapRow, [&](int at) { return p.Map.TextArr[at][TextColumn::X].IsZero(); });
     p.Scratch.sInput = p.Prompts.InputBox(u"New Text Input"_s, u"Enter the Text for display on the Tree Map"_s);
     const Point place{pointing.At.X, pointing.At.Y - abovePress};
     KeepPenAndFont(p);
     picture.ForeColor = p.Form1->CommonDialog1.Color;
     PrintOnMap(picture, place, p.Scratch.sInput);
-    StoreText(p, place);
+    StoreText(p, row, place);
     GiveBackPenAndFont(p);
     // The text stands already: no gesture begins.
     return Pressed::No;

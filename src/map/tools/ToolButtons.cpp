@@ -4,6 +4,7 @@
 #include "map/tools/ToolMouse.h"
 #include "map/tools/ToolSelection.h"
 #include "program/AlternateBranch.h"
+#include "program/BranchUi.h"
 
 #include <algorithm>
 
@@ -81,7 +82,7 @@ void OpenTools(Program& p)
                         u"Cannot Change Tree Map until local Tree Branch\nRecord is Selected."_s))
         return;
     // Neither can the map of no branch: after a New that was given up none is in memory, though one is open.
-    if (p.Branch.sDbaseName.isEmpty() || p.Map.Owner != p.Branch.WorkDir) {
+    if (!IsBranchOpen(p) || p.Map.Owner != p.Branch.WorkDir) {
         p.Prompts.MsgBox(u"DataBase not Opened"_s,
                          u"Cannot Change Tree Map until database\nfile is Opened or begins from New"_s,
                          Buttons::Information);
