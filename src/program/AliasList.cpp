@@ -81,17 +81,26 @@ bool IsGivenBack(const QString& name)
 }
 
 // A name with commas makes several entries, of which only the last has the directory.
+QString WholeEntry(const QString& name, const QString& directory)
+{
+    return u',' + name + u'=' + directory + u',';
+}
+
 void RemoveWholeName(QString& aliasList, const QString& name, const QString& directory)
 {
     const QString before = u',' + aliasList;
-    const QString entry = u',' + name + u'=' + directory + u',';
-    aliasList = QString(before).replace(entry, u","_s, Qt::CaseInsensitive).sliced(1);
+    aliasList = QString(before).replace(WholeEntry(name, directory), u","_s, Qt::CaseInsensitive).sliced(1);
+}
+
+bool IsEntryOf(const QString& entry, const QString& directory)
+{
+    return SameText(entry.right(directoryLength), directory);
 }
 
 void RemoveEntriesOf(QString& aliasList, const QString& directory)
 {
     QStringList entries = aliasList.split(u',');
-    entries.removeIf([&](const QString& entry) { return SameText(entry.right(directoryLength), directory); });
+    entries.removeIf([&](const QString& entry) { return IsEntryOf(entry, directory); });
     aliasList = entries.join(u',');
 }
 } // namespace
@@ -137,6 +146,18 @@ bool IsDirectoryListed(const Program& p, const QString& directory)
 {
     return std::ranges::any_of(p.Alias.sAliasList.split(u','),
                                [&](const QString& entry) { return SameText(entry.section(u'=', -1), directory); });
+}
+
+QString ListedName(const Program& p, const QString& directory)
+{
+    const QString& open = p.Branch.sBranchName;
+    if (QString(u',' + p.Alias.sAliasList).contains(WholeEntry(open, directory), Qt::CaseInsensitive))
+        return open;
+    for (const QString& entry : p.Alias.sAliasList.split(u','))
+        // As the branch list gives it back.
+        if (const QString name = entry.section(u'=', 0, 0); IsEntryOf(entry, directory) && name != entry)
+            return name;
+    return open;
 }
 
 QString AskBranchName(Program& p, const QString& title, const QString& prompt)
@@ -185,7 +206,7 @@ void FillBranchList(Program& p)
 
     const QString open = p.Branch.WorkDir.right(directoryLength);
     for (int index = 0; !table[index].isEmpty(); ++index) {
-        if (SameText(table[index].right(directoryLength), open)) {
+        if (IsEntryOf(table[index], open)) {
             // A directory that stands there alone has no name to select.
             list.SetText(table[index].first(std::max<qsizetype>(0, table[index].size() - directoryLength - 1)));
             break;

@@ -22,6 +22,10 @@ void WriteAliasList(Program& p);
 bool IsNameListed(const Program& p, const QString& name);
 bool IsDirectoryListed(const Program& p, const QString& directory);
 
+// The friendly name of the branch in that directory: the open one's if that is an entry of it, else the first that is.
+// A branch that isn't listed has the open one's.
+QString ListedName(const Program& p, const QString& directory);
+
 // A friendly name that no branch has, and that the branch list gives back as it was typed; others are refused and asked
 // for again. Empty for a cancelled question.
 QString AskBranchName(Program& p, const QString& title, const QString& prompt);

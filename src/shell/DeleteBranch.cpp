@@ -18,40 +18,44 @@ using namespace Qt::StringLiterals;
 namespace
 {
 // The first question, and what takes its place.
-Answer ShowFirstBox(Program& p, const QString& text, Buttons buttons)
+Answer ShowFirstBox(Program& p, const QString& name, const QString& text, Buttons buttons)
 {
-    return p.Prompts.MsgBox(u"Delete '"_s + p.Branch.sBranchName + u"' DataBase and Galleries", text, buttons);
+    return p.Prompts.MsgBox(u"Delete '"_s + name + u"' DataBase and Galleries", text, buttons);
+}
+
+// Of the branch whose map is shown.
+QString MapsDirectory(const Program& p)
+{
+    return p.Branch.UsingAlternate == 1 ? p.Branch.WorkDirSaved : p.Branch.WorkDir;
 }
 
 // Whether a branch is open, in a directory of its own beneath the home directory: that may be another one since it was
 // opened, whose registry knows nothing of it. Tells the user when not.
-bool RequireBranch(Program& p)
+bool RequireBranch(Program& p, const QString& name)
 {
-    // The one whose map is shown.
-    const QString directory = p.Branch.UsingAlternate == 1 ? p.Branch.WorkDirSaved : p.Branch.WorkDir;
+    const QString directory = MapsDirectory(p);
     if (IsBranchDirectory(directory, p.Branch.HomeDir))
         return true;
     if (directory.isEmpty())
         TellNoBranch(p);
     else
-        ShowFirstBox(p,
-                     u"Cannot delete '"_s + p.Branch.sBranchName + u"' Tree Branch. Its Directory\n" + directory +
+        ShowFirstBox(p, name,
+                     u"Cannot delete '"_s + name + u"' Tree Branch. Its Directory\n" + directory +
                          u"\nis not in the Home Directory in use:\n" + p.Branch.HomeDir,
                      Buttons::Information);
     return false;
 }
 
-bool Ask(Program& p)
+bool Ask(Program& p, const QString& name)
 {
-    return ShowFirstBox(p,
-                        u"Do you really want to delete the Database\nand Gallery files in '"_s + p.Branch.sBranchName +
+    return ShowFirstBox(p, name,
+                        u"Do you really want to delete the Database\nand Gallery files in '"_s + name +
                             u"' Tree Branch ?",
                         Buttons::QuestionYesNo) == Answer::Yes;
 }
 
-bool AskAgain(Program& p)
+bool AskAgain(Program& p, const QString& name)
 {
-    const QString& name = p.Branch.sBranchName;
     return p.Prompts.MsgBox(u"Deletion of '"_s + name + u"' Database, Gallery and Files",
                             u"All files in "_s + p.Branch.WorkDir + u"\n'" + name +
                                 u"' Ancestral Tree Branch will be deleted.\n"
@@ -80,16 +84,18 @@ void ShowNoBranch(Program& p)
 
 void DeleteBranch(Program& p)
 {
-    if (!RequireBranch(p) || !Ask(p))
+    // A record transfer can have gone over to another branch than the one that the program is named after.
+    const QString name = ListedName(p, DirectoryName(MapsDirectory(p)));
+    if (!RequireBranch(p, name) || !Ask(p, name))
         return;
     ReturnToOwnSubject(p);
-    if (!AskAgain(p))
+    if (!AskAgain(p, name))
         return;
     LeaveToolsIfOpen(p);
 
     const QString directory = p.Branch.WorkDir;
     RemoveDirectory(p, GalleryDirectory(directory));
-    RemoveAlias(p, p.Branch.sBranchName, DirectoryName(directory));
+    RemoveAlias(p, name, DirectoryName(directory));
     if (p.Form3.IsLoaded()) {
         p.Form3->Caption = u"Lineforge. "_s;
         // What is typed goes with its record; refused by the database, it would hold the form and the file.

@@ -76,15 +76,15 @@ bool Confirm(Program& p, const QString& name, const QString& directory)
 }
 
 // False, and a box, when the directory is there already.
-bool MakeDirectories(Program& p, const QString& directory)
+bool MakeDirectories(Program& p)
 {
-    if (!MakeDirectory(p, directory)) {
+    if (!MakeDirectory(p, p.Branch.WorkDir)) {
         // The words of the text are meant as they stand.
         p.Prompts.MsgBox(u"Error Setting New Directory"_s, u" sDir & ' directory already exists.'"_s,
                          Buttons::Information);
         return false;
     }
-    p.Files.MkDir(GalleryDirectory(directory));
+    p.Files.MkDir(GalleryDirectory(p.Branch.WorkDir));
     return true;
 }
 
@@ -114,8 +114,7 @@ bool MakeFiles(Program& p, const QString& name, const QString& directory, const 
 {
     auto branchBack = qScopeGuard([&p, before = p.Branch] { p.Branch = before; });
     NameBranch(p, name, directory);
-    // Relative to the current directory, which is the home directory since its branches were listed.
-    const bool isMade = MakeDirectories(p, directory);
+    const bool isMade = MakeDirectories(p);
     if (isMade) {
         p.Files.FileCopy(p.Branch.HomeDir + u"LfgEmpt.~cf", stem + u".cfg");
         p.Files.FileCopy(p.Branch.HomeDir + u"LfgEmpt.~Md", stem + u".mdb");
@@ -126,17 +125,18 @@ bool MakeFiles(Program& p, const QString& name, const QString& directory, const 
 
 void MakeBranch(Program& p, const QString& name, const QString& directory)
 {
-    const QString stem = directory + PathSeparator + directory;
+    // Not by the current directory: while the user is asked the scanner can take it to the branch that he has open.
+    const QString stem = p.Branch.HomeDir + directory + PathSeparator + directory;
     if (!MakeFiles(p, name, directory, stem))
         return;
-    p.Branch.sDbaseName = p.Branch.HomeDir + stem + u".mdb";
+    p.Branch.sDbaseName = stem + u".mdb";
     PointAtDatabase(p, p.Branch.sDbaseName);
     if (p.Form6.IsLoaded())
         p.Form6->Label2.Caption = name;
 
     ShowNoSubject(p);
     AddAlias(p, name, directory, Refusals::EndIt);
-    Concerning(p.Branch.HomeDir + stem + u".cfg", [&p] {
+    Concerning(stem + u".cfg", [&p] {
         ReadMapFile(p);
         ParseBoxes(p);
         ParseLines(p);

@@ -291,19 +291,20 @@ void SessionModel::Delete()
 {
     if (WorkDir.isEmpty())
         return Tell(u"Data not available"_s, u"Cannot View until database file is Opened"_s);
+    const QString name = NameOf(WorkDir);
     const QString text =
-        u"Do you really want to delete the Database\nand Gallery files in '"_s + BranchName + u"' Tree Branch ?";
-    const QString again = u"All files in "_s + root_ + u'/' + WorkDir + u"\n'" + BranchName +
+        u"Do you really want to delete the Database\nand Gallery files in '"_s + name + u"' Tree Branch ?";
+    const QString again = u"All files in "_s + root_ + u'/' + WorkDir + u"\n'" + name +
                           u"' Ancestral Tree Branch will be deleted.\n"
                           u"This includes the Database, Gallery and its Directories\n"
                           u"Are you sure this is what you want ? ";
-    if (!Asks(u"Delete '"_s + BranchName + u"' DataBase and Galleries", text, Buttons::QuestionYesNo, Answer::Yes,
+    if (!Asks(u"Delete '"_s + name + u"' DataBase and Galleries", text, Buttons::QuestionYesNo, Answer::Yes,
               Answer::No) ||
-        !Asks(u"Deletion of '"_s + BranchName + u"' Database, Gallery and Files", again, Buttons::ErrorYesNo,
-              Answer::Yes, Answer::No))
+        !Asks(u"Deletion of '"_s + name + u"' Database, Gallery and Files", again, Buttons::ErrorYesNo, Answer::Yes,
+              Answer::No))
         return;
     RemoveWithFiles(GalleryOf(WorkDir));
-    RemoveAlias(BranchName, WorkDir);
+    RemoveAlias(name, WorkDir);
     RemoveWithFiles(WorkDir);
     WorkDir.clear();
     Current = root_;

@@ -157,6 +157,18 @@ QStringList SessionModel::ListRows() const
     return rows;
 }
 
+// The open branch's where that is an entry of the directory, else what the list shows for the first one that is.
+QString SessionModel::NameOf(const QString& directory) const
+{
+    const QString entryOfOpen = u',' + BranchName + u'=' + directory + u',';
+    if (QString(u',' + AliasList).toLower().contains(entryOfOpen.toLower()))
+        return BranchName;
+    for (const QString& entry : AliasList.split(u','))
+        if (entry.contains(u'=') && Same(entry.right(8), directory))
+            return entry.left(entry.indexOf(u'='));
+    return BranchName;
+}
+
 // At every equals sign, the text since the last comma.
 bool SessionModel::IsListed(const QString& name) const
 {

@@ -92,6 +92,7 @@ private:
     void RemoveWithFiles(const QString& directory);
     void ReadList();
     void WriteList();
+    QString NameOf(const QString& directory) const;
     bool IsListed(const QString& name) const;
     bool IsRefused(const QString& name) const;
     QString AskName(QStringView title, QStringView prompt);

@@ -207,6 +207,25 @@ TEST_F(DeleteBranchTest, TextPendingThatCannotBeStored_GoesWithTheBranch_AndAnot
     EXPECT_EQ(Records(P).Text(u"Surname"), u"Smith"_s);
 }
 
+// The name in the title bar is the former branch's.
+TEST_F(DeleteBranchTest, AfterARecordTransferToAnotherBranch_TheOneThatGoesIsNamed)
+{
+    Prompts.Expect(u"Record Set Copy",
+                   u"This complete Recordset will be copied to an existing\n"
+                   u"pre mapped Data Record of your choice.\n"
+                   u"Tree Map name containers should be the same colour.",
+                   Buttons::InformationOkCancel, Answer::Ok);
+    Prompts.ExpectInput(u"Data Record Destination.", u"Enter Destination Data Ref Number.", u"B002");
+    Click(P.Form3->MnuRecTransfer.Click);
+    ASSERT_EQ(P.Branch.sBranchName, u"Smiths"_s);
+
+    DeleteForGood(u"Jones"_s, u"LfgDat_B");
+
+    EXPECT_FALSE(Home.Exists(u"LfgDat_B"));
+    EXPECT_TRUE(Home.Exists(u"LfgDat_A/LfgDat_A.mdb"));
+    EXPECT_TRUE(Registry().contains("[Smiths=LfgDat_A,]"));
+}
+
 TEST_F(DeleteBranchTest, LetterThatIsLeftOnTheDisk_CountsAsTaken)
 {
     Home.MakeReadOnly(u"LfgDat_A/A002Sub.jpg");
@@ -402,13 +421,13 @@ TEST_F(DeleteBranchTest, NameWithTheSignThatEndsIt_TakesItsWholeEntryAlong)
     EXPECT_EQ(P.Form8->List1.Items.value(), QStringList{u"Jones"_s});
 }
 
-// The list shows the second by its own name, but opens the first one.
+// The list shows the second by its own name, but opens the first one, which is the one that is named.
 TEST_F(DeleteBranchTest, NameThatBeginsAnEarlierName_TakesTheEntryOfTheDeletedBranchAlone)
 {
     GivenRegistry({{u"Smiths", u"LfgDat_A"}, {u"Smith", u"LfgDat_B"}});
     Choose(u"Smith");
 
-    DeleteForGood(u"Smith"_s);
+    DeleteForGood(u"Smiths"_s);
 
     EXPECT_FALSE(Home.Exists(u"LfgDat_A"));
     EXPECT_TRUE(Home.Exists(u"LfgDat_B/LfgDat_B.mdb"));
@@ -472,10 +491,8 @@ TEST_F(DeleteBranchTest, BoxesOfOtherBranches_KeepTheirPeople_AndShowTheNumberAl
 TEST_F(DeleteBranchTest, NameThatTheListDoesntHave_TakesTheEntryOfItsDirectoryAlong)
 {
     P.Branch.sBranchName = u"Unlisted"_s;
-    ExpectDeletionQuestion(Answer::Yes, u"Unlisted"_s);
-    ExpectDeletionWarning(Answer::Yes, u"Unlisted"_s);
 
-    Delete();
+    DeleteForGood(u"Smiths"_s);
 
     EXPECT_TRUE(Registry().contains("[Jones=LfgDat_B,]"));
     EXPECT_FALSE(Home.Exists(u"LfgDat_A"));

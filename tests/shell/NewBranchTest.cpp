@@ -96,23 +96,22 @@ TEST_F(MadeBranchTest, DirectoriesAreMadeInTheHome_WhateverTheCurrentDirectoryWa
     EXPECT_EQ(P.Files.CurDir(), Home.Path());
 }
 
-// The directories are relative, the database's path isn't: with the current directory moved meanwhile the branch is
-// made in the wrong place and the rest of the command fails; so it is meant to be.
-TEST_F(MadeBranchTest, DirectoriesAreMadeWhereTheCurrentDirectoryIs_AndTheDatabaseIsNotFoundThere)
+// The scanner can go to the open branch's directory while a question is up.
+TEST_F(MadeBranchTest, DirectoriesAreMadeInTheHome_WhereverTheCurrentDirectoryGoesMeanwhile)
 {
-    Home.MakeDirectory(u"elsewhere");
+    Choose(u"Smiths");
     const Tree before = Home.Snapshot();
-    AnswerName(u"Browns");
-    Confirm(u"Browns", u"LfgDat_C", Answer::Ok, [&] { P.Files.ChDir(Home.Path(u"elsewhere")); });
-    ExpectFatalBox(u"Run-time error '3024':\n\nCouldn't find the database file.",
-                   u"This database isn't there, or can't be opened:\n"_s + Home.Path(u"LfgDat_C/LfgDat_C.mdb"));
+    AnswerName(u"Browns", [&] { P.Files.ChDir(Home.Path(u"LfgDat_A")); });
+    Confirm(u"Browns", u"LfgDat_C", Answer::Ok, [&] { P.Files.ChDir(Home.Path(u"LfgDat_B")); });
+    ExpectEmptyBox();
 
     Click(P.Form1->New.Click);
 
+    EXPECT_EQ(ExitCode(), std::nullopt);
     EXPECT_EQ(Differences(before, Home.Snapshot()),
-              (QStringList{u"new: elsewhere/LfgDat_C"_s, u"new: elsewhere/LfgDat_C/LfgDat_C.cfg"_s,
-                           u"new: elsewhere/LfgDat_C/LfgDat_C.mdb"_s, u"new: elsewhere/LfgDat_C/LfgGal_C"_s}));
-    EXPECT_EQ(ExitCode(), 1);
+              (QStringList{u"changed: AliasList.cfg"_s, u"new: AliasList.bak"_s, u"new: LfgDat_A/LfgDat_A.~cf"_s,
+                           u"new: LfgDat_C"_s, u"new: LfgDat_C/LfgDat_C.cfg"_s, u"new: LfgDat_C/LfgDat_C.mdb"_s,
+                           u"new: LfgDat_C/LfgGal_C"_s}));
 }
 
 TEST_F(MadeBranchTest, AfterABranchWithAFullMap_WhatIsDrawnIsSaved)
