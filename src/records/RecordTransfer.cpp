@@ -14,6 +14,8 @@
 #include "program/Position.h"
 #include "program/RecordFields.h"
 
+#include <QScopeGuard>
+
 #include <array>
 #include <optional>
 
@@ -105,6 +107,31 @@ void ShowItsMap(Program& p)
     p.Screen.Pointer = MousePointer::Default;
 }
 
+struct StoredPicture {
+    bool IsThere;
+    std::optional<QByteArray> Bytes; // none: it can't be read
+};
+
+StoredPicture PictureIn(Program& p, const QString& file)
+{
+    StoredPicture picture{!p.Files.Dir(file).isEmpty(), {}};
+    p.Errors.Ignoring([&] { picture.Bytes = p.Files.Read(file); });
+    return picture;
+}
+
+// The record for which it was replaced has been refused: it keeps the picture that it had, or has none again.
+void PutPictureBack(Program& p, const QString& file, const StoredPicture& before)
+{
+    if (PictureIn(p, file).Bytes == before.Bytes)
+        return;
+    if (before.Bytes)
+        p.Errors.Ignoring([&] { p.Files.Replace(file, *before.Bytes); });
+    else if (!before.IsThere)
+        p.Errors.Ignoring([&] { p.Files.Kill(file); });
+    p.Form1->Image1.Picture = QImage();
+    p.Errors.Ignoring([&] { p.Form1->Image1.Picture = p.Pictures.Load(p.Files, file); });
+}
+
 // False when the destination has no picture that can be shown.
 bool CopyPicture(Program& p, const QString& source, const QString& destination)
 {
@@ -141,14 +168,12 @@ void WriteFields(Program& p, const FieldTexts& texts)
     records.Update();
 }
 
-void OverwriteRecord(Program& p, const FieldTexts& texts)
+void ShowOverwritten(Program& p)
 {
     FindBoxOfRecord(p);
-    const int row = p.Scratch.IdxA;
-    WriteFields(p, texts);
     FillSubjectLabels(p);
     FitForename(p);
-    if (row <= LastFiledBox)
+    if (const int row = p.Scratch.IdxA; row <= LastFiledBox)
         RenameBox(p, row, Records(p).Text(u"Forename"));
     MarkCurrentBox(p);
 }
@@ -189,11 +214,18 @@ void TransferRecord(Program& p)
     const QString itsPicture = PictureFile(directory, destination);
     // Of a branch that can't be opened nobody's picture is replaced.
     const bool keepsPicture = !isOpen && !p.Files.Dir(itsPicture).isEmpty();
+    const StoredPicture pictureBefore = PictureIn(p, itsPicture);
     if (!keepsPicture && !CopyPicture(p, picture, itsPicture))
         return;
+    auto pictureBack = qScopeGuard([&] { PutPictureBack(p, itsPicture, pictureBefore); });
     // The box doesn't name the number that was typed, unless its branch couldn't be opened; so it is meant to be.
-    if (FindDestination(p, destination, isOpen ? p.Record.sCurFile : destination))
-        OverwriteRecord(p, source->Texts);
+    const bool isFound = FindDestination(p, destination, isOpen ? p.Record.sCurFile : destination);
+    if (isFound)
+        WriteFields(p, source->Texts);
+    // A number that isn't there leaves its picture behind; so it is meant to be.
+    pictureBack.dismiss();
+    if (isFound)
+        ShowOverwritten(p);
 }
 
 } // namespace lineforge

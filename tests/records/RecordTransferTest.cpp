@@ -368,6 +368,31 @@ TEST_F(RecordTransferTest, RefusedByTheDatabase_EndsTheProgram_WithTheRecordsWho
 }
 
 // The steps up to the copying of the picture pass over what is refused; the record can't be left then.
+TEST_F(RecordTransferTest, RefusedByTheDatabase_ThePictureThatWasThereStays)
+{
+    Execute("CREATE TRIGGER Refusal BEFORE UPDATE ON Tree99 BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    ExpectTransferTo(u"A002");
+    ExpectFatalBox(u"Run-time error '57':\n\nDevice I/O error",
+                   u"The disk failed at this:\n"_s + Home.Path(u"LfgDat_A/LfgDat_A.mdb") + u"\nRecord A002");
+
+    Click(P.Form3->MnuRecTransfer.Click);
+
+    EXPECT_EQ(PictureOf(u"A002"), Green);
+}
+
+TEST_F(RecordTransferTest, RefusedByTheDatabase_WhoHadNoPictureHasNone)
+{
+    RemovePicture(u"A002");
+    Execute("CREATE TRIGGER Refusal BEFORE UPDATE ON Tree99 BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    ExpectTransferTo(u"A002");
+    ExpectFatalBox(u"Run-time error '57':\n\nDevice I/O error",
+                   u"The disk failed at this:\n"_s + Home.Path(u"LfgDat_A/LfgDat_A.mdb") + u"\nRecord A002");
+
+    Click(P.Form3->MnuRecTransfer.Click);
+
+    EXPECT_EQ(P.Files.Dir(Home.Path(u"LfgDat_A/A002sub.jpg")), QString());
+}
+
 TEST_F(RecordTransferTest, TextsPendingThatCannotBeStored_EndTheProgramNoSoonerThanTheWalk)
 {
     P.Form3->Text2.Text = u"Brown"_s;
@@ -379,7 +404,7 @@ TEST_F(RecordTransferTest, TextsPendingThatCannotBeStored_EndTheProgramNoSoonerT
 
     Click(P.Form3->MnuRecTransfer.Click);
 
-    EXPECT_EQ(PictureOf(u"A002"), Red);
+    EXPECT_EQ(PictureOf(u"A002"), Green);
     EXPECT_EQ(Rows("1"), before);
 }
 
@@ -419,6 +444,17 @@ TEST_F(LockedTransferTest, Cancel_GivesTheTransferUp_WithTheRecordsWhole)
 
     Other.reset();
     EXPECT_EQ(Rows("1"), before);
+}
+
+TEST_F(LockedTransferTest, Cancel_ThePictureThatWasThereStays)
+{
+    ExpectTransferUnderALock();
+    ExpectDatabaseInUse(Answer::Cancel);
+
+    Press();
+
+    EXPECT_EQ(PictureOf(u"A002"), Green);
+    EXPECT_NE(ColourOf(P.Form1->Image1), u"none"_s);
 }
 
 TEST_F(LockedTransferTest, Retry_GoesOnWithIt)
