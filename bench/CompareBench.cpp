@@ -1,5 +1,6 @@
 #include "BenchHome.h"
 #include "Machine.h"
+#include "Runs.h"
 #include "compare/CompareBranch.h"
 #include "compare/CompareSearch.h"
 #include "compare/Sides.h"
@@ -9,6 +10,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QSet>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
@@ -108,10 +110,19 @@ public:
     Program& P = machine_.P;
 };
 
+// Kept open.
+Program& ComparisonOf(int people, bool isAlike = false)
+{
+    static std::map<std::pair<int, bool>, Comparison*> comparisons;
+    Comparison*& comparison = comparisons[{people, isAlike}];
+    if (!comparison)
+        comparison = new Comparison(HomeOf(people, isAlike));
+    return comparison->P;
+}
+
 void WhereSameWithoutMatch(benchmark::State& state, int people)
 {
-    Comparison comparison(HomeOf(people));
-    Program& p = comparison.P;
+    Program& p = ComparisonOf(people);
     p.Form6->Check2.Value = true;
     for (auto _ : state) {
         state.PauseTiming();
@@ -139,9 +150,9 @@ void WhereSame10000(benchmark::State& state)
 // Step by step, as the search is told.
 void DoubleLoop2500(benchmark::State& state)
 {
-    Comparison comparison(HomeOf(2'500));
-    Recordset& current = Records(comparison.P);
-    Recordset& compare = CompareRecords(comparison.P);
+    Program& p = ComparisonOf(2'500);
+    Recordset& current = Records(p);
+    Recordset& compare = CompareRecords(p);
     for (auto _ : state) {
         int found = 0;
         for (current.MoveFirst(); !current.Eof(); current.MoveNext())
@@ -153,8 +164,7 @@ void DoubleLoop2500(benchmark::State& state)
 
 void EqualPairs10000(benchmark::State& state)
 {
-    Comparison comparison(HomeOf(10'000, true));
-    Program& p = comparison.P;
+    Program& p = ComparisonOf(10'000, true);
     for (auto _ : state) {
         state.PauseTiming();
         ResetCompare(p);
@@ -165,11 +175,77 @@ void EqualPairs10000(benchmark::State& state)
     }
 }
 
-BENCHMARK(WhereSame2500)->Unit(benchmark::kMillisecond)->Repetitions(7)->UseRealTime();
-BENCHMARK(WhereSame5000)->Unit(benchmark::kMillisecond)->Repetitions(7)->UseRealTime();
-BENCHMARK(WhereSame10000)->Unit(benchmark::kMillisecond)->Repetitions(7)->UseRealTime();
-BENCHMARK(DoubleLoop2500)->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(3)->UseRealTime();
-BENCHMARK(EqualPairs10000)->Unit(benchmark::kMillisecond)->Repetitions(7)->UseRealTime();
+// The rows of one side's database, by the engine alone.
+class BareRows
+{
+public:
+    BareRows(const CompareHome& home, QChar letter, const char* sql)
+    {
+        const QString path = home.Path() + u"LfgDat_" + letter + u"/LfgDat_" + letter + u".mdb";
+        sqlite3_open_v2(path.toUtf8().constData(), &database_, SQLITE_OPEN_READONLY, nullptr);
+        if (sqlite3_prepare_v2(database_, sql, -1, &rows_, nullptr) != SQLITE_OK)
+            qFatal("%s", sqlite3_errmsg(database_));
+    }
+    ~BareRows()
+    {
+        sqlite3_finalize(rows_);
+        sqlite3_close(database_);
+    }
+    BareRows(const BareRows&) = delete;
+    BareRows& operator=(const BareRows&) = delete;
+
+    bool Step() { return sqlite3_step(rows_) == SQLITE_ROW; }
+    const char* Text(int column) { return reinterpret_cast<const char*>(sqlite3_column_text(rows_, column)); }
+
+private:
+    sqlite3* database_ = nullptr;
+    sqlite3_stmt* rows_ = nullptr;
+};
+
+// The surnames of the one side in a set, in which those of the other are looked up.
+void JoinSurnamesBare(benchmark::State& state)
+{
+    const CompareHome& home = HomeOf(10'000);
+    for (auto _ : state) {
+        BareRows ours(home, u'A', "SELECT Surname FROM Tree99");
+        BareRows theirs(home, u'B', "SELECT Surname FROM Tree99");
+        QSet<QString> known;
+        while (theirs.Step())
+            known.insert(QString::fromUtf8(theirs.Text(0)).toCaseFolded());
+        while (ours.Step())
+            if (known.contains(QString::fromUtf8(ours.Text(0)).toCaseFolded()))
+                state.SkipWithError("a pair was found");
+    }
+}
+
+// All fields of the one side's record against those of the other's.
+void CompareFieldsBare(benchmark::State& state)
+{
+    constexpr auto fields = "SELECT Surname, Forename, FatherRec, MotherRec, Maiden, Nationality, BirthDate, "
+                            "BirthPlace, Spouse, Children, Partner, PrevChildren, Wedding, BirthCertificate, "
+                            "MarriageCertificate, DeathCertificate, Education, Profession, Deceased, Medical, Notes "
+                            "FROM Tree99";
+    constexpr int count = 21;
+    const CompareHome& home = HomeOf(10'000, true);
+    for (auto _ : state) {
+        BareRows ours(home, u'A', fields);
+        BareRows theirs(home, u'B', fields);
+        int differences = ours.Step() ? 0 : 1;
+        while (theirs.Step())
+            for (int column = 0; column < count; ++column)
+                differences += sqlite3_stricmp(ours.Text(column), theirs.Text(column)) != 0;
+        if (differences != 0)
+            state.SkipWithError("a difference was found");
+    }
+}
+
+BENCHMARK(WhereSame2500)->Apply(ShortRuns<20>);
+BENCHMARK(WhereSame5000)->Apply(ShortRuns<20>);
+BENCHMARK(WhereSame10000)->Apply(ShortRuns<20>);
+BENCHMARK(DoubleLoop2500)->Apply(ShortRuns<3>);
+BENCHMARK(JoinSurnamesBare)->Apply(ShortRuns<20>);
+BENCHMARK(EqualPairs10000)->Apply(ShortRuns<20>);
+BENCHMARK(CompareFieldsBare)->Apply(ShortRuns<20>);
 
 } // namespace
 } // namespace lineforge::bench

@@ -1,5 +1,6 @@
 #include "BenchHome.h"
 #include "Machine.h"
+#include "Runs.h"
 #include "gallery/GalleryPage.h"
 #include "shell/OpenBranch.h"
 
@@ -7,8 +8,11 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QImage>
+#include <QImageReader>
+#include <QThreadPool>
 
 #include <algorithm>
+#include <atomic>
 #include <benchmark/benchmark.h>
 #include <random>
 
@@ -101,28 +105,69 @@ private:
     QElapsedTimer watch_;
 };
 
+QSize TileSize()
+{
+    static const QSize size = [] {
+        Machine machine(Home().Path());
+        machine.P.Form8->List1.ListIndex = 0;
+        OpenSelectedBranch(machine.P);
+        BuildGalleryPage(machine.P);
+        return machine.P.Form5->Image1[0].Picture.value().size();
+    }();
+    return size;
+}
+
+// By the toolkit alone, at the size of a tile.
+bool Decode(int subscript)
+{
+    QImageReader reader(Home().Path() + u"LfgDat_A/LfgGal_A/A001_%1.jpg"_s.arg(subscript, 2, 10, QChar(u'0')));
+    reader.setScaledSize(TileSize());
+    return !reader.read().isNull();
+}
+
+void DecodeFirst(benchmark::State& state)
+{
+    TileSize();
+    for (auto _ : state)
+        if (!Decode(1))
+            state.SkipWithError("no picture");
+}
+
+void DecodeAll(benchmark::State& state)
+{
+    TileSize();
+    for (auto _ : state) {
+        QThreadPool pool;
+        std::atomic<int> decoded = 0;
+        for (int subscript = 1; subscript <= tiles; ++subscript)
+            pool.start([&decoded, subscript] { decoded += Decode(subscript); });
+        pool.waitForDone();
+        if (decoded != tiles)
+            state.SkipWithError("no picture");
+    }
+}
+
 // A page built by a program that has just started, or built again.
 class Page
 {
 public:
-    explicit Page(benchmark::State& state) : state_(state)
+    Page()
     {
         machine_.P.Form8->List1.ListIndex = 0;
         OpenSelectedBranch(machine_.P);
     }
 
-    const WatchedYields& Build()
+    const WatchedYields& Build(benchmark::State& state)
     {
         yields_.Start();
         BuildGalleryPage(machine_.P);
         // One before the first tile, one behind each, one behind the empty tile.
         if (yields_.Milliseconds.size() != tiles + 2)
-            state_.SkipWithError("not all tiles were shown");
+            state.SkipWithError("not all tiles were shown");
         return yields_;
     }
 
 private:
-    benchmark::State& state_;
     WatchedYields yields_;
     Machine machine_{Home().Path(), yields_};
 };
@@ -130,33 +175,35 @@ private:
 void GalleryFirstPicture(benchmark::State& state)
 {
     for (auto _ : state)
-        state.SetIterationTime(Page(state).Build().Milliseconds.at(1) * aMillisecond);
+        state.SetIterationTime(Page().Build(state).Milliseconds.at(1) * aMillisecond);
 }
 
 void GalleryPage(benchmark::State& state)
 {
     for (auto _ : state)
-        state.SetIterationTime(Page(state).Build().Milliseconds.back() * aMillisecond);
+        state.SetIterationTime(Page().Build(state).Milliseconds.back() * aMillisecond);
 }
 
 void GalleryLongestPause(benchmark::State& state)
 {
     for (auto _ : state)
-        state.SetIterationTime(Page(state).Build().LongestPause() * aMillisecond);
+        state.SetIterationTime(Page().Build(state).LongestPause() * aMillisecond);
 }
 
 void GalleryPageAgain(benchmark::State& state)
 {
-    Page page(state);
-    page.Build();
+    static auto& page = *new Page;
+    page.Build(state);
     for (auto _ : state)
-        state.SetIterationTime(page.Build().Milliseconds.back() * aMillisecond);
+        state.SetIterationTime(page.Build(state).Milliseconds.back() * aMillisecond);
 }
 
-BENCHMARK(GalleryFirstPicture)->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(3)->UseManualTime();
-BENCHMARK(GalleryPage)->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(3)->UseManualTime();
-BENCHMARK(GalleryLongestPause)->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(3)->UseManualTime();
-BENCHMARK(GalleryPageAgain)->Unit(benchmark::kMillisecond)->Iterations(5)->Repetitions(5)->UseManualTime();
+BENCHMARK(GalleryFirstPicture)->Iterations(1)->Repetitions(5)->UseManualTime();
+BENCHMARK(GalleryPage)->Iterations(1)->Repetitions(5)->UseManualTime();
+BENCHMARK(GalleryLongestPause)->Iterations(1)->Repetitions(5)->UseManualTime();
+BENCHMARK(GalleryPageAgain)->Iterations(1)->Repetitions(20)->UseManualTime();
+BENCHMARK(DecodeFirst)->Apply(ShortRuns<20>)->UseRealTime();
+BENCHMARK(DecodeAll)->Apply(ShortRuns<5>)->UseRealTime();
 
 } // namespace
 } // namespace lineforge::bench

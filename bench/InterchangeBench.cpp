@@ -1,4 +1,5 @@
 #include "Machine.h"
+#include "Runs.h"
 #include "interchange/BranchExport.h"
 
 #include <QDir>
@@ -97,8 +98,8 @@ void CopyLargeBranch(benchmark::State& state)
     });
 }
 
-BENCHMARK(CopyLargeBranch)->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(5)->UseRealTime();
-BENCHMARK(ExportLargeBranch)->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(5)->UseRealTime();
+BENCHMARK(CopyLargeBranch)->Apply(ShortRuns<7>)->UseRealTime();
+BENCHMARK(ExportLargeBranch)->Apply(ShortRuns<7>)->UseRealTime();
 
 } // namespace
 } // namespace lineforge::bench

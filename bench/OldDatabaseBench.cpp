@@ -1,4 +1,5 @@
 #include "Machine.h"
+#include "Runs.h"
 #include "program/OldDatabase.h"
 
 #include <QDir>
@@ -153,8 +154,8 @@ void ExportOldDatabase(benchmark::State& state)
     }
 }
 
-BENCHMARK(ConvertOldDatabase)->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(9)->UseRealTime();
-BENCHMARK(ExportOldDatabase)->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(9)->UseRealTime();
+BENCHMARK(ConvertOldDatabase)->Apply(ShortRuns<20>)->UseRealTime();
+BENCHMARK(ExportOldDatabase)->Apply(ShortRuns<20>)->UseRealTime();
 
 } // namespace
 } // namespace lineforge::bench

@@ -1,5 +1,6 @@
 #include "BenchHome.h"
 #include "Machine.h"
+#include "Runs.h"
 #include "shell/OpenBranch.h"
 
 #include <benchmark/benchmark.h>
@@ -20,8 +21,7 @@ const BenchHome& Home()
 
 void OpenBranch(benchmark::State& state)
 {
-    Machine machine(Home().Path());
-    Program& p = machine.P;
+    static Program& p = (new Machine(Home().Path()))->P;
     for (auto _ : state) {
         p.Form8->List1.ListIndex = 0;
         OpenSelectedBranch(p);
@@ -49,8 +49,8 @@ void ReadFilesBare(benchmark::State& state)
     }
 }
 
-BENCHMARK(OpenBranch)->Unit(benchmark::kMillisecond)->Repetitions(15)->UseRealTime();
-BENCHMARK(ReadFilesBare)->Unit(benchmark::kMillisecond)->Repetitions(15)->UseRealTime();
+BENCHMARK(OpenBranch)->Apply(ShortRuns<50>);
+BENCHMARK(ReadFilesBare)->Apply(ShortRuns<50>);
 
 } // namespace
 } // namespace lineforge::bench

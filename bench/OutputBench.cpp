@@ -1,5 +1,6 @@
 #include "BenchHome.h"
 #include "Machine.h"
+#include "Runs.h"
 #include "output/TextReport.h"
 #include "records/RecordSearch.h"
 #include "shell/OpenBranch.h"
@@ -7,6 +8,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QSaveFile>
 
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
@@ -88,11 +90,17 @@ public:
     Program P{Platform{windows_, user_, loop_, screen_, clipboard_, printer_, processes_, Home().Path()}};
 };
 
+Program& LargeProgram()
+{
+    static auto* program = new OpenProgram;
+    return program->P;
+}
+
 void SearchWordWithoutHit(benchmark::State& state)
 {
-    OpenProgram program;
+    Program& p = LargeProgram();
     for (auto _ : state)
-        SearchByWord(program.P);
+        SearchByWord(p);
 }
 
 // A statement of the engine alone on the same file.
@@ -127,7 +135,7 @@ void SearchWordBare(benchmark::State& state)
         u"Deceased BirthCertificate MarriageCertificate DeathCertificate Notes Medical Maiden PrevChildren Partner "
         u"Wedding WedDate"_s.split(u' ');
     const QString condition = u" LIKE '%"_s + sought + u"%'";
-    BareStatement search(
+    static BareStatement search(
         QString(u"SELECT rowid FROM Tree99 WHERE " + fields.join(QString(condition + u" OR ")) + condition).toUtf8());
     for (auto _ : state) {
         if (sqlite3_step(search.Rows) == SQLITE_ROW)
@@ -138,9 +146,9 @@ void SearchWordBare(benchmark::State& state)
 
 void WriteTextFile(benchmark::State& state)
 {
-    OpenProgram program;
+    Program& p = LargeProgram();
     for (auto _ : state) {
-        WriteDatabaseText(program.P);
+        WriteDatabaseText(p);
         // So that no previous generation is kept, which would be a second file.
         state.PauseTiming();
         QFile::remove(Home().Branch() + u"LfgDat_A.txt");
@@ -190,30 +198,36 @@ QByteArray ReportByHand(sqlite3_stmt* rows)
 
 void WriteTextBare(benchmark::State& state)
 {
-    BareStatement table("SELECT File, Surname, Forename, Maiden, Gender, Nationality, FatherRec, MotherRec, BirthDate, "
-                        "BirthPlace, Spouse, Children, Partner, Wedding, WedDate, PrevChildren, Education, Profession, "
-                        "Deceased, BirthCertificate, MarriageCertificate, DeathCertificate, Medical, Notes "
-                        "FROM Tree99");
+    static BareStatement table(
+        "SELECT File, Surname, Forename, Maiden, Gender, Nationality, FatherRec, MotherRec, BirthDate, "
+        "BirthPlace, Spouse, Children, Partner, Wedding, WedDate, PrevChildren, Education, Profession, "
+        "Deceased, BirthCertificate, MarriageCertificate, DeathCertificate, Medical, Notes "
+        "FROM Tree99");
     const QString path = Home().Path() + u"bare.txt";
     for (auto _ : state) {
-        QFile file(path);
+        // Whole or not at all, and flushed, as a report is.
+        QSaveFile file(path);
         if (!file.open(QFile::WriteOnly))
             state.SkipWithError("the file can't be written");
         while (sqlite3_step(table.Rows) == SQLITE_ROW)
             file.write(ReportByHand(table.Rows));
-        file.close();
+        if (!file.commit())
+            state.SkipWithError("the file can't be written");
         sqlite3_reset(table.Rows);
     }
-    OpenProgram program;
-    WriteDatabaseText(program.P);
-    if (program.P.Files.Read(path) != program.P.Files.Read(Home().Branch() + u"LfgDat_A.txt"))
+    static const bool isTheSame = [&path] {
+        Program& p = LargeProgram();
+        WriteDatabaseText(p);
+        return p.Files.Read(path) == p.Files.Read(Home().Branch() + u"LfgDat_A.txt");
+    }();
+    if (!isTheSame)
         state.SkipWithError("the two files differ");
 }
 
-BENCHMARK(SearchWordWithoutHit)->Unit(benchmark::kMillisecond)->Repetitions(15)->UseRealTime();
-BENCHMARK(SearchWordBare)->Unit(benchmark::kMillisecond)->Repetitions(15)->UseRealTime();
-BENCHMARK(WriteTextFile)->Unit(benchmark::kMillisecond)->Repetitions(7)->UseRealTime();
-BENCHMARK(WriteTextBare)->Unit(benchmark::kMillisecond)->Repetitions(7)->UseRealTime();
+BENCHMARK(SearchWordWithoutHit)->Apply(ShortRuns<30>);
+BENCHMARK(SearchWordBare)->Apply(ShortRuns<30>);
+BENCHMARK(WriteTextFile)->Apply(ShortRuns<20>);
+BENCHMARK(WriteTextBare)->Apply(ShortRuns<20>);
 
 } // namespace
 } // namespace lineforge::bench

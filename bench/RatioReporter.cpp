@@ -9,53 +9,72 @@ namespace lineforge::bench
 
 namespace
 {
-constexpr double aMillisecond = 1e-3; // in seconds
+constexpr double milliseconds = 1e3;
 
-double Median(std::vector<double> times)
+double Lowest(const std::vector<double>& runs)
 {
-    const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
-    std::nth_element(times.begin(), middle, times.end());
-    return *middle;
+    return *std::ranges::min_element(runs);
 }
 
-double Spread(const std::vector<double>& times)
+// By how much the middle one of the runs is longer than the lowest.
+double Noise(std::vector<double> runs)
 {
-    const auto [least, most] = std::minmax_element(times.begin(), times.end());
-    return *most / *least;
+    const auto middle = runs.begin() + static_cast<std::ptrdiff_t>(runs.size() / 2);
+    std::ranges::nth_element(runs, middle);
+    return *middle / Lowest(runs);
+}
+// Of one iteration, by the clock where that was asked for, else by the processor.
+double Seconds(const benchmark::BenchmarkReporter::Run& run)
+{
+    const std::string& type = run.run_name.time_type;
+    const bool isByClock = type.ends_with("real_time") || type.ends_with("manual_time");
+    return (isByClock ? run.real_accumulated_time : run.cpu_accumulated_time) / static_cast<double>(run.iterations);
 }
 } // namespace
 
-RatioReporter::RatioReporter(std::vector<Ratio> ratios) : ConsoleReporter(OO_Tabular), ratios_(std::move(ratios)) {}
+RatioReporter::RatioReporter(std::vector<Limit> limits) : limits_(std::move(limits)) {}
+
+bool RatioReporter::ReportContext(const Context& context)
+{
+    PrintBasicContext(&GetErrorStream(), context);
+    return true;
+}
 
 void RatioReporter::ReportRuns(const std::vector<Run>& runs)
 {
-    for (const Run& run : runs)
-        allKept_ = allKept_ && !run.error_occurred;
-    for (const Run& run : runs)
-        if (run.run_type == Run::RT_Iteration && !run.error_occurred)
-            times_[run.run_name.function_name].push_back(run.real_accumulated_time /
-                                                         static_cast<double>(run.iterations));
-    ConsoleReporter::ReportRuns(runs);
+    for (const Run& run : runs) {
+        if (run.error_occurred) {
+            GetErrorStream() << run.benchmark_name() << ": " << run.error_message << '\n';
+            allKept_ = false;
+        } else if (run.run_type == Run::RT_Iteration) {
+            runs_[run.run_name.function_name].push_back(Seconds(run));
+        }
+    }
 }
 
 void RatioReporter::Finalize()
 {
-    std::cout << "\nratios of medians (noise: longest by shortest of the same)\n" << std::fixed << std::setprecision(2);
-    for (const Ratio& ratio : ratios_) {
-        const auto ours = times_.find(ratio.Ours);
-        const auto against = times_.find(ratio.Against);
-        const bool isAlone = ratio.Against.empty();
-        if (ours == times_.end() || (!isAlone && against == times_.end()))
-            continue;
-        const double measured = Median(ours->second) / (isAlone ? aMillisecond : Median(against->second));
-        const bool isKept = measured <= ratio.Limit;
-        allKept_ = allKept_ && isKept;
-        std::cout << "  " << ratio.What << ": " << measured << (isAlone ? " ms" : "") << ", at most " << ratio.Limit
-                  << (isKept ? "" : "  BROKEN") << "  (noise " << Spread(ours->second);
-        if (!isAlone)
-            std::cout << " and " << Spread(against->second);
-        std::cout << ")\n";
+    std::ostream& out = GetOutputStream();
+    out << std::fixed << std::setprecision(2) << "lowest of many runs, in ms (noise: the middle one by the lowest)\n";
+    for (const auto& [name, runs] : runs_)
+        out << "  " << name << ": " << Lowest(runs) * milliseconds << "  (" << runs.size() << " runs, noise "
+            << Noise(runs) << ")\n";
+    out << "\nagainst their floors\n";
+    for (const Limit& limit : limits_) {
+        const auto ours = runs_.find(limit.Ours);
+        const auto floor = runs_.find(limit.Floor);
+        if (ours != runs_.end() && floor != runs_.end())
+            Tell(limit, ours->second, floor->second);
     }
+}
+
+void RatioReporter::Tell(const Limit& limit, const std::vector<double>& ours, const std::vector<double>& floor)
+{
+    const double measured = limit.How == Measure::Times ? Lowest(ours) / Lowest(floor) : Lowest(ours) - Lowest(floor);
+    const bool isKept = measured <= limit.Most;
+    allKept_ = allKept_ && isKept;
+    GetOutputStream() << "  " << limit.What << ": " << measured << (limit.How == Measure::More ? " more" : "")
+                      << ", at most " << limit.Most << (isKept ? "" : "  BROKEN") << '\n';
 }
 
 } // namespace lineforge::bench

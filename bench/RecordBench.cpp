@@ -1,12 +1,15 @@
 #include "BenchHome.h"
 #include "Machine.h"
+#include "Runs.h"
 #include "map/MapInteraction.h"
+#include "platform/Picture.h"
 #include "records/RecordScanner.h"
 #include "shell/OpenBranch.h"
 
 #include <QDir>
 #include <QFile>
 #include <QImage>
+#include <QImageReader>
 
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
@@ -69,10 +72,15 @@ public:
     }
 };
 
+Program& LargeProgram()
+{
+    static auto* program = new OpenProgram;
+    return program->P;
+}
+
 void DoubleClickLast(benchmark::State& state)
 {
-    OpenProgram program;
-    Program& p = program.P;
+    Program& p = LargeProgram();
     for (auto _ : state) {
         p.Mouse.DownX = 1100;
         p.Mouse.DownY = 1050;
@@ -103,8 +111,7 @@ void WalkBareToLast(benchmark::State& state)
 // To and fro over three records, as one leafs through them.
 void ScannerStep(benchmark::State& state)
 {
-    OpenProgram program;
-    Program& p = program.P;
+    static Program& p = (new OpenProgram)->P;
     const auto step = [&](ScanMode mode) {
         p.Record.RecordScanMode = static_cast<int>(mode);
         TickScan(p);
@@ -119,9 +126,22 @@ void ScannerStep(benchmark::State& state)
         step(round[at++ % std::size(round)]);
 }
 
-BENCHMARK(DoubleClickLast)->Unit(benchmark::kMillisecond)->Repetitions(15)->UseRealTime();
-BENCHMARK(WalkBareToLast)->Unit(benchmark::kMillisecond)->Repetitions(15)->UseRealTime();
-BENCHMARK(ScannerStep)->Unit(benchmark::kMicrosecond)->Repetitions(15)->UseRealTime();
+// A picture of theirs at the size at which it is kept.
+void DecodePortrait(benchmark::State& state)
+{
+    constexpr int longest = PictureCache::LongestSide;
+    for (auto _ : state) {
+        QImageReader reader(Home().Branch() + u"A001Sub.jpg");
+        reader.setScaledSize(reader.size().scaled(longest, longest, Qt::KeepAspectRatio));
+        if (reader.read().isNull())
+            state.SkipWithError("no picture");
+    }
+}
+
+BENCHMARK(DoubleClickLast)->Apply(ShortRuns<50>);
+BENCHMARK(WalkBareToLast)->Apply(ShortRuns<50>);
+BENCHMARK(ScannerStep)->Apply(ShortRuns<50, 8>);
+BENCHMARK(DecodePortrait)->Apply(ShortRuns<20>);
 
 } // namespace
 } // namespace lineforge::bench

@@ -1,4 +1,5 @@
 #include "BenchHome.h"
+#include "Runs.h"
 #include "platform/Database.h"
 #include "platform/Recordset.h"
 
@@ -26,9 +27,9 @@ const QString& LargeDatabase()
 // A record that isn't there: every row is compared.
 void WalkRecordset(benchmark::State& state)
 {
-    const FileSystem files(u"/"_s);
-    Databases databases;
-    Recordset records(databases.Open(files, LargeDatabase()), u"Tree99"_s);
+    static const FileSystem files(u"/"_s);
+    static Databases databases;
+    static Recordset records(databases.Open(files, LargeDatabase()), u"Tree99"_s);
     const QString sought = u"Z999"_s;
     for (auto _ : state) {
         records.MoveFirst();
@@ -55,8 +56,8 @@ void WalkBare(benchmark::State& state)
     sqlite3_close(database);
 }
 
-BENCHMARK(WalkRecordset)->Unit(benchmark::kMillisecond)->Repetitions(15)->UseRealTime();
-BENCHMARK(WalkBare)->Unit(benchmark::kMillisecond)->Repetitions(15)->UseRealTime();
+BENCHMARK(WalkRecordset)->Apply(ShortRuns<50>);
+BENCHMARK(WalkBare)->Apply(ShortRuns<50>);
 
 } // namespace
 } // namespace lineforge::bench
