@@ -1,6 +1,6 @@
 #!/bin/sh
-# Builds the packages of Lineforge, a .deb and a .tar.gz, in build/packages:  ./package.sh
-# Everything that is missing on a Debian 12 machine is installed first.
+# Builds the packages of Lineforge in build/packages, a .deb, a .tar.gz and one with the toolkit in it:  ./package.sh
+# Everything that is missing on a Debian 12 or 13 machine is installed first.
 set -eu
 cd "$(dirname "$0")"
 . packaging/packages.sh
@@ -9,6 +9,11 @@ install_missing $build_packages $cpack_packages
 build_preset release all
 rm -rf build/packages
 log=$(mktemp)
-cpack --config build/release/CPackConfig.cmake -B build/packages >"$log" 2>&1 || { cat "$log" >&2; rm -f "$log"; exit 1; }
+pack() {
+    cpack --config build/release/CPackConfig.cmake -B build/packages "$@" >"$log" 2>&1 ||
+        { cat "$log" >&2; rm -f "$log"; exit 1; }
+}
+pack
+pack -G TGZ -D LINEFORGE_BUNDLE=ON
 rm -rf "$log" build/packages/_CPack_Packages
 ls build/packages/*

@@ -20,6 +20,7 @@ using testing::StartsWith;
 
 const QString deb = QStringLiteral(LINEFORGE_PACKAGES "/deb/");
 const QString tar = QStringLiteral(LINEFORGE_PACKAGES "/tar/");
+const QString bundle = QStringLiteral(LINEFORGE_PACKAGES "/bundle/");
 const QString metainfo = deb + u"usr/share/metainfo/technology.tarnwick.lineforge.metainfo.xml";
 const QString desktopEntry = deb + u"usr/share/applications/lineforge.desktop";
 
@@ -77,14 +78,20 @@ Unpacked Tar()
     return {tar, tar, Programs()};
 }
 
+Unpacked Bundle()
+{
+    return {bundle, bundle, Programs()};
+}
+
 class PackageTest : public testing::TestWithParam<Unpacked (*)()>
 {
 protected:
     const Unpacked package = GetParam()();
 };
 
-INSTANTIATE_TEST_SUITE_P(Both, PackageTest, testing::Values(Deb, Tar),
-                         [](const auto& kind) { return kind.param == Deb ? "Deb" : "Tar"; });
+INSTANTIATE_TEST_SUITE_P(All, PackageTest, testing::Values(Deb, Tar, Bundle), [](const auto& kind) {
+    return kind.param == Deb ? "Deb" : kind.param == Tar ? "Tar" : "Bundle";
+});
 
 TEST_P(PackageTest, HomeHoldsWhatTheProgramAsksForByName)
 {
@@ -205,6 +212,26 @@ TEST(DebTest, CheckOfAHome_IsACommand)
 TEST(TarTest, IsTheHomeAndNothingElse)
 {
     EXPECT_EQ(FilesBelow(tar), Sorted(HomeFiles()));
+}
+
+TEST(BundleTest, IsTheTarWithTheToolkitBesideIt)
+{
+    QStringList files = FilesBelow(bundle);
+    const QRegularExpression broughtAlong(u"^(lib|plugins)/"_s);
+    EXPECT_THAT(files.filter(broughtAlong),
+                IsSupersetOf({u"lib/libQt6Core.so.6"_s, u"lib/libQt6Widgets.so.6"_s, u"lib/libsqlite3.so.0"_s,
+                              u"plugins/imageformats/libqjpeg.so"_s, u"plugins/multimedia/libgstreamermediaplugin.so"_s,
+                              u"plugins/platforms/libqxcb.so"_s, u"plugins/platforms/libqwayland-generic.so"_s}));
+    files.removeIf([&](const QString& name) { return broughtAlong.match(name).hasMatch(); });
+    EXPECT_EQ(files, Sorted(FilesBelow(tar) + QStringList{u"qt.conf"_s}));
+}
+
+// A second C library or another sound server's voice would be worse than none.
+TEST(BundleTest, LeavesToTheMachineWhatIsTheMachinesOwn)
+{
+    const QRegularExpression machinesOwn(
+        u"/(ld-linux|lib(c|m|stdc\\+\\+|GL|EGL|X11|xcb|dbus-1|fontconfig|glib-2\\.0|gstreamer-1\\.0|pulse)\\.so)"_s);
+    EXPECT_EQ(FilesBelow(bundle).filter(machinesOwn), QStringList());
 }
 
 TEST(DebTest, HoldsAHomeForTheLauncherAndWhatADesktopAsksFor)

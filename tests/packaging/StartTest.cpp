@@ -6,6 +6,7 @@
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QThread>
 
@@ -24,6 +25,7 @@ using tour::Reply;
 using tour::ScreenWindow;
 
 const QString tarHome = QStringLiteral(LINEFORGE_PACKAGES "/tar");
+const QString bundleHome = QStringLiteral(LINEFORGE_PACKAGES "/bundle");
 const QString launcher = QStringLiteral(LINEFORGE_PACKAGES "/deb/usr/bin/lineforge");
 
 // Programs of the packages with real windows on a screen, for a user who has never had them before.
@@ -79,6 +81,17 @@ protected:
     // The program that runs now; a launcher has gone over into it.
     QString Running() const { return QFileInfo(u"/proc/%1/exe"_s.arg(program_.processId())).canonicalFilePath(); }
 
+    // All libraries and plug-ins that it has loaded.
+    QStringList FilesInUse() const
+    {
+        QStringList files;
+        for (const QByteArray& line : Contents(u"/proc/%1/maps"_s.arg(program_.processId())).split('\n'))
+            if (const qsizetype path = line.indexOf('/'); path >= 0)
+                files += QString::fromLocal8Bit(line.sliced(path));
+        files.removeDuplicates();
+        return files;
+    }
+
     QString User(const QString& file) const { return user_.filePath(file); }
 
     const QString MainTitle = forms::Form1().Caption;
@@ -108,6 +121,15 @@ TEST_F(StartTest, TarGz_StartsWhereItWasUnpacked)
     Start(tarHome + u"/lineforge");
     EXPECT_TRUE(AwaitWindow(MainTitle));
     EXPECT_EQ(Running(), QFileInfo(tarHome + u"/lineforge").canonicalFilePath());
+}
+
+TEST_F(StartTest, Bundle_StartsWithTheToolkitThatItBrings)
+{
+    Start(bundleHome + u"/lineforge");
+    EXPECT_TRUE(AwaitWindow(MainTitle));
+    const QStringList toolkit = FilesInUse().filter(QRegularExpression(u"/libQt6|/plugins/platforms/"_s));
+    EXPECT_GE(toolkit.size(), 6);
+    EXPECT_EQ(toolkit.filter(QRegularExpression(u'^' + QRegularExpression::escape(bundleHome))), toolkit);
 }
 
 TEST_F(StartTest, Deb_StartsInTheUsersNewHome)

@@ -54,6 +54,8 @@ ScratchHome::ScratchHome(const QString& installed) : examples_(QDir(installed).a
     Expect(QFileInfo(source.filePath(u"lineforge"_s)).isExecutable(), u"the program in "_s + installed);
     Expect(QFileInfo::exists(examples.filePath(aliasList)), u"the example home in "_s + examples.path());
     CopyFiles(source, QDir(Directory()), QDirIterator::NoIteratorFlags);
+    for (const QString& broughtAlong : {u"lib"_s, u"plugins"_s}) // by a bundle
+        CopyFiles(QDir(source.filePath(broughtAlong)), QDir(In(broughtAlong)), QDirIterator::Subdirectories);
     CopyFiles(examples, QDir(Directory()), QDirIterator::Subdirectories);
     QDir().mkpath(SettingsDirectory());
 }
