@@ -1,6 +1,6 @@
 #!/bin/sh
 # Builds Lineforge, installs it and starts it:  ./run.sh [--example] [directory]
-# Everything that is missing on a Debian 12 machine is installed first. The directory is ~/Lineforge unless one is
+# Everything that is missing on a Debian 12 or 13 machine is installed first. The directory is ~/Lineforge unless one is
 # given; what a user's work has made there stays. With --example the program starts on a scratch copy of the example
 # home instead. Without a display the tour is driven on a virtual screen.
 set -eu

@@ -1,6 +1,6 @@
 #!/bin/sh
 # Builds Lineforge and runs its whole suite:  ./test.sh [preset] [arguments of ctest]
-# Everything that is missing on a Debian 12 machine is installed first.
+# Everything that is missing on a Debian 12 or 13 machine is installed first.
 set -eu
 cd "$(dirname "$0")"
 . packaging/packages.sh

@@ -1,7 +1,10 @@
 #!/bin/sh
-# Follows README on fresh Debian 12 machines:  packaging/clean-container.sh [step ...]
-# Each step is one way through README, by a new user with sudo: run, package, deb, tar, test. Without a step all are
-# gone, in that order; deb and tar come after package. Needs root.
+# Follows README on fresh Debian machines:  packaging/clean-container.sh [bookworm | trixie] [step ...]
+# Each step is one way through README, by a new user with sudo: run, package, deb, tar, bundle, test. Without a step
+# all are gone, in that order; deb, tar and bundle come after package, and bundle, which takes the tour, after run. The
+# bundle goes to newer machines as well. Debian 12, bookworm, unless told otherwise. Needs root.
+# LINEFORGE_COMPILER_CACHE is a directory that keeps what is compiled from one of these machines to the next, with
+# CMAKE_BUILD_PARALLEL_LEVEL so many compilers run at once.
 set -eu
 cd "$(dirname "$0")/.."
 . packaging/packages.sh
@@ -13,9 +16,9 @@ fail() {
     exit 1
 }
 
-# A machine on which nothing but the user has been set up.
+# A machine on which nothing but the user has been set up, with the suite that is told second or that of the builder.
 set_up() {
-    cp -a "$machines/fresh" "$machines/$1"
+    cp -a "$machines/fresh-${2:-$suite}" "$machines/$1"
     mount -t proc proc "$machines/$1/proc"
     mkdir -p "$machines/$1/dev/pts"
     mount -t devpts -o newinstance,ptmxmode=0666 devpts "$machines/$1/dev/pts"
@@ -30,11 +33,19 @@ set_up() {
 become_visitor() {
     echo "[$1] $2"
     exec chroot --userspec=visitor:visitor "$machines/$1" env -i HOME=/home/visitor PATH=/usr/local/bin:/usr/bin:/bin \
+        ${CMAKE_BUILD_PARALLEL_LEVEL:+CMAKE_BUILD_PARALLEL_LEVEL="$CMAKE_BUILD_PARALLEL_LEVEL"} \
         sh -c "cd ~/lineforge && $2"
 }
 
 as_visitor() {
     (become_visitor "$@")
+}
+
+lend_compiler_cache() {
+    [ -n "${LINEFORGE_COMPILER_CACHE:-}" ] || return 0
+    mkdir "$machines/builder/home/visitor/.ccache"
+    mount --bind "$LINEFORGE_COMPILER_CACHE" "$machines/builder/home/visitor/.ccache"
+    chroot "$machines/builder" chown -R visitor: /home/visitor/.ccache
 }
 
 hand_over_sources() {
@@ -100,6 +111,32 @@ tar_gz() {
     shows_its_window tar "~/lineforge-*-x86_64/lineforge"
 }
 
+# The tour has come with the toolkit's libraries and one of its own; what the program loads, it finds by itself.
+bundle_on() {
+    machine=bundle-$1
+    set_up "$machine" "$1"
+    hand_over_packages "$machine"
+    chroot "$machines/$machine" apt-get update -q >/dev/null
+    as_visitor "$machine" "sudo apt-get install -q -y --no-install-recommends $desktop_packages >/dev/null"
+    as_visitor "$machine" "tar -xzf build/packages/lineforge-*-bundle.tar.gz -C ~"
+    # shellcheck disable=SC2088 # the visitor's home
+    shows_its_window "$machine" "~/lineforge-*-bundle/lineforge"
+
+    mkdir "$machines/$machine/home/visitor/tour"
+    cp "$machines/builder/home/visitor/lineforge/build/tour/tests/tour/lineforge_tour" \
+        "$machines/builder/usr/lib/x86_64-linux-gnu/libxcb-xtest.so.0" "$machines/$machine/home/visitor/tour"
+    chroot "$machines/$machine" chown -R visitor: /home/visitor/tour
+    as_visitor "$machine" "sudo apt-get install -q -y --no-install-recommends poppler-utils >/dev/null" # prints are looked at
+    as_visitor "$machine" "export DISPLAY=$DISPLAY && bundle=\$(echo ~/lineforge-*-bundle) &&
+        exec /lib64/ld-linux-x86-64.so.2 --library-path \$bundle/lib:\$HOME/tour ~/tour/lineforge_tour \$bundle ~/tour/pictures"
+}
+
+bundle() {
+    for newer in $newer_suites; do
+        bundle_on "$newer"
+    done
+}
+
 test_suite() {
     as_visitor builder ./test.sh
 }
@@ -107,15 +144,23 @@ test_suite() {
 follow() {
     set_up builder
     hand_over_sources
+    lend_compiler_cache
     for step in "$@"; do
         case $step in
-        run | package | deb) $step ;;
+        run | package | deb | bundle) $step ;;
         tar) tar_gz ;;
         test) test_suite ;;
         *) fail "there is no step $step" ;;
         esac
     done
 }
+
+suites="bookworm trixie"
+suite=bookworm
+case " $suites " in
+*" ${1:-none} "*) suite=$1; shift ;;
+esac
+newer_suites="$suite${suites#*"$suite"}"
 
 # The machines' mounts are gone with the namespace that they were made in, so that nothing is removed through them.
 if [ "${1:-}" = --inside ]; then
@@ -130,12 +175,24 @@ machines=$(mktemp -d)
 trap 'rm -rf --one-file-system "$machines"' EXIT
 trap 'exit 1' HUP INT TERM
 chmod 755 "$machines"
-echo "Setting up a fresh machine ..."
-debootstrap --variant=minbase --include=ca-certificates,sudo bookworm "$machines/fresh" >"$machines/log" 2>&1 ||
-    { cat "$machines/log" >&2; fail "no fresh machine"; }
-cp /etc/resolv.conf "$machines/fresh/etc/resolv.conf"
-echo "127.0.0.1 localhost $(hostname)" >"$machines/fresh/etc/hosts"
-[ $# -gt 0 ] || set -- run package deb tar test
+[ $# -gt 0 ] || set -- run package deb tar bundle test
+
+# As a distribution sets a machine up.
+fresh_machine() {
+    echo "Setting up a fresh machine with $1 ..."
+    root=$machines/fresh-$1
+    debootstrap --variant=minbase --include=ca-certificates,sudo "$1" "$root" >"$machines/log" 2>&1 ||
+        { cat "$machines/log" >&2; fail "no fresh machine"; }
+    cp /etc/resolv.conf "$root/etc/resolv.conf"
+    echo "127.0.0.1 localhost $(hostname)" >"$root/etc/hosts"
+}
+needed=$suite
+case " $* " in
+*" bundle "*) needed=$newer_suites ;;
+esac
+for each in $needed; do
+    fresh_machine "$each"
+done
 xvfb-run -a -s "-screen 0 1280x1024x24 -noreset -ac" \
-    unshare --mount --pid --fork --kill-child packaging/clean-container.sh --inside "$machines" "$@"
-echo "README holds what it promises: $*"
+    unshare --mount --pid --fork --kill-child packaging/clean-container.sh "$suite" --inside "$machines" "$@"
+echo "README holds what it promises on $suite: $*"
