@@ -360,6 +360,19 @@ bool LiteralRecords::CopyPicture(QChar from, const QString& source, QChar to, co
     return true;
 }
 
+// A record that is refused keeps its picture.
+void LiteralRecords::PutPictureBack(QChar letter, const QString& file, const QString& before)
+{
+    if (PictureIn(letter, file) == before)
+        return;
+    QMap<QString, QString>& pictures = Branches.at(letter).Pictures;
+    if (before.isEmpty())
+        pictures.remove(file.toLower());
+    else
+        pictures[file.toLower()] = before;
+    PanelPicture = before;
+}
+
 void LiteralRecords::Transfer()
 {
     if (TellIfAlternate(u"Search Alternate Tree Branch Records."_s,
@@ -403,17 +416,23 @@ void LiteralRecords::Transfer()
         }
     }
     // Of a branch that can't be opened nobody's picture goes.
-    const bool keepsPicture = !isOpen && !PictureIn(to, destination).isEmpty();
+    const QString before = PictureIn(to, destination);
+    const bool keepsPicture = !isOpen && !before.isEmpty();
     if (!keepsPicture && !CopyPicture(from, source, to, destination))
         return;
-    if (!Walk(Current, u"File"_s, destination)) {
-        TellNoMatch(u"No Match Found for Data Ref: "_s + (isOpen ? CurFile : destination));
-        return;
+    try {
+        if (!Walk(Current, u"File"_s, destination)) {
+            TellNoMatch(u"No Match Found for Data Ref: "_s + (isOpen ? CurFile : destination));
+            return;
+        }
+        Edit(Current);
+        for (qsizetype at = 0; at < copiedFields.size(); ++at)
+            Put(Current, copiedFields[at], texts[at]);
+        Update(Current);
+    } catch (const RuntimeError&) {
+        PutPictureBack(to, destination, before);
+        throw;
     }
-    Edit(Current);
-    for (qsizetype at = 0; at < copiedFields.size(); ++at)
-        Put(Current, copiedFields[at], texts[at]);
-    Update(Current);
     RenameBox(Text(Current, u"Forename"_s));
     FillLabels();
     MarkCurrentBox();

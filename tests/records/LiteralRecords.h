@@ -201,6 +201,7 @@ private:
     void DeleteWithFiles();
     QString AskDestination();
     bool CopyPicture(QChar from, const QString& source, QChar to, const QString& destination);
+    void PutPictureBack(QChar letter, const QString& file, const QString& before);
     void ReplaceSelection(const QString& text);
 
     std::mt19937 dice_;
