@@ -4,6 +4,7 @@
 #include "map/CurrentBox.h"
 #include "map/HitTest.h"
 #include "map/MapFile.h"
+#include "map/RecordFormPicture.h"
 #include "map/SubjectPanel.h"
 #include "platform/Text.h"
 #include "program/AlternateBranch.h"
@@ -211,7 +212,7 @@ bool CopyChosenPicture(Program& p)
 
 void ShowPicture(Program& p, const QImage& picture)
 {
-    p.Form3->Image1.Picture = picture;
+    PutRecordPicture(p, picture);
     p.Form1->Image1.Picture = picture;
 }
 
@@ -305,7 +306,7 @@ void TakeMappingOptions(Program& p)
 
 void MapNewSubject(Program& p)
 {
-    p.Form3->Image1.Picture = QImage();
+    PutRecordPicture(p, QImage());
     p.Form3->Show();
     p.Mapping.sBranchLetter = BranchLetter(p.Branch.WorkDir);
     if (Records(p).IsEmpty())

@@ -1,10 +1,10 @@
 #include "records/AddRecord.h"
 
+#include "map/RecordFormPicture.h"
 #include "program/AlternateBranch.h"
 #include "program/BranchPaths.h"
 #include "program/BranchUi.h"
 #include "program/Position.h"
-#include "records/RecordPicture.h"
 
 namespace lineforge
 {
@@ -64,7 +64,7 @@ void AddRecord(Program& p)
     const QString file = AppendRow(p);
     const QString picture = SubjectPictureFile(p.Branch.WorkDir, file);
     p.Files.FileCopy(p.Branch.HomeDir + u"Tree99.jpg", picture);
-    p.Form3->Image1.Picture = p.Pictures.Load(p.Files, picture);
+    PutRecordPicture(p, p.Pictures.Load(p.Files, picture));
     p.Prompts.MsgBox(u"New Blank Record Created"_s, u"New Record "_s + file + u" created.", Buttons::Information);
 }
 
@@ -85,10 +85,9 @@ void ChangeSubjectPicture(Program& p)
         return;
     p.Errors.Ignoring([&] {
         StandOn(p, asked);
-        FollowWithPicture(p);
         const QString picture = SubjectPictureFile(p.Branch.WorkDir, p.Form3->Label25.Caption);
         p.Files.FileCopy(*chosen, picture);
-        p.Form3->Image1.Picture = p.Pictures.Load(p.Files, picture);
+        PutRecordPicture(p, p.Pictures.Load(p.Files, picture));
     });
 }
 

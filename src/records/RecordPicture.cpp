@@ -1,5 +1,6 @@
 #include "records/RecordPicture.h"
 
+#include "map/RecordFormPicture.h"
 #include "program/BranchPaths.h"
 
 namespace lineforge
@@ -12,11 +13,13 @@ namespace
 // What stood there before may be somebody else.
 void LoadOrEmpty(Program& p, const QString& file)
 {
+    QImage picture;
     try {
-        p.Form3->Image1.Picture = p.Pictures.Load(p.Files, file);
+        picture = p.Pictures.Load(p.Files, file);
     } catch (const RuntimeError&) {
-        p.Form3->Image1.Picture = QImage();
+        // Its place stays empty.
     }
+    PutRecordPicture(p, picture);
 }
 } // namespace
 
@@ -35,13 +38,10 @@ void ShowRecordPicture(Program& p)
 
 void ShowNamedPicture(Program& p)
 {
-    LoadOrEmpty(p, p.Branch.WorkDir + PathSeparator + p.Record.sPicFile);
-}
-
-void FollowWithPicture(Program& p)
-{
-    if (p.Form3.IsLoaded() && p.Form3->Visible && p.Form3->Data1.IsOpen())
-        LoadOrEmpty(p, SubjectPictureFile(p.Branch.WorkDir, p.Form3->Label25.Caption));
+    const QString file = p.Branch.WorkDir + PathSeparator + p.Record.sPicFile;
+    LoadOrEmpty(p, file);
+    // It names whoever it was put together for.
+    p.Form3->Image1.Tag = file;
 }
 
 } // namespace lineforge

@@ -15,8 +15,4 @@ void ShowRecordPicture(Program& p);
 // The picture that `sPicFile` names, in the same way.
 void ShowNamedPicture(Program& p);
 
-// After something that moves the cursor and knows nothing of pictures: where the record form is on the screen, it shows
-// the current record's. The names of record and picture at hand stay.
-void FollowWithPicture(Program& p);
-
 } // namespace lineforge

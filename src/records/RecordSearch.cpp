@@ -1,5 +1,6 @@
 #include "records/RecordSearch.h"
 
+#include "map/RecordFormPicture.h"
 #include "platform/Like.h"
 #include "program/Meanwhile.h"
 #include "program/WorkDatabase.h"
@@ -40,7 +41,7 @@ void ShowPictureOfHit(Program& p)
 
 void TellNoMatch(Program& p, const QString& text)
 {
-    p.Form3->Image1.Picture = QImage();
+    PutRecordPicture(p, QImage());
     p.Prompts.MsgBox(u"Database Result"_s, text, Buttons::Information);
 }
 

@@ -6,6 +6,7 @@
 #include "map/MapFile.h"
 #include "map/MapItems.h"
 #include "map/MapParse.h"
+#include "map/RecordFormPicture.h"
 #include "map/SubjectPanel.h"
 #include "map/tools/LeaveTools.h"
 #include "platform/Text.h"
@@ -154,7 +155,7 @@ bool FindDestination(Program& p, const QString& file, const QString& told)
 {
     if (Records(p).Seek(u"File", file))
         return true;
-    p.Form3->Image1.Picture = QImage();
+    PutRecordPicture(p, QImage());
     p.Prompts.MsgBox(u"Database Result"_s, u"No Match Found for Data Ref: "_s + told, Buttons::Information);
     return false;
 }

@@ -1,6 +1,7 @@
 #include "shell/FatalPath.h"
 
 #include "gedcom/GedcomConversion.h"
+#include "map/RecordFormPicture.h"
 #include "map/SubjectPanel.h"
 #include "platform/OtherPrograms.h"
 #include "shell/ErrorInWords.h"
@@ -30,6 +31,13 @@ void GiveUpCommand(Program& p, const RuntimeError& error)
         p.Screen.Pointer = MousePointer::Default;
     p.Databases.Others().TellOfReplaced();
 }
+
+// Beside the map and on the record form stands one person each.
+void SettlePictures(Program& p, bool isWithinAnother)
+{
+    isWithinAnother ? PartFromFormerSubject(p) : FollowSubject(p);
+    isWithinAnother ? PartFromFormerRecordPicture(p) : FollowWithRecordPicture(p);
+}
 } // namespace
 
 void TellError(Program& p, const RuntimeError& error)
@@ -47,7 +55,7 @@ void RunHandler(Program& p, const Event& handler)
         } catch (const RuntimeError& error) {
             error.IsTold ? GiveUpCommand(p, error) : EndWithError(p, error);
         }
-        command.IsWithinAnother() ? PartFromFormerSubject(p) : FollowSubject(p);
+        SettlePictures(p, command.IsWithinAnother());
     } catch (const ProgramEnded&) {
         // The handlers further out learn of the end when their own waiting returns.
     }

@@ -240,6 +240,7 @@ TEST_P(RecordFormBesideTest, ShowsThePictureWithTheRecord)
 {
     ASSERT_EQ(PersonOn(P.Form3->Image1), u"A003"_s);
     Click([&] { GetParam().Make(P); });
+    Click([&] { P.Form3->Data1.Settle(); });
     EXPECT_EQ(P.Form3->Label25.Caption.value(), GetParam().Person);
     EXPECT_EQ(PersonOn(P.Form3->Image1), GetParam().Person);
 }
@@ -291,6 +292,7 @@ TEST_F(AppendBesideTest, RecordFormShowsThePictureOfTheRowThatTheCursorStaysOn)
          u"This Record will be Appended to the Current\nDatabase as Z001 but will not be mapped into\n"
          u"the Ancestral Tree Display.");
     Click(P.Form6->Command8.Click);
+    Click([&] { P.Form3->Data1.Settle(); });
     EXPECT_EQ(P.Form3->Label25.Caption.value(), u"A002"_s);
     EXPECT_EQ(PersonOn(P.Form3->Image1), u"A002"_s);
 }

@@ -151,7 +151,7 @@ void LiteralRecords::Tick()
 
 void LiteralRecords::TellNoMatch(const QString& text)
 {
-    RecordPicture.clear();
+    PutRecordPicture({});
     Tell(u"Database Result"_s, text);
 }
 
@@ -234,7 +234,7 @@ void LiteralRecords::AddRecord()
     Update(Current);
     GoBack(Current, Current.LastModified);
     Branches.at(WorkLetter).Pictures[file.toLower()] = u"white"_s;
-    RecordPicture = u"white"_s;
+    PutRecordPicture(u"white"_s);
     Tell(u"New Blank Record Created"_s, u"New Record "_s + file + u" created.");
 }
 
@@ -322,7 +322,7 @@ void LiteralRecords::ChangePicture()
     if (!HasRow(Current) || Bookmark(Current) != asked)
         GoBack(Current, asked);
     Branches.at(WorkLetter).Pictures[Text(Current, u"File"_s).toLower()] = u"yellow"_s;
-    RecordPicture = u"yellow"_s;
+    PutRecordPicture(u"yellow"_s);
 }
 
 // ---- transfer

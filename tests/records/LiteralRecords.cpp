@@ -220,6 +220,7 @@ void LiteralRecords::CloseBranch()
     Labels = labels;
     IsFormLoaded = IsFormVisible = IsGalleryVisible = IsEnlarged = IsTimerOn = false;
     RecordPicture.clear();
+    RecordPictureOf.clear();
     IsBarEnabled = AreTransportsEnabled = AreTransportsVisible = true;
     Interval = 100;
     Faces = {2, 4, 7, 8, 10};
@@ -276,8 +277,8 @@ void LiteralRecords::DoubleClick(int x, int y)
         WorkLetter = letter;
         Open(letter);
         IsAlternate = true;
-        PanelFrame = u"Ref  "_s;
         AreTransportsEnabled = false;
+        PanelFrame = u"Ref  "_s;
     }
     if (Current.IsEmpty())
         return Tell(u"Database Empty"_s, u"This Tree Branch has no records to access"_s);
@@ -343,17 +344,25 @@ void LiteralRecords::SetPictureName()
 
 void LiteralRecords::ShowNamedPicture()
 {
-    RecordPicture = PictureIn(WorkLetter, PicFile.chopped(std::min<qsizetype>(7, PicFile.size())));
+    const QString number = PicFile.chopped(std::min<qsizetype>(7, PicFile.size()));
+    RecordPicture = PictureIn(WorkLetter, number);
+    RecordPictureOf = WorkLetter + number.toLower();
+}
+
+void LiteralRecords::PutRecordPicture(const QString& colour)
+{
+    RecordPicture = colour;
+    RecordPictureOf = WorkLetter + Shown.value(u"File"_s).value_or(QString()).toLower();
 }
 
 void LiteralRecords::ShowRecordPicture(const QString& directory)
 {
     CurFile = Shown.value(u"File"_s).value_or(QString());
     PicFile = CurFile + u"Sub.jpg";
-    RecordPicture.clear();
+    PutRecordPicture({});
     for (const auto& [letter, branch] : Branches)
         if (directory == DirectoryOf(letter))
-            RecordPicture = PictureIn(letter, CurFile);
+            PutRecordPicture(PictureIn(letter, CurFile));
 }
 
 void LiteralRecords::FillLabels()
@@ -486,8 +495,9 @@ void LiteralRecords::LeaveGalleryForRecords()
 
 void LiteralRecords::FollowWithPicture()
 {
-    if (IsFormVisible)
-        RecordPicture = PictureIn(WorkLetter, Shown.value(u"File"_s).value_or(QString()));
+    const QString number = Shown.value(u"File"_s).value_or(QString());
+    if (IsFormVisible && Current.IsOpen() && RecordPictureOf != WorkLetter + number.toLower())
+        PutRecordPicture(PictureIn(WorkLetter, number));
 }
 
 void LiteralRecords::Enlarge()
@@ -515,7 +525,6 @@ void LiteralRecords::StepByBar(int direction)
         MoveNext(Current);
     if (direction == 1 && Current.Eof)
         MoveLast(Current);
-    FollowWithPicture();
 }
 
 } // namespace lineforge

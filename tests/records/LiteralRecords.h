@@ -78,6 +78,7 @@ public:
     bool IsFormLoaded = false;
     bool IsFormVisible = false;
     QString RecordPicture;
+    QString RecordPictureOf; // letter and number
     QString CurFile;
     QString PicFile;
     QString ShownName;
@@ -185,6 +186,7 @@ private:
     int RowOf(const LiteralField& file) const;
     void MarkCurrentBox();
     void SetPictureName();
+    void PutRecordPicture(const QString& colour);
     void ShowNamedPicture();
     void ShowRecordPicture(const QString& directory);
     void FillLabels();

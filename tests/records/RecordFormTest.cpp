@@ -675,7 +675,7 @@ TEST_F(RecordFormTest, PictureClickOnARecordThatTheBarWentTo_ShowsItsOwn)
 {
     GivenRecordForm();
     Records(P).MoveNext();
-    Click(P.Form3->Data1.Stepped);
+    LoopRuns();
 
     P.Form3->Image1.Click();
 
@@ -689,11 +689,11 @@ TEST_F(RecordFormTest, Bar_ShowsThePictureWithTheRecord)
     RemovePicture(u"A003");
     for (const QString& colour : {u"green"_s, u"none"_s}) {
         Records(P).MoveNext();
-        Click(P.Form3->Data1.Stepped);
+        LoopRuns();
         EXPECT_EQ(ColourOf(P.Form3->Image1), colour);
     }
     Records(P).MoveFirst();
-    Click(P.Form3->Data1.Stepped);
+    LoopRuns();
     EXPECT_EQ(ColourOf(P.Form3->Image1), u"red"_s);
 }
 
@@ -704,6 +704,7 @@ TEST_F(RecordFormTest, DoubleClickOnTheMapBehind_ShowsThePictureWithTheRecord)
     P.Mouse.DownY = 700;
 
     Click(P.Form1->Picture1.DblClick);
+    LoopRuns();
 
     EXPECT_EQ(P.Form3->Label25.Caption.value(), u"A002"_s);
     EXPECT_EQ(ColourOf(P.Form3->Image1), u"green"_s);
@@ -715,11 +716,13 @@ TEST_F(RecordFormTest, OtherBranchOpenedBehind_ShowsThePictureOfItsFirstRecord)
     Records(P).MoveNext();
 
     Choose(u"Jones");
+    LoopRuns();
 
     EXPECT_EQ(P.Form3->Label25.Caption.value(), u"B001"_s);
     EXPECT_EQ(ColourOf(P.Form3->Image1), u"red"_s);
     ExpectEmptyBox();
     Choose(u"Nobody");
+    LoopRuns();
     EXPECT_EQ(ColourOf(P.Form3->Image1), u"none"_s);
 }
 

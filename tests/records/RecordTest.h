@@ -32,6 +32,12 @@ protected:
         Choose(u"Smiths");
     }
 
+    // What the event loop does when a handler has returned.
+    void LoopRuns()
+    {
+        Click([this] { P.Form3->Data1.Settle(); });
+    }
+
     void GivenRecordForm() { P.Form1->Command1.Click(); }
 
     // The branch without a record, and the form open on it.

@@ -107,20 +107,6 @@ MoveKind ClipEntry(const QString& name, int weight, void (Session::*inModel)(), 
     return kind;
 }
 
-// Which moves the cursor of the record form.
-MoveKind Moving(const QString& name, int weight, bool (*isPossible)(const Session&), void (Session::*inModel)(),
-                const std::function<void(Program& p)>& inProgram)
-{
-    return {name, weight, isPossible, [=](Session&) {
-                return SessionMove{{},
-                                   [inModel](Session& session) {
-                                       (session.*inModel)();
-                                       session.FollowWithPicture();
-                                   },
-                                   inProgram};
-            }};
-}
-
 template <class Control>
 MoveKind Compared(const QString& name, int weight, bool (*isPossible)(const Session&), void (Session::*inModel)(),
                   Control Form6::*control)
@@ -131,7 +117,7 @@ MoveKind Compared(const QString& name, int weight, bool (*isPossible)(const Sess
 MoveKind MovingCompared(const QString& name, int weight, bool (*isPossible)(const Session&), void (Session::*inModel)(),
                         Button Form6::*button)
 {
-    return Moving(name, weight, isPossible, inModel, [button](Program& p) { Fire(((*p.Form6).*button).Click); });
+    return Command(name, weight, isPossible, inModel, [button](Program& p) { Fire(((*p.Form6).*button).Click); });
 }
 
 // ---- branches
@@ -145,11 +131,7 @@ void ChooseInList(Program& p, QChar letter)
 SessionMove OpenBranch(Session& session)
 {
     const QChar letter = u"AAABBC"[session.Dice(6)];
-    return {letter,
-            [letter](Session& s) {
-                s.OpenBranch(letter);
-                s.FollowWithPicture();
-            },
+    return {letter, [letter](Session& s) { s.OpenBranch(letter); },
             [letter](Program& p) {
                 Fire(p.Form1->Open.Click);
                 ChooseInList(p, letter);
@@ -160,11 +142,7 @@ SessionMove DoubleClick(Session& session)
 {
     const int x = 1000 + 700 * session.Dice(7) + session.Dice(700);
     const int y = 600 + session.Dice(240);
-    return {u"at %1,%2"_s.arg(x).arg(y),
-            [x, y](Session& s) {
-                s.DoubleClick(x, y);
-                s.FollowWithPicture();
-            },
+    return {u"at %1,%2"_s.arg(x).arg(y), [x, y](Session& s) { s.DoubleClick(x, y); },
             [x, y](Program& p) {
                 p.Mouse.DownX = x;
                 p.Mouse.DownY = y;
@@ -240,10 +218,7 @@ SessionMove StepByBar(Session& session)
 {
     const int direction = Direction(session);
     return {QString::number(direction), [direction](Session& s) { s.StepByBar(direction); },
-            [direction](Program& p) {
-                StepBy(Records(p), direction);
-                Fire(p.Form3->Data1.Stepped);
-            }};
+            [direction](Program& p) { StepBy(Records(p), direction); }};
 }
 
 SessionMove StartScan(Session& session)
@@ -290,12 +265,7 @@ SessionMove OpenCompare(Session& session)
     const QChar letter = u"BBBBAC"[session.Dice(6)];
     const bool isCancelled = session.Dice(8) == 0;
     return {isCancelled ? u"none"_s : QString(letter),
-            [=](Session& s) {
-                const bool isRefused = s.IsAlternate;
-                isCancelled ? s.CancelCompare() : s.OpenCompare(letter);
-                if (!isCancelled && !isRefused)
-                    s.FollowWithPicture();
-            },
+            [=](Session& s) { isCancelled ? s.CancelCompare() : s.OpenCompare(letter); },
             [=](Program& p) {
                 Fire(p.Form6->mnuOpen.Click);
                 if (p.Branch.UsingAlternate == 1)
@@ -321,12 +291,7 @@ SessionMove TickKey(Session& session)
 SessionMove Next(Session& session)
 {
     const bool isCompare = session.Dice(2) == 0;
-    return {isCompare ? u"compare"_s : u"current"_s,
-            [isCompare](Session& s) {
-                s.Next(isCompare);
-                if (!isCompare)
-                    s.FollowWithPicture();
-            },
+    return {isCompare ? u"compare"_s : u"current"_s, [isCompare](Session& s) { s.Next(isCompare); },
             [isCompare](Program& p) { Fire(isCompare ? p.Form6->Command5.Click : p.Form6->Command6.Click); }};
 }
 
@@ -414,8 +379,8 @@ std::vector<MoveKind> MovesOfRecords()
 std::vector<MoveKind> MovesOfComparison()
 {
     return {
-        Moving(u"Compare Records"_s, 4, OnMap, &Session::OpenComparison,
-               [](Program& p) { Fire(p.Form1->mnuComp.Click); }),
+        Command(u"Compare Records"_s, 4, OnMap, &Session::OpenComparison,
+                [](Program& p) { Fire(p.Form1->mnuComp.Click); }),
         Command(u"Compare"_s, 2, WithCompareButton, &Session::ReturnToComparison,
                 [](Program& p) { Fire(p.Form1->Command5.Click); }),
         Compared(u"Tree of the comparison"_s, 2, OnComparison, &Session::ShowTree, &Form6::Command4),

@@ -148,6 +148,7 @@ bool SessionPlayer::MakeMove(const std::vector<MoveKind>& kinds)
             next.LoseSelection();
         move.InModel(next);
         next.FollowSubject();
+        next.FollowWithPicture();
     } catch (const Unmodelled&) {
         return false;
     } catch (const RuntimeError& error) {

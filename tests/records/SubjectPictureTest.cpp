@@ -185,6 +185,7 @@ protected:
         Prompts.ExpectOpenFile(u"Select Picture Source File", u"Graphics|*.jpg|All Files|*.*|", chosen,
                                [&] { P.Form3->Timer1.Tick(); });
         Click(P.Form3->mnuSubPicture.Click);
+        LoopRuns();
         EXPECT_EQ(ExitCode(), std::nullopt);
         EXPECT_EQ(Current(), u"A001"_s);
     }

@@ -17,7 +17,6 @@
 #include "program/BranchUi.h"
 #include "records/GalleryDoors.h"
 #include "records/RecordForm.h"
-#include "records/RecordPicture.h"
 #include "shell/BackUpBranch.h"
 #include "shell/CloseBranch.h"
 #include "shell/DeleteBranch.h"
@@ -89,10 +88,7 @@ void InstallForm1(Program& p, forms::Form1& form)
     form.mnuPaste.Click = [&p] { PasteMapPicture(p); };
     form.mnuDataBase.Click = [&p] { TellIfNoBranch(p); };
     form.mnuViewRecs.Click = [&p] { ShowRecordForm(p); };
-    form.mnuComp.Click = [&p] {
-        OpenComparison(p);
-        FollowWithPicture(p);
-    };
+    form.mnuComp.Click = [&p] { OpenComparison(p); };
     form.mnuDelSub.Click = [&p] { DeleteBranch(p); };
     form.mnuTreeGraphics.Click = [&p] { OpenEditingMenu(p); };
     form.mnuTreeTools.Click = [&p] { OpenTools(p); };
@@ -109,13 +105,7 @@ void InstallForm1(Program& p, forms::Form1& form)
         MoveOverMap(p, buttons, shift, x, y);
     };
     form.Picture1.MouseUp = [&p](int, int, double x, double y) { ReleaseMap(p, x, y); };
-    form.Picture1.DblClick = [&p] {
-        const bool isMapping = p.Tools.MapCursorMode == MapCursor::Mapping;
-        DoubleClickOnMap(p);
-        // A mapping shows its subject's picture itself, or leaves its place empty.
-        if (!isMapping)
-            FollowWithPicture(p);
-    };
+    form.Picture1.DblClick = [&p] { DoubleClickOnMap(p); };
     form.Picture1.Parts = [&p] { return SpokenBoxes(p); };
 
     form.Command1.Click = [&p] { ShowRecordForm(p); };

@@ -3,7 +3,6 @@
 #include "compare/CompareSearch.h"
 #include "compare/FieldCopy.h"
 #include "output/PrintBranch.h"
-#include "records/RecordPicture.h"
 #include "shell/Help.h"
 #include "shell/handlers/Handlers.h"
 
@@ -18,15 +17,6 @@ Event OnOwnBranch(Program& p, void (*command)(Program& p))
     return [&p, command] {
         if (!TellIfComparesAlternate(p))
             command(p);
-    };
-}
-
-// The same of one that moves the record form's cursor.
-Event Moving(Program& p, void (*command)(Program& p))
-{
-    return [&p, onOwn = OnOwnBranch(p, command)] {
-        onOwn();
-        FollowWithPicture(p);
     };
 }
 
@@ -60,14 +50,14 @@ void InstallForm6(Program& p, forms::Form6& form)
 
     InstallMenus(p, form);
     InstallSelection(p, form);
-    form.Command1.Click = Moving(p, SearchCompare);
-    form.Command2.Click = Moving(p, ResetCompare);
+    form.Command1.Click = OnOwnBranch(p, SearchCompare);
+    form.Command2.Click = OnOwnBranch(p, ResetCompare);
     form.Command3.Click = OnOwnBranch(p, CopyField);
     form.Command4.Click = [&p] { LeaveComparison(p); };
     form.Command5.Click = OnOwnBranch(p, NextCompare);
-    form.Command6.Click = Moving(p, NextCurrent);
+    form.Command6.Click = OnOwnBranch(p, NextCurrent);
     form.Command7.Click = OnOwnBranch(p, CopyAllFields);
-    form.Command8.Click = Moving(p, AppendRecord);
+    form.Command8.Click = OnOwnBranch(p, AppendRecord);
     form.Data1.Stepped = [&p] { ShowSteppedRecord(p); };
 }
 
