@@ -1,5 +1,6 @@
 #include "monkey/Answers.h"
 
+#include "monkey/ChosenFiles.h"
 #include "monkey/Hands.h"
 #include "monkey/Journal.h"
 #include "monkey/Ledger.h"
@@ -219,6 +220,7 @@ void Answers::ChooseFile(QFileDialog& box)
     const QString ending = EndingOf(box);
     const QString path = box.acceptMode() == QFileDialog::AcceptSave ? FileToSave(ending) : FileToOpen(ending);
     journal_.Note(u"the file is "_s + path);
+    ChosenFiles(scratch_.ChosenFile()).Note(path);
     box.findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(path);
 }
 

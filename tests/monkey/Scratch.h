@@ -23,6 +23,7 @@ public:
     QString User() const { return directory_ + QStringLiteral("/user"); }
     QString JournalFile() const { return directory_ + QStringLiteral("/journal"); }
     QString LedgerFile() const { return directory_ + QStringLiteral("/ledger"); }
+    QString ChosenFile() const { return directory_ + QStringLiteral("/chosen"); }
     QString ErrorsFile() const { return directory_ + QStringLiteral("/errors"); }
 
     bool Contains(const QString& path) const;

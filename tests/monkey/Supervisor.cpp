@@ -1,5 +1,6 @@
 #include "monkey/Supervisor.h"
 
+#include "monkey/ChosenFiles.h"
 #include "monkey/Journal.h"
 #include "monkey/Ledger.h"
 #include "monkey/Verdict.h"
@@ -123,9 +124,13 @@ check::Report Supervisor::Checked(const QString& home) const
 QStringList Supervisor::CheckHomes(const Scratch& scratch) const
 {
     QStringList findings;
-    for (const QString& home : Homes())
-        for (const QString& finding : NewFindings(before_[home], Checked(scratch.Directory() + home)))
+    const ChosenFiles chosen(scratch.ChosenFile());
+    for (const QString& home : Homes()) {
+        const QString directory = scratch.Directory() + home;
+        const auto isTheUsers = [&](const QString& file) { return chosen.Hold(directory + u'/' + file); };
+        for (const QString& finding : NewFindings(before_[home], WithoutChosen(Checked(directory), isTheUsers)))
             findings += home + u'/' + finding;
+    }
     return findings;
 }
 

@@ -37,6 +37,15 @@ QStringList NewFindings(const check::Report& before, const check::Report& now)
     return found;
 }
 
+check::Report WithoutChosen(check::Report report, const std::function<bool(const QString&)>& isTheUsers)
+{
+    std::erase_if(report.Findings, [&](const check::Finding& finding) {
+        return (finding.Kind == check::Kind::SubjectPicture || finding.Kind == check::Kind::GalleryFile) &&
+               finding.Text.startsWith(u"no ") && isTheUsers(finding.File);
+    });
+    return report;
+}
+
 check::Report WithoutUnfinished(check::Report report)
 {
     QStringList unfinished;

@@ -4,12 +4,18 @@
 
 #include <QStringList>
 
+#include <functional>
+
 namespace lineforge::monkey
 {
 
 // What a check of the home finds now and hadn't found before, without what a user may bring about by the commands of
 // the program.
 QStringList NewFindings(const check::Report& before, const check::Report& now);
+
+// Without files of no use that `isTheUsers` knows as such by their paths below the home: a picture or sound that can't
+// be shown or played is kept as it is, to the last byte.
+check::Report WithoutChosen(check::Report report, const std::function<bool(const QString&)>& isTheUsers);
 
 // Without branches that aren't in the list: whatever makes a branch tells the list last, and may be killed before.
 // Without the journals of changes that were cut off.

@@ -1,6 +1,8 @@
 #include "monkey/Verdict.h"
 
+#include "monkey/ChosenFiles.h"
 #include "support/Printing.h"
+#include "support/TemporaryHome.h"
 
 #include <gtest/gtest.h>
 
@@ -47,6 +49,51 @@ TEST(VerdictTest, WhatTheUserMayBringAbout_IsNoFinding_ATornPictureIs)
                                     {Kind::MapItem, u"LfgDat_A/LfgDat_A.cfg"_s, {}, u"cut"_s}}))
                   .size(),
               2);
+}
+
+class ChosenTest : public testing::Test
+{
+protected:
+    ChosenTest()
+    {
+        home_.WriteFile(u"things/portrait.jpg", "no picture");
+        chosen_.Note(home_.Path(u"things/portrait.jpg"));
+        home_.WriteFile(u"LfgDat_A/A001Sub.jpg", "no picture");
+        home_.WriteFile(u"LfgDat_A/A002Sub.jpg", "no pict");
+    }
+
+    qsizetype FindingsOf(Kind kind, const QString& file, const QString& text) const
+    {
+        const check::Report report = WithoutChosen(
+            With({{kind, file, {}, text}}), [this](const QString& path) { return chosen_.Hold(home_.Path(path)); });
+        return NewFindings({}, report).size();
+    }
+
+    TemporaryHome home_;
+    ChosenFiles chosen_{home_.Path(u"chosen")};
+};
+
+TEST_F(ChosenTest, PictureThatTheUserHasChosen_IsHisOwn_WhatIsTornIsAFinding)
+{
+    const QString text = u"no picture that can be shown"_s;
+    EXPECT_EQ(FindingsOf(Kind::SubjectPicture, u"LfgDat_A/A001Sub.jpg"_s, text), 0);
+    EXPECT_EQ(FindingsOf(Kind::GalleryFile, u"LfgDat_A/A001Sub.jpg"_s, text), 0);
+    EXPECT_EQ(FindingsOf(Kind::SubjectPicture, u"LfgDat_A/A002Sub.jpg"_s, text), 1);
+    EXPECT_EQ(FindingsOf(Kind::SubjectPicture, u"LfgDat_A/A003Sub.jpg"_s, text), 1);
+}
+
+TEST_F(ChosenTest, ChosenFile_IsJudgedLikeOthersInWhatIsNotItsContent)
+{
+    EXPECT_EQ(FindingsOf(Kind::GalleryFile, u"LfgDat_A/A001Sub.jpg"_s, u"hidden by A001_01.wav"_s), 1);
+    EXPECT_EQ(FindingsOf(Kind::Leftover, u"LfgDat_A/A001Sub.jpg"_s, u"no use"_s), 1);
+}
+
+TEST_F(ChosenTest, PathWithoutAFile_IsNoChoice)
+{
+    chosen_.Note(home_.Path(u"things"));
+    chosen_.Note(home_.Path(u"things/not-there.jpg"));
+    EXPECT_FALSE(chosen_.Hold(home_.Path(u"LfgDat_A")));
+    EXPECT_FALSE(chosen_.Hold(home_.Path(u"things/not-there.jpg")));
 }
 
 TEST(VerdictTest, BranchThatIsntInTheList_IsUnfinished_TheOthersAreNot)
