@@ -1,6 +1,7 @@
 #include "compare/Difference.h"
 
 #include "platform/Text.h"
+#include "platform/WholeLetters.h"
 
 #include <algorithm>
 
@@ -9,12 +10,6 @@ namespace lineforge
 
 namespace
 {
-// A letter that is stored as two isn't taken apart.
-bool SplitsLetter(QStringView text, qsizetype at)
-{
-    return at > 0 && at < text.size() && text[at - 1].isHighSurrogate() && text[at].isLowSurrogate();
-}
-
 qsizetype AlikeAtStart(QStringView a, QStringView b)
 {
     const qsizetype shorter = std::min(a.size(), b.size());

@@ -1,5 +1,7 @@
 #include "platform/Controls.h"
 
+#include "platform/WholeLetters.h"
+
 #include <QDir>
 
 #include <algorithm>
@@ -42,7 +44,8 @@ void TextBox::ReplaceSelection(const QString& text)
         return;
     const qsizetype start = std::clamp<qsizetype>(SelStart, 0, before.size());
     const qsizetype rest = std::min(start + SelText.size(), before.size());
-    const QString taken = text.left(LongestText(MaxLength, before.size()) - (start + before.size() - rest));
+    const qsizetype room = LongestText(MaxLength, before.size()) - (start + before.size() - rest);
+    const QString taken = text.left(SplitsLetter(text, room) ? room - 1 : room);
     // Nothing put in the place of nothing is no edit: a field that was never filled in stays so.
     if (const QString after = before.first(start) + taken + before.sliced(rest); after != before)
         Text = after;

@@ -1,4 +1,5 @@
 #include "FuzzHome.h"
+#include "platform/WholeLetters.h"
 #include "program/WorkDatabase.h"
 #include "records/RecordClipboard.h"
 
@@ -18,6 +19,16 @@ constexpr Field fields[] = {{&forms::Form3::Text2, 2, u"Surname"},
                             {&forms::Form3::Text3, 3, u"Forename"},
                             {&forms::Form3::Text1, 1, u"Nationality"},
                             {&forms::Form3::Text11, 11, u"Notes"}};
+
+// As the toolkit's cursor goes, which stands within no letter.
+void Select(TextBox& box, qsizetype from, qsizetype length)
+{
+    const QString text = box.Text;
+    const auto whole = [&text](qsizetype at) { return SplitsLetter(text, at) ? at - 1 : std::min(at, text.size()); };
+    const qsizetype start = whole(from);
+    box.SelStart = static_cast<int>(start);
+    box.SelText = text.sliced(start, whole(from + length) - start);
+}
 
 // Whether the row that was left holds what the box showed.
 void RequireStored(Program& p, const Field& field, const QString& shown)
@@ -46,8 +57,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Records(p).MoveFirst();
     const Field& field = fields[data[0] % std::size(fields)];
     TextBox& box = (*p.Form3).*field.Box;
-    box.SelStart = data[1];
-    box.SelText = box.Text.value().mid(box.SelStart, data[2]);
+    Select(box, data[1], data[2]);
     p.Record.ClipSource = field.Number;
     home.Clipboard.Text = QString::fromUtf8(BytesOf(data + head, size - head));
 

@@ -68,6 +68,10 @@ INSTANTIATE_TEST_SUITE_P(Limit, ReplaceSelectionTest,
                                 Replacement{u"abcde"_s, 5, u""_s, u"X"_s, u"abcde"_s, 5, 5},
                                 Replacement{u"abcde"_s, 0, u"abcde"_s, u"1234567"_s, u"12345"_s, 5, 5},
                                 Replacement{u"abc"_s, 3, u""_s, u"XY"_s, u"abcXY"_s, 5, 5}));
+// A letter that is stored as two goes whole or not at all.
+INSTANTIATE_TEST_SUITE_P(LimitWithinALetter, ReplaceSelectionTest,
+                         Values(Replacement{u"abc"_s, 3, u""_s, u"X\U0001F600"_s, u"abcX"_s, 4, 5},
+                                Replacement{u"abc"_s, 3, u""_s, u"\U0001F600Y"_s, u"abc\U0001F600"_s, 5, 5}));
 // The row held more than the box would have taken.
 INSTANTIATE_TEST_SUITE_P(TextBeyondTheLimit, ReplaceSelectionTest,
                          Values(Replacement{u"abcdefgh"_s, 2, u""_s, u"X"_s, u"abcdefgh"_s, 2, 5},

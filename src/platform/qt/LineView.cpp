@@ -1,5 +1,7 @@
 #include "platform/qt/LineView.h"
 
+#include "platform/WholeLetters.h"
+
 #include <QScopedValueRollback>
 
 namespace lineforge
@@ -9,9 +11,21 @@ LineView::LineView(QWidget* parent, int maxLength) : QLineEdit(parent), limit_(m
 {
     setMaxLength(LongestText(limit_, 0));
     connect(this, &QLineEdit::textChanged, this, [this](const QString& text) {
-        if (!isShowing_ && Edited)
+        if (!isShowing_ && !TakesHalfALetter() && Edited)
             Edited(text);
     });
+}
+
+// The toolkit takes just so many characters of what is pasted. The change that takes the half away again is the edit.
+bool LineView::TakesHalfALetter()
+{
+    const QString shown = text();
+    const int at = cursorPosition();
+    if (at == 0 || at > shown.size() || !shown[at - 1].isHighSurrogate() || SplitsLetter(shown, at))
+        return false;
+    setSelection(at - 1, 1);
+    del();
+    return true;
 }
 
 void LineView::Show(const QString& shown)

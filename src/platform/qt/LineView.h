@@ -31,6 +31,8 @@ public:
     std::function<void(const QString& text)> Edited;
 
 private:
+    bool TakesHalfALetter();
+
     int limit_;
     bool isShowing_ = false;
 };

@@ -1,5 +1,7 @@
 #include "platform/qt/TextView.h"
 
+#include "platform/WholeLetters.h"
+
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 
@@ -112,7 +114,8 @@ void TextView::CutToLimit()
     const QScopedValueRollback<bool> cutting(cutting_, true);
     QTextCursor cursor(document());
     cursor.joinPreviousEditBlock();
-    cursor.setPosition(end - excess);
+    const int cut = end - excess;
+    cursor.setPosition(SplitsLetter(text, cut) ? cut - 1 : cut);
     cursor.setPosition(end, QTextCursor::KeepAnchor);
     cursor.removeSelectedText();
     cursor.endEditBlock();

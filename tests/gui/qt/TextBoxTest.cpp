@@ -141,6 +141,25 @@ TEST_F(TextBoxTest, AHighBoxStopsAtMaxLength_AndDropsWhatWasTypedLast)
     EXPECT_EQ(Texts->Text3.Text.value(), u"ab123456"_s);
 }
 
+// One that is stored as two, pasted where just one has room.
+TEST_F(TextBoxTest, MaxLength_TakesNoLetterApart)
+{
+    Texts->Text1.Text = u"abcd"_s;
+    Line(u"Text1"_s).setCursorPosition(1);
+    Line(u"Text1"_s).insert(u"\U0001F600"_s);
+    EXPECT_EQ(Texts->Text1.Text.value(), u"abcd"_s);
+    EXPECT_EQ(Line(u"Text1"_s).text(), u"abcd"_s);
+    EXPECT_EQ(Line(u"Text1"_s).cursorPosition(), 1);
+    Line(u"Text1"_s).setText(u"abc\U0001F600"_s);
+    EXPECT_EQ(Texts->Text1.Text.value(), u"abc\U0001F600"_s);
+
+    Texts->Text3.Text = u"123456"_s;
+    Lines().moveCursor(QTextCursor::Start);
+    Lines().insertPlainText(u"a\U0001F600b"_s);
+    EXPECT_EQ(Texts->Text3.Text.value(), u"a123456"_s);
+    EXPECT_EQ(Lines().toPlainText(), u"a123456"_s);
+}
+
 TEST_F(TextBoxTest, AHighBoxKeepsTheLineEndsOfItsText)
 {
     Texts->Text3.Text = u"a\r\nb"_s;
