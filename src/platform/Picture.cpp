@@ -1,5 +1,6 @@
 #include "platform/Picture.h"
 
+#include "platform/DotColours.h"
 #include "platform/RuntimeError.h"
 
 #include <QFileInfo>
@@ -74,7 +75,7 @@ QImage DecodePicture(const QString& file, const DecodedSize& sizeFor)
     const QImage picture = reader.read();
     if (picture.isNull())
         throw RuntimeError(ErrorNumber::InvalidPicture, file);
-    return picture;
+    return WithDotColours(picture);
 }
 
 QImage LoadPicture(const FileSystem& files, const QString& path)

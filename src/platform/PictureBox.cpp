@@ -1,5 +1,6 @@
 #include "platform/PictureBox.h"
 
+#include "platform/DotColours.h"
 #include "platform/LineStencil.h"
 #include "platform/RunPen.h"
 
@@ -152,7 +153,7 @@ void PictureBox::ShowPicture(const QImage& picture)
     Cls();
     const double scale = 1.0 * dotsAMeter / (picture.dotsPerMeterX() > 0 ? picture.dotsPerMeterX() : screenDotsAMeter);
     const QSizeF size = QSizeF(picture.size()) * scale;
-    QPainter(&Ground()).drawImage(QRectF(QPointF(), size), picture);
+    QPainter(&Ground()).drawImage(QRectF(QPointF(), size), WithDotColours(picture));
     Tell(drawing_.rect());
 }
 

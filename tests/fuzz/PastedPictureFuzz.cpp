@@ -48,10 +48,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::memcpy(&told, data, sizeof told);
     static FuzzHome home;
     home.Clipboard.Picture = PictureOf(told, BytesOf(data + sizeof told, size - sizeof told));
-    const Size before = home.P.Form1->Picture1.ScaleSize();
+    const QSize before = home.P.Form1->Picture1.Image().size();
     PasteMapPicture(home.P);
-    const Size after = home.P.Form1->Picture1.ScaleSize();
-    Require(before.Width == after.Width && before.Height == after.Height);
+    Require(home.P.Form1->Picture1.Image().size() == before);
     CopyMapPicture(home.P);
     return 0;
 }

@@ -100,6 +100,27 @@ TEST_F(PictureBoxImageTest, ShowPicture_WipesWhatWasThere_AndGoesToTheTopLeft)
     EXPECT_EQ(Picture.CurrentY, 0);
 }
 
+// As another program may put one on the clipboard.
+TEST_F(PictureBoxImageTest, PictureWithoutTheColoursThatItsDotsName_IsShown)
+{
+    for (const QImage::Format format : {QImage::Format_Indexed8, QImage::Format_Mono, QImage::Format_MonoLSB}) {
+        QImage nameless(40, 300, format);
+        nameless.fill(1);
+        nameless.setColorTable({});
+        Picture.ShowPicture(nameless);
+        EXPECT_EQ(Picture.Image().size(), QSize(400, 300)) << format;
+    }
+}
+
+TEST_F(PictureBoxImageTest, DotsBeyondTheColoursOfAPicture_ShowTheBackground)
+{
+    QImage picture(4, 4, QImage::Format_Indexed8);
+    picture.setColorTable({qRgb(255, 0, 0), qRgb(0, 0, 255)});
+    picture.fill(200);
+    Picture.ShowPicture(picture);
+    EXPECT_EQ(Picture.Image().pixelColor(0, 0), QColor(Qt::white));
+}
+
 TEST_F(PictureBoxImageTest, PictureOfCoarserDots_IsMadeLarger)
 {
     Picture.ShowPicture(Filled({40, 30}, twipsAMeter / pixel / 2));

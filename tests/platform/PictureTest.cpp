@@ -68,6 +68,23 @@ TEST_F(PictureTest, EveryKindThatIsPainted_IsRead)
     }
 }
 
+// A file may name fewer colours than its dots mean.
+TEST_F(PictureTest, DotsBeyondTheColoursOfTheFile_HaveNone)
+{
+    QImage image(4, 4, QImage::Format_Indexed8);
+    image.setColorTable({qRgb(255, 0, 0), qRgb(0, 0, 255)});
+    image.fill(1);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QBuffer::WriteOnly);
+    ASSERT_TRUE(image.save(&buffer, "BMP"));
+    bytes.replace(bytes.size() - 16, 16, QByteArray(16, '\xC8'));
+    home.WriteFile(u"one.bmp", bytes);
+    const QImage read = LoadPicture(files, u"one.bmp"_s);
+    EXPECT_EQ(read.colorCount(), 0);
+    EXPECT_EQ(read.pixelColor(2, 2).alpha(), 0);
+}
+
 TEST_F(PictureTest, FileLargerThanAnyPicture_Is481)
 {
     GivenPicture(u"one.bmp", {30, 20}, Qt::red, "bmp");
