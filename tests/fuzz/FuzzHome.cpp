@@ -51,6 +51,9 @@ FuzzHome::FuzzHome()
     InstallHandlers(P);
     P.Branch.HomeDir = P.ExecutableDirectory;
     P.Form1.Load();
+    // Room for all kinds of items, and a hundredth of the dots to be cleared and scaled each time.
+    P.Form1->Picture1.Width = 1500;
+    P.Form1->Picture1.Height = 900;
     Require(EnterBranch(P, u"Smiths"_s, u"LfgDat_A"_s));
 }
 
