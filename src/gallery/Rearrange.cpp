@@ -4,6 +4,9 @@
 #include "gallery/GalleryPage.h"
 #include "platform/Number.h"
 
+#include <deque>
+#include <utility>
+
 namespace lineforge
 {
 
@@ -50,6 +53,32 @@ void RequireFile(const Program& p, const QString& name)
         throw RuntimeError(ErrorNumber::FileNotFound, p.Files.Resolve(name));
 }
 
+// Renames that belong together: the names go back unless all are kept, for under one between no page finds its file.
+class Renames
+{
+public:
+    explicit Renames(Program& p) : p_(p) {}
+    ~Renames()
+    {
+        for (const auto& done : done_)
+            p_.Errors.Ignoring([&] { p_.Files.Rename(done.second, done.first); });
+    }
+    Renames(const Renames&) = delete;
+    Renames& operator=(const Renames&) = delete;
+
+    // What is refused may have been done all the same, by a disk that then fails to keep it.
+    void Do(const QString& from, const QString& to)
+    {
+        done_.emplace_front(from, to);
+        p_.Files.Rename(from, to);
+    }
+    void Keep() { done_.clear(); }
+
+private:
+    Program& p_;
+    std::deque<std::pair<QString, QString>> done_; // the last first
+};
+
 void SwapFiles(Program& p, Image& source, Image& target)
 {
     const QString s = source.Tag;
@@ -61,9 +90,11 @@ void SwapFiles(Program& p, Image& source, Image& target)
     const QString temporary = ofTarget.Stem + ofTarget.Subscript + u"Temp" + ofTarget.Tail;
     const QString newSource = ofSource.Stem + ofTarget.Subscript + ofSource.Tail;
     const QString newTarget = ofTarget.Stem + ofSource.Subscript + ofTarget.Tail;
-    p.Files.Rename(d, temporary);
-    p.Files.Rename(s, newSource);
-    p.Files.Rename(temporary, newTarget);
+    Renames renames(p);
+    renames.Do(d, temporary);
+    renames.Do(s, newSource);
+    renames.Do(temporary, newTarget);
+    renames.Keep();
     source.Tag = newTarget;
     target.Tag = newSource;
 }
