@@ -28,7 +28,7 @@ int Kills()
     return asked > 0 ? asked : usual;
 }
 
-enum Work { Edited, Added, Saved, Listed, BackedUp, Exported, Imported, Kinds };
+enum Work { Edited, Added, Mapped, Saved, Listed, BackedUp, Exported, Imported, Kinds };
 using Done = std::array<int, Kinds>; // how often each was told as done
 
 // A line from the worker to whoever watches.
@@ -86,7 +86,10 @@ protected:
     void GivenBranch()
     {
         QDir(Home.Path(u"LfgDat_A")).removeRecursively();
-        BranchOf(u'A').Gallery({{u"A001_01.jpg"_s, PictureBytes(Qt::red)}}).Build();
+        BranchOf(u'A')
+            .Boxes(u"1200,600,255,A001,John,2000,600,255,A002,Mary,2800,600,255,0,,")
+            .Gallery({{u"A001_01.jpg"_s, PictureBytes(Qt::red)}})
+            .Build();
     }
 
     // Round by round, for ever.
@@ -144,7 +147,7 @@ protected:
         SqliteFile file(Home.Path(u"LfgDat_A/LfgDat_A.mdb"));
         const int edits = file.Value("SELECT Notes FROM Tree99 WHERE File = 'A001'").value_or(u"0"_s).toInt();
         EXPECT_GE(edits, before[Edited] + done[Edited]);
-        EXPECT_GE(file.Value("SELECT count(*) FROM Tree99")->toInt(), 2 + before[Added] + done[Added]);
+        EXPECT_GE(file.Value("SELECT count(*) FROM Tree99")->toInt(), 2 + before[Added] + done[Added] + done[Mapped]);
         const int saved = P.Map.BoxArr[0][BoxColumn::X].Number() - firstPlace;
         EXPECT_GE(saved, before[Saved] + done[Saved]);
     }
@@ -186,6 +189,24 @@ private:
         const QString text = u"New Record A%1 created."_s.arg(last.right(3).toInt() + 1, 3, 10, QChar(u'0'));
         Prompts.Expect(u"New Blank Record Created", text, Buttons::Information);
         P.Form3->mnuAdd.Click();
+    }
+
+    // A new record takes the third box from the one before.
+    void Map()
+    {
+        P.Map.BoxArr[2][BoxColumn::File] = u"0"_s;
+        P.Form1->mnuMapSubject.Click();
+        P.Form7->Option1.Click();
+        P.Form7->Option4.Value = true;
+        P.Form7->Option6.Value = true;
+        P.Form7->Command1.Click();
+        PictureBox& map = P.Form1->Picture1;
+        map.MouseDown(1, 0, 3000, 700);
+        map.MouseUp(1, 0, 3000, 700);
+        map.DblClick();
+        map.MouseUp(1, 0, 3000, 700);
+        P.Form3->Command2.Click();
+        EXPECT_NE(P.Map.BoxArr[2][BoxColumn::File].Text(), u"0"_s);
     }
 
     void Save()
@@ -238,6 +259,7 @@ private:
     const std::array<std::pair<char, void (WorkKillTest::*)()>, Kinds> commands_{
         {{Edited, &WorkKillTest::Edit},
          {Added, &WorkKillTest::Add},
+         {Mapped, &WorkKillTest::Map},
          {Saved, &WorkKillTest::Save},
          {Listed, &WorkKillTest::List},
          {BackedUp, &WorkKillTest::BackUp},
