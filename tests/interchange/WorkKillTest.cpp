@@ -11,7 +11,6 @@
 #include <chrono>
 #include <random>
 #include <thread>
-#include <unistd.h>
 
 // A program that is killed at random moments of its work. What it had told as done is there, no file is torn, and the
 // home opens again.
@@ -30,41 +29,6 @@ int Kills()
 
 enum Work { Edited, Added, Mapped, Saved, Listed, BackedUp, Exported, Imported, Kinds };
 using Done = std::array<int, Kinds>; // how often each was told as done
-
-// A line from the worker to whoever watches.
-class Pipe
-{
-public:
-    Pipe() { EXPECT_EQ(pipe(ends_.data()), 0); }
-    ~Pipe()
-    {
-        close(ends_[0]);
-        close(ends_[1]);
-    }
-    Pipe(const Pipe&) = delete;
-    Pipe& operator=(const Pipe&) = delete;
-
-    void Tell(char work) const
-    {
-        if (write(ends_[1], &work, 1) != 1)
-            _exit(1);
-    }
-    // Only the worker keeps that end open, so that its end is heard.
-    void Watch()
-    {
-        close(ends_[1]);
-        ends_[1] = -1;
-    }
-    // Nothing when there will never be anything more.
-    std::optional<Work> Hear() const
-    {
-        char work = 0;
-        return read(ends_[0], &work, 1) == 1 ? std::optional(static_cast<Work>(work)) : std::nullopt;
-    }
-
-private:
-    std::array<int, 2> ends_{};
-};
 
 class WorkKillTest : public InterchangeTest
 {
@@ -109,16 +73,16 @@ protected:
     {
         Pipe pipe;
         ChildProcess worker([&]() -> int { DoAll(pipe); });
-        pipe.Watch();
+        pipe.Listen();
         Done done{};
         for (int work = 0; work < works; ++work)
             if (const auto told = pipe.Hear())
-                ++done[*told];
+                ++done[static_cast<std::size_t>(*told)];
         std::this_thread::sleep_for(time);
         worker.KillNow();
         EXPECT_EQ(worker.Wait(), -1) << "it has come to its end by itself";
         while (const auto told = pipe.Hear())
-            ++done[*told];
+            ++done[static_cast<std::size_t>(*told)];
         return done;
     }
 

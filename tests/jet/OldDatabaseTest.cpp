@@ -449,6 +449,14 @@ protected:
         BranchOf(u'A').Boxes(u"1200,600,255,B001,,2000,600,255,B002,,2800,600,255,A001,John,").Build();
         StartProgram(P);
     }
+
+    void ExpectInUseWhileTheScannerGoesOn()
+    {
+        Prompts.Expect(u"Old Database may be in use",
+                       u"LfgDat_B.ldb shows that another program may have this database open.\n"
+                       u"What that program writes from now on is not taken over.",
+                       Buttons::Information, Answer::Ok, [this] { Click(P.Form3->Timer1.Tick); });
+    }
 };
 
 TEST_F(OldCaptionsTest, NeighbourOfAnOlderInstallation_IsConverted)
@@ -477,10 +485,7 @@ TEST_F(OldCaptionsTest, ScannerThatGoesOnBehindTheBox_DoesntChangeTheNumberThatI
     P.Form7->Command1.Click();
     P.Mouse.DownX = 2100;
     P.Mouse.DownY = 700;
-    Prompts.Expect(u"Old Database may be in use",
-                   u"LfgDat_B.ldb shows that another program may have this database open.\n"
-                   u"What that program writes from now on is not taken over.",
-                   Buttons::Information, Answer::Ok, [&] { Click(P.Form3->Timer1.Tick); });
+    ExpectInUseWhileTheScannerGoesOn();
     Prompts.Expect(u"Record not Present", u"Record not Found: B007", Buttons::Information);
 
     Click(P.Form1->Picture1.DblClick);
@@ -498,10 +503,7 @@ TEST_F(OldCaptionsTest, ScannerThatGoesOnBehindTheBox_DoesntChangeTheRecordThatI
     P.Form3->Picture2.Click();
     P.Mouse.DownX = 2100;
     P.Mouse.DownY = 700;
-    Prompts.Expect(u"Old Database may be in use",
-                   u"LfgDat_B.ldb shows that another program may have this database open.\n"
-                   u"What that program writes from now on is not taken over.",
-                   Buttons::Information, Answer::Ok, [&] { Click(P.Form3->Timer1.Tick); });
+    ExpectInUseWhileTheScannerGoesOn();
     Prompts.Expect(u"Database Searched", u"No File data found", Buttons::Information);
 
     Click(P.Form1->Picture1.DblClick);

@@ -2,7 +2,6 @@
 #include "platform/Recordset.h"
 #include "support/ChildProcess.h"
 
-#include <array>
 #include <unistd.h>
 
 namespace lineforge
@@ -10,35 +9,6 @@ namespace lineforge
 namespace
 {
 using namespace Qt::StringLiterals;
-
-// A line from the child to its parent.
-class Pipe
-{
-public:
-    Pipe() { EXPECT_EQ(pipe(ends_.data()), 0); }
-    ~Pipe()
-    {
-        close(ends_[0]);
-        close(ends_[1]);
-    }
-    Pipe(const Pipe&) = delete;
-    Pipe& operator=(const Pipe&) = delete;
-
-    void Tell(int number) const
-    {
-        if (write(ends_[1], &number, sizeof number) != sizeof number)
-            _exit(1);
-    }
-    int Hear() const
-    {
-        int number = -1;
-        EXPECT_EQ(read(ends_[0], &number, sizeof number), static_cast<ssize_t>(sizeof number));
-        return number;
-    }
-
-private:
-    std::array<int, 2> ends_{};
-};
 
 class CrashSafetyTest : public PeopleTable, public testing::WithParamInterface<int>
 {
@@ -63,12 +33,16 @@ TEST_P(CrashSafetyTest, ProcessKilledInTheMiddleOfUpdates_LosesNoneThatWasDone)
 {
     constexpr int rows = 10;
     GivenPeople(QList<std::optional<QString>>(rows, u"0"_s));
-    const Pipe pipe;
+    Pipe pipe;
     ChildProcess child([&] { return UpdateForEver(pipe); });
+    pipe.Listen();
 
     int done = 0;
-    while (done < GetParam())
-        done = pipe.Hear();
+    while (done < GetParam()) {
+        const auto told = pipe.Hear();
+        ASSERT_TRUE(told) << "it has come to its end by itself";
+        done = *told;
+    }
     child.KillNow();
     EXPECT_EQ(child.Wait(), -1);
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 namespace lineforge
 {
@@ -55,6 +56,35 @@ int ChildProcess::Wait()
     waitpid(id_, &status, 0);
     isRunning_ = false;
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+Pipe::Pipe()
+{
+    EXPECT_EQ(pipe(ends_.data()), 0);
+}
+
+Pipe::~Pipe()
+{
+    for (const int end : ends_)
+        if (end >= 0)
+            close(end);
+}
+
+void Pipe::Tell(int number) const
+{
+    if (write(ends_[1], &number, sizeof number) != sizeof number)
+        _exit(1);
+}
+
+void Pipe::Listen()
+{
+    close(std::exchange(ends_[1], -1));
+}
+
+std::optional<int> Pipe::Hear() const
+{
+    int number = 0;
+    return read(ends_[0], &number, sizeof number) == sizeof number ? std::optional(number) : std::nullopt;
 }
 
 int ExitCodeInChild(const std::function<int()>& action)

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <array>
 #include <functional>
+#include <optional>
 #include <sys/types.h>
 
 namespace lineforge
@@ -25,6 +27,27 @@ public:
 private:
     pid_t id_;
     bool isRunning_ = true;
+};
+
+// What a child process tells its parent: one number after the other.
+class Pipe
+{
+public:
+    Pipe();
+    ~Pipe();
+    Pipe(const Pipe&) = delete;
+    Pipe& operator=(const Pipe&) = delete;
+
+    // In the child, which ends when nobody can hear it any more.
+    void Tell(int number) const;
+
+    // In the parent, once the child runs: the child alone can tell from now on, so that its end is heard.
+    void Listen();
+    // Waits; nothing when there will never be anything more.
+    std::optional<int> Hear() const;
+
+private:
+    std::array<int, 2> ends_{};
 };
 
 // The exit code of an action in a child process.
