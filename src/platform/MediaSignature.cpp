@@ -26,15 +26,24 @@ constexpr QByteArrayView Bytes(const char (&bytes)[Size])
 
 constexpr Signature signatures[] = {
     {Bytes("RIFF"), 0, Bytes("WAVE"), 8},
+    {Bytes("RIFX"), 0, Bytes("WAVE"), 8},
+    {Bytes("RF64"), 0, Bytes("WAVE"), 8},
     {Bytes("RIFF"), 0, Bytes("AVI "), 8},
     {Bytes("FORM"), 0, Bytes("AIF"), 8},
     {Bytes(".snd")},
     {Bytes("OggS")},
     {Bytes("fLaC")},
+    {Bytes("caff")},
+    {Bytes("wvpk")},
+    {Bytes("#!AMR")},
     {Bytes("ID3")},
     {Bytes("ftyp"), 4},
     {Bytes("moov"), 4},
     {Bytes("mdat"), 4},
+    {Bytes("wide"), 4}, // which a film may leave free before its parts
+    {Bytes("free"), 4},
+    {Bytes("skip"), 4},
+    {Bytes("pnot"), 4},
     {Bytes("\x1A\x45\xDF\xA3")},                 // Matroska
     {Bytes("\x30\x26\xB2\x75\x8E\x66\xCF\x11")}, // ASF
     {Bytes("\0\0\1\xBA")},                       // MPEG

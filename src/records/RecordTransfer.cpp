@@ -120,17 +120,17 @@ StoredPicture PictureIn(Program& p, const QString& file)
     return picture;
 }
 
-// The record for which it was replaced has been refused: it keeps the picture that it had, or has none again.
-void PutPictureBack(Program& p, const QString& file, const StoredPicture& before)
+// The record for which it was replaced has been refused: it keeps the picture that it had, or has none again, and the
+// panel shows whom it has shown.
+void PutPictureBack(Program& p, const QString& file, const StoredPicture& before, const QImage& shownBefore)
 {
+    p.Form1->Image1.Picture = shownBefore;
     if (PictureIn(p, file).Bytes == before.Bytes)
         return;
     if (before.Bytes)
         p.Errors.Ignoring([&] { p.Files.Replace(file, *before.Bytes); });
     else if (!before.IsThere)
         p.Errors.Ignoring([&] { p.Files.Kill(file); });
-    p.Form1->Image1.Picture = QImage();
-    p.Errors.Ignoring([&] { p.Form1->Image1.Picture = p.Pictures.Load(p.Files, file); });
 }
 
 // False when the destination has no picture that can be shown.
@@ -216,9 +216,10 @@ void TransferRecord(Program& p)
     // Of a branch that can't be opened nobody's picture is replaced.
     const bool keepsPicture = !isOpen && !p.Files.Dir(itsPicture).isEmpty();
     const StoredPicture pictureBefore = PictureIn(p, itsPicture);
+    const QImage shownBefore = p.Form1->Image1.Picture;
     if (!keepsPicture && !CopyPicture(p, picture, itsPicture))
         return;
-    auto pictureBack = qScopeGuard([&] { PutPictureBack(p, itsPicture, pictureBefore); });
+    auto pictureBack = qScopeGuard([&] { PutPictureBack(p, itsPicture, pictureBefore, shownBefore); });
     // The box doesn't name the number that was typed, unless its branch couldn't be opened; so it is meant to be.
     const bool isFound = FindDestination(p, destination, isOpen ? p.Record.sCurFile : destination);
     if (isFound)

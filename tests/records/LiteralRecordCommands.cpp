@@ -363,14 +363,11 @@ bool LiteralRecords::CopyPicture(QChar from, const QString& source, QChar to, co
 // A record that is refused keeps its picture.
 void LiteralRecords::PutPictureBack(QChar letter, const QString& file, const QString& before)
 {
-    if (PictureIn(letter, file) == before)
-        return;
     QMap<QString, QString>& pictures = Branches.at(letter).Pictures;
     if (before.isEmpty())
         pictures.remove(file.toLower());
     else
         pictures[file.toLower()] = before;
-    PanelPicture = before;
 }
 
 void LiteralRecords::Transfer()
@@ -417,6 +414,7 @@ void LiteralRecords::Transfer()
     }
     // Of a branch that can't be opened nobody's picture goes.
     const QString before = PictureIn(to, destination);
+    const QString shown = PanelPicture;
     const bool keepsPicture = !isOpen && !before.isEmpty();
     if (!keepsPicture && !CopyPicture(from, source, to, destination))
         return;
@@ -431,6 +429,7 @@ void LiteralRecords::Transfer()
         Update(Current);
     } catch (const RuntimeError&) {
         PutPictureBack(to, destination, before);
+        PanelPicture = shown;
         throw;
     }
     RenameBox(Text(Current, u"Forename"_s));

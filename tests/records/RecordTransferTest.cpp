@@ -454,7 +454,8 @@ TEST_F(LockedTransferTest, Cancel_ThePictureThatWasThereStays)
     Press();
 
     EXPECT_EQ(PictureOf(u"A002"), Green);
-    EXPECT_NE(ColourOf(P.Form1->Image1), u"none"_s);
+    // A001 is still the one beside the map.
+    EXPECT_EQ(ColourOf(P.Form1->Image1), u"red"_s);
 }
 
 TEST_F(LockedTransferTest, Retry_GoesOnWithIt)
