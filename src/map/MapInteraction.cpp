@@ -107,7 +107,8 @@ void LeaveSubject(Program& p)
 bool GoToBranchOf(Program& p, const QString& file)
 {
     const QString letter = file.first(1);
-    if (SameText(letter, BranchLetter(p.Branch.WorkDir)))
+    // A deleted branch has no siblings: whoever asks fails at its records.
+    if (p.Branch.WorkDir.isEmpty() || SameText(letter, BranchLetter(p.Branch.WorkDir)))
         return true;
     if (!RequireSibling(p, letter))
         return false;

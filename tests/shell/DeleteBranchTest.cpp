@@ -68,6 +68,21 @@ TEST_F(DeleteBranchTest, BothConfirmed_TheBranchGoes_AndNothingElse)
     EXPECT_EQ(P.Form8->List1.Items.value(), QStringList{u"Jones"_s});
 }
 
+// The map's arrays outlive their branch, whose name is still set: the command goes on until it fails at the records.
+TEST_F(DeleteBranchTest, DoubleClickOnASiblingsBoxAfterwards_FailsAtTheRecords)
+{
+    P.Map.BoxArr[0][BoxColumn::File] = u"B001"_s;
+    DeleteForGood();
+    P.Mouse.DownX = 1300;
+    P.Mouse.DownY = 700;
+    ExpectFatalBox(u"Run-time error '91':\n\nObject variable not set",
+                   u"No database is open for this:\n"_s + P.Form3->Data1.Caption);
+
+    Click(P.Form1->Picture1.DblClick);
+
+    EXPECT_EQ(ExitCode(), 1);
+}
+
 TEST_F(DeleteBranchTest, NoAtEither_LeavesEverything)
 {
     const Tree before = Home.Snapshot();
