@@ -1,5 +1,6 @@
 #include "map/RecordFormPicture.h"
 
+#include "map/SubjectPanel.h"
 #include "platform/Text.h"
 #include "program/BranchPaths.h"
 
@@ -38,13 +39,8 @@ void FollowWithRecordPicture(Program& p)
     Image& place = p.Form3->Image1;
     const QString number = p.Form3->Label25.Caption.Shown();
     place.Tag = SubjectPictureFile(p.Branch.WorkDir, number);
-    if (number.isEmpty())
-        return;
-    try {
-        place.Picture = p.Pictures.Load(p.Files, place.Tag);
-    } catch (const RuntimeError&) {
-        // No error of the command's: its place stays empty.
-    }
+    if (!number.isEmpty())
+        place.Picture = PictureOrNone(p, place.Tag);
 }
 
 void PartFromFormerRecordPicture(Program& p)

@@ -65,6 +65,15 @@ void LoadSubjectPicture(Program& p, Image& target)
     target.Picture = p.Pictures.Load(p.Files, p.Branch.WorkDir + PathSeparator + p.Record.sPicFile);
 }
 
+QImage PictureOrNone(Program& p, const QString& file)
+{
+    try {
+        return p.Pictures.Load(p.Files, file);
+    } catch (const RuntimeError&) {
+        return {};
+    }
+}
+
 bool ShowSubjectPicture(Program& p)
 {
     bool hasPicture = false;
@@ -103,11 +112,7 @@ void FollowSubject(Program& p)
     if (number.isEmpty())
         return;
     p.Form1->Frame1.Caption = frameWithoutNumber + number;
-    try {
-        p.Form1->Image1.Picture = p.Pictures.Load(p.Files, SubjectPictureFile(p.Branch.WorkDir, number));
-    } catch (const RuntimeError&) {
-        // No error of the command's: its place stays empty.
-    }
+    p.Form1->Image1.Picture = PictureOrNone(p, SubjectPictureFile(p.Branch.WorkDir, number));
 }
 
 void TellPictureMissing(Program& p)

@@ -22,7 +22,10 @@ void EmptySubjectLabels(Program& p, std::initializer_list<Label forms::Form1::*>
 // it shows.
 void LoadSubjectPicture(Program& p, Image& target);
 
-// The same beside the map; false, and no picture there, when it can't be loaded.
+// The picture in that file; none where it can't be loaded, which is no error of the command's.
+QImage PictureOrNone(Program& p, const QString& file);
+
+// The subject picture beside the map; false, and no picture there, when it can't be loaded.
 bool ShowSubjectPicture(Program& p);
 
 // The current record beside the map: picture, labels, number. A picture that isn't there empties the panel's and is

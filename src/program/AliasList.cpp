@@ -80,12 +80,12 @@ bool IsGivenBack(const QString& name)
     return std::ranges::none_of(name, isLost) && !std::ranges::all_of(name, isNothing);
 }
 
-// A name with commas makes several entries, of which only the last has the directory.
 QString WholeEntry(const QString& name, const QString& directory)
 {
     return u',' + name + u'=' + directory + u',';
 }
 
+// A name with commas makes several entries, of which only the last has the directory.
 void RemoveWholeName(QString& aliasList, const QString& name, const QString& directory)
 {
     const QString before = u',' + aliasList;
