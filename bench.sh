@@ -7,5 +7,5 @@ cd "$(dirname "$0")"
 install_missing $build_packages $run_packages $screen_packages $bench_packages
 build_preset bench lineforge_bench
 screen=""
-[ -n "${DISPLAY:-}" ] || screen="xvfb-run -a"
+[ -n "${DISPLAY:-}" ] || screen=tests/on-virtual-screen.sh
 exec $screen build/bench/bench/lineforge_bench --benchmark_enable_random_interleaving=true "$@"

@@ -27,7 +27,7 @@ if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     build_preset tour all
     cmake --install build/tour --prefix "$directory" >/dev/null
     pictures=$(scratch tour)
-    tests/tour/on-virtual-screen.sh build/tour/tests/tour/lineforge_tour "$directory" "$pictures"
+    tests/on-virtual-screen.sh build/tour/tests/tour/lineforge_tour "$directory" "$pictures"
     echo "Its pictures are in $pictures"
     exit 0
 fi

@@ -5,4 +5,4 @@ set -eu
 runtime=$(mktemp -d "${TMPDIR:-/tmp}/assistive.XXXXXX")
 trap 'rm -rf "$runtime"' EXIT
 trap 'exit 1' INT TERM
-XDG_RUNTIME_DIR=$runtime xvfb-run -a -s "-screen 0 1280x1024x24" dbus-run-session -- "$@"
+XDG_RUNTIME_DIR=$runtime "$(dirname "$0")/../on-virtual-screen.sh" dbus-run-session -- "$@"
