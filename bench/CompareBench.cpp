@@ -4,9 +4,9 @@
 #include "compare/CompareBranch.h"
 #include "compare/CompareSearch.h"
 #include "compare/Sides.h"
-#include "platform/Text.h"
-#include "program/WorkDatabase.h"
-#include "shell/OpenBranch.h"
+#include "platform/base/Text.h"
+#include "program/branch/WorkDatabase.h"
+#include "shell/branches/OpenBranch.h"
 
 #include <QDir>
 #include <QFile>

@@ -2,7 +2,7 @@
 #include "Machine.h"
 #include "Runs.h"
 #include "gallery/GalleryPage.h"
-#include "shell/OpenBranch.h"
+#include "shell/branches/OpenBranch.h"
 
 #include <QDir>
 #include <QElapsedTimer>

@@ -1,7 +1,7 @@
 #include "Machine.h"
 #include "Runs.h"
-#include "gedcom/GedcomConversion.h"
-#include "shell/handlers/Handlers.h"
+#include "gedcom/report/GedcomConversion.h"
+#include "shell/handlers/InstallHandlers.h"
 
 #include <QFile>
 #include <QTemporaryDir>

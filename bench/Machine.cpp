@@ -1,6 +1,6 @@
 #include "Machine.h"
 
-#include "shell/handlers/Handlers.h"
+#include "shell/handlers/InstallHandlers.h"
 
 #include <QPagedPaintDevice>
 

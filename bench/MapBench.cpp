@@ -1,10 +1,10 @@
 #include "BenchHome.h"
 #include "Machine.h"
 #include "Runs.h"
-#include "map/MapDisplay.h"
-#include "map/MapItems.h"
-#include "platform/TextMask.h"
-#include "shell/OpenBranch.h"
+#include "map/items/MapDisplay.h"
+#include "map/items/MapItems.h"
+#include "platform/canvas/TextMask.h"
+#include "shell/branches/OpenBranch.h"
 
 #include <QFontMetrics>
 #include <QPainter>

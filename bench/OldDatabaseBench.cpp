@@ -1,6 +1,6 @@
 #include "Machine.h"
 #include "Runs.h"
-#include "program/OldDatabase.h"
+#include "program/branch/OldDatabase.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "BenchHome.h"
 #include "Machine.h"
 #include "Runs.h"
-#include "shell/OpenBranch.h"
+#include "shell/branches/OpenBranch.h"
 
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>

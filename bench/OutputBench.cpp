@@ -3,8 +3,8 @@
 #include "Runs.h"
 #include "output/TextReport.h"
 #include "records/RecordSearch.h"
-#include "shell/OpenBranch.h"
-#include "shell/handlers/Handlers.h"
+#include "shell/branches/OpenBranch.h"
+#include "shell/handlers/InstallHandlers.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,10 +1,10 @@
 #include "BenchHome.h"
 #include "Machine.h"
 #include "Runs.h"
-#include "map/MapInteraction.h"
-#include "platform/Picture.h"
+#include "map/subjects/MapInteraction.h"
+#include "platform/drawing/PictureFile.h"
 #include "records/RecordScanner.h"
-#include "shell/OpenBranch.h"
+#include "shell/branches/OpenBranch.h"
 
 #include <QDir>
 #include <QFile>

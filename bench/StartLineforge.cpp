@@ -1,12 +1,12 @@
 #include "FirstPaint.h"
 #include "Idle.h"
 #include "forms/Form1.h"
-#include "platform/qt/QtPlatform.h"
-#include "program/Program.h"
-#include "shell/FatalPath.h"
-#include "shell/OpenBranch.h"
-#include "shell/StartUp.h"
-#include "shell/handlers/Handlers.h"
+#include "program/state/Program.h"
+#include "qt/QtPlatform.h"
+#include "shell/branches/OpenBranch.h"
+#include "shell/handlers/InstallHandlers.h"
+#include "shell/run/RunHandler.h"
+#include "shell/run/StartUp.h"
 
 #include <QApplication>
 

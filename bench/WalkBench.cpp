@@ -1,7 +1,7 @@
 #include "BenchHome.h"
 #include "Runs.h"
-#include "platform/Database.h"
-#include "platform/Recordset.h"
+#include "platform/store/Database.h"
+#include "platform/store/Recordset.h"
 
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>

@@ -1,10 +1,10 @@
 #include "forms/Form1.h"
-#include "platform/CommandLine.h"
-#include "platform/qt/QtPlatform.h"
-#include "program/Program.h"
-#include "shell/FatalPath.h"
-#include "shell/StartUp.h"
-#include "shell/handlers/Handlers.h"
+#include "platform/base/CommandLine.h"
+#include "program/state/Program.h"
+#include "qt/QtPlatform.h"
+#include "shell/handlers/InstallHandlers.h"
+#include "shell/run/RunHandler.h"
+#include "shell/run/StartUp.h"
 
 #include <QApplication>
 #include <QFile>

@@ -1,11 +1,11 @@
 #include "check/DatabaseCheck.h"
 
 #include "check/UntouchedDatabase.h"
-#include "platform/DatabaseFormat.h"
-#include "platform/JetStreamFormat.h"
-#include "platform/RuntimeError.h"
-#include "platform/Text.h"
-#include "program/BranchPaths.h"
+#include "platform/base/RuntimeError.h"
+#include "platform/base/Text.h"
+#include "platform/store/DatabaseFormat.h"
+#include "platform/store/JetStreamFormat.h"
+#include "program/branch/BranchPaths.h"
 
 #include <QFile>
 #include <QHash>

@@ -3,9 +3,9 @@
 #include "check/LeftoverCheck.h"
 #include "check/PictureCheck.h"
 #include "gallery/GalleryFile.h"
-#include "platform/MediaSignature.h"
-#include "platform/RuntimeError.h"
-#include "platform/Text.h"
+#include "platform/base/RuntimeError.h"
+#include "platform/base/Text.h"
+#include "platform/files/MediaSignature.h"
 
 #include <QHash>
 

@@ -1,7 +1,7 @@
 #include "check/Home.h"
 
-#include "platform/Text.h"
-#include "program/BranchPaths.h"
+#include "platform/base/Text.h"
+#include "program/branch/BranchPaths.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "check/HomeCheck.h"
-#include "platform/FileSystem.h"
+#include "platform/files/FileSystem.h"
 
 #include <QSet>
 

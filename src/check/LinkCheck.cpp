@@ -1,6 +1,6 @@
 #include "check/LinkCheck.h"
 
-#include "program/BranchPaths.h"
+#include "program/branch/BranchPaths.h"
 
 namespace lineforge::check
 {

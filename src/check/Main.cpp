@@ -1,5 +1,5 @@
 #include "check/ReportText.h"
-#include "platform/CommandLine.h"
+#include "platform/base/CommandLine.h"
 
 #include <QCoreApplication>
 #include <QDir>

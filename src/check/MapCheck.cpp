@@ -1,11 +1,11 @@
 #include "check/MapCheck.h"
 
-#include "map/MapFile.h"
-#include "map/MapValues.h"
-#include "platform/RuntimeError.h"
-#include "platform/Text.h"
-#include "platform/TextFile.h"
-#include "program/BranchPaths.h"
+#include "map/items/MapFile.h"
+#include "map/items/MapValues.h"
+#include "platform/base/RuntimeError.h"
+#include "platform/base/Text.h"
+#include "platform/files/TextFile.h"
+#include "program/branch/BranchPaths.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,9 +1,9 @@
 #include "check/PictureCheck.h"
 
-#include "platform/Picture.h"
-#include "platform/RuntimeError.h"
-#include "platform/Text.h"
-#include "program/BranchPaths.h"
+#include "platform/base/RuntimeError.h"
+#include "platform/base/Text.h"
+#include "platform/drawing/PictureFile.h"
+#include "program/branch/BranchPaths.h"
 
 #include <algorithm>
 

@@ -1,10 +1,10 @@
 #include "check/RegistryCheck.h"
 
-#include "platform/Number.h"
-#include "platform/RuntimeError.h"
-#include "platform/Text.h"
-#include "program/AliasFile.h"
-#include "program/BranchPaths.h"
+#include "platform/base/Number.h"
+#include "platform/base/RuntimeError.h"
+#include "platform/base/Text.h"
+#include "program/branch/AliasFile.h"
+#include "program/branch/BranchPaths.h"
 
 #include <QFileInfo>
 

@@ -1,7 +1,7 @@
 #include "check/UntouchedDatabase.h"
 
-#include "platform/FileRefusal.h"
-#include "platform/RuntimeError.h"
+#include "platform/base/RuntimeError.h"
+#include "platform/files/FileRefusal.h"
 
 #include <QFile>
 #include <QFileInfo>

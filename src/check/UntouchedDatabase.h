@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Database.h"
+#include "platform/store/Database.h"
 
 #include <QTemporaryDir>
 

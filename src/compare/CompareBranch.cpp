@@ -5,11 +5,11 @@
 #include "compare/FieldDifference.h"
 #include "compare/SearchButton.h"
 #include "compare/Sides.h"
-#include "program/AlternateBranch.h"
-#include "program/BranchPaths.h"
-#include "program/BranchUi.h"
-#include "program/OldDatabase.h"
-#include "program/WorkDatabase.h"
+#include "program/branch/BranchPaths.h"
+#include "program/branch/OldDatabase.h"
+#include "program/branch/SiblingBranch.h"
+#include "program/branch/WorkDatabase.h"
+#include "program/ui/BranchUi.h"
 
 namespace lineforge
 {

@@ -6,8 +6,8 @@
 #include "compare/SearchButton.h"
 #include "compare/Sides.h"
 #include "compare/WhereSame.h"
-#include "program/BranchUi.h"
-#include "program/WorkDatabase.h"
+#include "program/branch/WorkDatabase.h"
+#include "program/ui/BranchUi.h"
 
 namespace lineforge
 {

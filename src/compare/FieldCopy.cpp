@@ -3,10 +3,10 @@
 #include "compare/CompareSearch.h"
 #include "compare/RefusedChange.h"
 #include "compare/Sides.h"
-#include "platform/Number.h"
-#include "platform/Text.h"
-#include "program/RecordFields.h"
-#include "program/WorkDatabase.h"
+#include "platform/base/Number.h"
+#include "platform/base/Text.h"
+#include "program/branch/WorkDatabase.h"
+#include "program/state/RecordFields.h"
 
 namespace lineforge
 {

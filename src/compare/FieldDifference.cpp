@@ -5,9 +5,9 @@
 #include "compare/SearchButton.h"
 #include "compare/Sides.h"
 #include "compare/WhereSame.h"
-#include "platform/Text.h"
-#include "program/Meanwhile.h"
-#include "program/WorkDatabase.h"
+#include "platform/base/Text.h"
+#include "program/branch/WorkDatabase.h"
+#include "program/ui/Meanwhile.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #include "compare/KeyIndex.h"
 
 #include "compare/CompareKeys.h"
-#include "platform/Text.h"
+#include "platform/base/Text.h"
 
 namespace lineforge
 {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Recordset.h"
-#include "program/Meanwhile.h"
+#include "platform/store/Recordset.h"
+#include "program/ui/Meanwhile.h"
 
 #include <QHash>
 #include <QStringList>

@@ -1,7 +1,7 @@
 #include "compare/RefusedChange.h"
 
 #include "compare/FieldDifference.h"
-#include "program/WorkDatabase.h"
+#include "program/branch/WorkDatabase.h"
 
 namespace lineforge
 {

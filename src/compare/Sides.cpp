@@ -1,8 +1,8 @@
 #include "compare/Sides.h"
 
-#include "compare/Difference.h"
-#include "program/BranchPaths.h"
-#include "program/WorkDatabase.h"
+#include "compare/TextDifference.h"
+#include "program/branch/BranchPaths.h"
+#include "program/branch/WorkDatabase.h"
 
 namespace lineforge
 {

@@ -4,8 +4,8 @@
 #include "compare/CompareKeys.h"
 #include "compare/KeyIndex.h"
 #include "compare/Sides.h"
-#include "program/Meanwhile.h"
-#include "program/WorkDatabase.h"
+#include "program/branch/WorkDatabase.h"
+#include "program/ui/Meanwhile.h"
 
 namespace lineforge
 {

@@ -1,6 +1,6 @@
 #include "editor/EditedFile.h"
 
-#include "platform/RuntimeError.h"
+#include "platform/base/RuntimeError.h"
 
 #include <QCryptographicHash>
 #include <QDir>

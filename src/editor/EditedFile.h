@@ -1,7 +1,7 @@
 #pragma once
 
-#include "editor/TextForm.h"
-#include "platform/FileSystem.h"
+#include "editor/TextFormat.h"
+#include "platform/files/FileSystem.h"
 
 #include <optional>
 

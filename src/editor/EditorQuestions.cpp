@@ -1,6 +1,6 @@
 #include "editor/EditorQuestions.h"
 
-#include "platform/RuntimeError.h"
+#include "platform/base/RuntimeError.h"
 
 #include <QDir>
 #include <QFileDialog>

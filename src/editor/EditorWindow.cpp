@@ -3,7 +3,7 @@
 #include "editor/EditorQuestions.h"
 #include "editor/FindBar.h"
 #include "editor/TextArea.h"
-#include "platform/RuntimeError.h"
+#include "platform/base/RuntimeError.h"
 
 #include <QCloseEvent>
 #include <QDateTime>

@@ -1,6 +1,6 @@
 #include "editor/EditorStart.h"
 #include "editor/EditorWindow.h"
-#include "platform/CommandLine.h"
+#include "platform/base/CommandLine.h"
 
 #include <QApplication>
 #include <QFile>

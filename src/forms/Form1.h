@@ -1,9 +1,9 @@
 #pragma once
 
 #include "forms/ToolFaces.h"
-#include "platform/ControlArray.h"
-#include "platform/Form.h"
-#include "platform/PictureBox.h"
+#include "platform/canvas/PictureBox.h"
+#include "platform/controls/ControlArray.h"
+#include "platform/controls/Form.h"
 
 #include <array>
 

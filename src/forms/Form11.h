@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Form.h"
-#include "platform/TextPanel.h"
+#include "platform/controls/Form.h"
+#include "platform/controls/TextPanel.h"
 
 namespace lineforge::forms
 {

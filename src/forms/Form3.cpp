@@ -1,6 +1,6 @@
 #include "forms/Form3.h"
 
-#include "platform/TransportFaces.h"
+#include "platform/drawing/TransportFaces.h"
 
 namespace lineforge::forms
 {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/ControlArray.h"
-#include "platform/Form.h"
-#include "platform/PictureBox.h"
+#include "platform/canvas/PictureBox.h"
+#include "platform/controls/ControlArray.h"
+#include "platform/controls/Form.h"
 
 namespace lineforge::forms
 {

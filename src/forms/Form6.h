@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/DataControl.h"
-#include "platform/Form.h"
+#include "platform/controls/DataControl.h"
+#include "platform/controls/Form.h"
 
 namespace lineforge::forms
 {

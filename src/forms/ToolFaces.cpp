@@ -1,6 +1,6 @@
 #include "forms/ToolFaces.h"
 
-#include "platform/ButtonFace.h"
+#include "platform/drawing/ButtonFace.h"
 
 #include <QPainter>
 #include <QPainterPath>

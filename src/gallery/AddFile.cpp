@@ -2,8 +2,8 @@
 
 #include "gallery/GalleryItem.h"
 #include "gallery/GalleryPage.h"
-#include "platform/Text.h"
-#include "program/BranchUi.h"
+#include "platform/base/Text.h"
+#include "program/ui/BranchUi.h"
 
 namespace lineforge
 {

@@ -1,9 +1,9 @@
 #include "gallery/GalleryFile.h"
 
-#include "platform/Number.h"
-#include "platform/Text.h"
-#include "program/BranchPaths.h"
-#include "program/Meanwhile.h"
+#include "platform/base/Number.h"
+#include "platform/base/Text.h"
+#include "program/branch/BranchPaths.h"
+#include "program/ui/Meanwhile.h"
 
 #include <algorithm>
 

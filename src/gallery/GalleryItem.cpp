@@ -4,9 +4,9 @@
 #include "gallery/GalleryFile.h"
 #include "gallery/GalleryPage.h"
 #include "gallery/Rearrange.h"
-#include "platform/Number.h"
-#include "platform/Picture.h"
-#include "program/BranchPaths.h"
+#include "platform/base/Number.h"
+#include "platform/drawing/PictureFile.h"
+#include "program/branch/BranchPaths.h"
 
 namespace lineforge
 {

@@ -2,8 +2,8 @@
 
 #include "gallery/GalleryFile.h"
 #include "gallery/GalleryItem.h"
-#include "platform/Text.h"
-#include "program/BranchPaths.h"
+#include "platform/base/Text.h"
+#include "program/branch/BranchPaths.h"
 
 #include <algorithm>
 

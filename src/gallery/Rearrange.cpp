@@ -2,7 +2,7 @@
 
 #include "gallery/GalleryFile.h"
 #include "gallery/GalleryPage.h"
-#include "platform/Number.h"
+#include "platform/base/Number.h"
 
 #include <deque>
 #include <utility>

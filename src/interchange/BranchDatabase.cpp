@@ -1,8 +1,8 @@
 #include "interchange/BranchDatabase.h"
 
-#include "platform/DirectoryFiles.h"
-#include "platform/Text.h"
-#include "program/Meanwhile.h"
+#include "platform/base/Text.h"
+#include "platform/files/DirectoryFiles.h"
+#include "program/ui/Meanwhile.h"
 
 namespace lineforge
 {

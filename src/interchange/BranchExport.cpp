@@ -1,11 +1,11 @@
 #include "interchange/BranchExport.h"
 
 #include "interchange/BranchDatabase.h"
-#include "platform/Drives.h"
-#include "platform/Text.h"
-#include "program/BranchPaths.h"
-#include "program/BranchUi.h"
-#include "program/MakeDirectory.h"
+#include "platform/base/Text.h"
+#include "platform/files/Drives.h"
+#include "program/branch/BranchPaths.h"
+#include "program/branch/MakeDirectory.h"
+#include "program/ui/BranchUi.h"
 
 #include <QDir>
 #include <QScopeGuard>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "program/Program.h"
+#include "program/state/Program.h"
 
 namespace lineforge
 {

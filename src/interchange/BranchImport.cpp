@@ -1,12 +1,12 @@
 #include "interchange/BranchImport.h"
 
 #include "interchange/BranchDatabase.h"
-#include "map/EnterBranch.h"
+#include "map/subjects/EnterBranch.h"
 #include "map/tools/LeaveTools.h"
-#include "program/AliasList.h"
-#include "program/BranchPaths.h"
-#include "program/BranchUi.h"
-#include "program/MakeDirectory.h"
+#include "program/branch/AliasList.h"
+#include "program/branch/BranchPaths.h"
+#include "program/branch/MakeDirectory.h"
+#include "program/ui/BranchUi.h"
 
 #include <QScopeGuard>
 

@@ -3,7 +3,7 @@
 #include "jet/JetTable.h"
 #include "jet/JetText.h"
 #include "jet/MemoReader.h"
-#include "platform/DatabaseFormat.h"
+#include "platform/store/DatabaseFormat.h"
 
 #include <fstream>
 #include <optional>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "jet/Refused.h"
-#include "platform/JetStreamFormat.h"
+#include "platform/store/JetStreamFormat.h"
 
 #include <array>
 #include <functional>

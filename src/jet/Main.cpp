@@ -1,6 +1,6 @@
 #include "jet/JetStream.h"
 #include "jet/Limits.h"
-#include "platform/CommandLine.h"
+#include "platform/base/CommandLine.h"
 
 #include <iostream>
 

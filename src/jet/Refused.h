@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/JetStreamFormat.h"
+#include "platform/store/JetStreamFormat.h"
 
 namespace lineforge::jet
 {

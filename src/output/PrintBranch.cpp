@@ -1,12 +1,12 @@
 #include "output/PrintBranch.h"
 
-#include "map/MapDisplay.h"
+#include "map/items/MapDisplay.h"
 #include "output/OutputMode.h"
 #include "output/PrintErrors.h"
 #include "output/RecordReport.h"
-#include "program/BranchUi.h"
-#include "program/Meanwhile.h"
-#include "program/WorkDatabase.h"
+#include "program/branch/WorkDatabase.h"
+#include "program/ui/BranchUi.h"
+#include "program/ui/Meanwhile.h"
 
 namespace lineforge
 {

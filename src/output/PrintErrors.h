@@ -1,6 +1,6 @@
 #pragma once
 
-#include "program/BranchUi.h"
+#include "program/ui/BranchUi.h"
 
 #include <utility>
 

@@ -2,7 +2,7 @@
 
 #include "output/OutputMode.h"
 #include "output/Wrap.h"
-#include "program/WorkDatabase.h"
+#include "program/branch/WorkDatabase.h"
 
 namespace lineforge
 {

@@ -3,12 +3,12 @@
 #include "output/BookmarkList.h"
 #include "output/OutputMode.h"
 #include "output/RecordReport.h"
-#include "program/AlternateBranch.h"
-#include "program/BranchPaths.h"
-#include "program/BranchUi.h"
-#include "program/Meanwhile.h"
-#include "program/Position.h"
-#include "program/WorkDatabase.h"
+#include "program/branch/BranchPaths.h"
+#include "program/branch/ComeBackAfterwards.h"
+#include "program/branch/SiblingBranch.h"
+#include "program/branch/WorkDatabase.h"
+#include "program/ui/BranchUi.h"
+#include "program/ui/Meanwhile.h"
 
 #include <QScopeGuard>
 

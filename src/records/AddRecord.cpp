@@ -1,10 +1,10 @@
 #include "records/AddRecord.h"
 
-#include "map/RecordFormPicture.h"
-#include "program/AlternateBranch.h"
-#include "program/BranchPaths.h"
-#include "program/BranchUi.h"
-#include "program/Position.h"
+#include "map/subjects/RecordFormPicture.h"
+#include "program/branch/BranchPaths.h"
+#include "program/branch/ComeBackAfterwards.h"
+#include "program/branch/SiblingBranch.h"
+#include "program/ui/BranchUi.h"
 
 namespace lineforge
 {

@@ -1,14 +1,14 @@
 #include "records/DeleteRecord.h"
 
 #include "gallery/GalleryFile.h"
-#include "map/BoxCaptions.h"
-#include "map/CurrentBox.h"
-#include "map/MapFile.h"
-#include "platform/Like.h"
-#include "program/AlternateBranch.h"
-#include "program/BranchPaths.h"
-#include "program/BranchUi.h"
-#include "program/Position.h"
+#include "map/items/BoxCaptions.h"
+#include "map/items/CurrentBox.h"
+#include "map/items/MapFile.h"
+#include "platform/base/Like.h"
+#include "program/branch/BranchPaths.h"
+#include "program/branch/ComeBackAfterwards.h"
+#include "program/branch/SiblingBranch.h"
+#include "program/ui/BranchUi.h"
 #include "records/RecordPicture.h"
 
 namespace lineforge

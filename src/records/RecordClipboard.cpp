@@ -1,7 +1,7 @@
 #include "records/RecordClipboard.h"
 
 #include "output/RecordReport.h"
-#include "program/WorkDatabase.h"
+#include "program/branch/WorkDatabase.h"
 
 #include <array>
 

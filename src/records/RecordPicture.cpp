@@ -1,8 +1,8 @@
 #include "records/RecordPicture.h"
 
-#include "map/RecordFormPicture.h"
-#include "map/SubjectPanel.h"
-#include "program/BranchPaths.h"
+#include "map/subjects/RecordFormPicture.h"
+#include "map/subjects/SubjectPanel.h"
+#include "program/branch/BranchPaths.h"
 
 namespace lineforge
 {

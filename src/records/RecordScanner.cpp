@@ -1,9 +1,9 @@
 #include "records/RecordScanner.h"
 
-#include "map/CurrentBox.h"
-#include "map/SubjectPanel.h"
-#include "platform/OtherPrograms.h"
-#include "program/WorkDatabase.h"
+#include "map/items/CurrentBox.h"
+#include "map/subjects/SubjectPanel.h"
+#include "platform/store/OtherPrograms.h"
+#include "program/branch/WorkDatabase.h"
 #include "records/RecordPicture.h"
 
 namespace lineforge

@@ -1,9 +1,9 @@
 #include "records/RecordSearch.h"
 
-#include "map/RecordFormPicture.h"
-#include "platform/Like.h"
-#include "program/Meanwhile.h"
-#include "program/WorkDatabase.h"
+#include "map/subjects/RecordFormPicture.h"
+#include "platform/base/Like.h"
+#include "program/branch/WorkDatabase.h"
+#include "program/ui/Meanwhile.h"
 #include "records/RecordPicture.h"
 
 #include <algorithm>

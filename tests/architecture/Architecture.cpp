@@ -7,7 +7,6 @@
 #include <QSet>
 
 #include <algorithm>
-#include <optional>
 
 namespace lineforge::architecture
 {
@@ -18,51 +17,112 @@ namespace
 {
 using Graph = QMap<QString, QStringList>;
 
-const QString main = u"main"_s;
-const QString qtFolder = u"platform/qt"_s;
-const QString editor = u"editor"_s;
-const QString jet = u"jet"_s;
-const QString check = u"check"_s;
+// Every room, from the ground up, and the rooms whose headers it includes. A wing is what stands before the first `/`.
+struct Room {
+    QString Name;
+    QStringList Uses;
+};
 
-// The tower, from the ground up; folders of one storey know nothing of each other.
-const QList<QStringList> storeys{{u"platform"_s},
-                                 {u"forms"_s},
-                                 {u"program"_s},
-                                 {u"map"_s, u"gedcom"_s, u"gallery"_s, u"compare"_s},
-                                 {u"output"_s, u"interchange"_s},
-                                 {u"records"_s},
-                                 {u"shell"_s},
-                                 {qtFolder, editor, jet, check, main}};
-
-// The folder that a file counts to: the first part of its path, but platform/qt is one of its own.
-QString FolderOf(const QString& file)
+// What a room uses stands further up in this table, so that nothing runs up and there is no circle.
+const QList<Room>& Rooms()
 {
-    if (file.startsWith(qtFolder + u'/'))
-        return qtFolder;
-    return file.contains(u'/') ? file.section(u'/', 0, 0) : file.section(u'.', 0, 0);
+    static const QList<Room> rooms{
+        {u"platform/base"_s, {}},
+        {u"platform/files"_s, {u"platform/base"_s}},
+        {u"editor"_s, {u"platform/base"_s, u"platform/files"_s}},
+        {u"platform/drawing"_s, {u"platform/base"_s, u"platform/files"_s}},
+        {u"platform/store"_s, {u"platform/base"_s, u"platform/files"_s}},
+        {u"jet"_s, {u"platform/base"_s, u"platform/store"_s}},
+        {u"platform/controls"_s, {u"platform/base"_s, u"platform/drawing"_s, u"platform/store"_s}},
+        {u"platform/canvas"_s, {u"platform/controls"_s, u"platform/drawing"_s}},
+        {u"forms"_s, {u"platform/canvas"_s, u"platform/controls"_s, u"platform/drawing"_s}},
+        {u"platform/machine"_s,
+         {u"platform/base"_s, u"platform/canvas"_s, u"platform/controls"_s, u"platform/drawing"_s}},
+        {u"qt/style"_s, {u"platform/canvas"_s, u"platform/drawing"_s}},
+        {u"program/state"_s,
+         {u"forms"_s, u"platform/base"_s, u"platform/drawing"_s, u"platform/files"_s, u"platform/machine"_s,
+          u"platform/store"_s}},
+        {u"qt/events"_s, {u"platform/controls"_s, u"platform/machine"_s}},
+        {u"qt/machine"_s, {u"platform/base"_s, u"platform/machine"_s, u"qt/style"_s}},
+        {u"program/ui"_s, {u"program/state"_s}},
+        {u"qt/dialogs"_s,
+         {u"platform/canvas"_s, u"platform/machine"_s, u"qt/events"_s, u"qt/machine"_s, u"qt/style"_s}},
+        {u"qt/views"_s,
+         {u"platform/canvas"_s, u"platform/controls"_s, u"platform/files"_s, u"platform/store"_s, u"qt/events"_s,
+          u"qt/style"_s}},
+        {u"gedcom/report"_s, {u"platform/base"_s, u"platform/files"_s, u"program/state"_s, u"program/ui"_s}},
+        {u"program/branch"_s,
+         {u"platform/base"_s, u"platform/files"_s, u"platform/store"_s, u"program/state"_s, u"program/ui"_s}},
+        {u"qt/media"_s,
+         {u"platform/base"_s, u"platform/controls"_s, u"platform/drawing"_s, u"platform/files"_s, u"qt/views"_s}},
+        {u"qt/pictures"_s,
+         {u"platform/canvas"_s, u"platform/controls"_s, u"platform/files"_s, u"qt/events"_s, u"qt/style"_s,
+          u"qt/views"_s}},
+        {u"qt/text"_s, {u"platform/base"_s, u"platform/controls"_s, u"qt/events"_s, u"qt/style"_s, u"qt/views"_s}},
+        {u"compare"_s,
+         {u"platform/base"_s, u"platform/controls"_s, u"platform/store"_s, u"program/branch"_s, u"program/state"_s,
+          u"program/ui"_s}},
+        {u"gallery"_s,
+         {u"platform/base"_s, u"platform/drawing"_s, u"program/branch"_s, u"program/state"_s, u"program/ui"_s}},
+        {u"gedcom/writer"_s, {u"platform/base"_s, u"program/branch"_s, u"program/state"_s, u"program/ui"_s}},
+        {u"map/items"_s,
+         {u"platform/base"_s, u"platform/drawing"_s, u"platform/files"_s, u"platform/store"_s, u"program/branch"_s,
+          u"program/state"_s, u"program/ui"_s}},
+        {u"qt/windows"_s,
+         {u"platform/canvas"_s, u"platform/controls"_s, u"qt/events"_s, u"qt/media"_s, u"qt/pictures"_s, u"qt/style"_s,
+          u"qt/text"_s, u"qt/views"_s}},
+        {u"check"_s,
+         {u"gallery"_s, u"map/items"_s, u"platform/base"_s, u"platform/drawing"_s, u"platform/files"_s,
+          u"platform/store"_s, u"program/branch"_s}},
+        {u"map/subjects"_s,
+         {u"map/items"_s, u"platform/base"_s, u"program/branch"_s, u"program/state"_s, u"program/ui"_s}},
+        {u"output"_s, {u"map/items"_s, u"program/branch"_s, u"program/state"_s, u"program/ui"_s}},
+        {u"qt"_s,
+         {u"platform/machine"_s, u"qt/dialogs"_s, u"qt/machine"_s, u"qt/media"_s, u"qt/style"_s, u"qt/windows"_s}},
+        {u"map/tools"_s, {u"map/items"_s, u"map/subjects"_s, u"program/branch"_s, u"program/state"_s, u"program/ui"_s}},
+        {u"interchange"_s,
+         {u"map/subjects"_s, u"map/tools"_s, u"platform/base"_s, u"platform/files"_s, u"program/branch"_s,
+          u"program/state"_s, u"program/ui"_s}},
+        {u"records"_s,
+         {u"gallery"_s, u"map/items"_s, u"map/subjects"_s, u"map/tools"_s, u"output"_s, u"platform/base"_s,
+          u"platform/store"_s, u"program/branch"_s, u"program/state"_s, u"program/ui"_s}},
+        {u"shell/branches"_s,
+         {u"compare"_s, u"gallery"_s, u"map/items"_s, u"map/subjects"_s, u"map/tools"_s, u"platform/base"_s,
+          u"platform/files"_s, u"program/branch"_s, u"program/state"_s, u"program/ui"_s}},
+        {u"shell/run"_s,
+         {u"gallery"_s, u"gedcom/report"_s, u"map/items"_s, u"map/subjects"_s, u"map/tools"_s, u"platform/base"_s,
+          u"platform/controls"_s, u"platform/drawing"_s, u"platform/store"_s, u"program/branch"_s, u"program/state"_s,
+          u"program/ui"_s, u"records"_s, u"shell/branches"_s}},
+        {u"shell/handlers"_s,
+         {u"compare"_s, u"gallery"_s, u"gedcom/report"_s, u"gedcom/writer"_s, u"interchange"_s, u"map/items"_s,
+          u"map/subjects"_s, u"map/tools"_s, u"output"_s, u"program/state"_s, u"program/ui"_s, u"records"_s,
+          u"shell/branches"_s, u"shell/run"_s}},
+        {u"main"_s,
+         {u"forms"_s, u"platform/base"_s, u"program/state"_s, u"qt"_s, u"shell/handlers"_s, u"shell/run"_s}}};
+    return rooms;
 }
 
-std::optional<qsizetype> StoreyOf(const QString& folder)
+// The room that a file stands in: its folder; `main` for what stands in none.
+QString RoomOf(const QString& file)
 {
-    for (qsizetype storey = 0; storey < storeys.size(); ++storey)
-        if (storeys[storey].contains(folder))
-            return storey;
-    return {};
+    return file.contains(u'/') ? file.section(u'/', 0, -2) : file.section(u'.', 0, 0);
+}
+
+QString WingOf(const QString& file)
+{
+    return RoomOf(file).section(u'/', 0, 0);
+}
+
+const Room* FindRoom(const QString& name)
+{
+    const auto room = std::ranges::find(Rooms(), name, &Room::Name);
+    return room == Rooms().end() ? nullptr : &*room;
 }
 
 bool IsAllowed(const QString& from, const QString& to)
 {
-    if (from == to)
-        return true;
-    if (from == qtFolder || from == editor || from == jet)
-        return to == u"platform";
-    if (to == qtFolder)
-        return from == main;
-    if (to == editor || to == jet)
-        return false;
-    const auto upper = StoreyOf(from);
-    const auto lower = StoreyOf(to);
-    return upper && lower && *lower < *upper;
+    const Room* room = FindRoom(from);
+    return from == to || (room && room->Uses.contains(to));
 }
 
 // What the quoted includes of a text name. A file that the meta-object compiler makes is no source.
@@ -127,6 +187,25 @@ private:
     QStringList way_;
     QSet<QString> done_;
 };
+// A header and its source are one.
+QString UnitOf(const QString& file)
+{
+    return file.section(u'.', 0, 0);
+}
+
+QStringList CirclesOf(const Sources& sources, QString (*groupOf)(const QString&))
+{
+    const Graph files = GraphOfFiles(sources);
+    Graph groups;
+    for (auto file = files.begin(); file != files.end(); ++file)
+        for (const QString& target : file.value()) {
+            const QString from = groupOf(file.key());
+            const QString to = groupOf(target);
+            if (from != to && !groups[from].contains(to))
+                groups[from].push_back(to);
+        }
+    return CircleSearch(groups).Found;
+}
 } // namespace
 
 Sources ReadSources(const QString& directory)
@@ -147,8 +226,7 @@ QStringList WidgetsBelowTheLine(const Sources& sources)
         u"\\b(?:QtWidgets|QWidget|QMessageBox|QFileDialog|QPrinter|QApplication|QtMultimedia|QtPrintSupport|QMedia\\w*)\\b"_s);
     QStringList findings;
     for (auto source = sources.begin(); source != sources.end(); ++source) {
-        const QString folder = FolderOf(source.key());
-        if (folder == qtFolder || folder == editor || folder == main)
+        if (QStringList{u"qt"_s, u"editor"_s, u"main"_s}.contains(WingOf(source.key())))
             continue;
         if (const auto match = words.match(source.value()); match.hasMatch())
             findings.push_back(source.key() + u" names "_s + match.captured());
@@ -160,13 +238,26 @@ QStringList IncludesAgainstTheTower(const Sources& sources)
 {
     QStringList findings;
     for (const QString& file : sources.keys())
-        if (!StoreyOf(FolderOf(file)))
-            findings.push_back(file + u" has no place in the tower"_s);
+        if (!FindRoom(RoomOf(file)))
+            findings.push_back(file + u" stands in no room"_s);
     const Graph graph = GraphOfFiles(sources);
     for (auto file = graph.begin(); file != graph.end(); ++file)
         for (const QString& target : file.value())
-            if (!IsAllowed(FolderOf(file.key()), FolderOf(target)))
+            if (!IsAllowed(RoomOf(file.key()), RoomOf(target)))
                 findings.push_back(file.key() + u" includes "_s + target);
+    return findings;
+}
+
+QStringList RoomsThatUseWhatIsAbove()
+{
+    QStringList findings;
+    QStringList below;
+    for (const Room& room : Rooms()) {
+        for (const QString& used : room.Uses)
+            if (!below.contains(used))
+                findings.push_back(room.Name + u" uses "_s + used);
+        below.push_back(room.Name);
+    }
     return findings;
 }
 
@@ -185,18 +276,19 @@ QStringList CirclesOfFiles(const Sources& sources)
     return CircleSearch(GraphOfFiles(sources)).Found;
 }
 
-QStringList CirclesOfFolders(const Sources& sources)
+QStringList CirclesOfUnits(const Sources& sources)
 {
-    const Graph files = GraphOfFiles(sources);
-    Graph folders;
-    for (auto file = files.begin(); file != files.end(); ++file)
-        for (const QString& target : file.value()) {
-            const QString from = FolderOf(file.key());
-            const QString to = FolderOf(target);
-            if (from != to && !folders[from].contains(to))
-                folders[from].push_back(to);
-        }
-    return CircleSearch(folders).Found;
+    return CirclesOf(sources, UnitOf);
+}
+
+QStringList CirclesOfRooms(const Sources& sources)
+{
+    return CirclesOf(sources, RoomOf);
+}
+
+QStringList CirclesOfWings(const Sources& sources)
+{
+    return CirclesOf(sources, WingOf);
 }
 
 } // namespace lineforge::architecture

@@ -2,7 +2,7 @@
 
 #include "compare/CompareTest.h"
 #include "compare/KeyIndex.h"
-#include "platform/Text.h"
+#include "platform/base/Text.h"
 
 #include <random>
 

@@ -2,7 +2,7 @@
 
 #include "editor/EditorWindow.h"
 #include "editor/TextArea.h"
-#include "gui/qt/Dialogs.h"
+#include "qt/Dialogs.h"
 #include "support/Printing.h"
 #include "support/TemporaryHome.h"
 

@@ -1,5 +1,4 @@
-#include "editor/TextForm.h"
-
+#include "editor/TextFormat.h"
 #include "support/Printing.h"
 
 #include <gmock/gmock.h>

@@ -1,6 +1,6 @@
 #include "faults/Commands.h"
 
-#include "program/WorkDatabase.h"
+#include "program/branch/WorkDatabase.h"
 #include "support/BranchBuilder.h"
 
 #include <QColor>

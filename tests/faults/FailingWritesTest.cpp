@@ -1,8 +1,8 @@
 #include "faults/FailingWrites.h"
 
-#include "platform/DirectoryFiles.h"
-#include "platform/FileSystem.h"
-#include "platform/RuntimeError.h"
+#include "platform/base/RuntimeError.h"
+#include "platform/files/DirectoryFiles.h"
+#include "platform/files/FileSystem.h"
 #include "support/SqliteFile.h"
 #include "support/TemporaryHome.h"
 

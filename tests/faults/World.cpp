@@ -1,8 +1,8 @@
 #include "faults/World.h"
 
-#include "shell/FatalPath.h"
-#include "shell/StartUp.h"
-#include "shell/handlers/Handlers.h"
+#include "shell/handlers/InstallHandlers.h"
+#include "shell/run/RunHandler.h"
+#include "shell/run/StartUp.h"
 #include "support/BranchBuilder.h"
 
 #include <QColor>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Prompts.h"
-#include "program/Program.h"
+#include "platform/machine/Prompts.h"
+#include "program/state/Program.h"
 #include "support/TestPlatform.h"
 
 #include <memory>

@@ -1,6 +1,6 @@
 #include "FuzzHome.h"
-#include "platform/WholeLetters.h"
-#include "program/WorkDatabase.h"
+#include "platform/base/WholeLetters.h"
+#include "program/branch/WorkDatabase.h"
 #include "records/RecordClipboard.h"
 
 namespace lineforge::fuzz

@@ -1,6 +1,6 @@
 #include "FuzzHome.h"
-#include "gedcom/GedcomConversion.h"
-#include "gedcom/LiteralMachine.h"
+#include "gedcom/report/GedcomConversion.h"
+#include "gedcom/report/LiteralMachine.h"
 
 #include <QFile>
 #include <QTemporaryDir>

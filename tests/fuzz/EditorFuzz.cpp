@@ -1,5 +1,5 @@
 #include "editor/TextArea.h"
-#include "editor/TextForm.h"
+#include "editor/TextFormat.h"
 
 #include <QApplication>
 

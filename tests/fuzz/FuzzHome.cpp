@@ -1,8 +1,8 @@
 #include "FuzzHome.h"
 
-#include "map/EnterBranch.h"
-#include "platform/JetStreamFormat.h"
-#include "shell/handlers/Handlers.h"
+#include "map/subjects/EnterBranch.h"
+#include "platform/store/JetStreamFormat.h"
+#include "shell/handlers/InstallHandlers.h"
 
 #include <QDir>
 #include <QFile>

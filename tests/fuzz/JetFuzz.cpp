@@ -1,5 +1,5 @@
 #include "jet/JetStream.h"
-#include "platform/JetRows.h"
+#include "platform/store/JetRows.h"
 
 #include <cstdint>
 #include <cstdlib>

@@ -1,4 +1,4 @@
-#include "platform/JetRows.h"
+#include "platform/store/JetRows.h"
 
 #include <QtEndian>
 

@@ -1,7 +1,7 @@
 #include "FuzzHome.h"
-#include "map/EnterBranch.h"
-#include "map/MapFile.h"
-#include "map/MapValues.h"
+#include "map/items/MapFile.h"
+#include "map/items/MapValues.h"
+#include "map/subjects/EnterBranch.h"
 
 #include <array>
 

@@ -1,5 +1,5 @@
 #include "FuzzHome.h"
-#include "map/MapClipboard.h"
+#include "map/subjects/MapClipboard.h"
 
 #include <cstring>
 

@@ -1,5 +1,5 @@
 #include "FuzzHome.h"
-#include "platform/Picture.h"
+#include "platform/drawing/PictureFile.h"
 
 #include <sys/mman.h>
 #include <unistd.h>

@@ -1,5 +1,5 @@
 #include "FuzzHome.h"
-#include "program/AliasList.h"
+#include "program/branch/AliasList.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "gallery/AddFile.h"
 
 #include "gallery/GalleryTest.h"
-#include "program/AlternateBranch.h"
+#include "program/branch/SiblingBranch.h"
 
 namespace lineforge
 {

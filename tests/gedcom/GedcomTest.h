@@ -1,6 +1,6 @@
 #pragma once
 
-#include "program/WorkDatabase.h"
+#include "program/branch/WorkDatabase.h"
 #include "shell/ShellTest.h"
 
 namespace lineforge

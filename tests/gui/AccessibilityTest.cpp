@@ -1,5 +1,5 @@
 #include "gui/EveryWindow.h"
-#include "platform/qt/HelpWindow.h"
+#include "qt/dialogs/HelpWindow.h"
 
 #include <QAccessible>
 #include <QGroupBox>

@@ -1,6 +1,6 @@
 #include "forms/Form4.h"
 #include "gui/ProgramWindowTest.h"
-#include "platform/qt/DirectoryView.h"
+#include "qt/views/DirectoryView.h"
 
 #include <QAccessible>
 #include <QPushButton>

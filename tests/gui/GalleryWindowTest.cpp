@@ -1,7 +1,7 @@
 #include "gui/ProgramWindowTest.h"
 #include "output/Paper.h"
-#include "platform/PictureBox.h"
-#include "platform/qt/DraggableImage.h"
+#include "platform/canvas/PictureBox.h"
+#include "qt/pictures/DraggableImage.h"
 
 #include <QMenuBar>
 #include <QPushButton>

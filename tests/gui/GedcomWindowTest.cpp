@@ -1,8 +1,8 @@
 #include "forms/Form11.h"
 #include "forms/Form12.h"
 #include "gui/ProgramWindowTest.h"
-#include "platform/qt/TextPanelView.h"
-#include "platform/qt/WindowView.h"
+#include "qt/text/TextPanelView.h"
+#include "qt/windows/WindowView.h"
 
 #include <QGroupBox>
 #include <QLabel>

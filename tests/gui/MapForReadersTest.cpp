@@ -1,6 +1,6 @@
 #include "gui/ProgramWindowTest.h"
-#include "gui/qt/Readers.h"
-#include "platform/qt/KeyboardPointer.h"
+#include "qt/pictures/KeyboardPointer.h"
+#include "qt/views/Reader.h"
 
 #include <QTest>
 

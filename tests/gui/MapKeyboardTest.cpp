@@ -1,5 +1,5 @@
 #include "gui/ProgramWindowTest.h"
-#include "platform/qt/KeyboardPointer.h"
+#include "qt/pictures/KeyboardPointer.h"
 
 #include <QTest>
 

@@ -1,5 +1,5 @@
 #include "gui/ProgramWindowTest.h"
-#include "map/MapInteraction.h"
+#include "map/subjects/MapInteraction.h"
 #include "support/Pixels.h"
 #include "support/Refusal.h"
 

@@ -1,6 +1,6 @@
 #include "gui/EveryWindow.h"
 #include "gui/MenuPaths.h"
-#include "platform/qt/AccessibleName.h"
+#include "qt/views/AccessibleName.h"
 
 #include <QMenu>
 #include <QMenuBar>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Controls.h"
+#include "platform/controls/Controls.h"
 
 #include <QAccessible>
 #include <QWidget>

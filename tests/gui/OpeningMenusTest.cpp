@@ -1,9 +1,9 @@
 #include "gui/EveryWindow.h"
 #include "gui/MenuPaths.h"
-#include "gui/qt/Dialogs.h"
 #include "map/tools/ToolSelection.h"
-#include "program/AlternateBranch.h"
-#include "shell/FatalPath.h"
+#include "program/branch/SiblingBranch.h"
+#include "qt/Dialogs.h"
+#include "shell/run/RunHandler.h"
 
 #include <QMenu>
 #include <QMenuBar>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "gui/qt/WindowTest.h"
-#include "program/Program.h"
-#include "shell/StartUp.h"
-#include "shell/handlers/Handlers.h"
+#include "program/state/Program.h"
+#include "qt/WindowTest.h"
+#include "shell/handlers/InstallHandlers.h"
+#include "shell/run/StartUp.h"
 #include "support/BranchBuilder.h"
 #include "support/PdfPrinter.h"
 #include "support/ScriptedPrompts.h"

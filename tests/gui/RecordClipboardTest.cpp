@@ -1,5 +1,5 @@
 #include "gui/ProgramWindowTest.h"
-#include "program/WorkDatabase.h"
+#include "program/branch/WorkDatabase.h"
 #include "support/SqliteFile.h"
 
 #include <QClipboard>

@@ -1,6 +1,6 @@
 #include "gui/ProgramWindowTest.h"
-#include "platform/OtherPrograms.h"
-#include "program/WorkDatabase.h"
+#include "platform/store/OtherPrograms.h"
+#include "program/branch/WorkDatabase.h"
 #include "support/SqliteFile.h"
 
 #include <QLabel>

@@ -1,5 +1,5 @@
 #include "gui/ProgramWindowTest.h"
-#include "platform/qt/WindowView.h"
+#include "qt/windows/WindowView.h"
 #include "support/ProgramTest.h"
 
 #include <QScreen>

@@ -2,9 +2,9 @@
 #include "forms/Form3.h"
 #include "forms/Form5.h"
 #include "forms/Form7.h"
-#include "gui/qt/WindowTest.h"
-#include "platform/qt/ScaledStyle.h"
-#include "platform/qt/WindowView.h"
+#include "qt/WindowTest.h"
+#include "qt/style/ScaledStyle.h"
+#include "qt/windows/WindowView.h"
 
 #include <QLabel>
 #include <QLineEdit>

@@ -1,7 +1,7 @@
 #include "interchange/InterchangeTest.h"
-#include "program/AliasList.h"
-#include "program/AlternateBranch.h"
-#include "program/WorkDatabase.h"
+#include "program/branch/AliasList.h"
+#include "program/branch/SiblingBranch.h"
+#include "program/branch/WorkDatabase.h"
 #include "support/Pixels.h"
 
 #include <QDir>

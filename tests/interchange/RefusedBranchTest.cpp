@@ -1,7 +1,7 @@
 #include "interchange/InterchangeTest.h"
 #include "map/tools/ToolMouse.h"
-#include "program/AlternateBranch.h"
-#include "program/WorkDatabase.h"
+#include "program/branch/SiblingBranch.h"
+#include "program/branch/WorkDatabase.h"
 #include "support/SqliteFile.h"
 
 #include <QDir>
@@ -141,8 +141,7 @@ void PrintTo(const Command& command, std::ostream* out)
     *out << command.Name;
 }
 
-class CommandAfterRefusalTest : public RefusedBranchTest,
-                                public testing::WithParamInterface<std::tuple<Way, Command>>
+class CommandAfterRefusalTest : public RefusedBranchTest, public testing::WithParamInterface<std::tuple<Way, Command>>
 {
 };
 

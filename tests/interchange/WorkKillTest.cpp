@@ -1,5 +1,5 @@
 #include "interchange/InterchangeTest.h"
-#include "program/WorkDatabase.h"
+#include "program/branch/WorkDatabase.h"
 #include "support/ChildProcess.h"
 #include "support/HomeVerdict.h"
 #include "support/SqliteFile.h"

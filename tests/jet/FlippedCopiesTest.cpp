@@ -1,5 +1,5 @@
 #include "jet/OldBranchTest.h"
-#include "platform/JetRows.h"
+#include "platform/store/JetRows.h"
 
 #include <QDir>
 #include <QProcess>

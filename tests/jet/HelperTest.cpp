@@ -1,6 +1,6 @@
 #include "jet/Fixtures.h"
 #include "jet/Limits.h"
-#include "platform/JetRows.h"
+#include "platform/store/JetRows.h"
 #include "support/ChildProcess.h"
 #include "support/TemporaryHome.h"
 

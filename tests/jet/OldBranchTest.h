@@ -1,7 +1,7 @@
 #pragma once
 
 #include "jet/Fixtures.h"
-#include "program/WorkDatabase.h"
+#include "program/branch/WorkDatabase.h"
 #include "shell/ShellTest.h"
 #include "support/SqliteFile.h"
 

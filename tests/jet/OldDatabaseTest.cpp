@@ -1,5 +1,5 @@
 #include "jet/OldBranchTest.h"
-#include "program/AlternateBranch.h"
+#include "program/branch/SiblingBranch.h"
 #include "support/Refusal.h"
 
 #include <sys/stat.h>

@@ -39,14 +39,14 @@ const NamedTitles namedTitles[] = {
      u"addition.Title.toString()"_s,
      {u"Gallery Picture Addition."_s, u"Gallery Sound Clip Addition."_s, u"Gallery Video Clip Addition."_s,
       u"Gallery Text File Addition."_s}},
-    {u"gedcom/GedcomWriter.cpp"_s,
+    {u"gedcom/writer/GedcomWriter.cpp"_s,
      u"requirement.Title.toString()"_s,
      {u"Incomplete Name"_s, u"Incomplete Address"_s, u"Incomplete Record number"_s}},
     {u"interchange/BranchDatabase.cpp"_s, u"title"_s},
     {u"interchange/BranchDatabase.cpp"_s, u"why"_s},
-    {u"map/MapInteraction.cpp"_s, u"title"_s},
-    {u"program/AliasList.cpp"_s, u"title"_s},
-    {u"program/AlternateBranch.cpp"_s, u"title"_s},
+    {u"map/subjects/MapInteraction.cpp"_s, u"title"_s},
+    {u"program/branch/AliasList.cpp"_s, u"title"_s},
+    {u"program/branch/SiblingBranch.cpp"_s, u"title"_s},
 };
 
 // A title as its expression gives it: one text, or texts with something in between.

@@ -1,6 +1,6 @@
 #include "map/MapPlayer.h"
 
-#include "map/EnterBranch.h"
+#include "map/subjects/EnterBranch.h"
 
 // A play's beginning, and what is done beside pressing on the map.
 namespace lineforge

@@ -1,5 +1,5 @@
 #include "map/MapPlayer.h"
-#include "map/ToolsTest.h"
+#include "map/tools/ToolsTest.h"
 
 // Whether a program and the model are alike.
 namespace lineforge

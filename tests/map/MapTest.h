@@ -1,8 +1,8 @@
 #pragma once
 
-#include "map/MapFile.h"
-#include "map/MapParse.h"
-#include "program/WorkDatabase.h"
+#include "map/items/MapFile.h"
+#include "map/items/MapParse.h"
+#include "program/branch/WorkDatabase.h"
 #include "support/BranchBuilder.h"
 #include "support/Pixels.h"
 #include "support/ProgramTest.h"

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "map/MapDisplay.h"
-#include "map/MapFile.h"
-#include "map/MapParse.h"
-#include "program/WorkDatabase.h"
-#include "shell/handlers/Handlers.h"
+#include "map/items/MapDisplay.h"
+#include "map/items/MapFile.h"
+#include "map/items/MapParse.h"
+#include "program/branch/WorkDatabase.h"
+#include "shell/handlers/InstallHandlers.h"
 #include "support/BranchBuilder.h"
 #include "support/Pixels.h"
 #include "support/TestPlatform.h"

@@ -6,9 +6,9 @@
 #include "monkey/Ledger.h"
 #include "monkey/Scratch.h"
 #include "monkey/SessionTime.h"
-#include "program/BranchPaths.h"
-#include "program/Program.h"
-#include "program/WorkDatabase.h"
+#include "program/branch/BranchPaths.h"
+#include "program/branch/WorkDatabase.h"
+#include "program/state/Program.h"
 
 #include <QColorDialog>
 #include <QDialogButtonBox>

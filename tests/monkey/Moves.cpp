@@ -3,7 +3,7 @@
 #include "monkey/Hands.h"
 #include "monkey/Journal.h"
 #include "monkey/SessionTime.h"
-#include "platform/qt/QtPlatform.h"
+#include "qt/QtPlatform.h"
 
 #include <QAbstractScrollArea>
 #include <QAction>

@@ -3,8 +3,8 @@
 #include "monkey/Journal.h"
 #include "monkey/Scratch.h"
 #include "monkey/SessionTime.h"
-#include "platform/qt/QtPlatform.h"
-#include "program/Program.h"
+#include "program/state/Program.h"
+#include "qt/QtPlatform.h"
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>

@@ -3,12 +3,12 @@
 #include "forms/Form1.h"
 #include "monkey/Journal.h"
 #include "monkey/Scratch.h"
-#include "platform/qt/QtPlatform.h"
-#include "program/Program.h"
-#include "program/WorkDatabase.h"
-#include "shell/FatalPath.h"
-#include "shell/StartUp.h"
-#include "shell/handlers/Handlers.h"
+#include "program/branch/WorkDatabase.h"
+#include "program/state/Program.h"
+#include "qt/QtPlatform.h"
+#include "shell/handlers/InstallHandlers.h"
+#include "shell/run/RunHandler.h"
+#include "shell/run/StartUp.h"
 
 #include <QApplication>
 

@@ -6,11 +6,11 @@
 #include "monkey/Player.h"
 #include "monkey/Scratch.h"
 #include "monkey/SessionTime.h"
-#include "platform/qt/QtPlatform.h"
-#include "program/Program.h"
-#include "shell/FatalPath.h"
-#include "shell/StartUp.h"
-#include "shell/handlers/Handlers.h"
+#include "program/state/Program.h"
+#include "qt/QtPlatform.h"
+#include "shell/handlers/InstallHandlers.h"
+#include "shell/run/RunHandler.h"
+#include "shell/run/StartUp.h"
 #include "support/FakeProcesses.h"
 
 #include <QApplication>

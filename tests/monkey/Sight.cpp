@@ -1,8 +1,8 @@
 #include "monkey/Sight.h"
 
 #include "monkey/Hands.h"
-#include "platform/qt/QtPlatform.h"
-#include "program/Program.h"
+#include "program/state/Program.h"
+#include "qt/QtPlatform.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>

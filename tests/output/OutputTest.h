@@ -1,7 +1,7 @@
 #pragma once
 
 #include "output/Paper.h"
-#include "program/WorkDatabase.h"
+#include "program/branch/WorkDatabase.h"
 #include "shell/ShellTest.h"
 
 namespace lineforge

@@ -1,5 +1,5 @@
 #include "gui/ProgramWindowTest.h"
-#include "gui/qt/Dialogs.h"
+#include "qt/Dialogs.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,6 +1,6 @@
 #include "records/AddRecord.h"
 
-#include "gedcom/Lineage.h"
+#include "gedcom/writer/Lineage.h"
 #include "records/RecordTest.h"
 #include "support/Pixels.h"
 

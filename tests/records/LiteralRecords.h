@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Prompts.h"
+#include "platform/machine/Prompts.h"
 #include "records/LiteralTables.h"
 
 #include <array>

@@ -1,6 +1,6 @@
 #include "records/RecordForm.h"
 
-#include "map/MapItems.h"
+#include "map/items/MapItems.h"
 #include "records/RecordTest.h"
 #include "support/Pixels.h"
 

@@ -1,6 +1,6 @@
 #include "records/RecordScanner.h"
 
-#include "program/AlternateBranch.h"
+#include "program/branch/SiblingBranch.h"
 #include "records/RecordTest.h"
 
 namespace lineforge

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "program/WorkDatabase.h"
+#include "program/branch/WorkDatabase.h"
 #include "records/RecordScanner.h"
 #include "shell/ShellTest.h"
 #include "support/SqliteFile.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "map/MapItems.h"
+#include "map/items/MapItems.h"
 #include "records/RecordTest.h"
 #include "support/Pixels.h"
 

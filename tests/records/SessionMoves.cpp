@@ -1,5 +1,5 @@
 #include "compare/Sides.h"
-#include "program/WorkDatabase.h"
+#include "program/branch/WorkDatabase.h"
 #include "records/RecordSearch.h"
 #include "records/SessionPlayer.h"
 #include "records/SessionView.h"

@@ -1,12 +1,12 @@
 #include "records/SessionPlayer.h"
 
 #include "compare/Sides.h"
-#include "program/WorkDatabase.h"
+#include "program/branch/WorkDatabase.h"
 #include "records/SessionView.h"
-#include "shell/ErrorInWords.h"
-#include "shell/FatalPath.h"
-#include "shell/StartUp.h"
-#include "shell/handlers/Handlers.h"
+#include "shell/handlers/InstallHandlers.h"
+#include "shell/run/ErrorInWords.h"
+#include "shell/run/RunHandler.h"
+#include "shell/run/StartUp.h"
 
 #include <QColor>
 

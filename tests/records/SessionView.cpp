@@ -1,7 +1,7 @@
 #include "records/SessionView.h"
 
 #include "compare/Sides.h"
-#include "program/WorkDatabase.h"
+#include "program/branch/WorkDatabase.h"
 
 #include <QColor>
 

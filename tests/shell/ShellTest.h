@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/OtherPrograms.h"
-#include "shell/FatalPath.h"
-#include "shell/StartUp.h"
+#include "platform/store/OtherPrograms.h"
+#include "shell/run/RunHandler.h"
+#include "shell/run/StartUp.h"
 #include "support/BranchBuilder.h"
 #include "support/ProgramTest.h"
 #include "support/SqliteFile.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/FileSystem.h"
-#include "platform/Geometry.h"
+#include "platform/drawing/Geometry.h"
+#include "platform/files/FileSystem.h"
 #include "support/TemporaryHome.h"
 
 #include <QMap>

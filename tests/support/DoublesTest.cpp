@@ -1,4 +1,4 @@
-#include "platform/PictureBox.h"
+#include "platform/canvas/PictureBox.h"
 #include "support/Pixels.h"
 #include "support/RecordingSurface.h"
 #include "support/TestPlatform.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Platform.h"
+#include "platform/machine/Platform.h"
 
 #include <deque>
 #include <functional>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Processes.h"
-#include "platform/RuntimeError.h"
+#include "platform/base/RuntimeError.h"
+#include "platform/machine/Processes.h"
 
 #include <QFileInfo>
 #include <QStringList>

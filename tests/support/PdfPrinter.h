@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Printer.h"
-#include "platform/RuntimeError.h"
+#include "platform/base/RuntimeError.h"
+#include "platform/machine/Printer.h"
 #include "support/TemporaryHome.h"
 
 #include <QPdfWriter>

@@ -1,6 +1,6 @@
 #include "support/Pixels.h"
 
-#include "platform/PictureBox.h"
+#include "platform/canvas/PictureBox.h"
 
 #include <gtest/gtest.h>
 

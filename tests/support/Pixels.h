@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Geometry.h"
-#include "platform/Surface.h"
+#include "platform/drawing/Geometry.h"
+#include "platform/drawing/Surface.h"
 
 #include <QImage>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Geometry.h"
-#include "platform/Prompts.h"
+#include "platform/drawing/Geometry.h"
+#include "platform/machine/Prompts.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "program/Program.h"
-#include "shell/handlers/Handlers.h"
+#include "program/state/Program.h"
+#include "shell/handlers/InstallHandlers.h"
 #include "support/TestPlatform.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Surface.h"
+#include "platform/drawing/Surface.h"
 
 #include <QStringList>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Prompts.h"
+#include "platform/machine/Prompts.h"
 
 #include <deque>
 #include <functional>

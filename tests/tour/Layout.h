@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Form.h"
-#include "platform/qt/Scale.h"
+#include "platform/controls/Form.h"
+#include "qt/style/Scale.h"
 
 #include <QRect>
 

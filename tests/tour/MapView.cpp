@@ -1,7 +1,7 @@
 #include "MapView.h"
 
 #include "Ink.h"
-#include "program/MapState.h"
+#include "program/state/MapState.h"
 
 namespace lineforge::tour
 {

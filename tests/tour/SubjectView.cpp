@@ -2,7 +2,7 @@
 
 #include "Ink.h"
 #include "MapView.h"
-#include "program/MapState.h"
+#include "program/state/MapState.h"
 
 namespace lineforge::tour
 {

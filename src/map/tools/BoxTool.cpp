@@ -1,11 +1,11 @@
 #include "map/tools/BoxTool.h"
 
-#include "map/BoxCaptions.h"
-#include "map/CurrentBox.h"
-#include "map/HitTest.h"
-#include "map/MapItems.h"
-#include "program/BranchUi.h"
-#include "program/WorkDatabase.h"
+#include "map/items/BoxCaptions.h"
+#include "map/items/CurrentBox.h"
+#include "map/items/HitBox.h"
+#include "map/items/MapItems.h"
+#include "program/branch/WorkDatabase.h"
+#include "program/ui/BranchUi.h"
 
 namespace lineforge
 {

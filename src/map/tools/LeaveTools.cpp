@@ -1,15 +1,15 @@
 #include "map/tools/LeaveTools.h"
 
-#include "map/CurrentBox.h"
-#include "map/MapFile.h"
-#include "map/MapItems.h"
-#include "map/MapParse.h"
+#include "map/items/CurrentBox.h"
+#include "map/items/MapFile.h"
+#include "map/items/MapItems.h"
+#include "map/items/MapParse.h"
 #include "map/tools/ToolImages.h"
 #include "map/tools/ToolMouse.h"
 #include "map/tools/ToolSelection.h"
-#include "program/AlternateBranch.h"
-#include "program/BranchUi.h"
-#include "program/WorkDatabase.h"
+#include "program/branch/SiblingBranch.h"
+#include "program/branch/WorkDatabase.h"
+#include "program/ui/BranchUi.h"
 
 namespace lineforge
 {

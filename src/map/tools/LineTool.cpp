@@ -1,8 +1,8 @@
 #include "map/tools/LineTool.h"
 
-#include "map/MapItems.h"
-#include "map/Pointer.h"
-#include "map/tools/HitLine.h"
+#include "map/items/HitLine.h"
+#include "map/items/MapItems.h"
+#include "map/items/PointerOnMap.h"
 
 #include <cstdlib>
 

@@ -1,7 +1,7 @@
 #include "map/tools/TextTool.h"
 
-#include "map/HitTest.h"
-#include "map/MapItems.h"
+#include "map/items/HitBox.h"
+#include "map/items/MapItems.h"
 
 #include <utility>
 

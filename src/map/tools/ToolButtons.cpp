@@ -3,8 +3,8 @@
 #include "map/tools/ToolImages.h"
 #include "map/tools/ToolMouse.h"
 #include "map/tools/ToolSelection.h"
-#include "program/AlternateBranch.h"
-#include "program/BranchUi.h"
+#include "program/branch/SiblingBranch.h"
+#include "program/ui/BranchUi.h"
 
 #include <algorithm>
 

@@ -1,14 +1,14 @@
 #include "map/tools/ToolMouse.h"
 
-#include "map/MapDisplay.h"
-#include "map/MapInteraction.h"
-#include "map/Pointer.h"
+#include "map/items/MapDisplay.h"
+#include "map/items/PointerOnMap.h"
+#include "map/subjects/MapInteraction.h"
 #include "map/tools/BoxTool.h"
 #include "map/tools/LineTool.h"
 #include "map/tools/TextTool.h"
 #include "map/tools/ToolSelection.h"
 #include "map/tools/ZoneTool.h"
-#include "program/BranchUi.h"
+#include "program/ui/BranchUi.h"
 
 #include <algorithm>
 #include <iterator>

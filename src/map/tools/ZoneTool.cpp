@@ -1,9 +1,9 @@
 #include "map/tools/ZoneTool.h"
 
-#include "map/BoxCaptions.h"
-#include "map/HitTest.h"
-#include "map/MapDisplay.h"
-#include "map/MapItems.h"
+#include "map/items/BoxCaptions.h"
+#include "map/items/HitBox.h"
+#include "map/items/MapDisplay.h"
+#include "map/items/MapItems.h"
 #include "map/tools/ToolImages.h"
 #include "map/tools/ToolSelection.h"
 

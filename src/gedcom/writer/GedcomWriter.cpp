@@ -1,0 +1,197 @@
+#include "gedcom/writer/GedcomWriter.h"
+
+#include "gedcom/writer/Lineage.h"
+#include "program/ui/BranchUi.h"
+#include "program/ui/ProgressPanel.h"
+
+#include <span>
+#include <utility>
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+template <TextBox forms::Form12::*Box>
+QString TextOf(Program& p)
+{
+    return ((*p.Form12).*Box).Text;
+}
+
+enum class When { Always, IfFilled, IfFilledThenStep };
+
+struct FileLine {
+    QStringView Text;
+    QString (*Value)(Program& p) = nullptr; // what follows it
+    When Condition = When::Always;
+    QStringView Shown = {}; // in the panel, where that differs
+};
+
+// The comma before "3 ADDR", the dates and times without a value and the subject's picture for a file name are meant to
+// be so, and so is the date of the data.
+constexpr FileLine head[] = {
+    {u"0 HEAD"},
+    {u"1 SOUR"},
+    {u"2 NAME Tarnwick.Exe software"},
+    {u"2 VERS 1.2"},
+    {u"2 CORP Tarnwick Technology"},
+    {u",3 ADDR Westholme, Marsh End,", nullptr, When::Always, u"3 ADDR Westholme, Marsh End,"},
+    {u"4 CONT Marshland, XX, AB12 3CD"},
+    {u"2 DATA"},
+    {u"3 DATE May 2001"},
+    {u"3 COPY Copyright 2001 Tarnwick Technology"},
+    {u"1 DEST PAF"},
+    {u"1 DATE "},
+    {u"2 TIME "},
+    {u"1 FILE ", [](Program& p) { return p.Record.sPicFile; }},
+    {u"1 GEDC"},
+    {u"2 VERS GEDCOM 5.5"},
+    {u"2 FORM LINEAGE-LINKED"},
+    {u"1 CHAR ANSEL"},
+    {u"1 SUBM @SUB01@"},
+    {u"1 SUBN @N01@"},
+    {u"0 @SUB01@ SUBM"},
+    {u"1 NAME Created by ", TextOf<&forms::Form12::Text1>},
+    {u"1 ADDR ", TextOf<&forms::Form12::Text2>},
+    {u"2 CONT ", TextOf<&forms::Form12::Text3>, When::IfFilled},
+    {u"2 CONT ", TextOf<&forms::Form12::Text4>, When::IfFilled},
+    {u"2 PHON ", TextOf<&forms::Form12::Text5>, When::IfFilledThenStep},
+};
+
+constexpr FileLine tail[] = {
+    {u"0 @N01@ SUBN"},
+    {u"1 DESC ", [](Program& p) { return p.Lineage.sLineageCount; }},
+    {u"1 ORDI N"},
+    {u"0 TRLR"},
+};
+
+void PutLine(Program& p, const FileLine& line)
+{
+    const QString value = line.Value ? line.Value(p) : QString();
+    if (line.Condition != When::Always && value.isEmpty())
+        return;
+    p.Lineage.GedcomFile->Line(QString(line.Text + value));
+    p.Form12->Picture1.Print(QString((line.Shown.isEmpty() ? line.Text : line.Shown) + value));
+    if (line.Condition == When::IfFilledThenStep)
+        LineageStep(p);
+}
+
+void PutLines(Program& p, std::span<const FileLine> lines)
+{
+    for (const FileLine& line : lines)
+        PutLine(p, line);
+}
+
+struct Requirement {
+    bool (*IsMet)(const forms::Form12& form);
+    QStringView Title;
+    QStringView Text;
+};
+
+constexpr int recordNumberLength = 4;
+
+constexpr Requirement requirements[] = {
+    {[](const forms::Form12& form) { return !form.Text1.Text.value().isEmpty(); }, u"Incomplete Name",
+     u"Must complete Submitter Name."},
+    {[](const forms::Form12& form) { return !form.Text2.Text.value().isEmpty(); }, u"Incomplete Address",
+     u"Must complete Submitter Address."},
+    {[](const forms::Form12& form) { return form.Text7.Text.value().size() == recordNumberLength; },
+     u"Incomplete Record number", u"Must complete Record number."},
+};
+
+// Tells of the first that isn't met; false when all are.
+bool TellIfIncomplete(Program& p)
+{
+    for (const Requirement& requirement : requirements)
+        if (!requirement.IsMet(*p.Form12)) {
+            p.Prompts.MsgBox(requirement.Title.toString(), requirement.Text.toString(), Buttons::Information);
+            return true;
+        }
+    return false;
+}
+
+void CloseGedcomFile(Program& p)
+{
+    const std::unique_ptr<SequentialFile> file = std::move(p.Lineage.GedcomFile);
+    file->Close();
+}
+
+// Without its last lines it would pass for a whole one; with the branch it may have gone already.
+void KillUnfinished(Program& p, const QString& path)
+{
+    p.Lineage.GedcomFile.reset();
+    p.Errors.Ignoring([&] { p.Files.Kill(path); });
+}
+
+void DropUnfinished(Program& p, const QString& path)
+{
+    KillUnfinished(p, path);
+    p.Prompts.MsgBox(u"GedCom File"_s, u"The Tree Branch was left before the GedCom file was complete."_s,
+                     Buttons::Information);
+}
+} // namespace
+
+void ShowGedcomForm(Program& p)
+{
+    p.Form12->Show();
+    p.Form12->Picture1.Cls();
+}
+
+void LoadGedcomForm(Program& p)
+{
+    forms::Form12& form = *p.Form12;
+    FillScreen(p, form, 700);
+    form.Caption = u"Create GEDCOM file"_s;
+}
+
+void ResetGedcomForm(forms::Form12& form)
+{
+    for (TextBox* box : form.Texts())
+        box->Text = QString();
+}
+
+void CreateGedcomFile(Program& p)
+{
+    if (p.Lineage.GedcomFile)
+        return;
+    p.Form12->Picture1.Cls();
+    p.Form12->VScroll1.Value = 0;
+    if (TellIfIncomplete(p) || TellIfNoBranch(p))
+        return;
+    // A deletion has left the branch's name, and no more.
+    if (!IsWalkable(p))
+        return TellNoBranch(p);
+    WriteGedcomFile(p);
+}
+
+void WriteGedcomFile(Program& p)
+{
+    const QString path = p.Branch.WorkDir + PathSeparator + u"Gedcom.tmp";
+    p.Scratch.sFileA = path;
+    p.Form12->Picture1.Cls();
+    p.Form12->Picture1.Print(QString(u"   Data placed in directory " + path));
+    p.Form12->Picture1.Print();
+    p.Lineage.GedcomFile = std::make_unique<SequentialFile>(p.Files, path);
+    try {
+        PutLines(p, head);
+        CollectLineage(p);
+        PutLines(p, tail);
+        KeepLastLineInView(p.Form12->Picture1, p.Form12->VScroll1);
+        CloseGedcomFile(p);
+    } catch (const LineageAbandoned&) {
+        DropUnfinished(p, path);
+    } catch (const RuntimeError& refusal) {
+        if (refusal.IsTold)
+            KillUnfinished(p, path);
+        throw;
+    } catch (const ProgramEnded&) {
+        // After an unmet error the file has been closed, and stays with what it holds.
+        if (p.Lineage.GedcomFile)
+            KillUnfinished(p, path);
+        throw;
+    }
+}
+
+} // namespace lineforge

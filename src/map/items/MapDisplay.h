@@ -1,0 +1,17 @@
+#pragma once
+
+#include "program/state/Program.h"
+
+namespace lineforge
+{
+
+// Repaints boxes, texts and lines from the arrays up to their counts, then all captions; a spoilt item costs its own
+// drawing. The current record stays, its position in `SavedBookmark`; from behind the last row the cursor comes back to
+// what stood there before.
+void RedrawMap(Program& p);
+
+// Shows a point of the picture beside the map, and the corner that a box centred on it would have; both are kept for
+// the mapping of a new box.
+void ShowCoordinates(Program& p, double x, double y);
+
+} // namespace lineforge

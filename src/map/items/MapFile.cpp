@@ -1,0 +1,232 @@
+#include "map/items/MapFile.h"
+
+#include "platform/base/Text.h"
+#include "platform/files/TextFile.h"
+#include "program/branch/BranchPaths.h"
+#include "program/branch/SiblingBranch.h"
+
+#include <QScopeGuard>
+
+#include <algorithm>
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr int fileNameLength = 12; // of "LfgDat_A.cfg"
+
+bool BreaksList(QChar character)
+{
+    return QStringView(u",[\r\n").contains(character);
+}
+
+// Without what breaks the list a number might be another record's: such a box is empty in the file.
+QString FiledNumber(const Cell& file)
+{
+    return FitsList(file.Text()) ? file.Text() : u"0"_s;
+}
+
+void Append(QString& list, QChar character)
+{
+    if (character != u'\r' && character != u'\n')
+        list += character;
+}
+
+// Appends to the list itself, so that what a cut-off file still holds is there when its end is met as an error.
+void ReadUpToBracket(TextReader& reader, QString& list)
+{
+    list.clear();
+    for (QChar character = reader.Next(); character != u'['; character = reader.Next())
+        Append(list, character);
+}
+
+// A "[" can stand in the last list, for nothing follows it.
+void ReadToEnd(TextReader& reader, QString& list)
+{
+    list.clear();
+    while (!reader.AtEnd())
+        Append(list, reader.Next());
+}
+
+// The "[" that ended the list before is the first letter of the name, and has been read.
+bool NextSectionIs(TextReader& reader, QStringView rest)
+{
+    for (const QChar expected : rest)
+        if (reader.AtEnd() || reader.Next().toLower() != expected.toLower())
+            return false;
+    return true;
+}
+
+// After a name that isn't the expected one the search goes on for the first section, in what is left of the file.
+bool ReadLists(TextReader& reader, MapState& map)
+{
+    while (reader.SkipPast(u"[Boxes]")) {
+        ReadUpToBracket(reader, map.sBoxesText);
+        if (!NextSectionIs(reader, u"Lines]"))
+            continue;
+        ReadUpToBracket(reader, map.sLinesText);
+        if (!NextSectionIs(reader, u"Text]"))
+            continue;
+        ReadToEnd(reader, map.sTextsText);
+        return true;
+    }
+    return false;
+}
+
+void WarnOfFirstEmptyList(Program& p)
+{
+    const struct {
+        const QString& List;
+        QStringView Kind;
+    } lists[] = {{p.Map.sBoxesText, u"Box"}, {p.Map.sLinesText, u"Line"}, {p.Map.sTextsText, u"Text"}};
+    for (const auto& [list, kind] : lists) {
+        if (list.isEmpty()) {
+            p.Prompts.MsgBox(u"Box Config File record corrupt"_s, u"Config "_s + kind + u" Record empty",
+                             Buttons::Information);
+            return;
+        }
+    }
+}
+
+// A map goes to no branch but its own. With none open there is no branch to be spoilt.
+bool BelongsToOpenBranch(const Program& p)
+{
+    return p.Branch.WorkDir.isEmpty() || p.Map.Owner == p.Branch.WorkDir;
+}
+
+void WriteLists(Program& p)
+{
+    const QString file = MapFileToWrite(p.Branch.WorkDir, p.Branch.HomeDir, u".cfg");
+    if (p.Files.LookUpGivesTail(file, fileNameLength))
+        p.Files.FileCopy(file, MapFileToWrite(p.Branch.WorkDir, p.Branch.HomeDir, u".~cf"));
+    WriteTextLines(p.Files, file,
+                   {u"This File Contains Graphic Data crucial to your program. Warning: DO NOT MODIFY."_s,
+                    u'[' + DirectoryName(p.Branch.WorkDir) + u']', u"[Boxes]"_s, p.Map.sBoxesText, u"[Lines]"_s,
+                    p.Map.sLinesText, u"[Text]"_s, p.Map.sTextsText});
+}
+} // namespace
+
+void EraseItems(Program& p)
+{
+    p.Map.EraseItems();
+    p.Mouse.BoxIdx = 0;
+    p.Mouse.BoxMiss = 0;
+    p.Tools.TextIdx = 0;
+    p.Tools.TextMiss = 0;
+    p.Tools.LineMiss = 0;
+    p.Tools.ChainTop = 0;
+    p.Tools.ZoneTexts.Erase();
+    p.Tools.ZoneBoxes.Erase();
+    p.Tools.ZoneLines.Erase();
+}
+
+void EraseMap(Program& p)
+{
+    EraseItems(p);
+    p.Map.Erase();
+    p.Tools.ToolBookmark.reset();
+}
+
+QString FiledForename(QString forename)
+{
+    forename.removeIf(BreaksList);
+    return forename;
+}
+
+bool FitsList(QStringView value)
+{
+    return std::ranges::none_of(value, BreaksList);
+}
+
+void ReadMapFile(Program& p)
+{
+    const QString file = MapFileToRead(p.Branch.WorkDir);
+    p.Map.Owner = p.Branch.WorkDir;
+    if (!p.Files.LookUpGivesTail(file, fileNameLength)) {
+        p.Prompts.MsgBox(u"Graphic Config File not Found."_s,
+                         u"You need to create a new Ancestral Map for this Database."_s, Buttons::Information);
+        return;
+    }
+    ReadMapLists(p.Files, file, p.Map);
+    WarnOfFirstEmptyList(p);
+}
+
+bool ReadMapLists(const FileSystem& files, const QString& path, MapState& map)
+{
+    TextReader reader(files, path);
+    return ReadLists(reader, map);
+}
+
+void WriteMapFile(Program& p)
+{
+    const bool isAlternate = p.Branch.UsingAlternate == 1;
+    if (isAlternate)
+        SwapBranchDirs(p);
+    const auto swapBack = qScopeGuard([&] {
+        if (isAlternate)
+            SwapBranchDirs(p);
+    });
+    if (BelongsToOpenBranch(p))
+        WriteLists(p);
+}
+
+void SaveBoxes(Program& p)
+{
+    p.Map.sBoxesText = ListOfBoxes(p.Map);
+    WriteMapFile(p);
+}
+
+QString ListWithForename(const QString& boxes, const QString& file, const QString& forename)
+{
+    QStringList values = boxes.split(u',');
+    for (qsizetype row = 0; row + BoxColumn::Forename < values.size(); row += BoxColumn::Count) {
+        if (file.isEmpty() || !SameText(values[row + BoxColumn::File], file))
+            continue;
+        values[row + BoxColumn::Forename] = FiledForename(forename);
+        break;
+    }
+    return values.join(u',');
+}
+
+QString ListOfBoxes(const MapState& map)
+{
+    QString list;
+    for (int row = 0; row <= LastFiledBox; ++row) {
+        const auto& box = map.BoxArr[row];
+        if (box[BoxColumn::X].IsZero())
+            continue;
+        for (int column = 0; column < BoxColumn::File; ++column)
+            list += box[column].Text() + u',';
+        list += FiledNumber(box[BoxColumn::File]) + u',' + FiledForename(box[BoxColumn::Forename].Text()) + u',';
+    }
+    return list;
+}
+
+QString ListOfLines(const MapState& map)
+{
+    QString list;
+    for (int row = 0; row <= LastFiledLine; ++row) {
+        if (map.LineArr[row][LineColumn::X1] == 0)
+            continue;
+        for (int column = 0; column < LineColumn::Count; ++column)
+            list += QString::number(map.LineArr[row][column]) + u',';
+    }
+    return list;
+}
+
+QString ListOfTexts(const MapState& map)
+{
+    QString list;
+    for (int row = 0; row <= map.STexts; ++row) {
+        if (map.TextArr[row][TextColumn::X].IsZero())
+            continue;
+        for (int column = 0; column < TextColumn::Count; ++column)
+            list += map.TextArr[row][column].Text() + u',';
+    }
+    return list;
+}
+
+} // namespace lineforge

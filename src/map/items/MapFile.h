@@ -1,0 +1,49 @@
+#pragma once
+
+#include "program/state/Program.h"
+
+namespace lineforge
+{
+
+// The map file: eight lines, the last of each pair a list of values with a comma after every one.
+
+// Empties the three arrays, with all that a gesture has found in them: a hit may not outlive what it points at. The
+// counts keep their values.
+void EraseItems(Program& p);
+
+// Empties the whole map before another branch's is read. Where the records stood when tools were opened is forgotten.
+void EraseMap(Program& p);
+
+// A forename without what would break the file: a comma ends a value too early and shifts all that follow, a bracket
+// or the end of a line breaks the whole list. It stands so in the array and in its box, too.
+QString FiledForename(QString forename);
+
+// Whether a value can stand in a list of the map: without a comma, a "[" and a line break.
+bool FitsList(QStringView value);
+
+// Fills the three lists of the branch in `WorkDir`, and says which of them came out empty. A file that isn't there
+// leaves the lists as they were. Error 62 when it ends inside the boxes or the lines.
+void ReadMapFile(Program& p);
+
+// Fills the three lists from that file; false when it lacks one of them. Error 53 or 70 when it can't be read, 62 as
+// above; the lists then hold what was read.
+bool ReadMapLists(const FileSystem& files, const QString& path, MapState& map);
+
+// Writes the three lists, the old file becoming the previous generation. The file goes to the branch whose map is in
+// memory, also while a record of another branch is shown; lists of no branch, or of another one, are not written.
+// Errors of the disk; the old file then stays.
+void WriteMapFile(Program& p);
+
+// Rebuilds the list of boxes from rows 0 to 99 and writes the file. The lists of lines and texts go out as they were
+// last read or saved.
+void SaveBoxes(Program& p);
+
+// The list with another forename in the first box of that record; for the time that the arrays are being edited.
+QString ListWithForename(const QString& boxes, const QString& file, const QString& forename);
+
+// The three lists from the arrays, free rows left out.
+QString ListOfBoxes(const MapState& map);
+QString ListOfLines(const MapState& map); // rows 0 to 199
+QString ListOfTexts(const MapState& map); // rows 0 to `STexts`
+
+} // namespace lineforge

@@ -1,0 +1,139 @@
+#include "map/subjects/EnterBranch.h"
+
+#include "map/items/CurrentBox.h"
+#include "map/items/MapFile.h"
+#include "map/items/MapItems.h"
+#include "map/items/MapParse.h"
+#include "map/subjects/SubjectPanel.h"
+#include "program/branch/BranchPaths.h"
+#include "program/branch/EmptyTable.h"
+#include "program/branch/OldDatabase.h"
+#include "program/branch/SiblingBranch.h"
+#include "program/branch/WorkDatabase.h"
+#include "program/ui/BranchUi.h"
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+// Before the branch is left that it was typed for. What its database refuses is told and given up.
+void StoreOrGiveUpTyped(Program& p)
+{
+    try {
+        StoreTyped(p);
+    } catch (const RuntimeError& refusal) {
+        // Who has been asked already, and hasn't waited, keeps his text, and the branch with it.
+        if (refusal.IsTold)
+            throw;
+        ReportError(p, refusal);
+        p.Form3->Data1.GiveUpEdits();
+    }
+}
+
+// The program is named after another branch than the one whose records are open: any command would act on both. So the
+// records go, with all windows that show them, as when a branch is closed.
+void LetGoOfRecords(Program& p)
+{
+    p.Form2.Unload();
+    p.Form3.Unload();
+    p.Form5.Unload();
+    p.Form6.Unload();
+    // The gallery may have hidden it.
+    p.Form1->Show();
+}
+
+bool OpenDatabase(Program& p, const QString& directory)
+{
+    p.Branch.WorkDir = p.Branch.HomeDir + directory;
+    p.Branch.WorkDirLen = static_cast<int>(p.Branch.WorkDir.size());
+    p.Branch.sDbaseName = DatabaseName(BranchLetter(p.Branch.WorkDir));
+    const QString path = p.Branch.WorkDir + PathSeparator + p.Branch.sDbaseName;
+    try {
+        p.Files.ChDir(p.Branch.WorkDir);
+        PointAtDatabase(p, path);
+        return true;
+    } catch (const RuntimeError& refusal) {
+        LetGoOfRecords(p);
+        TellDatabaseRefused(p, path, refusal);
+        return false;
+    }
+}
+
+// The current record beside the map and its marker, each as far as it can be had. False without a picture.
+bool ShowSubject(Program& p)
+{
+    p.Errors.Ignoring([&] { SetPictureName(p); });
+    const bool hasPicture = ShowSubjectPicture(p);
+    p.Errors.Ignoring([&] { MarkCurrentBox(p); });
+    p.Errors.Ignoring([&] { FillSubjectLabels(p); });
+    return hasPicture;
+}
+} // namespace
+
+void PutMapAway(Program& p)
+{
+    ClearMapPicture(p);
+    ResetMapFont(p.Form1->Picture1);
+    EraseMap(p);
+    if (p.Branch.UsingAlternate == 1)
+        EndAlternate(p);
+}
+
+void ReturnToOwnSubject(Program& p)
+{
+    if (p.Branch.UsingAlternate != 1)
+        return;
+    ReturnFromSibling(p);
+    ShowSubject(p);
+}
+
+void DrawBranchMap(Program& p)
+{
+    p.Errors.Ignoring([&] { ReadMapFile(p); });
+    ParseWhatIsThere(p);
+}
+
+bool EnterBranch(Program& p, const QString& name, const QString& directory)
+{
+    StoreOrGiveUpTyped(p);
+    // Who doesn't wait for another program keeps the branch that he has.
+    const auto database = ReachDatabase(p, DatabasePath(p.Branch.HomeDir + directory));
+    p.Branch.sBranchName = name;
+    p.Form1->Shape1.Visible = false;
+    PutMapAway(p);
+    if (!OpenDatabase(p, directory))
+        return false;
+    p.Form6->Label2.Caption = name;
+    DrawBranchMap(p);
+    return true;
+}
+
+bool TellIfEmptyBranch(Program& p)
+{
+    if (!TellIfEmpty(p))
+        return false;
+    EmptySubjectLabels(p,
+                       {&forms::Form1::Label9, &forms::Form1::Label10, &forms::Form1::Label11, &forms::Form1::Label12,
+                        &forms::Form1::Label14, &forms::Form1::Label17},
+                       u"Ref  "_s);
+    // The picture of the branch before would stand for nobody here.
+    p.Form1->Image1.Picture = QImage();
+    return true;
+}
+
+void ShowFirstSubject(Program& p)
+{
+    forms::Form1& form = *p.Form1;
+    const bool hasPicture = ShowSubject(p);
+    form.Caption = u"Lineforge "_s + p.Branch.sBranchName + u" Tree Branch.";
+    p.Form3->Caption = u"Lineforge "_s + p.Branch.sBranchName + u" Records.";
+    if (!hasPicture) {
+        form.Shape1.Visible = false;
+        TellPictureMissing(p);
+    }
+}
+
+} // namespace lineforge

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "program/state/Program.h"
+
+namespace lineforge
+{
+
+// Clears the map in memory and on the screen; a record of another branch is none any more.
+void PutMapAway(Program& p);
+
+// Back from a record of a sibling branch, if one is shown: the open branch's first record is current and beside the
+// map, without a word about a picture that isn't there.
+void ReturnToOwnSubject(Program& p);
+
+// Puts the map away and goes over to the branch in that directory of the home: its database, first record current, and
+// its map. The menus stay as they are. False, and a box, when the database can't be opened: name and directory are
+// those of the branch all the same, and no records are open any more. Whatever fails after that costs only its own part
+// of the map. What is typed is stored before, or told and given up.
+bool EnterBranch(Program& p, const QString& name, const QString& directory);
+
+// The current record, which must be there, beside the map, and the branch's name in the captions. A picture that isn't
+// there is told.
+void ShowFirstSubject(Program& p);
+
+// Whether the branch that has been entered has no records: the panel beside the map is emptied then, and the user told.
+bool TellIfEmptyBranch(Program& p);
+
+// Reads the map of the branch in `WorkDir` and draws it.
+void DrawBranchMap(Program& p);
+
+} // namespace lineforge

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "program/state/Program.h"
+
+namespace lineforge
+{
+
+// Mapping ties a box to a record. The options are asked in `Form7`; the next double click on a box carries it out.
+
+// The options window; told when no branch is open.
+void ShowMappingOptions(Program& p);
+
+// The choice of what is mapped. Only an existing record has a number to be entered, only a new one a gender and a
+// picture to be chosen.
+void ChooseBlankRecord(Program& p);
+void ChooseUnmappedRecord(Program& p);
+void ChooseAlternateRecord(Program& p);
+
+// Takes the options; a cross waits for the double click.
+void TakeMappingOptions(Program& p);
+
+// Fills the box under the last press with a new record or an existing one, by the options; the first record of a branch
+// is always a new one. Writes the boxes at once and shows the record form. A wrong number is told, and ends the
+// mapping. Errors of the disk and of the record store, also when the branch of a number isn't there.
+void MapNewSubject(Program& p);
+
+// The box has its record already: asks whether its picture is to be changed. The picture is stored under the number of
+// the last mapping, not under the record's own; so it is meant to be.
+void AskSubjectPicture(Program& p);
+
+// After two questions the next two double clicks move a record from its box to another one.
+void RemapSubject(Program& p);
+
+} // namespace lineforge

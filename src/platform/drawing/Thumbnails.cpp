@@ -1,0 +1,89 @@
+#include "platform/drawing/Thumbnails.h"
+
+#include "platform/base/RuntimeError.h"
+#include "platform/drawing/PictureFile.h"
+
+#include <QPromise>
+#include <QThread>
+
+#include <memory>
+
+namespace lineforge
+{
+
+namespace
+{
+constexpr unsigned long pollMilliseconds = 2;
+
+QImage Decode(const QString& file, QSize dots)
+{
+    const QImage picture = DecodePicture(file, [dots](QSize) { return dots; });
+    // Not every format tells its size beforehand.
+    return picture.size() == dots ? picture : picture.scaled(dots, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+// No error may leave a thread of the pool.
+QImage DecodeOrNull(const QString& file, QSize dots)
+{
+    try {
+        return Decode(file, dots);
+    } catch (const RuntimeError&) {
+        return {};
+    }
+}
+} // namespace
+
+Thumbnails::~Thumbnails()
+{
+    pool_.clear();
+}
+
+void Thumbnails::Begin(const Key& key)
+{
+    const auto promise = std::make_shared<QPromise<QImage>>();
+    promise->start();
+    expected_.insert(key, promise->future());
+    pool_.start([promise, key] {
+        promise->addResult(DecodeOrNull(key.File.Path, key.Dots));
+        promise->finish();
+    });
+}
+
+void Thumbnails::Expect(const FileSystem& files, const QStringList& paths, QSize dots)
+{
+    pool_.clear();
+    expected_.clear();
+    for (const QString& path : paths) {
+        // Reading what is no plain file might never end.
+        if (files.Dir(path).isEmpty())
+            continue;
+        const Key key{IdentityOf(files.Resolve(path)), dots};
+        if (!kept_.contains(key) && !expected_.contains(key))
+            Begin(key);
+    }
+}
+
+QImage Thumbnails::Load(const FileSystem& files, const QString& path, QSize dots,
+                        const std::function<void()>& whileWaiting)
+{
+    const Key key{IdentityOf(files.Resolve(path)), dots};
+    if (const QImage* kept = kept_.object(key))
+        return *kept;
+    if (files.Dir(path).isEmpty())
+        throw RuntimeError(ErrorNumber::FileNotFound, key.File.Path);
+    if (!expected_.contains(key))
+        Begin(key);
+    const QFuture<QImage> coming = expected_.take(key);
+    while (!coming.isFinished()) {
+        QThread::msleep(pollMilliseconds);
+        if (whileWaiting)
+            whileWaiting();
+    }
+    const QImage picture = coming.result();
+    if (picture.isNull())
+        throw RuntimeError(ErrorNumber::InvalidPicture, key.File.Path);
+    kept_.insert(key, new QImage(picture), picture.sizeInBytes());
+    return picture;
+}
+
+} // namespace lineforge

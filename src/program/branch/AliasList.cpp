@@ -1,0 +1,217 @@
+#include "program/branch/AliasList.h"
+
+#include "platform/base/Number.h"
+#include "platform/base/Text.h"
+#include "platform/files/TextFile.h"
+#include "program/branch/AliasFile.h"
+
+#include <algorithm>
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+constexpr int fileNameLength = 13; // of "AliasList.cfg"
+constexpr int directoryLength = 8; // of "LfgDat_A"
+
+QString ListPath(const Program& p)
+{
+    return p.Branch.HomeDir + u"AliasList.cfg";
+}
+
+// Whether the list can be read. Only an attribute value of exactly read-only refuses; a file that bears another
+// attribute as well passes here and fails later, when it is written.
+bool CanRead(Program& p)
+{
+    if (!p.Files.LookUpGivesTail(ListPath(p), fileNameLength)) {
+        p.form9.Unload();
+        p.Prompts.MsgBox(u"File not Found."_s, u"Can't find AliasList.cfg in Home Directory"_s, Buttons::Information);
+        return false;
+    }
+    p.Alias.AliasAttr = p.Files.GetAttr(ListPath(p));
+    if (p.Alias.AliasAttr == FileSystem::ReadOnly) {
+        p.Prompts.MsgBox(u"File Attribute set for Read Only."_s,
+                         u"Cannot access a Read Only File. Use 'Import File' to read this File."_s,
+                         Buttons::Information);
+        return false;
+    }
+    return true;
+}
+
+// Where the entry of that name begins in the list; -1 for none.
+qsizetype EntryOf(const QString& aliasList, const QString& name)
+{
+    qsizetype start = 0;
+    for (qsizetype at = 0; at < aliasList.size(); ++at) {
+        if (aliasList[at] == u',')
+            start = at + 1;
+        else if (aliasList[at] == u'=' && SameText(aliasList.sliced(start, at - start), name))
+            return start;
+    }
+    return -1;
+}
+
+void Do(Program& p, void (*step)(Program&), Refusals refusals)
+{
+    if (refusals == Refusals::CostTheirStep)
+        p.Errors.Ignoring([&] { step(p); });
+    else
+        step(p);
+}
+
+void PublishAliasList(Program& p, Refusals refusals)
+{
+    for (const auto step : {WriteAliasList, ReadAliasList, FillBranchList})
+        Do(p, step, refusals);
+}
+
+// Whether the branch list can give the name back: the first equals sign ends it there, the reader drops what is lost on
+// it, and a row of nothing but blanks and marks isn't seen or isn't there. A comma and a closing bracket among other
+// characters do worse, to the entries around, and are taken all the same; so it is meant to be.
+bool IsGivenBack(const QString& name)
+{
+    constexpr QStringView lost = u"=[\n\r";
+    constexpr QStringView marks = u",]";
+    const auto isLost = [&](QChar character) { return lost.contains(character); };
+    const auto isNothing = [&](QChar character) { return character.isSpace() || marks.contains(character); };
+    return std::ranges::none_of(name, isLost) && !std::ranges::all_of(name, isNothing);
+}
+
+QString WholeEntry(const QString& name, const QString& directory)
+{
+    return u',' + name + u'=' + directory + u',';
+}
+
+// A name with commas makes several entries, of which only the last has the directory.
+void RemoveWholeName(QString& aliasList, const QString& name, const QString& directory)
+{
+    const QString before = u',' + aliasList;
+    aliasList = QString(before).replace(WholeEntry(name, directory), u","_s, Qt::CaseInsensitive).sliced(1);
+}
+
+bool IsEntryOf(const QString& entry, const QString& directory)
+{
+    return SameText(entry.right(directoryLength), directory);
+}
+
+void RemoveEntriesOf(QString& aliasList, const QString& directory)
+{
+    QStringList entries = aliasList.split(u',');
+    entries.removeIf([&](const QString& entry) { return IsEntryOf(entry, directory); });
+    aliasList = entries.join(u',');
+}
+} // namespace
+
+void ReadAliasConfig(Program& p)
+{
+    if (!CanRead(p))
+        return;
+    ReadAliasSection(p.Files, ListPath(p), AliasSection::Settings,
+                     [&](const QString& value) { p.Alias.NoSplash = ToInteger(value); });
+}
+
+void ReadAliasList(Program& p)
+{
+    if (!CanRead(p))
+        return;
+    p.Alias.AliasTable.Erase();
+    p.Alias.sAliasList.clear();
+    int index = 0;
+    ReadAliasSection(p.Files, ListPath(p), AliasSection::Branches, [&](const QString& entry) {
+        p.Alias.AliasTable[index++] = entry;
+        p.Alias.sAliasList += entry + u',';
+    });
+}
+
+void WriteAliasList(Program& p)
+{
+    p.Scratch.sFileA = ListPath(p);
+    p.Scratch.sFileB = p.Branch.HomeDir + u"AliasList.bak";
+    if (p.Files.LookUpGivesTail(p.Scratch.sFileA, fileNameLength))
+        p.Files.FileCopy(p.Scratch.sFileA, p.Scratch.sFileB);
+    WriteTextLines(p.Files, p.Scratch.sFileA,
+                   {u"This File Contains Graphic Data crucial to your program. Warning: DO NOT MODIFY."_s, u"[Alias]"_s,
+                    u'[' + p.Alias.sAliasList + u']', u"[CFG]"_s, u"[%1,]"_s.arg(p.Alias.NoSplash)});
+}
+
+bool IsNameListed(const Program& p, const QString& name)
+{
+    return EntryOf(p.Alias.sAliasList, name) >= 0;
+}
+
+bool IsDirectoryListed(const Program& p, const QString& directory)
+{
+    return std::ranges::any_of(p.Alias.sAliasList.split(u','),
+                               [&](const QString& entry) { return SameText(entry.section(u'=', -1), directory); });
+}
+
+QString ListedName(const Program& p, const QString& directory)
+{
+    const QString& open = p.Branch.sBranchName;
+    if (QString(u',' + p.Alias.sAliasList).contains(WholeEntry(open, directory), Qt::CaseInsensitive))
+        return open;
+    for (const QString& entry : p.Alias.sAliasList.split(u','))
+        // As the branch list gives it back.
+        if (const QString name = entry.section(u'=', 0, 0); IsEntryOf(entry, directory) && name != entry)
+            return name;
+    return open;
+}
+
+QString AskBranchName(Program& p, const QString& title, const QString& prompt)
+{
+    for (;;) {
+        QString name = p.Prompts.InputBox(title, prompt);
+        if (name.isEmpty() || (IsGivenBack(name) && !IsNameListed(p, name)))
+            return name;
+        p.Prompts.MsgBox(u"Duplicate Name entered."_s, u"Cannot have Tree Branch databases with same name"_s,
+                         Buttons::Information);
+    }
+}
+
+void AddAlias(Program& p, const QString& name, const QString& directory, Refusals refusals)
+{
+    Do(p, ReadAliasList, refusals);
+    p.Alias.sAliasList += name + u'=' + directory + u',';
+    PublishAliasList(p, refusals);
+}
+
+// By the directory: under the name the list may have another branch, of which this one's name is the beginning, and the
+// directory may be listed under other names too.
+void RemoveAlias(Program& p, const QString& name, const QString& directory)
+{
+    RemoveWholeName(p.Alias.sAliasList, name, directory);
+    RemoveEntriesOf(p.Alias.sAliasList, directory);
+    PublishAliasList(p, Refusals::CostTheirStep);
+}
+
+void FillBranchList(Program& p)
+{
+    if (p.Alias.sAliasList.isEmpty())
+        return;
+    const FixedArray<QString, 0, 99>& table = p.Alias.AliasTable;
+    ListBox& list = p.Form8->List1;
+
+    QStringList names;
+    for (int index = 0; !table[index].isEmpty(); ++index) {
+        const qsizetype equals = table[index].indexOf(u'=');
+        if (equals < 0)
+            break;
+        names += table[index].first(equals);
+    }
+    list.ListIndex = -1;
+    list.Items = names;
+
+    const QString open = p.Branch.WorkDir.right(directoryLength);
+    for (int index = 0; !table[index].isEmpty(); ++index) {
+        if (IsEntryOf(table[index], open)) {
+            // A directory that stands there alone has no name to select.
+            list.SetText(table[index].first(std::max<qsizetype>(0, table[index].size() - directoryLength - 1)));
+            break;
+        }
+    }
+}
+
+} // namespace lineforge

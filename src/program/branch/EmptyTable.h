@@ -1,0 +1,11 @@
+#pragma once
+
+#include "program/state/Program.h"
+
+namespace lineforge
+{
+
+// Whether the open branch has no records; tells the user so.
+bool TellIfEmpty(Program& p);
+
+} // namespace lineforge

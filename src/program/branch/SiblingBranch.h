@@ -1,0 +1,46 @@
+#pragma once
+
+#include "program/state/Program.h"
+
+namespace lineforge
+{
+
+// While the record shown comes from a sibling branch the program's directories point there, and the saved ones hold
+// those of the branch whose map is on the screen.
+
+// Exchanges `WorkDir` with `WorkDirSaved` and `HomeDir` with `HomeDirSaved`.
+void SwapBranchDirs(Program& p);
+
+// Whether the database of the sibling branch of that letter is there; shows a box with its path when it isn't. One of
+// an older installation is taken; shows the box of a refused opening when it can't be.
+bool RequireSibling(Program& p, QStringView letter);
+
+// Takes the sibling's database if it is one of an older installation. False, with the box of a refused opening, when it
+// can't be taken; any other database is left to whoever opens it.
+bool TakeOldSibling(Program& p, QStringView letter);
+
+// Keeps the open branch's directories as the saved ones, before the program points elsewhere. From one sibling to
+// another the way back still leads to the open branch.
+void KeepOwnDirectories(Program& p);
+
+// The following leave the program pointed where it was when a database can't be opened.
+
+// Points the whole program at the sibling branch of that letter; the map stays.
+void SwitchToSibling(Program& p, QStringView letter);
+
+// The directories and the database of the branch whose map is shown; `UsingAlternate` stays.
+void OpenOwnBranch(Program& p);
+
+// `SwapBranchDirs`, and the database of the branch that the directories are then of; `UsingAlternate` stays.
+void OpenSwappedBranch(Program& p);
+
+// `UsingAlternate` back to 0: the record scanner walks the open branch again.
+void EndAlternate(Program& p);
+
+// Back to the branch whose map is shown.
+void ReturnFromSibling(Program& p);
+
+// Tells, while a record of another branch is shown, why a command refuses it; false when none is.
+bool TellIfAlternate(Program& p, const QString& title, const QString& text);
+
+} // namespace lineforge

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "qt/style/Scale.h"
+
+#include <QSize>
+
+class QWindow;
+
+namespace lineforge
+{
+
+// Whether the desktop alone says where windows stand and which is before which, and tells nobody what is free.
+bool DesktopArrangesWindows();
+
+// How large the inside of a window is that takes all that such a desktop leaves free.
+QSize GrantedRoom();
+
+// The scale at which a window with a client area of that size and its menu bar fit into such a room. The bare strip
+// below the lowest control may be cut off: panels that are a little higher than others should make nothing smaller.
+Scale ScaleForRoom(Size client, QSize room, double dots = 1);
+
+// Brings a window that is on the screen before the others.
+void BringToFront(QWindow& window);
+
+} // namespace lineforge

@@ -1,0 +1,49 @@
+#include "shell/branches/CloseBranch.h"
+
+#include "map/items/MapFile.h"
+#include "map/subjects/SubjectPanel.h"
+#include "map/tools/LeaveTools.h"
+#include "program/branch/WorkDatabase.h"
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+void CloseBranch(Program& p)
+{
+    LeaveToolsIfOpen(p);
+    SaveBoxes(p);
+    const QString maidenName = p.Form1->Label15.Caption;
+    StoreTyped(p);
+    p.Form5->MMControl1.Command(u"Close");
+    EraseMap(p);
+    p.Branch.UsingAlternate = 0;
+
+    forms::Form1& form = *p.Form1;
+    EmptySubjectLabels(p,
+                       {&forms::Form1::Label9, &forms::Form1::Label10, &forms::Form1::Label11, &forms::Form1::Label12,
+                        &forms::Form1::Label14, &forms::Form1::Label17},
+                       u"Ref  "_s);
+    // It is meant to keep its text, whatever has been stored meanwhile.
+    form.Label15.Caption = maidenName;
+    form.Picture1.Cls();
+    form.Image1.Picture = QImage();
+    form.Shape1.Visible = false;
+
+    p.Branch.sDbaseName.clear();
+    p.Record.sPicFile.clear();
+    p.Branch.WorkDir.clear();
+    p.Branch.WorkDirLen = 0;
+
+    p.Form2.Unload();
+    p.Form3.Unload();
+    p.Form4.Unload();
+    p.Form5.Unload();
+    p.Form6.Unload();
+    p.Form7.Unload();
+    p.Form8.Unload();
+    p.form9.Unload();
+}
+
+} // namespace lineforge

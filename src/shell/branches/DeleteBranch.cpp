@@ -1,0 +1,114 @@
+#include "shell/branches/DeleteBranch.h"
+
+#include "gallery/GalleryFile.h"
+#include "map/subjects/EnterBranch.h"
+#include "map/subjects/SubjectPanel.h"
+#include "map/tools/LeaveTools.h"
+#include "platform/files/DirectoryFiles.h"
+#include "program/branch/AliasList.h"
+#include "program/branch/BranchPaths.h"
+#include "program/branch/WorkDatabase.h"
+#include "program/ui/BranchUi.h"
+
+namespace lineforge
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+// The first question, and what takes its place.
+Answer ShowFirstBox(Program& p, const QString& name, const QString& text, Buttons buttons)
+{
+    return p.Prompts.MsgBox(u"Delete '"_s + name + u"' DataBase and Galleries", text, buttons);
+}
+
+// Of the branch whose map is shown.
+QString MapsDirectory(const Program& p)
+{
+    return p.Branch.UsingAlternate == 1 ? p.Branch.WorkDirSaved : p.Branch.WorkDir;
+}
+
+// Whether a branch is open, in a directory of its own beneath the home directory: that may be another one since it was
+// opened, whose registry knows nothing of it. Tells the user when not.
+bool RequireBranch(Program& p, const QString& name)
+{
+    const QString directory = MapsDirectory(p);
+    if (IsBranchDirectory(directory, p.Branch.HomeDir))
+        return true;
+    if (directory.isEmpty())
+        TellNoBranch(p);
+    else
+        ShowFirstBox(p, name,
+                     u"Cannot delete '"_s + name + u"' Tree Branch. Its Directory\n" + directory +
+                         u"\nis not in the Home Directory in use:\n" + p.Branch.HomeDir,
+                     Buttons::Information);
+    return false;
+}
+
+bool Ask(Program& p, const QString& name)
+{
+    return ShowFirstBox(p, name,
+                        u"Do you really want to delete the Database\nand Gallery files in '"_s + name +
+                            u"' Tree Branch ?",
+                        Buttons::QuestionYesNo) == Answer::Yes;
+}
+
+bool AskAgain(Program& p, const QString& name)
+{
+    return p.Prompts.MsgBox(u"Deletion of '"_s + name + u"' Database, Gallery and Files",
+                            u"All files in "_s + p.Branch.WorkDir + u"\n'" + name +
+                                u"' Ancestral Tree Branch will be deleted.\n"
+                                u"This includes the Database, Gallery and its Directories\n"
+                                u"Are you sure this is what you want ? ",
+                            Buttons::ErrorYesNo) == Answer::Yes;
+}
+
+void RemoveDirectory(Program& p, const QString& directory)
+{
+    RemoveWithFiles(p.Files.Resolve(directory), p.Files.Resolve(p.Branch.HomeDir));
+}
+
+void ShowNoBranch(Program& p)
+{
+    forms::Form1& form = *p.Form1;
+    EmptySubjectLabels(p,
+                       {&forms::Form1::Label9, &forms::Form1::Label10, &forms::Form1::Label11, &forms::Form1::Label12,
+                        &forms::Form1::Label14, &forms::Form1::Label15, &forms::Form1::Label17},
+                       QString());
+    form.Image1.Picture = QImage();
+    form.Shape1.Visible = false;
+    form.Caption = u"Lineforge. "_s;
+}
+} // namespace
+
+void DeleteBranch(Program& p)
+{
+    // A record transfer can have gone over to another branch than the one that the program is named after.
+    const QString name = ListedName(p, DirectoryName(MapsDirectory(p)));
+    if (!RequireBranch(p, name) || !Ask(p, name))
+        return;
+    ReturnToOwnSubject(p);
+    if (!AskAgain(p, name))
+        return;
+    LeaveToolsIfOpen(p);
+
+    const QString directory = p.Branch.WorkDir;
+    RemoveDirectory(p, GalleryDirectory(directory));
+    RemoveAlias(p, name, DirectoryName(directory));
+    if (p.Form3.IsLoaded()) {
+        p.Form3->Caption = u"Lineforge. "_s;
+        // What is typed goes with its record; refused by the database, it would hold the form and the file.
+        p.Form3->Data1.GiveUpEdits();
+    }
+    // Before the labels are emptied, which hang on its records.
+    p.Errors.Ignoring([&] { p.Form3.Unload(); });
+    ShowNoBranch(p);
+    p.Errors.Ignoring([&] { p.Files.ChDir(p.Branch.HomeDir); });
+    RemoveDirectory(p, directory);
+    p.Branch.WorkDir.clear();
+    p.Branch.WorkDirLen = 0;
+    p.Form1->Picture1.Cls();
+}
+
+} // namespace lineforge

@@ -1,0 +1,14 @@
+#include "output/PrintBranch.h"
+#include "shell/handlers/InstallHandlers.h"
+
+namespace lineforge
+{
+
+void InstallForm2(Program& p, forms::Form2& form)
+{
+    form.mnuPrSetup.Click = [&p] { SetUpPrinter(p); };
+    form.mnuPrint.Click = [&p] { PrintFromPictureWindow(p); };
+    form.Image1.Click = [&form] { form.Hide(); };
+}
+
+} // namespace lineforge

@@ -1,0 +1,108 @@
+#include "map/subjects/SubjectPanel.h"
+#include "output/BookmarkList.h"
+#include "output/PrintBranch.h"
+#include "records/AddRecord.h"
+#include "records/DeleteRecord.h"
+#include "records/RecordClipboard.h"
+#include "records/RecordForm.h"
+#include "records/RecordScanner.h"
+#include "records/RecordSearch.h"
+#include "records/RecordTransfer.h"
+#include "shell/handlers/InstallHandlers.h"
+#include "shell/run/Exit.h"
+#include "shell/run/GalleryDoors.h"
+#include "shell/run/Help.h"
+
+namespace lineforge
+{
+
+namespace
+{
+// The boxes whose selection the Edit menu knows of, from number 2 on.
+constexpr TextBox forms::Form3::*selectable[] = {
+    &forms::Form3::Text2,  &forms::Form3::Text3,  &forms::Form3::Text4,  &forms::Form3::Text5,  &forms::Form3::Text6,
+    &forms::Form3::Text7,  &forms::Form3::Text8,  &forms::Form3::Text9,  &forms::Form3::Text10, &forms::Form3::Text11,
+    &forms::Form3::Text12, &forms::Form3::Text13, &forms::Form3::Text14, &forms::Form3::Text15, &forms::Form3::Text16,
+    &forms::Form3::Text17, &forms::Form3::Text18, &forms::Form3::Text19,
+};
+
+void InstallSelection(Program& p, forms::Form3& form)
+{
+    int number = 2;
+    for (TextBox forms::Form3::*member : selectable) {
+        TextBox& box = form.*member;
+        box.Click = [&p, &box, number] { RememberSelection(p, box, number); };
+        ++number;
+    }
+}
+
+void InstallScanner(Program& p, forms::Form3& form)
+{
+    form.Picture1.Click = [&p] { StartScan(p, ScanMode::FastForward); };
+    form.Picture2.Click = [&p] { StartScan(p, ScanMode::Forward); };
+    form.Picture3.Click = [&p] { StopScan(p); };
+    form.Picture4.Click = [&p] { StartScan(p, ScanMode::Back); };
+    form.Picture5.Click = [&p] { StartScan(p, ScanMode::FastBack); };
+    form.Timer1.Tick = [&p] { TickScan(p); };
+}
+
+void InstallPrinting(Program& p, forms::Form3& form)
+{
+    form.mnuAddPMark.Click = [&p] { AddBookmark(p); };
+    form.mnuPrintSetup.Click = [&p] { SetUpPrinter(p); };
+    form.mnuPrinForm.Click = [&p] { PrintRecordWindow(p); };
+    form.mnuPrinRecord.Click = [&p] { PrintCurrentRecord(p); };
+    form.mnuPrList.Click = [&p] { PrintBookmarks(p); };
+    form.mnuClrList.Click = [&p] { ClearBookmarks(p); };
+    form.mnuPrinDatabase.Click = [&p] { PrintDatabase(p); };
+}
+
+void InstallEditing(Program& p, forms::Form3& form)
+{
+    form.mnuCut.Click = [&p] { CutSelection(p); };
+    form.mnuCopy.Click = [&p] { CopySelection(p); };
+    form.mnuCopyRecToClip.Click = [&p] { CopyRecord(p); };
+    form.mnuPaste.Click = [&p] { PasteOverSelection(p); };
+    form.mnuSubPicture.Click = [&p] { ChangeSubjectPicture(p); };
+    form.mnuAdd.Click = [&p] { AddRecord(p); };
+    form.mnuDelete.Click = [&p] { DeleteRecord(p); };
+    form.MnuRecTransfer.Click = [&p] { TransferRecord(p); };
+}
+
+void InstallSearches(Program& p, forms::Form3& form)
+{
+    form.mnuSearchDataRef.Click = [&p] { SearchByDataRef(p); };
+    form.mnuSearchSurName.Click = [&p] { SearchBySurname(p); };
+    form.mnuSearchBirthPlace.Click = [&p] { SearchByBirthPlace(p); };
+    form.mnuSearchWord.Click = [&p] { SearchByWord(p); };
+}
+
+void InstallMenus(Program& p, forms::Form3& form)
+{
+    form.mnuPrint.Click = [&p] { OpenRecordMenu(p); };
+    form.mnuEdit.Click = [&p] { OpenRecordMenu(p); };
+    form.mnuSearch.Click = [&p] { OpenSearchMenu(p); };
+    InstallPrinting(p, form);
+    InstallEditing(p, form);
+    InstallSearches(p, form);
+    form.mnuHelp.Click = [&p] { ShowRecordHelp(p); };
+    form.mnuExit.Click = [&p] { ExitFromRecords(p); };
+}
+} // namespace
+
+void InstallForm3(Program& p, forms::Form3& form)
+{
+    BindSubjectLabels(p, form);
+    form.Load = [&p] { LoadRecordForm(p); };
+    // Unloaded, the form would take the open database with it: its frame leads back to the map.
+    form.CloseByFrame = [&p] { ReturnToTree(p); };
+
+    form.Command1.Click = [&p] { GoToGalleryFromRecords(p); };
+    form.Command2.Click = [&p] { ReturnToTree(p); };
+    form.Image1.Click = [&p] { EnlargeSubjectPicture(p); };
+    InstallSelection(p, form);
+    InstallScanner(p, form);
+    InstallMenus(p, form);
+}
+
+} // namespace lineforge

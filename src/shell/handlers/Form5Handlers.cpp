@@ -1,0 +1,49 @@
+#include "gallery/AddFile.h"
+#include "gallery/DeleteFile.h"
+#include "gallery/GalleryItem.h"
+#include "gallery/GalleryPage.h"
+#include "output/PrintBranch.h"
+#include "shell/handlers/InstallHandlers.h"
+#include "shell/run/Exit.h"
+#include "shell/run/GalleryDoors.h"
+#include "shell/run/Help.h"
+
+namespace lineforge
+{
+
+namespace
+{
+void InstallMenus(Program& p, forms::Form5& form)
+{
+    form.mnuExit.Click = [&p] { ExitFromGallery(p); };
+    form.mnuEdit.Click = [&p] { CancelDeletion(p); };
+    form.mnuPic.Click = [&p] { AddGalleryFile(p, GalleryKind::Picture); };
+    form.mnuAud.Click = [&p] { AddGalleryFile(p, GalleryKind::Sound); };
+    form.mnuVid.Click = [&p] { AddGalleryFile(p, GalleryKind::Video); };
+    form.mnuTxt.Click = [&p] { AddGalleryFile(p, GalleryKind::Text); };
+    form.MnuDeleteFile.Click = [&p] { BeginDeletion(p); };
+    form.mnuPrintSetup.Click = [&p] { SetUpPrinter(p); };
+    form.mnuPrintpic.Click = [&p] { PrintGalleryWindow(p); };
+    form.mnuHelp.Click = [&p] { ShowHelpContents(p); };
+}
+} // namespace
+
+void InstallForm5(Program& p, forms::Form5& form)
+{
+    form.Load = [&p, &form] {
+        LoadImageGrid(p);
+        for (int index = 0; index <= forms::Form5::LastTile; ++index)
+            form.Image1[index].DragDrop = [&p, index](Image& source) { DropOnTile(p, index, source); };
+    };
+    form.Unloading = [&p] { ForgetPage(p); };
+    // Unloaded, the form would forget its page: its frame leads back to the map.
+    form.CloseByFrame = [&p] { LeaveGalleryForTree(p); };
+
+    InstallMenus(p, form);
+    form.Command1.Click = [&p] { LeaveGalleryForTree(p); };
+    form.Command2.Click = [&p] { LeaveGalleryForRecords(p); };
+    form.Command3.Click = [&p] { ExitSoundPlayer(p); };
+    form.Command4.Click = [&p] { ExitVideoPlayer(p); };
+}
+
+} // namespace lineforge

@@ -1,0 +1,74 @@
+#include "shell/run/Exit.h"
+
+#include "map/items/MapFile.h"
+#include "map/tools/LeaveTools.h"
+#include "program/branch/WorkDatabase.h"
+#include "shell/branches/CloseBranch.h"
+#include "shell/run/RunHandler.h"
+
+namespace lineforge
+{
+
+namespace
+{
+void TellIfRefused(Program& p, void (*step)(Program& p))
+{
+    try {
+        step(p);
+    } catch (const RuntimeError& refusal) {
+        if (!refusal.IsTold)
+            TellError(p, refusal);
+    }
+}
+} // namespace
+
+void ExitProgram(Program& p)
+{
+    SaveBoxes(p);
+    StoreTyped(p);
+    LeaveToolsIfOpen(p);
+    p.Form5->MMControl1.Command(u"Close");
+    // The main window takes all others with it and ends the program.
+    p.Form1.Unload();
+}
+
+void ExitFromGallery(Program& p)
+{
+    CloseBranch(p);
+    p.Form1.Unload();
+}
+
+void ExitFromRecords(Program& p)
+{
+    p.Errors.Clear();
+    p.Errors.Ignoring([&] { Records(p).Update(); });
+    // Who has been told that a text isn't stored wants to see to it.
+    if (p.Errors.Last && p.Errors.Last->IsTold)
+        return;
+    TellIfRefused(p, SaveBoxes);
+    TellIfRefused(p, LeaveToolsIfOpen);
+    p.Form5->MMControl1.Command(u"Close");
+    // The main window takes all others with it and ends the program; a text that still can't be stored is told.
+    p.Form1.Unload();
+}
+
+void CloseMainWindow(Program& p)
+{
+    LeaveToolsIfOpen(p);
+    StoreTyped(p);
+    p.Form1->MMControl1.Command(u"Close");
+    p.Form5->MMControl1.Command(u"Close");
+    p.Form2.Unload();
+    p.Form3.Unload();
+    p.Form4.Unload();
+    p.Form5.Unload();
+    p.Form6.Unload();
+    p.Form7.Unload();
+    p.Form8.Unload();
+    p.form9.Unload();
+    p.Form11.Unload();
+    p.Form12.Unload();
+    p.Loop.End(0);
+}
+
+} // namespace lineforge

@@ -1,0 +1,234 @@
+#include "map/MapTest.h"
+#include "map/items/BoxCaptions.h"
+#include "map/items/MapItems.h"
+
+namespace lineforge
+{
+namespace
+{
+using namespace Qt::StringLiterals;
+
+constexpr Colour red = Rgb(255, 0, 0);
+
+class EraseBoxCaptionTest : public MapTest
+{
+protected:
+    void givenRecord(QStringView forename) { givenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", forename}})); }
+
+    // The captions without their boxes, so that every pixel that stays behind is one of theirs.
+    void givenCaptionOf(int row)
+    {
+        DrawBoxCaptions(P);
+        DrawRecordsInBoxes(P);
+        Records(P).MoveFirst();
+        ASSERT_FALSE(IsBlank(Picture)) << row;
+    }
+
+    QString FileOf(int row) const { return P.Map.BoxArr[row][BoxColumn::File].Text(); }
+};
+
+TEST_F(EraseBoxCaptionTest, Caption_LeavesNoPixelBehind)
+{
+    givenRecord(u"Christopher");
+    givenBox(7, {1000, 500}, u"A001");
+    givenCaptionOf(7);
+
+    EraseBoxCaption(P);
+
+    EXPECT_TRUE(IsBlank(Picture));
+}
+
+TEST_F(EraseBoxCaptionTest, CaptionInItsBox_LeavesTheInsideAsItWas)
+{
+    givenRecord(u"Jo Anne");
+    givenBox(7, {1000, 500}, u"A001", red);
+    DrawBox(P, 7);
+    givenCaptionOf(7);
+
+    EraseBoxCaption(P);
+
+    EXPECT_EQ(CountPixels(Picture, Black), 0);
+    EXPECT_EQ(ColourAt(Picture, {1000, 600}), red);
+    EXPECT_EQ(ColourAt(Picture, {1300, 717}), red);
+}
+
+TEST_F(EraseBoxCaptionTest, OtherCaptions_Stay)
+{
+    givenOpen(
+        BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}}).Row({{u"File", u"A002"}, {u"Forename", u"Anne"}}));
+    givenBox(0, {1000, 500}, u"A001");
+    givenBox(1, {3000, 500}, u"A002");
+    givenCaptionOf(0);
+
+    EraseBoxCaption(P);
+
+    PictureByHand expected;
+    expected->PrintAt({3100, 500}, u"A002"_s);
+    expected->PrintAt({3050, 600}, u"Anne"_s);
+    EXPECT_TRUE(SameDrawing(Picture, *expected));
+    EXPECT_EQ(FileOf(1), u"A002"_s);
+}
+
+TEST_F(EraseBoxCaptionTest, BoxOfTheRecord_IsEmptyAfterwards)
+{
+    givenRecord(u"John");
+    givenBox(7, {1000, 500}, u"a001");
+    P.Map.BoxArr[7][BoxColumn::Forename] = u"John"_s;
+
+    EraseBoxCaption(P);
+
+    EXPECT_EQ(FileOf(7), u"0"_s);
+    EXPECT_EQ(P.Map.BoxArr[7][BoxColumn::Forename].Text(), QString());
+    EXPECT_EQ(P.Scratch.IdxA, 7);
+    EXPECT_EQ(P.Map.BoxArr[7][BoxColumn::X].Number(), 1000);
+}
+
+TEST_F(EraseBoxCaptionTest, RecordInTwoBoxes_FirstAloneIsErased)
+{
+    givenRecord(u"John");
+    givenBox(7, {1000, 500}, u"A001");
+    givenBox(8, {3000, 500}, u"A001");
+    givenCaptionOf(7);
+
+    EraseBoxCaption(P);
+
+    EXPECT_EQ(FileOf(7), u"0"_s);
+    EXPECT_EQ(FileOf(8), u"A001"_s);
+    EXPECT_EQ(CountPixels(Picture, Black, {900, 400, 900, 500}), 0);
+    EXPECT_GT(CountPixels(Picture, Black, {2900, 400, 900, 500}), 0);
+}
+
+TEST_F(EraseBoxCaptionTest, NullForename_NumberAloneIsErased)
+{
+    givenOpen(BranchA.Row({{u"File", u"A001"}}));
+    givenBox(0, {1000, 500}, u"A001");
+    givenCaptionOf(0);
+
+    EraseBoxCaption(P);
+
+    EXPECT_TRUE(IsBlank(Picture));
+    EXPECT_EQ(FileOf(0), u"0"_s);
+}
+
+TEST_F(EraseBoxCaptionTest, LastBoxRow_IsLeftAlone)
+{
+    givenRecord(u"John");
+    givenBox(99, {1000, 500}, u"A001");
+    givenCaptionOf(99);
+    const QImage before = ShownBy(Picture);
+
+    EraseBoxCaption(P);
+
+    EXPECT_EQ(FileOf(99), u"A001"_s);
+    EXPECT_TRUE(ShownBy(Picture) == before);
+}
+
+TEST_F(EraseBoxCaptionTest, RowBeforeTheLast_IsErased)
+{
+    givenRecord(u"John");
+    givenBox(98, {1000, 500}, u"A001");
+    givenCaptionOf(98);
+
+    EraseBoxCaption(P);
+
+    EXPECT_EQ(FileOf(98), u"0"_s);
+    EXPECT_TRUE(IsBlank(Picture));
+}
+
+TEST_F(EraseBoxCaptionTest, PenAndFontInHand_DoNotMatter_AndPenEndsBlack)
+{
+    givenRecord(u"John");
+    givenBox(0, {1000, 500}, u"A001");
+    givenCaptionOf(0);
+    Picture.ForeColor = red;
+    Picture.Font = {u"Courier New"_s, 20, true};
+
+    EraseBoxCaption(P);
+
+    EXPECT_TRUE(IsBlank(Picture));
+    EXPECT_EQ(Picture.ForeColor, Black);
+    EXPECT_EQ(Picture.Font, TextFont{});
+}
+
+TEST_F(EraseBoxCaptionTest, OtherBackground_IsPrintedInThatColour)
+{
+    Picture.BackColor = Rgb(240, 240, 200);
+    givenRecord(u"John");
+    givenBox(0, {1000, 500}, u"A001");
+    givenCaptionOf(0);
+
+    EraseBoxCaption(P);
+
+    EXPECT_TRUE(IsBlank(Picture));
+}
+
+TEST_F(EraseBoxCaptionTest, RecordOfSiblingShown_SelectedBoxIsErased)
+{
+    BranchB.Row({{u"File", u"B001"}, {u"Forename", u"Beatrice"}}).Build();
+    givenRecord(u"John");
+    givenBox(7, {1000, 500}, u"B001");
+    givenBox(8, {3000, 500}, u"A001");
+    givenCaptionOf(7);
+    P.Mouse.BoxIdx = 7;
+    P.Record.sAltName = u"Beatrice"_s;
+    P.Branch.UsingAlternate = 1;
+
+    EraseSiblingsBox(P, u"B001"_s);
+
+    PictureByHand expected;
+    expected->PrintAt({3100, 500}, u"A001"_s);
+    expected->PrintAt({3050, 600}, u"John"_s);
+    EXPECT_TRUE(SameDrawing(Picture, *expected));
+    EXPECT_EQ(FileOf(7), u"0"_s);
+    EXPECT_EQ(FileOf(8), u"A001"_s);
+    EXPECT_EQ(Picture.ForeColor, Black);
+}
+
+TEST_F(EraseBoxCaptionTest, RecordOfSiblingShown_LastBoxRowIsErasedToo)
+{
+    BranchB.Row({{u"File", u"B001"}, {u"Forename", u"Bob"}}).Build();
+    givenRecord(u"John");
+    givenBox(99, {1000, 500}, u"B001");
+    givenCaptionOf(99);
+    P.Mouse.BoxIdx = 99;
+    P.Record.sAltName = u"Bob"_s;
+    P.Branch.UsingAlternate = 1;
+
+    EraseSiblingsBox(P, u"B001"_s);
+
+    EXPECT_TRUE(IsBlank(Picture));
+    EXPECT_EQ(FileOf(99), u"0"_s);
+}
+
+TEST_F(EraseBoxCaptionTest, BoxInRow100_IsLeftAlone)
+{
+    givenRecord(u"John");
+    givenBox(100, {1000, 500}, u"A001");
+    Picture.Line({1000, 650}, {1600, 650});
+    const QImage before = ShownBy(Picture);
+
+    EraseBoxCaption(P);
+
+    EXPECT_EQ(FileOf(100), u"A001"_s);
+    EXPECT_TRUE(ShownBy(Picture) == before);
+}
+
+TEST_F(EraseBoxCaptionTest, RecordWithoutABox_NothingIsErased)
+{
+    givenRecord(u"John");
+    givenBox(0, {1000, 500}, u"A002");
+    Picture.Line({1000, 650}, {1600, 650});
+    P.Mouse.BoxX = 1000;
+    P.Mouse.BoxY = 500;
+    const QImage before = ShownBy(Picture);
+
+    EraseBoxCaption(P);
+
+    EXPECT_EQ(FileOf(0), u"A002"_s);
+    for (int row = 1; row <= LastMapRow; ++row)
+        EXPECT_EQ(FileOf(row), QString()) << row;
+    EXPECT_TRUE(ShownBy(Picture) == before);
+}
+
+} // namespace
+} // namespace lineforge

@@ -1,0 +1,137 @@
+#include "map/items/SpokenBoxes.h"
+
+#include "map/MapTest.h"
+#include "program/branch/SiblingBranch.h"
+
+namespace lineforge
+{
+namespace
+{
+using namespace Qt::StringLiterals;
+
+class SpokenBoxesTest : public MapTest
+{
+protected:
+    SpokenBoxesTest()
+    {
+        BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}})
+            .Row({{u"File", u"A002"}, {u"Forename", u"Mary Louise"}})
+            .Row({{u"File", u"A003"}});
+        BranchB.Row({{u"File", u"B001"}, {u"Forename", u"Beatrice"}});
+    }
+
+    QStringList Names()
+    {
+        QStringList names;
+        for (const PicturePart& part : SpokenBoxes(P))
+            names += part.SpokenName;
+        return names;
+    }
+};
+
+TEST_F(SpokenBoxesTest, ABox_HasNumberAndWholeForename_AndItsPlace)
+{
+    givenOpen(BranchA);
+    givenBox(0, {1200, 600}, u"A001");
+    givenBox(2, {2400, 900}, u"a002");
+
+    const std::vector<PicturePart> boxes = SpokenBoxes(P);
+
+    ASSERT_EQ(boxes.size(), 2u);
+    EXPECT_EQ(boxes[0].Number, 0);
+    EXPECT_EQ(boxes[0].Place, (Rectangle{1200, 600, BoxWidth, BoxHeight}));
+    EXPECT_EQ(boxes[0].SpokenName, u"A001 John"_s);
+    EXPECT_EQ(boxes[0].SpokenPlace, u"1200, 600"_s);
+    EXPECT_EQ(boxes[1].Number, 2);
+    EXPECT_EQ(boxes[1].SpokenName, u"a002 Mary Louise"_s);
+}
+
+TEST_F(SpokenBoxesTest, ABoxWithoutARecord_IsEmpty)
+{
+    givenOpen(BranchA);
+    givenBox(0, {1200, 600}, u"0");
+    givenBox(1, {2400, 600}, u"");
+    EXPECT_EQ(Names(), QStringList({u"Empty box"_s, u"Empty box"_s}));
+}
+
+TEST_F(SpokenBoxesTest, ANumberOfNobody_AndARecordWithoutAForename_AreNumbersAlone)
+{
+    givenOpen(BranchA);
+    givenBox(0, {1200, 600}, u"A099");
+    givenBox(1, {2400, 600}, u"A003");
+    EXPECT_EQ(Names(), QStringList({u"A099"_s, u"A003"_s}));
+}
+
+TEST_F(SpokenBoxesTest, TheForename_IsTheRecordsOwn_WhateverTheMapRemembers)
+{
+    givenOpen(BranchA);
+    givenBox(0, {1200, 600}, u"A001");
+    P.Map.BoxArr[0][BoxColumn::Forename] = u"Somebody"_s;
+    EXPECT_EQ(Names(), QStringList{u"A001 John"_s});
+}
+
+TEST_F(SpokenBoxesTest, ABoxAtNoPossiblePlace_IsPassedOver)
+{
+    givenOpen(BranchA);
+    givenBox(0, {1200, 600}, u"A001");
+    P.Map.BoxArr[0][BoxColumn::Y] = u"nowhere"_s;
+    givenBox(1, {2400, 600}, u"A002");
+    EXPECT_EQ(Names(), QStringList{u"A002 Mary Louise"_s});
+}
+
+TEST_F(SpokenBoxesTest, ASiblingsRecord_HasItsForename_AsLongAsTheSiblingCanBeRead)
+{
+    givenOpen(BranchA);
+    givenBox(0, {1200, 600}, u"B001");
+    EXPECT_EQ(Names(), QStringList{u"B001"_s});
+    BranchB.Build();
+    EXPECT_EQ(Names(), QStringList{u"B001 Beatrice"_s});
+    Home.WriteFile(BranchB.DatabaseFile(), "no database");
+    EXPECT_EQ(Names(), QStringList{u"B001"_s});
+}
+
+TEST_F(SpokenBoxesTest, AnImportedBranch_KnowsItsOwnPeopleAlone)
+{
+    BranchB.InDirectory(u"Import_B").Build();
+    givenOpen(BranchA.InDirectory(u"Import_A"));
+    givenBox(0, {1200, 600}, u"A001");
+    givenBox(1, {2400, 600}, u"B001");
+    EXPECT_EQ(Names(), QStringList({u"A001 John"_s, u"B001"_s}));
+}
+
+TEST_F(SpokenBoxesTest, WhileASiblingsRecordIsShown_TheMapIsStillThatOfItsOwnBranch)
+{
+    BranchB.Build();
+    givenOpen(BranchA);
+    givenBox(0, {1200, 600}, u"A001");
+    givenBox(1, {2400, 600}, u"B001");
+    SwitchToSibling(P, u"B");
+    EXPECT_EQ(Names(), QStringList({u"A001 John"_s, u"B001 Beatrice"_s}));
+}
+
+TEST_F(SpokenBoxesTest, NeitherTheCursor_NorTheDisk_IsTouched)
+{
+    BranchB.Build();
+    givenOpen(BranchA);
+    givenBox(0, {1200, 600}, u"A001");
+    givenBox(1, {2400, 600}, u"B001");
+    Records(P).MoveNext();
+    const Tree before = Home.Snapshot();
+
+    SpokenBoxes(P);
+
+    EXPECT_EQ(Records(P).Text(u"File"), u"A002"_s);
+    EXPECT_EQ(P.Branch.UsingAlternate, 0);
+    EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
+}
+
+TEST_F(SpokenBoxesTest, WithoutABranch_TheBoxesOfTheToolsAreEmpty)
+{
+    EXPECT_TRUE(SpokenBoxes(P).empty());
+    givenBox(0, {1200, 600});
+    givenBox(1, {2400, 600}, u"A001");
+    EXPECT_EQ(Names(), QStringList({u"Empty box"_s, u"A001"_s}));
+}
+
+} // namespace
+} // namespace lineforge

@@ -1,0 +1,126 @@
+#include "map/subjects/SubjectPanel.h"
+
+#include "map/MapTest.h"
+
+namespace lineforge
+{
+namespace
+{
+using namespace Qt::StringLiterals;
+using testing::Values;
+using testing::WithParamInterface;
+
+struct PanelField {
+    QString Field;
+    Label forms::Form1::*Shown;
+};
+
+void PrintTo(const PanelField& field, std::ostream* out)
+{
+    *out << qUtf8Printable(field.Field);
+}
+
+class SubjectPanelTest : public MapTest
+{
+};
+
+class SubjectFieldTest : public SubjectPanelTest, public WithParamInterface<PanelField>
+{
+protected:
+    SubjectFieldTest()
+    {
+        givenOpen(BranchA.Row({{u"File", u"A001"}, {GetParam().Field, u"first"}})
+                      .Row({{u"File", u"A002"}, {GetParam().Field, u"second"}})
+                      .Row({{u"File", u"A003"}}));
+    }
+
+    QString Shown() { return ((*P.Form1).*GetParam().Shown).Caption; }
+};
+
+TEST_P(SubjectFieldTest, BoundLabel_FollowsTheCurrentRecord)
+{
+    EXPECT_EQ(Shown(), u"first"_s);
+
+    Records(P).MoveNext();
+    EXPECT_EQ(Shown(), u"second"_s);
+
+    Records(P).MoveNext();
+    EXPECT_EQ(Shown(), QString());
+}
+
+TEST_P(SubjectFieldTest, Fill_CopiesTheBoxOfTheRecordForm)
+{
+    Records(P).MoveNext();
+
+    FillSubjectLabels(P);
+
+    EXPECT_EQ(Shown(), u"second"_s);
+    EXPECT_EQ(P.Form1->Frame1.Caption.value(), u"Ref  A002"_s);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Fields, SubjectFieldTest,
+    Values(PanelField{u"Forename"_s, &forms::Form1::Label9}, PanelField{u"Surname"_s, &forms::Form1::Label10},
+           PanelField{u"BirthDate"_s, &forms::Form1::Label11}, PanelField{u"Deceased"_s, &forms::Form1::Label12},
+           PanelField{u"Spouse"_s, &forms::Form1::Label14}, PanelField{u"Maiden"_s, &forms::Form1::Label15},
+           PanelField{u"Gender"_s, &forms::Form1::Label17}));
+
+TEST_F(SubjectPanelTest, Empty_EmptiesTheNamedLabelsOnly)
+{
+    P.Form1->Label9.Caption = u"John"_s;
+    P.Form1->Label10.Caption = u"Smith"_s;
+    P.Form1->Label15.Caption = u"kept"_s;
+
+    EmptySubjectLabels(P, {&forms::Form1::Label9, &forms::Form1::Label10}, u"Ref  "_s);
+
+    EXPECT_EQ(P.Form1->Label9.Caption, QString());
+    EXPECT_EQ(P.Form1->Label10.Caption, QString());
+    EXPECT_EQ(P.Form1->Label15.Caption, u"kept"_s);
+    EXPECT_EQ(P.Form1->Frame1.Caption.value(), u"Ref  "_s);
+}
+
+TEST_F(SubjectPanelTest, Picture_OfTheRecord_IsShown)
+{
+    givenOpen(BranchA.Row({{u"File", u"A001"}}).Picture(u"A001", Qt::red));
+    P.Record.sPicFile = u"A001Sub.Jpg"_s;
+
+    LoadSubjectPicture(P, P.Form1->Image1);
+
+    const QImage shown = P.Form1->Image1.Picture;
+    ASSERT_FALSE(shown.isNull());
+    EXPECT_GT(qRed(shown.pixel(5, 5)), 240);
+    EXPECT_LT(qBlue(shown.pixel(5, 5)), 20);
+}
+
+TEST_F(SubjectPanelTest, Picture_Missing_IsFileNotFound_AndThePanelKeepsWhatItShows)
+{
+    givenOpen(BranchA.Row({{u"File", u"A001"}}).Picture(u"A001", Qt::red));
+    P.Record.sPicFile = u"A001Sub.Jpg"_s;
+    LoadSubjectPicture(P, P.Form1->Image1);
+    const QImage shown = P.Form1->Image1.Picture;
+
+    P.Record.sPicFile = u"A002Sub.Jpg"_s;
+    EXPECT_EQ(RefusalOf([&] { LoadSubjectPicture(P, P.Form1->Image1); }), ErrorNumber::FileNotFound);
+
+    EXPECT_TRUE(P.Form1->Image1.Picture.value() == shown);
+}
+
+TEST_F(SubjectPanelTest, Picture_ThatIsNone_IsInvalidPicture)
+{
+    givenOpen(BranchA.Row({{u"File", u"A001"}}));
+    Home.WriteFile(u"LfgDat_A/A001Sub.jpg", "no picture");
+    P.Record.sPicFile = u"A001Sub.Jpg"_s;
+
+    EXPECT_EQ(RefusalOf([&] { LoadSubjectPicture(P, P.Form1->Image1); }), ErrorNumber::InvalidPicture);
+}
+
+TEST_F(SubjectPanelTest, PictureMissing_IsToldWithItsName)
+{
+    P.Record.sPicFile = u"A001Sub.Jpg"_s;
+    Prompts.Expect(u"Image not Present", u"Searched Image File for A001Sub.Jpg", Buttons::Information);
+
+    TellPictureMissing(P);
+}
+
+} // namespace
+} // namespace lineforge
