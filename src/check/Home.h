@@ -1,6 +1,6 @@
 #pragma once
 
-#include "check/HomeCheck.h"
+#include "check/Findings.h"
 #include "platform/files/FileSystem.h"
 
 #include <QSet>

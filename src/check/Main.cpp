@@ -1,3 +1,4 @@
+#include "check/HomeCheck.h"
 #include "check/ReportText.h"
 #include "platform/base/CommandLine.h"
 

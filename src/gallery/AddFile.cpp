@@ -1,7 +1,7 @@
 #include "gallery/AddFile.h"
 
 #include "gallery/GalleryItem.h"
-#include "gallery/GalleryPage.h"
+#include "gallery/GalleryTile.h"
 #include "platform/base/Text.h"
 #include "program/ui/BranchUi.h"
 

@@ -1,9 +1,8 @@
 #include "gallery/GalleryItem.h"
 
-#include "gallery/DeleteFile.h"
 #include "gallery/GalleryFile.h"
-#include "gallery/GalleryPage.h"
-#include "gallery/Rearrange.h"
+#include "gallery/GalleryTile.h"
+#include "gallery/PageRecord.h"
 #include "platform/base/Number.h"
 #include "platform/drawing/PictureFile.h"
 #include "program/branch/BranchPaths.h"
@@ -134,7 +133,16 @@ void OpenText(Program& p)
                                              p.Files.Resolve(GalleryPath(p, SelectedTile(p).Tag)));
 }
 
-void OpenItem(Program& p)
+void ExitPlayer(Program& p, const PlayerPanel& panel)
+{
+    if (p.Scratch.ScanState == GalleryScan::Deleting)
+        CancelDeletion(p);
+    else if (((*p.Form5).*panel.Panel).Visible)
+        CloseGalleryItem(p);
+}
+} // namespace
+
+void OpenGalleryItem(Program& p)
 {
     constexpr int captionTail = 11;
     const QString tag = SelectedTile(p).Tag;
@@ -151,47 +159,6 @@ void OpenItem(Program& p)
     case GalleryKind::Text:
         return OpenText(p);
     }
-}
-
-void ClickTile(Program& p, int index)
-{
-    p.Gallery.GallerySel = index;
-    p.Form1->MMControl1.Command(u"Sound");
-    p.Loop.DoEvents();
-    if (p.Scratch.ScanState == GalleryScan::Deleting) {
-        // The click on the highest file goes on into the opening, although the file has gone; so it is meant to be.
-        const bool goesOn = index == p.Gallery.GalleryTop - 1 && !IsEmptyTag(SelectedTile(p).Tag);
-        DeleteFileOfTile(p, index);
-        if (!goesOn)
-            return;
-    }
-    if (p.Scratch.ScanState == GalleryScan::ItemOpen) {
-        CloseGalleryItem(p);
-        return;
-    }
-    try {
-        OpenItem(p);
-    } catch (const RuntimeError&) {
-        p.Prompts.MsgBox(u"File not Accessable."_s, u"Problem with File Path"_s, Buttons::Information);
-    }
-}
-
-void ExitPlayer(Program& p, const PlayerPanel& panel)
-{
-    if (p.Scratch.ScanState == GalleryScan::Deleting)
-        CancelDeletion(p);
-    else if (((*p.Form5).*panel.Panel).Visible)
-        CloseGalleryItem(p);
-}
-} // namespace
-
-void DropOnTile(Program& p, int index, Image& source)
-{
-    Image& target = p.Form5->Image1[index];
-    if (&source == &target)
-        ClickTile(p, index);
-    else
-        RearrangeTiles(p, source, target);
 }
 
 void PutItemAway(Program& p)

@@ -5,9 +5,8 @@
 namespace lineforge
 {
 
-// A tile has been dropped on the tile of that index: on itself that is a click, which opens the tile's file, closes
-// what is open, or deletes; on another it rearranges the files.
-void DropOnTile(Program& p, int index, Image& source);
+// Opens the file of the selected tile. Errors of its picture, its player or the editor.
+void OpenGalleryItem(Program& p);
 
 // Leaves the picture, sound or video that is open; nothing when none is.
 void CloseGalleryItem(Program& p);

@@ -2,7 +2,8 @@
 
 #include "gallery/GalleryFile.h"
 #include "gallery/GalleryItem.h"
-#include "platform/base/Text.h"
+#include "gallery/GalleryTile.h"
+#include "gallery/PageRecord.h"
 #include "program/branch/BranchPaths.h"
 
 #include <algorithm>
@@ -143,25 +144,6 @@ void LoadImageGrid(Program& p)
     PlacePlayers(p, form);
 }
 
-bool IsBuilt(const Image& tile)
-{
-    return !tile.Tag.value().isEmpty();
-}
-
-bool IsPageOfRecord(Program& p)
-{
-    return p.Gallery.PageDirectory == GalleryDirectory(p.Branch.WorkDir) &&
-           SameText(p.Gallery.PageRecord, p.Form3->Label25.Caption.value());
-}
-
-void TakePageNames(Program& p)
-{
-    if (!p.Form3.IsLoaded() || !IsPageOfRecord(p))
-        return;
-    p.Gallery.PageForename = p.Form3->Text3.Text;
-    p.Gallery.PageSurname = p.Form3->Text2.Text;
-}
-
 void ForgetPage(Program& p)
 {
     ++p.Gallery.Page;
@@ -197,13 +179,6 @@ void BuildGalleryPage(Program& p)
         return;
     ExpectPictures(p, *files);
     ShowTiles(p, *files, page);
-}
-
-void ShowEmptyTile(Program& p, int index)
-{
-    Image& tile = p.Form5->Image1[index];
-    tile.Tag = QString::number(index + 1);
-    tile.Visible = true;
 }
 
 } // namespace lineforge

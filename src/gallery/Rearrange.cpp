@@ -1,7 +1,7 @@
 #include "gallery/Rearrange.h"
 
 #include "gallery/GalleryFile.h"
-#include "gallery/GalleryPage.h"
+#include "gallery/GalleryTile.h"
 #include "platform/base/Number.h"
 
 #include <deque>

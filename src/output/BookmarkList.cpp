@@ -3,7 +3,7 @@
 #include "output/OutputMode.h"
 #include "output/PrintErrors.h"
 #include "output/RecordReport.h"
-#include "output/TextReport.h"
+#include "output/TextFile.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/ComeBackAfterwards.h"
 #include "program/branch/SiblingBranch.h"

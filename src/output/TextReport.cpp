@@ -3,6 +3,7 @@
 #include "output/BookmarkList.h"
 #include "output/OutputMode.h"
 #include "output/RecordReport.h"
+#include "output/TextFile.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/ComeBackAfterwards.h"
 #include "program/branch/SiblingBranch.h"
@@ -19,8 +20,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-constexpr int fileNameLength = 12; // of "LfgDat_A.txt"
-
 struct TextReport {
     QStringView Announcement;
     int Mode;
@@ -32,14 +31,6 @@ constexpr TextReport database{u"Database will be Copied to the Text File located
                               WriteAllRecords};
 constexpr TextReport bookmarks{u"The Bookmark list will be copied Text File located at\n", OutputMode::ListToFile,
                                PutOutBookmarks};
-
-// The file that is written takes the old one's place only when it is complete.
-void OpenTextFile(Program& p, const QString& file, const QString& before)
-{
-    if (p.Files.LookUpGivesTail(file, fileNameLength))
-        p.Files.FileCopy(file, before);
-    p.Output.TextFile = std::make_unique<TextWriter>(p.Files, file);
-}
 
 void WriteReport(Program& p, const TextReport& report, const QString& stem)
 {
@@ -86,12 +77,6 @@ void WriteAllRecords(Program& p)
     CloseTextFile(p);
     p.Output.OutputMode = OutputMode::None;
     records.MoveFirst();
-}
-
-void CloseTextFile(Program& p)
-{
-    const std::unique_ptr<TextWriter> file = std::move(p.Output.TextFile);
-    file->Close();
 }
 
 } // namespace lineforge

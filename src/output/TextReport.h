@@ -13,7 +13,4 @@ void WriteBookmarksText(Program& p);
 // Every record to the open text file, in storage order; ends on the first.
 void WriteAllRecords(Program& p);
 
-// Puts the text file in its place.
-void CloseTextFile(Program& p);
-
 } // namespace lineforge

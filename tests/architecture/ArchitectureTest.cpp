@@ -47,6 +47,11 @@ TEST_F(ArchitectureTest, NoFilesIncludeEachOtherInACircle)
     ExpectNone(CirclesOfFiles(sources));
 }
 
+TEST_F(ArchitectureTest, NoUnitsIncludeEachOtherInACircle)
+{
+    ExpectNone(CirclesOfUnits(sources));
+}
+
 TEST_F(ArchitectureTest, NoRoomsIncludeEachOtherInACircle)
 {
     ExpectNone(CirclesOfRooms(sources));

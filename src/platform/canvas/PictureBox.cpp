@@ -43,12 +43,6 @@ QPainter::CompositionMode ToComposition(DrawMode mode)
 }
 } // namespace
 
-QColor ToQColor(Colour colour)
-{
-    return QColor::fromRgb(static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
-                           static_cast<int>(colour >> 16 & 0xFF));
-}
-
 PictureBox::PictureBox(Container& parent, QStringView name, Rectangle place) : ControlKind(parent, name, place) {}
 
 // What is drawn on. It is made by the first drawing, so that an untouched picture costs nothing.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/canvas/CanvasScale.h"
 #include "platform/canvas/TextMask.h"
 #include "platform/controls/Controls.h"
 #include "platform/drawing/Surface.h"
@@ -35,7 +36,7 @@ struct PicturePart {
 class PictureBox : public ControlKind<PictureBox>, public Container, public Surface
 {
 public:
-    static constexpr int TwipsPerPixel = 5;
+    static constexpr int TwipsPerPixel = TwipsPerCanvasPixel;
 
     PictureBox(Container& parent, QStringView name, Rectangle place);
 
@@ -81,8 +82,5 @@ private:
     QImage drawing_;
     mutable TextMasks texts_;
 };
-
-// The colour for the toolkit's painters.
-QColor ToQColor(Colour colour);
 
 } // namespace lineforge

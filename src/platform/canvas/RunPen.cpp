@@ -1,7 +1,5 @@
 #include "platform/canvas/RunPen.h"
 
-#include "platform/canvas/PictureBox.h"
-
 namespace lineforge
 {
 

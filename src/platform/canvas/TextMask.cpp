@@ -1,6 +1,6 @@
 #include "platform/canvas/TextMask.h"
 
-#include "platform/canvas/PictureBox.h"
+#include "platform/canvas/CanvasScale.h"
 
 #include <QFontMetrics>
 #include <QImage>
@@ -123,7 +123,7 @@ const TextMask& TextMasks::Of(const TextFont& font, const QString& text)
 QFont ToPixelFont(const TextFont& font)
 {
     QFont result(font.Name);
-    result.setPixelSize(std::max(1, qRound(font.Size * twipsPerPoint / PictureBox::TwipsPerPixel)));
+    result.setPixelSize(std::max(1, qRound(font.Size * twipsPerPoint / TwipsPerCanvasPixel)));
     result.setBold(font.Bold);
     result.setItalic(font.Italic);
     result.setStyleStrategy(QFont::NoAntialias);

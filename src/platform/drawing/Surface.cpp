@@ -18,4 +18,10 @@ Colour QbColor(int number)
     return palette[static_cast<std::size_t>(number)];
 }
 
+QColor ToQColor(Colour colour)
+{
+    return QColor::fromRgb(static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
+                           static_cast<int>(colour >> 16 & 0xFF));
+}
+
 } // namespace lineforge

@@ -2,6 +2,7 @@
 
 #include "platform/drawing/Geometry.h"
 
+#include <QColor>
 #include <QString>
 
 #include <cstdint>
@@ -22,6 +23,9 @@ inline constexpr Colour White = Rgb(255, 255, 255);
 
 // Colour 0 to 15 of the classic console; error 5 for any other number.
 Colour QbColor(int number);
+
+// For the toolkit's painters.
+QColor ToQColor(Colour colour);
 
 struct TextFont {
     QString Name = QStringLiteral("Arial");

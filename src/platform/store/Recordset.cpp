@@ -3,7 +3,6 @@
 #include "platform/base/RuntimeError.h"
 #include "platform/base/Text.h"
 #include "platform/store/OtherPrograms.h"
-#include "platform/store/RecordsetLook.h"
 
 #include <algorithm>
 #include <bit>

@@ -3,6 +3,7 @@
 #include "platform/base/Like.h"
 #include "platform/store/Database.h"
 #include "platform/store/RowPlace.h"
+#include "platform/store/TableRows.h"
 
 #include <QHash>
 #include <QString>
@@ -14,9 +15,6 @@
 
 namespace lineforge
 {
-
-class TableRows;
-struct Renumbering;
 
 // A remembered position of a cursor; empty until one has been stored in it. It leads to the same record whatever other
 // programs have done to the file meanwhile.
@@ -193,6 +191,21 @@ private:
     Pending pending_ = Pending::None;
     std::map<int, FieldValue> edits_;
     std::map<int, std::function<FieldValue()>> choices_; // of edits that are still to be chosen
+};
+
+// While it lives no other program changes the file, and the cursor has followed what they did before.
+class Recordset::Look
+{
+public:
+    explicit Look(const Recordset& cursor)
+        : hold_(cursor.rows_, cursor.held_ ? TableRows::Notices::No : TableRows::Notices::Yes)
+    {
+        cursor.RenewStatements();
+        cursor.FollowOthers();
+    }
+
+private:
+    TableRows::Hold hold_;
 };
 
 } // namespace lineforge

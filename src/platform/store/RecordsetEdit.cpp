@@ -1,6 +1,6 @@
 #include "platform/base/RuntimeError.h"
 #include "platform/store/OtherPrograms.h"
-#include "platform/store/RecordsetLook.h"
+#include "platform/store/Recordset.h"
 
 #include <utility>
 

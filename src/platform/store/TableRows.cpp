@@ -113,13 +113,13 @@ RowPlace Renumbering::GapAfter(std::int64_t before) const
 
 TableRows::TableRows(const QByteArray& table) : table_(table), serial_(NextSerial()) {}
 
-void TableRows::Attach(Database& database)
+void TableRows::Attach(Connection& file)
 {
     auto failed = qScopeGuard([this] { Detach(); });
     names_.clear();
-    database_ = &database;
-    database.Others().Patiently(database.Path(), [&](int milliseconds) {
-        database.BePatient(milliseconds);
+    file_ = &file;
+    file.Others().Patiently(file.Path(), [&](int milliseconds) {
+        file.BePatient(milliseconds);
         Prepare();
     });
     failed.dismiss();
@@ -127,7 +127,7 @@ void TableRows::Attach(Database& database)
 
 void TableRows::Detach()
 {
-    database_ = nullptr;
+    file_ = nullptr;
     version_.reset();
     one_.reset();
 }
@@ -136,7 +136,7 @@ void TableRows::Prepare()
 {
     std::vector<QString> names;
     QByteArray fields;
-    const auto all = database_->Prepare("SELECT * FROM " + table_);
+    const auto all = file_->Prepare("SELECT * FROM " + table_);
     for (int column = 0; column < all->Columns(); ++column) {
         const QByteArray name = all->ColumnName(column);
         names.push_back(QString::fromUtf8(name));
@@ -144,12 +144,12 @@ void TableRows::Prepare()
     }
     // Whoever reads the table by the places of its fields would read others.
     if (!names_.empty() && names != names_)
-        throw RuntimeError(ErrorNumber::TableNotFound, database_->Path());
+        throw RuntimeError(ErrorNumber::TableNotFound, file_->Path());
     names_ = std::move(names);
     fields_ = fields;
-    version_ = database_->Prepare("PRAGMA data_version");
-    one_ = database_->Prepare("SELECT " + fields_ + " FROM " + table_ + " WHERE rowid = ?1");
-    opening_ = database_->Opening();
+    version_ = file_->Prepare("PRAGMA data_version");
+    one_ = file_->Prepare("SELECT " + fields_ + " FROM " + table_ + " WHERE rowid = ?1");
+    opening_ = file_->Opening();
     seenVersion_.reset();
 }
 
@@ -184,7 +184,7 @@ void TableRows::Release()
 void TableRows::FollowFile()
 {
     try {
-        database_->FollowFile();
+        file_->FollowFile();
     } catch (const RuntimeError& refusal) {
         if (refusal.Number == ErrorNumber::DatabaseBusy)
             throw;
@@ -193,10 +193,10 @@ void TableRows::FollowFile()
 
 void TableRows::Lock()
 {
-    database_->Others().Patiently(database_->Path(), [this](int milliseconds) {
-        database_->BePatient(milliseconds);
+    file_->Others().Patiently(file_->Path(), [this](int milliseconds) {
+        file_->BePatient(milliseconds);
         FollowFile();
-        if (opening_ != database_->Opening())
+        if (opening_ != file_->Opening())
             Prepare();
         version_->Step();
     });
@@ -237,7 +237,7 @@ TableRows::Entries TableRows::ReadAll()
     Entries entries;
     entries.reserve(entries_ ? entries_->size() : 0);
     // The number comes last, so that the fields count from 0.
-    const auto rows = database_->Prepare("SELECT " + fields_ + ", rowid FROM " + table_ + " ORDER BY rowid");
+    const auto rows = file_->Prepare("SELECT " + fields_ + ", rowid FROM " + table_ + " ORDER BY rowid");
     const int fields = static_cast<int>(names_.size());
     while (rows->Step())
         entries.push_back({rows->Integer(fields), PrintAt(*rows)});
@@ -287,7 +287,7 @@ Renumbering TableRows::StepBetween(const Entries& before, const Entries& now)
 RowPlace TableRows::Find(const RowMark& mark) const
 {
     if (mark.Table != serial_ || mark.Numbering > Numbering())
-        throw RuntimeError(ErrorNumber::NotABookmark, database_->Path());
+        throw RuntimeError(ErrorNumber::NotABookmark, file_->Path());
     RowPlace place{mark.Row, mark.Row};
     for (std::uint32_t numbering = mark.Numbering; numbering < Numbering(); ++numbering) {
         const Renumbering& step = StepFrom(numbering);

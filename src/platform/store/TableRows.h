@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/store/Database.h"
+#include "platform/store/Connection.h"
 #include "platform/store/RowPlace.h"
 
 #include <QByteArray>
@@ -52,9 +52,9 @@ public:
 
     // By which the table is read until it is detached. What is known of its rows outlives that. 3078 when the file has
     // no such table.
-    void Attach(Database& database);
+    void Attach(Connection& file);
     void Detach();
-    bool IsAttached() const { return database_ != nullptr; }
+    bool IsAttached() const { return file_ != nullptr; }
 
     // While it lives no other program can change the file. When it begins, what one did before has been noticed; where
     // nobody will remember a row when it ends, that can be left out.
@@ -115,7 +115,7 @@ private:
 
     QByteArray table_;
     std::uint32_t serial_;
-    Database* database_ = nullptr;
+    Connection* file_ = nullptr;
     std::uint32_t opening_ = 0;
     std::vector<QString> names_;
     QByteArray fields_;

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "program/state/Program.h"
-
 namespace lineforge
 {
 
+class OtherPrograms;
+class Prompts;
+
 // From now on the user is told what other programs do to the databases that are open.
-void TellOfOtherPrograms(Program& p);
+void TellOfOtherPrograms(OtherPrograms& others, Prompts& prompts);
 
 } // namespace lineforge

@@ -13,7 +13,7 @@ Program::Program(const Platform& platform)
       Form5(platform.Windows), Form6(platform.Windows), Form7(platform.Windows), Form8(platform.Windows),
       Form11(platform.Windows), Form12(platform.Windows)
 {
-    TellOfOtherPrograms(*this);
+    TellOfOtherPrograms(Databases.Others(), Prompts);
 }
 
 } // namespace lineforge

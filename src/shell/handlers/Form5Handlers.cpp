@@ -2,6 +2,7 @@
 #include "gallery/DeleteFile.h"
 #include "gallery/GalleryItem.h"
 #include "gallery/GalleryPage.h"
+#include "gallery/TileClick.h"
 #include "output/PrintBranch.h"
 #include "shell/handlers/InstallHandlers.h"
 #include "shell/run/Exit.h"

@@ -2,6 +2,7 @@
 
 #include "gallery/GalleryItem.h"
 #include "gallery/GalleryPage.h"
+#include "gallery/PageRecord.h"
 #include "map/items/CurrentBox.h"
 #include "map/subjects/SubjectPanel.h"
 #include "map/tools/LeaveTools.h"
