@@ -81,7 +81,9 @@ bool TakeStock(Program& p, const Direction& way, const Bookmark& before)
             to.SetBookmark(before);
             return false;
         }
-        // Of the compare record in both directions; so it is meant to be.
+        // KEPT(FieldCopyTest.AppendToCurrent_LooksAtTheFirstCompareRecordForAZ): of the compare record in both
+        // directions.
+        // Mended, an append to the current branch would pass over the numbers that it meets there.
         NoteZNumber(p, CompareRecords(p).Text(u"File"));
     }
     return true;
@@ -139,8 +141,13 @@ void CopyAllFields(Program& p)
     ChangeOrShowAgain(p, way.To, [&](Recordset& to) { CopyFields(way.From.Records(p), to); });
 }
 
-// Both begin with the compare recordset's first record: to the current branch it is that one which is appended, not the
-// one on show, and the current one is searched from where it stands. So it is meant to be.
+// Both directions begin with the compare recordset's first record.
+// KEPT(FieldCopyTest.AppendToCurrent_TakesTheFirstCompareRecord_NotTheOneOnShow): to the current branch it is that one
+// which is appended, not the one on show.
+// Mended, the one on show would be appended.
+// KEPT(FieldCopyTest.AppendToCurrent_LooksForTheNumberFromWhereTheCurrentBranchStands): the current branch is searched
+// from where it stands.
+// Mended, a record that stands further up would be found as well, and the append refused.
 void AppendRecord(Program& p)
 {
     const Direction& way = DirectionOf(p);

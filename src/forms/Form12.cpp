@@ -7,7 +7,9 @@ using namespace Qt::StringLiterals;
 
 Form12::Form12() : Form(u"Form12", u"Create GEDCOM file", {11880, 7500})
 {
-    // Each begins with its own name, which passes as what the user has typed; so it is meant to be.
+    // KEPT(GedcomWriterTest.DefaultTexts_PassAsTheUsersOwn): each begins with its own name, which passes as what the
+    // user has typed.
+    // Mended, no file would be made before a name and an address are typed.
     for (TextBox* box : Texts())
         box->Text.Show(box->Name);
     Text7.Text.Show(u"X010"_s);

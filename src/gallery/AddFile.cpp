@@ -47,8 +47,10 @@ void Refuse(Program& p, const Addition& addition)
     p.Prompts.MsgBox(u"Directory Table Full."_s, addition.TableFull.toString(), Buttons::Information);
 }
 
-// The lowest subscript that no file has; 99 when all are taken. Nothing, after a box, when the last place is in use,
-// which is asked of the one name that ends in an asterisk; so it is meant to be.
+// The lowest subscript that no file has; 99 when all are taken. Nothing, after a box, when the last place is in use.
+// KEPT(AddFileTest.AllSubscriptsTaken_EndsWithoutAWord): that is asked of the one name that ends in an asterisk, so
+// that no other file in the last place brings the box.
+// Mended, a record with a file there would take no more, not even into its gaps.
 std::optional<int> FreeSubscript(Program& p, const Addition& addition, const QString& key)
 {
     // A file numbered 0 takes no place that an addition would.
@@ -66,7 +68,9 @@ std::optional<int> FreeSubscript(Program& p, const Addition& addition, const QSt
     return subscript;
 }
 
-// The last of all goes without, and from then on no page of the record can be built; that is the settled behaviour.
+// KEPT(AddFileTest.NinetyEighthFile_LacksItsSubscript): the last of all goes without, and from then on no page of the
+// record can be built.
+// Mended, a gallery that is full could be shown, where it ends the program now.
 QString SubscriptInName(int subscript)
 {
     return subscript == LastSubscript ? QString() : SubscriptText(subscript);

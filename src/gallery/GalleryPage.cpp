@@ -164,7 +164,10 @@ void BuildGalleryPage(Program& p)
     p.Form5->Caption = p.Branch.sBranchName + u" Tree Branch. Gallery " + p.Gallery.PageRecord + u" of " +
                        p.Gallery.PageForename + u' ' + p.Gallery.PageSurname;
     CancelDeletion(p);
-    // Not what is known of it: the next click on a tile closes it once more, and opens nothing; so it is meant to be.
+    // Not what is known of it.
+    // KEPT(GalleryItemTest.NewPageBehindAnOpenPicture_HasAllTilesInTheirPlaces_AndTheNextClickCloses): the next click
+    // on a tile closes it once more, and opens nothing.
+    // Mended, that click would open what is on its tile.
     PutItemAway(p);
     ClearPage(p);
     p.Form5->Show();

@@ -47,7 +47,9 @@ bool CopyBranch(Program& p, const QString& source, const QString& directory, con
     p.Screen.Pointer = MousePointer::Hourglass;
     const auto pointerBack = qScopeGuard([&p] { p.Screen.Pointer = MousePointer::Default; });
     CopyDirectory(p, source, directory);
-    // It has gone through the names of the files, and ends behind the last; so it is meant to be.
+    // KEPT(BranchExportTest.NameOfThePicture_IsEmptyAfterTheListing_AndInAGedcomFile): it has gone through the names of
+    // the files, and ends behind the last.
+    // Mended, a GEDCOM file after an export would name the picture that was shown.
     p.Record.sPicFile.clear();
     if (!MakeDirectory(p, gallery))
         return false;

@@ -22,8 +22,10 @@ void CancelExport(Program& p);
 void ExportBranch(Program& p);
 
 // The directory that an export of that database goes to: the path, and what the last 22 characters of the database's
-// begin with, which is its directory where that has the name of a branch. At the root the branch's letter is lost from
-// the name. So it is meant to be.
+// begin with, which is its directory where that has the name of a branch.
+// KEPT(ExportDirectoryTest.Name_IsTheSourcesOwn_WithoutItsLetterAtTheRoot): at the root the branch's letter is lost
+// from the name.
+// Mended, such an export would have it, and so would its gallery.
 QString ExportDirectory(const QString& beneath, const QString& database);
 
 } // namespace lineforge

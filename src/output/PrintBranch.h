@@ -15,8 +15,9 @@ void PrintComparisonWindow(Program& p);
 void PrintRecordWindow(Program& p);
 void PrintGalleryWindow(Program& p);
 
-// The command of the window that shows a picture by itself. It prints the main window, and is meant to; what the
-// printer refuses is shown in words.
+// The command of the window that shows a picture by itself. What the printer refuses is shown in words.
+// KEPT(PrintWindowTest.PictureWindow_PrintsTheMainWindow): it prints the main window.
+// Mended, it would print its own, with the picture.
 void PrintFromPictureWindow(Program& p);
 
 // One record on a page of its own. Errors are shown.

@@ -15,8 +15,9 @@ qsizetype CutOf(QStringView text)
 }
 } // namespace
 
-// Counts in the shared indexes, and leaves the length of the last piece to a lineage, which begins there; so it is
-// meant to be.
+// KEPT(WrapTest.Value_BecomesTheseLines): counts in the shared indexes, and leaves the length of the last piece to a
+// lineage, which begins there.
+// Mended, a lineage after a report of notes would begin at its first row.
 QStringList Wrapped(ScratchState& scratch, const QString& value)
 {
     const QString text = value + u' ';
@@ -31,7 +32,8 @@ QStringList Wrapped(ScratchState& scratch, const QString& value)
         lines.push_back(rest.first(scratch.LenScratch).toString());
         rest = rest.sliced(scratch.LenScratch);
     }
-    // A text that has been cut at its very end leaves an empty line behind; so it is meant to be.
+    // KEPT(WrapTest.Value_BecomesTheseLines): a text that has been cut at its very end leaves an empty line behind.
+    // Mended, notes of that length would take a line less than in earlier reports.
     lines.push_back(rest.toString());
     return lines;
 }

@@ -148,7 +148,9 @@ void EnlargeSubjectPicture(Program& p)
         LoadSubjectPicture(p, p.Form2->Image1);
         p.Form2->Show();
     } catch (const RuntimeError&) {
-        // The panel of the main window is emptied, not the window that was to show the picture; so it is meant to be.
+        // KEPT(RecordFormTest.PictureClickWithoutPicture_IsTold_AndEmptiesTheMapsPanel): the panel of the main window
+        // is emptied, not the window that was to show the picture.
+        // Mended, the panel would keep its picture.
         p.Form1->Image1.Picture = QImage();
         TellPictureMissing(p);
     }

@@ -32,8 +32,10 @@ QString Ask(Program& p, const QString& prompt)
     return p.Prompts.InputBox(u"Search Database"_s, prompt);
 }
 
-// Looked for where `sNewDir` says, whoever wrote that last; elsewhere than in the branch it isn't found, and none is
-// shown. So it is meant to be.
+// Looked for where `sNewDir` says, whoever wrote that last.
+// KEPT(RecordSearchTest.AfterATransportClick_TheHitHasNoPicture): elsewhere than in the branch it isn't found, and none
+// is shown.
+// Mended, a hit would show its picture after a scan and after a page of the gallery as well.
 void ShowPictureOfHit(Program& p)
 {
     ShowRecordPicture(p, p.Scratch.sNewDir);

@@ -220,11 +220,13 @@ void TransferRecord(Program& p)
     if (!keepsPicture && !CopyPicture(p, picture, itsPicture))
         return;
     auto pictureBack = qScopeGuard([&] { PutPictureBack(p, itsPicture, pictureBefore, shownBefore); });
-    // The box doesn't name the number that was typed, unless its branch couldn't be opened; so it is meant to be.
+    // KEPT(RecordTransferTest.NoSuchRecord_IsToldWithTheNumberShownLast_AndThePictureStaysCopied): the box doesn't name
+    // the number that was typed, unless its branch couldn't be opened, and a number that isn't there leaves its picture
+    // behind.
+    // Mended, the box would tell the number in the place of the record shown last or of the pattern searched for last.
     const bool isFound = FindDestination(p, destination, isOpen ? p.Record.sCurFile : destination);
     if (isFound)
         WriteFields(p, source->Texts);
-    // A number that isn't there leaves its picture behind; so it is meant to be.
     pictureBack.dismiss();
     if (isFound)
         ShowOverwritten(p);

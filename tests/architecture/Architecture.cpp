@@ -248,6 +248,14 @@ QStringList IncludesAgainstTheTower(const Sources& sources)
     return findings;
 }
 
+QStringList RoomsFromTheGroundUp()
+{
+    QStringList names;
+    for (const Room& room : Rooms())
+        names.push_back(room.Name);
+    return names;
+}
+
 QStringList RoomsThatUseWhatIsAbove()
 {
     QStringList findings;

@@ -21,6 +21,9 @@ QStringList WidgetsBelowTheLine(const Sources& sources);
 // Every include goes to a file of the same room or of a room that the table of rooms has it use.
 QStringList IncludesAgainstTheTower(const Sources& sources);
 
+// The rooms of that table, in its order.
+QStringList RoomsFromTheGroundUp();
+
 // Rooms of that table that use one which doesn't stand before them.
 QStringList RoomsThatUseWhatIsAbove();
 

@@ -29,8 +29,9 @@ struct FileLine {
     QStringView Shown = {}; // in the panel, where that differs
 };
 
-// The comma before "3 ADDR", the dates and times without a value and the subject's picture for a file name are meant to
-// be so, and so is the date of the data.
+// KEPT(GedcomWriterTest.WholeFile_AsItStandsOnDisk): there is a comma before "3 ADDR", date and time have no value, the
+// file's name is that of the subject's picture, and the date of the data is always the same.
+// Mended, files would begin otherwise than all that have been written.
 constexpr FileLine head[] = {
     {u"0 HEAD"},
     {u"1 SOUR"},

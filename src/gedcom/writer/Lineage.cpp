@@ -52,8 +52,10 @@ void TakeParents(Program& p, Row& row, const QString& none)
     row[Ma] = records.Value(u"MotherRec").value_or(none);
 }
 
-// SECTION1. The line goes on to the father. A mother without a father isn't followed, but the line has one more row
-// then, of blanks; so it is meant to be.
+// SECTION1. The line goes on to the father.
+// KEPT(LineageTest.StartWithAMotherOnly_HasARowOfBlanksBehindIt_AndTheOffspringOfBlanks): a mother without a father
+// isn't followed, but the line has one more row then, of blanks.
+// Mended, the count in the file would be another for such a line.
 void FillLine(Program& p)
 {
     Print(p, u"SECTION1:First fill array with lineage individuals");
@@ -89,8 +91,13 @@ void FindOffspring(Program& p, Row& row)
     }
 }
 
-// SECTION2. The first row's count begins at what other routines have left in `IdxA`, and the line of each row shows the
-// last three of its offspring from the row that `IdxB` was left at; so it is meant to be.
+// SECTION2.
+// KEPT(StaleCountTest.FirstRow_BeginsAtWhatWasLeft_TheOthersAtTheFirstCell): the first row's count begins at what other
+// routines have left in `IdxA`.
+// Mended, the table would have offspring that it lacks after a box has been looked for.
+// KEPT(LineageTest.LastThreeOffspring_AreThoseOfTheRowThatAnEarlierSearchEndedAt): the line of each row shows the last
+// three of its offspring from the row that `IdxB` was left at.
+// Mended, the panel would show those of the row itself.
 void AddOffspringOfLine(Program& p)
 {
     Print(p, u"SECTION2:Search for Records who's Pa is = Subject & add offspring to array");
@@ -188,7 +195,9 @@ void CountDifferentMothers(Program& p)
             p.Lineage.MaDiffer += 1;
 }
 
-// Offspring of different mothers leave the row as it is, whatever the panel says; so it is meant to be.
+// KEPT(LineageTest.ChildrenOfTwoMothers_GiveNeitherSpouseNorMark): offspring of different mothers leave the row as it
+// is, whatever the panel says.
+// Mended, the table would have mothers that it doesn't have now.
 void MarkFamily(Program& p)
 {
     CountDifferentMothers(p);
@@ -200,7 +209,9 @@ void MarkFamily(Program& p)
     p.Lineage.MaArray.Erase();
 }
 
-// An offspring without a record ends the marking for all rows behind it as well; so it is meant to be.
+// KEPT(LineageSectionsTest.OffspringGoneMeanwhile_HasNoParents_AndEndsTheMarkingOfAllRowsBehindIt): an offspring
+// without a record ends the marking for all rows behind it as well.
+// Mended, those rows would have marks and spouses.
 void MarkFamilies(Program& p)
 {
     p.Scratch.LenScratch = p.Scratch.IdxA = 0;
@@ -214,7 +225,9 @@ void MarkFamilies(Program& p)
     } while (GoToNextRow(p));
 }
 
-// A spouse without a record is put into every free row; so it is meant to be.
+// KEPT(LineageSectionsTest.SpouseWithoutARecord_FillsAllFreeRows): a spouse without a record is put into every free
+// row.
+// Mended, there would be room for the spouses behind that one.
 void AddSpouse(Program& p, const Row& partner)
 {
     const QString number = partner[Spse];

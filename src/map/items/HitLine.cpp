@@ -34,7 +34,9 @@ Point EndOf(const LineRow& line)
     return {line[LineColumn::X2], line[LineColumn::Y2]};
 }
 
-// Line 0 can't be told from an entry that nothing has been stored in, and counts as listed; so it is meant to be.
+// KEPT(LineChainTest.Line0_IsNeverAdded): line 0 can't be told from an entry that nothing has been stored in, and
+// counts as listed.
+// Mended, it would move and be deleted with the lines that it hangs on.
 bool IsInChain(const MapState& map, int row)
 {
     for (int entry = 0; entry <= lastOfChain; ++entry)
@@ -70,8 +72,10 @@ void AddNeighbours(Program& p, const LineRow& line)
     }
 }
 
-// Goes on from the newest line of each pass only: of two lines that fork from one, the higher is followed and the other
-// is carried along; so it is meant to be.
+// Goes on from the newest line of each pass only.
+// KEPT(LineChainTest.Fork_BothBranchesAreCarried_ButOnlyTheHigherIsFollowed): of two lines that fork from one, the
+// higher is followed and the other is carried along.
+// Mended, what hangs on the other would move and be deleted as well.
 void FollowChain(Program& p)
 {
     int followed = -1;

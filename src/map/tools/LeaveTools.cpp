@@ -69,7 +69,9 @@ void ReturnToRecord(Program& p)
     if (IsBranchOpen(p) && !Records(p).IsEmpty()) {
         p.Errors.Ignoring([&] { StandOnRecordOfOpening(p); });
         MarkCurrentBox(p);
-        // Even where no box holds the record and the marker stands wherever it stood; so it is meant to be.
+        // KEPT(LeaveToolsAnswerTest.RecordWithoutABox_ShowsTheMarkerWhereItStood): even where no box holds the record
+        // and the marker stands wherever it stood.
+        // Mended, no marker would show for such a record.
         p.Form1->Shape1.Visible = true;
     }
     PutCursorDown(p);

@@ -143,7 +143,9 @@ void StretchLine(Program& p, const Pointing& pointing)
     DrawIn(p.Form1->Picture1, p.Form1->CommonDialog1.Color, Down(p), {p.Tools.MoveX, p.Tools.MoveY});
 }
 
-// Without a move the far end is that of the gesture before; so it is meant to be.
+// KEPT(LineToolTest.PressAndReleaseWithoutAMove_FarFromTheLastGesture_KeepsALineToThere): without a move the far end is
+// that of the gesture before.
+// Mended, a mere click would never leave a line.
 Released EndLine(Program& p)
 {
     PictureBox& picture = p.Form1->Picture1;
@@ -196,7 +198,9 @@ Released DeleteChain(Program& p)
         DrawLineIn(p, row, p.Form1->Picture1.BackColor);
         p.Map.LineArr[row].Erase();
     });
-    // Once, however many lines went with it: the highest rows stay in the count; so it is meant to be.
+    // KEPT(LineToolTest.Delete_ChainOfThree_RemovesAllThree_AndLowersTheCountByOne): once, however many lines went with
+    // it: the highest rows stay in the count.
+    // Mended, more of the lines that are left would fall out of it, and new lines take their rows.
     p.Map.SLines -= 1;
     return Released::Repaint;
 }

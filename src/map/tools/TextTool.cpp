@@ -59,7 +59,9 @@ void StoreText(Program& p, int row, Point place)
     auto& cells = p.Map.TextArr[row];
     cells[TextColumn::X] = place.X;
     cells[TextColumn::Y] = place.Y;
-    // A comma in it shifts all values behind it when the map is read again; so it is meant to be.
+    // KEPT(NewTextTest.CommaInIt_ShiftsWhatStandsBehindIt): a comma in it shifts all values behind it when the map is
+    // read again.
+    // Mended, it would be stored otherwise than it was typed.
     cells[TextColumn::Text] = p.Scratch.sInput;
     cells[TextColumn::FontName] = picture.Font.Name;
     cells[TextColumn::FontSize] = QString::number(picture.Font.Size);
@@ -147,7 +149,9 @@ Released DeleteText(Program& p)
     auto& cells = p.Map.TextArr[p.Tools.TextIdx];
     for (int column = 0; column < TextColumn::Count; ++column)
         cells[column] = 0;
-    // The slot stays: at the save the highest text is left out for it; so it is meant to be.
+    // KEPT(TextToolTest.DeleteFirstOfThree_SavedWithYes_OnlyTheSecondIsInTheFile): the slot stays, and at the save the
+    // highest text is left out for it.
+    // Mended, no text would be lost by the deletion of another.
     p.Map.STexts -= 1;
     return Released::Repaint;
 }

@@ -48,7 +48,9 @@ void PrintBoxTexts(Program& p, int row, Colour pen)
     const int y = box[BoxColumn::Y].Number();
     ResetMapFont(picture);
     picture.ForeColor = pen;
-    // An empty box shows its "0" while it travels; so it is meant to be.
+    // KEPT(ZoneDragTest.TravellingBox_ShowsItsNumberAndName_AnEmptyOneAZero): an empty box shows its "0" while it
+    // travels.
+    // Mended, it would travel empty.
     PrintOnMap(picture, {x + NumberInBox.X, y + NumberInBox.Y}, box[BoxColumn::File].Text());
     PrintOnMap(picture, {x + ForenameInBox.X, y + ForenameInBox.Y}, FittedForename(box[BoxColumn::Forename].Text()));
 }
@@ -88,7 +90,9 @@ Pressed BeginZone(Program& p, const Pointing& pointing)
     return Pressed::Yes;
 }
 
-// Back on the right of the press, or below it, the zone keeps the left or top that it had last; so it is meant to be.
+// KEPT(ZoneToolTest.RubberTurnedBackAcrossThePress_KeepsItsLastLeftAndTop): back on the right of the press, or below
+// it, the zone keeps the left or top that it had last.
+// Mended, it would stand elsewhere, and carry other items.
 void StretchZone(Program& p, const Pointing& pointing)
 {
     KeepPointer(p, pointing);

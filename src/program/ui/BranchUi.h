@@ -9,8 +9,9 @@ namespace lineforge
 void DisableBranchUI(Program& p);
 void EnableBranchUI(Program& p);
 
-// As wide as the screen and as high, less the spared twips; placed by the record form's size, not its own. So it is
-// meant to be.
+// As wide as the screen and as high, less the spared twips.
+// KEPT(GedcomFormTest.Window_IsAsWideAsTheScreen_AndSomewhatLessHigh): placed by the record form's size, not its own.
+// Mended, the window of the GEDCOM file would have another `Top`, and stand where it stands on the screen.
 void FillScreen(Program& p, Form& form, int spared);
 
 // Ends a pending mapping or re-positioning of a subject.

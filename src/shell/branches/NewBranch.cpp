@@ -79,7 +79,9 @@ bool Confirm(Program& p, const QString& name, const QString& directory)
 bool MakeDirectories(Program& p)
 {
     if (!MakeDirectory(p, p.Branch.WorkDir)) {
-        // The words of the text are meant as they stand.
+        // KEPT(MadeBranchTest.DirectoryThatIsThereAfterAll_StopsTheCommand_AndIsNotTouched): the text has the name of a
+        // variable, and the signs around it, where the directory's name should stand.
+        // Mended, the box would name the directory.
         p.Prompts.MsgBox(u"Error Setting New Directory"_s, u" sDir & ' directory already exists.'"_s,
                          Buttons::Information);
         return false;
