@@ -18,11 +18,9 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-// The surname stands in the field's box, but no field is chosen by that, and the one of an earlier search no more: it
-// isn't the one that the window names.
+// The surname stands in the field's box, but no field is chosen by that.
 void ShowFirstCurrentRecord(Program& p)
 {
-    p.Compare.sCompField.clear();
     const PersonTexts person = ReadPerson(p, CurrentSide, NullForename::Empty);
     ShowPerson(p, CurrentSide, person);
     ShowField(p, CurrentSide, person.Surname);

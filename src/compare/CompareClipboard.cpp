@@ -1,6 +1,7 @@
 #include "compare/CompareClipboard.h"
 
 #include "compare/CompareSearch.h"
+#include "compare/FieldDifference.h"
 #include "compare/RefusedChange.h"
 #include "compare/Sides.h"
 
@@ -37,16 +38,20 @@ const EditedBox& BoxOf(int number)
 void Store(Program& p, const QString& text)
 {
     const EditedBox& box = BoxOf(p.Compare.SelBox);
+    const bool isField = box.Field.isEmpty();
     // Without a record there is nothing to be written to, whatever is on show.
-    if (HasRecord(p, box.Owner) && !IsSeen(p))
-        return;
-    const QString field = box.Field.isEmpty() ? p.Compare.sCompField : box.Field.toString();
+    if (HasRecord(p, box.Owner)) {
+        if (!IsSeen(p))
+            return;
+        if (isField && !IsFieldOnShow(p, box.Owner))
+            return ShowField(p, box.Owner, text);
+    }
     ChangeOrShowAgain(p, box.Owner, [&](Recordset& record) {
-        if (box.Field.isEmpty())
+        if (isField)
             ShowField(p, box.Owner, text);
         else
             ((*p.Form6).*box.Box).Text = text;
-        record.Put(field, text);
+        record.Put(isField ? QStringView(p.Compare.sCompField) : box.Field, text);
     });
 }
 } // namespace

@@ -1,6 +1,7 @@
 #include "compare/FieldCopy.h"
 
 #include "compare/CompareSearch.h"
+#include "compare/FieldDifference.h"
 #include "compare/RefusedChange.h"
 #include "compare/Sides.h"
 #include "platform/base/Number.h"
@@ -89,6 +90,11 @@ bool TakeStock(Program& p, const Direction& way, const Bookmark& before)
     return true;
 }
 
+void TellNothingToCopy(Program& p)
+{
+    p.Prompts.MsgBox(u"Copy Error"_s, u"There is no record to copy across."_s, Buttons::Information);
+}
+
 void Append(Program& p, const Direction& way)
 {
     Recordset& from = way.From.Records(p);
@@ -119,6 +125,9 @@ void CopyField(Program& p)
     const Direction& way = DirectionOf(p);
     if (!IsPairSeen(p))
         return;
+    // Both have to name it: what is copied, and over what.
+    if (!IsFieldOnShow(p, CurrentSide) || !IsFieldOnShow(p, CompareSide))
+        return TellNothingToCopy(p);
     const QString& field = p.Compare.sCompField;
     try {
         ChangeOrShowAgain(p, way.To, [&](Recordset& to) {
@@ -129,7 +138,7 @@ void CopyField(Program& p)
     } catch (const RuntimeError& refusal) {
         if (refusal.IsTold)
             return;
-        p.Prompts.MsgBox(u"Copy Error"_s, u"There is no record to copy across."_s, Buttons::Information);
+        TellNothingToCopy(p);
     }
 }
 

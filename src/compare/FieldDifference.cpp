@@ -204,6 +204,15 @@ QStringView FieldNamedBy(const QString& caption)
     return named == ComparedFields.end() ? QStringView() : named->Field;
 }
 
+bool IsFieldOnShow(Program& p, const Side& side)
+{
+    const QString& field = p.Compare.sCompField;
+    const auto isNamed = [&, caption = ((*p.Form6).*side.FieldFrame).Caption.value()](const ComparedField& row) {
+        return row.Caption == caption && row.CompField == field;
+    };
+    return field.isEmpty() || std::ranges::any_of(ComparedFields, isNamed);
+}
+
 void ShowComparePair(Program& p)
 {
     const PersonTexts current = ReadPerson(p, CurrentSide, NullForename::Refused);

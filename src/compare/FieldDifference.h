@@ -1,6 +1,6 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "compare/Sides.h"
 
 namespace lineforge
 {
@@ -11,6 +11,10 @@ void FieldDifferenceSearch(Program& p);
 
 // The field of the table that such a caption names; empty when it names none.
 QStringView FieldNamedBy(const QString& caption);
+
+// Whether the frame of the side names the field that Cut, Paste and Copy a Field write: nothing is written to one that
+// nobody sees. Before any has been chosen there is none to be taken for another.
+bool IsFieldOnShow(Program& p, const Side& side);
 
 // Both sides' records. Error 94 for a forename that is Null.
 void ShowComparePair(Program& p);

@@ -41,8 +41,8 @@ protected:
 
 TEST_F(CompactedCompareTest, FieldIsCopied_ToTheOtherOfThePair)
 {
+    Search();
     Compact();
-    P.Compare.sCompField = u"Surname"_s;
     Click(P.Form6->Command3.Click);
 
     EXPECT_EQ(Surnames(u'B'), u"B002 our Surname, B003 third Surname"_s);
@@ -105,7 +105,7 @@ TEST_F(CompactedCompareTest, RecordChangedSinceItWasShown_IsNotWritten_AndTold)
 
 TEST_F(CompactedCompareTest, FieldNotCopiedForThatReason_GetsNoSecondBox)
 {
-    P.Compare.sCompField = u"Surname"_s;
+    Search();
     ChangeOutside(u'B', "UPDATE Tree99 SET Notes = 'elsewhere' WHERE File = 'B002'");
     Tell(u"Record changed", u"Record B002 has been changed by another program.\n"
                             u"Nothing was stored. The Record is shown as it is now.");
@@ -164,8 +164,7 @@ protected:
 TEST_F(LockedCompareTest, FieldThatIsNotCopied_GetsNoSecondBox_AndIsShownAsItIs)
 {
     Click(P.Form6->Text3.Click);
-    P.Compare.sCompField = u"Surname"_s;
-    P.Form6->Text4.Text = u"their Surname"_s;
+    Search();
 
     GiveUp(P.Form6->Command3.Click);
 

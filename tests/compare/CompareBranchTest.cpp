@@ -41,7 +41,7 @@ TEST_F(CompareBranchTest, Command_BeginsWithTheFirstRecord_WhereverTheFormStood)
     EXPECT_TRUE(P.Form6->Visible);
     EXPECT_TRUE(P.Form1->Command5.Visible);
     EXPECT_EQ(P.Compare.ResetDone, 0);
-    EXPECT_EQ(P.Compare.sCompField, QString());
+    EXPECT_EQ(P.Compare.sCompField, u"Notes"_s);
 }
 
 TEST_F(CompareBranchTest, Command_SelectsNoField_SoThatCutTakesTheFatalPath)
@@ -56,8 +56,24 @@ TEST_F(CompareBranchTest, Command_SelectsNoField_SoThatCutTakesTheFatalPath)
     EXPECT_EQ(Stored(u'A', "Surname", "A001"), u"Smith"_s);
 }
 
-// The window names the surname.
-TEST_F(CompareBranchTest, CommandAfterASearch_LeavesNoFieldToBeWritten)
+// The surname is on show on both sides as it was before.
+TEST_F(CompareBranchTest, CommandBeforeASearch_LeavesTheSurnameToBeCopiedAndCut)
+{
+    GivenOpenBranch();
+    Compare();
+    ChooseCompare(u"Jones");
+    Compare();
+    ASSERT_EQ(Captions(), u"Field: Surname|Field: Surname"_s);
+    Click(P.Form6->Command3.Click);
+    EXPECT_EQ(Stored(u'B', "Surname", "B001"), u"Smith"_s);
+    P.Form6->Text2.Click();
+    Click(P.Form6->mnuCut.Click);
+    EXPECT_EQ(Stored(u'A', "Surname", "A001"), QString());
+    EXPECT_EQ(ExitCode(), std::nullopt);
+}
+
+// The left frame names the surname then, the right one still the field of the search.
+TEST_F(CompareBranchTest, CommandAfterASearch_LeavesNoFieldToBeCopied_AndOnlyTheRightOneToBeCut)
 {
     GivenOpenBranch();
     Compare();
@@ -67,14 +83,44 @@ TEST_F(CompareBranchTest, CommandAfterASearch_LeavesNoFieldToBeWritten)
     const auto ours = Rows(u'A');
     const auto theirs = Rows(u'B');
     Compare();
-    Tell(u"Copy Error", u"There is no record to copy across.");
-    Click(P.Form6->Command3.Click);
+    ASSERT_EQ(Captions(), u"Field: Surname|Field: Forename"_s);
+    for (const bool toCurrent : {false, true}) {
+        P.Form6->Option1.Value = !toCurrent;
+        P.Form6->Option2.Value = toCurrent;
+        Tell(u"Copy Error", u"There is no record to copy across.");
+        Click(P.Form6->Command3.Click);
+    }
     P.Form6->Text2.Click();
-    ExpectFatalBox(u"Run-time error '3265':\n\nItem not found in this collection.",
-                   u"The records have no such field:\n\n"_s + Home.Path(u"LfgDat_A/LfgDat_A.mdb"));
     Click(P.Form6->mnuCut.Click);
+    EXPECT_EQ(Texts(), u"|Jon"_s);
     EXPECT_EQ(Rows(u'A'), ours);
     EXPECT_EQ(Rows(u'B'), theirs);
+    P.Form6->Text4.Click();
+    Click(P.Form6->mnuCut.Click);
+    EXPECT_EQ(Stored(u'B', "Forename", "B001"), QString());
+    EXPECT_EQ(Rows(u'A'), ours);
+    EXPECT_EQ(ExitCode(), std::nullopt);
+}
+
+TEST_F(CompareBranchTest, WindowOpenedAfresh_TheFieldOfAFormerSearchIsWrittenInNoRecord)
+{
+    GivenOpenBranch();
+    Compare();
+    ChooseCompare(u"Jones");
+    SearchTimes(2);
+    Click(P.Form6->mnuClose.Click);
+    const auto ours = Rows(u'A');
+    Compare();
+    P.Form6->Text2.Click();
+    Click(P.Form6->mnuCut.Click);
+    EXPECT_EQ(Texts(), u"|"_s);
+    EXPECT_EQ(Rows(u'A'), ours);
+
+    P.Form6->Text4.Click();
+    ExpectFatalBox(u"Run-time error '91':\n\nObject variable not set",
+                   u"No database is open for this:\nManual Compare Search"_s);
+    Click(P.Form6->mnuCut.Click);
+    EXPECT_TRUE(ExitCode().has_value());
 }
 
 TEST_F(CompareBranchTest, NullNames_AreShownEmpty)

@@ -105,8 +105,11 @@ TEST_P(BoxTest, CutAndPasteOnARecordThatIsNotOnShow_ShowItFirst)
     EXPECT_EQ(Rows(u'A'), ours);
     EXPECT_EQ(Rows(u'B'), theirs);
     EXPECT_EQ(ShownPair(), u"A001 B001"_s);
+    // No field is on show any more.
+    const bool isField = GetParam().Field != std::string_view("Surname");
+    const std::optional<QString> before = InDatabase();
     Cut();
-    EXPECT_EQ(InDatabase(), QString());
+    EXPECT_EQ(InDatabase(), isField ? before : QString());
 }
 
 std::string NameOf(const testing::TestParamInfo<Box>& box)
@@ -189,6 +192,7 @@ TEST_F(CompareClipboardTest, TextTypedOnTheRecordFormBefore_GivesWayToTheCut)
 TEST_F(CompareClipboardTest, FieldThatIsNone_TakesTheFatalPath)
 {
     P.Compare.sCompField = u"Nation"_s;
+    P.Form6->Frame5.Caption = u"Field: Nationality"_s;
     Select(P.Form6->Text2, u"x");
     ExpectFatalBox(u"Run-time error '3265':\n\nItem not found in this collection.",
                    u"The records have no such field:\nNation\n"_s + Home.Path(u"LfgDat_A/LfgDat_A.mdb"));
@@ -196,6 +200,109 @@ TEST_F(CompareClipboardTest, FieldThatIsNone_TakesTheFatalPath)
     EXPECT_TRUE(ExitCode().has_value());
     EXPECT_EQ(Stored(u'A', "Forename", "A001"), u"John"_s);
 }
+
+// The field of the last search is still at hand when the frames name none.
+struct Emptied {
+    const char* Name;
+    void (*Go)(class UnnamedFieldTest& test, Program& p);
+    QStringView Captions;
+};
+
+class UnnamedFieldTest : public CompareTest, public testing::WithParamInterface<Emptied>
+{
+public:
+    UnnamedFieldTest()
+    {
+        GivenComparison({{{u"File", u"A001"}, {u"Surname", u"Smith"}, {u"Forename", u"John"}},
+                         {{u"File", u"A002"}, {u"Surname", u"Brown"}, {u"Forename", u"Ann"}}},
+                        {{{u"File", u"B001"}, {u"Surname", u"Smith"}, {u"Forename", u"Jon"}},
+                         {{u"File", u"B002"}, {u"Surname", u"Brown"}, {u"Forename", u"Anna"}}});
+        P.Form6->Check2.Value = true;
+        Search();
+        EXPECT_EQ(Captions(), u"Field: Forename|Field: Forename"_s);
+        GetParam().Go(*this, P);
+        EXPECT_EQ(Captions(), GetParam().Captions.toString());
+        EXPECT_EQ(P.Compare.sCompField, u"Forename"_s);
+        EXPECT_EQ(Texts(), u"|"_s);
+        ours = Rows(u'A');
+        theirs = Rows(u'B');
+    }
+
+    using CompareTest::Click;
+    using CompareTest::NextCompare;
+    using CompareTest::NextCurrent;
+    using CompareTest::Reset;
+    using CompareTest::Search;
+
+    void ExpectNothingWritten()
+    {
+        EXPECT_EQ(Rows(u'A'), ours);
+        EXPECT_EQ(Rows(u'B'), theirs);
+        EXPECT_EQ(ExitCode(), std::nullopt);
+    }
+
+    std::vector<SqliteFile::Row> ours;
+    std::vector<SqliteFile::Row> theirs;
+};
+
+TEST_P(UnnamedFieldTest, CutAndPaste_ChangeTheBoxAlone)
+{
+    for (TextBox* box : {&P.Form6->Text2, &P.Form6->Text4}) {
+        Click(box->Click);
+        Machine.Clipboard.Text = u"Pasted"_s;
+        Click(P.Form6->mnuPaste.Click);
+        EXPECT_EQ(box->Text.value(), u"Pasted"_s);
+        Click(P.Form6->mnuCut.Click);
+        EXPECT_EQ(box->Text.value(), QString());
+    }
+    ExpectNothingWritten();
+}
+
+TEST_P(UnnamedFieldTest, CopyAField_IsTold)
+{
+    for (const bool toCurrent : {false, true}) {
+        P.Form6->Option1.Value = !toCurrent;
+        P.Form6->Option2.Value = toCurrent;
+        Tell(u"Copy Error", u"There is no record to copy across.");
+        Click(P.Form6->Command3.Click);
+    }
+    EXPECT_EQ(Texts(), u"|"_s);
+    ExpectNothingWritten();
+}
+
+TEST_P(UnnamedFieldTest, NextSearch_NamesOneAgain)
+{
+    Reset();
+    Search();
+    Click(P.Form6->Command3.Click);
+    EXPECT_EQ(Stored(u'B', "Forename", "B001"), u"John"_s);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Ways, UnnamedFieldTest,
+    testing::Values(Emptied{"Reset", [](UnnamedFieldTest& test, Program&) { test.Reset(); }, u"Field|Field"},
+                    Emptied{"SteppedByHand",
+                            [](UnnamedFieldTest& test, Program&) {
+                                test.NextCompare();
+                                test.NextCurrent();
+                            },
+                            u"Field:|Field:"},
+                    Emptied{"SteppedByTheBar",
+                            [](UnnamedFieldTest& test, Program& p) {
+                                test.NextCurrent();
+                                CompareRecords(p).MoveNext();
+                                test.Click(p.Form6->Data1.Stepped);
+                            },
+                            u"Field:|Field:"},
+                    Emptied{"EndOfThePair", [](UnnamedFieldTest& test, Program&) { test.Search(); },
+                            u"End of Fields this Record|End of Fields this Record"},
+                    Emptied{"PressThatWasHeldBack",
+                            [](UnnamedFieldTest& test, Program& p) {
+                                Records(p).MoveNext();
+                                test.Click(p.Form6->Command3.Click);
+                            },
+                            u"Field:|Field:"}),
+    [](const testing::TestParamInfo<Emptied>& way) { return std::string(way.param.Name); });
 
 } // namespace
 } // namespace lineforge

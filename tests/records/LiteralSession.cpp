@@ -144,7 +144,6 @@ void LiteralSession::OpenComparison()
     ShowSide(Ours, ReadSide(Current, true));
     Ours.Field = Ours.Surname;
     Ours.FieldCaption = u"Field: Surname"_s;
-    CompField.clear();
     IsCompareButtonVisible = true;
     ResetDone = 0;
     IsCompareVisible = true;
@@ -263,7 +262,7 @@ void LiteralSession::CopyField()
         LiteralCursor& from = GoesToCompare ? Current : RequireCompare();
         const bool isField =
             CompField != u"Nation" && CompField != u"Father" && CompField != u"Mother" && !CompField.isEmpty();
-        if (!isField)
+        if (!isField || !IsFieldNamed(Ours) || !IsFieldNamed(Theirs))
             throw RuntimeError(ErrorNumber::ItemNotFound);
         const LiteralField value = Value(from, CompField);
         Edit(to);
@@ -364,9 +363,15 @@ void LiteralSession::CopyCompare()
 
 void LiteralSession::Store(const QString& text)
 {
-    if (HasRow(SelBox <= 2 ? Current : Compare) && !IsSeen())
-        return;
     const bool isField = SelBox == 2 || SelBox == 4;
+    if (HasRow(SelBox <= 2 ? Current : Compare)) {
+        if (!IsSeen())
+            return;
+        if (isField && !IsFieldNamed(SelBox == 2 ? Ours : Theirs)) {
+            BoxText(SelBox) = text;
+            return;
+        }
+    }
     LiteralCursor& cursor = SelBox <= 2 ? Current : RequireCompare();
     const QString field = isField ? CompField : u"Surname"_s;
     StoreTypedIfOneRecord();

@@ -89,6 +89,7 @@ private:
     bool IsPairSeen();
     void EndAt(const QString& which);
     void SetCaptions(const QString& ours, const QString& theirs);
+    bool IsFieldNamed(const LiteralSide& side) const; // the one at hand
     void ShowFields(const QString& ours, const QString& theirs);
     bool Agrees() const;
     void SearchWhereSame();

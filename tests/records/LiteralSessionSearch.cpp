@@ -1,5 +1,7 @@
 #include "records/LiteralSession.h"
 
+#include <algorithm>
+
 namespace lineforge
 {
 
@@ -94,6 +96,14 @@ void LiteralSession::SearchWhereSame()
     SetCaptions(u"End of Records search "_s, u"End of Records search"_s);
     ShowFields({}, {});
     ScanState = 3;
+}
+
+// Without any there is none to be taken for another.
+bool LiteralSession::IsFieldNamed(const LiteralSide& side) const
+{
+    return CompField.isEmpty() || std::ranges::any_of(rows, [&](const Row& row) {
+               return side.FieldCaption == u"Field: "_s + row.Caption && row.Kept == CompField;
+           });
 }
 
 // Shows what differs first of the pair, from the row on at which the walk stands.
