@@ -98,11 +98,14 @@ void LoadRecordForm(Program& p)
     form.Height = p.Screen.Height - 400;
     form.Centre(p.Screen.Area(), 200);
     form.Caption = p.Form8->List1.Text() + u" Ancestral Records.";
+    // A backup makes the form anew on whatever record is shown.
+    if (p.Branch.UsingAlternate == 1)
+        DisableTransport(p);
 }
 
 void ShowRecordForm(Program& p)
 {
-    LeaveToolsIfOpen(p);
+    LeaveToolsAtDoor(p);
     if (TellIfNoBranch(p))
         return;
     SetPictureName(p);

@@ -132,6 +132,7 @@ void MapModel::EraseItems()
     Texts.fill({});
     BoxIdx = BoxMiss = TextIdx = TextMiss = LineMiss = 0;
     Chain = {0};
+    DrawnLast.reset();
     ZoneBoxes.clear();
     ZoneLines.clear();
     ZoneTexts.clear();

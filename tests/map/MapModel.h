@@ -220,7 +220,8 @@ private:
     void RenameInList(const QString& file, const QString& forename);
 
     unsigned PenSave = 0;
-    int CountSave = 0; // of the lines
+    int CountSave = 0;            // of the lines
+    std::optional<int> DrawnLast; // of their rows
     Font FontSave;
     Point Last;
     Rectangle Kept;

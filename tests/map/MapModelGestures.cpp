@@ -73,7 +73,9 @@ void MapModel::PressTool(int shift, Point at)
         CountSave = SLines;
         SLines = RowForNew(Lines, SLines, [](const Line& line) { return line[0] == 0; });
         if ((shift & ctrlKey) != 0) {
-            const Line before = SLines == 0 ? Line{} : At(Lines, SLines - 1);
+            const bool isKnown = DrawnLast && At(Lines, *DrawnLast)[0] != 0;
+            const int row = isKnown ? *DrawnLast : SLines - 1;
+            const Line before = row < 0 ? Line{} : At(Lines, row);
             Down = {Clamped(before[2]), Clamped(before[3])};
         }
         At(Lines, SLines)[0] = Down.X;
@@ -361,6 +363,7 @@ bool MapModel::EndLine()
         return false;
     }
     At(Lines, SLines) = {Down.X, Down.Y, Moved.X, Moved.Y, static_cast<int>(Pen)};
+    DrawnLast = SLines;
     Pen = PenSave;
     return true;
 }

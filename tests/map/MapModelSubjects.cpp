@@ -332,7 +332,7 @@ void MapModel::Remap()
 
 void MapModel::PressRecords()
 {
-    if (AreImagesShown)
+    if (ToolMode == 3)
         LeaveTools();
     CurFile = CurrentFile();
     ShownForename = HasRow() ? Table()[static_cast<std::size_t>(Cursor)].Forename : QString();

@@ -102,6 +102,30 @@ INSTANTIATE_TEST_SUITE_P(Ways, LockedLeavingTest,
                                 Leaving{"Close", [](auto& test, Program& p) { test.Do(p.Form1->mnuCloseDB.Click); }},
                                 Leaving{"Open another", [](auto& test, Program&) { test.ChooseBranch(u"Jones"); }}));
 
+// What is drawn is still to be asked for.
+TEST_F(LockedBranchTest, ToolsLeftOnARecordOfASibling_AskWhenTheWayBackIsThere)
+{
+    Click(P.Form1->mnuTreeTools.Click);
+    Click(P.Form1->Image6.Click);
+    PictureBox& map = P.Form1->Picture1;
+    map.MouseDown(1, 0, 1000, 6000);
+    map.MouseMove(1, 0, 2000, 6000);
+    map.MouseUp(1, 0, 2000, 6000);
+    Click(P.Form1->Command4.Click);
+    GivenRecordOfSibling();
+    Lock();
+    ExpectDatabaseInUse(Answer::Cancel);
+
+    Click(P.Form1->mnuCloseDB.Click);
+
+    Unlock();
+    EXPECT_EQ(Current(), u"B002"_s);
+    Prompts.Expect(u"Closing Graphics Tools", u"Save the Tree Graphic changes ?", Buttons::InformationYesNo,
+                   Answer::Yes);
+    Click(P.Form1->mnuCloseDB.Click);
+    EXPECT_TRUE(MapOf(u'A').contains("1000,6000,2000,6000,0,"));
+}
+
 // What is changed besides the texts.
 TEST_F(LockedBranchTest, TreeButton_WithTheGenderChanged_AsksOnce_AndTheChangeWaits)
 {

@@ -118,6 +118,7 @@ void EraseItems(Program& p)
     p.Tools.TextMiss = 0;
     p.Tools.LineMiss = 0;
     p.Tools.ChainTop = 0;
+    p.Tools.LineRow = -1;
     p.Tools.ZoneTexts.Erase();
     p.Tools.ZoneBoxes.Erase();
     p.Tools.ZoneLines.Erase();

@@ -82,17 +82,19 @@ void LeaveTools(Program& p)
 {
     const bool isAlternate = p.Branch.UsingAlternate == 1;
     FinishGesture(p);
+    // The branch has been left behind the tools for one that can't be opened: there is nothing left to be saved.
+    const bool isBranchGone = p.Branch.sDbaseName.isEmpty() || (!isAlternate && p.Map.Owner != p.Branch.WorkDir);
+    // The tools left to themselves, somebody may be looking at a subject of another branch: the map is the own one's.
+    // Where the way back is refused they stay, for the next command to ask.
+    if (isAlternate && !isBranchGone)
+        ReturnFromSibling(p);
     p.Form1->Picture1.ForeColor = p.Tools.ToolColour;
     HideTools(p);
-    if (p.Branch.sDbaseName.isEmpty() || (!isAlternate && p.Map.Owner != p.Branch.WorkDir)) {
-        // The branch has been left behind the tools for one that can't be opened: there is nothing left to be saved.
+    if (isBranchGone) {
         PutToolsDown(p);
         PutCursorDown(p);
         return;
     }
-    // The tools left to themselves, somebody may be looking at a subject of another branch: the map is the own one's.
-    if (isAlternate)
-        ReturnFromSibling(p);
     const Answer save =
         p.Prompts.MsgBox(u"Closing Graphics Tools"_s, u"Save the Tree Graphic changes ?"_s, Buttons::InformationYesNo);
     p.Screen.Pointer = MousePointer::Hourglass;
@@ -107,6 +109,12 @@ void LeaveToolsIfOpen(Program& p)
 {
     // Not by their mode: View and Clear take it from them, with what has been drawn still to be saved.
     if (AreToolsShown(p))
+        LeaveTools(p);
+}
+
+void LeaveToolsAtDoor(Program& p)
+{
+    if (p.Tools.ToolMode == ToolsOpen)
         LeaveTools(p);
 }
 

@@ -20,12 +20,26 @@ FixedArray<int, 0, 4>& NewLine(Program& p)
     return p.Map.LineArr[p.Tools.NewRow];
 }
 
-// Before the first line of all there is none.
+bool IsFree(const Program& p, int row)
+{
+    return p.Map.LineArr[row][LineColumn::X1] == 0;
+}
+
+// Of the line drawn last, wherever its row is; where there is none any more, of the one before the new line, which is
+// the highest for one in a low row. Negative before the first of all.
+int RowOfLineBefore(const Program& p)
+{
+    if (p.Tools.LineRow >= 0 && !IsFree(p, p.Tools.LineRow))
+        return p.Tools.LineRow;
+    return p.Tools.NewRow < p.Map.SLines ? p.Map.SLines : p.Tools.NewRow - 1;
+}
+
 Point EndOfLineBefore(const Program& p)
 {
-    if (p.Tools.NewRow == 0)
+    const int row = RowOfLineBefore(p);
+    if (row < 0)
         return {};
-    const auto& before = p.Map.LineArr[p.Tools.NewRow - 1];
+    const auto& before = p.Map.LineArr[row];
     return PointerOnMap(before[LineColumn::X2], before[LineColumn::Y2]);
 }
 
@@ -120,8 +134,7 @@ void WipeWhereTheChainLay(Program& p)
 Pressed BeginLine(Program& p, const Pointing& pointing)
 {
     p.Tools.CountSave = p.Map.SLines;
-    p.Tools.NewRow =
-        TakeRow(p.Map.SLines, LastFiledLine, [&](int row) { return p.Map.LineArr[row][LineColumn::X1] == 0; });
+    p.Tools.NewRow = TakeRow(p.Map.SLines, LastFiledLine, [&](int row) { return IsFree(p, row); });
     if (pointing.Holds(ShiftMask::Ctrl)) {
         const Point end = EndOfLineBefore(p);
         p.Mouse.DownX = end.X;
@@ -158,6 +171,7 @@ Released EndLine(Program& p)
     }
     PutEnds(p);
     NewLine(p)[LineColumn::Colour] = static_cast<int>(picture.ForeColor);
+    p.Tools.LineRow = p.Tools.NewRow;
     picture.ForeColor = p.Tools.PenSave;
     return Released::Repaint;
 }

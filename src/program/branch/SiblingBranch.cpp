@@ -77,6 +77,11 @@ void SwitchToSibling(Program& p, QStringView letter)
         p.Branch.WorkDir = SiblingDirectory(p.Branch.WorkDir, letter);
     });
     p.Branch.UsingAlternate = 1;
+    DisableTransport(p);
+}
+
+void DisableTransport(Program& p)
+{
     for (Button forms::Form3::*transport : forms::Form3::Transport)
         ((*p.Form3).*transport).Enabled = false;
 }

@@ -34,6 +34,9 @@ void OpenOwnBranch(Program& p);
 // `SwapBranchDirs`, and the database of the branch that the directories are then of; `UsingAlternate` stays.
 void OpenSwappedBranch(Program& p);
 
+// The scanner's buttons on the record form: a sibling's record stands alone, for its branch can't be walked.
+void DisableTransport(Program& p);
+
 // `UsingAlternate` back to 0: the record scanner walks the open branch again.
 void EndAlternate(Program& p);
 

@@ -55,6 +55,7 @@ struct ToolState {
 
     int NewRow = 0;         // of the line or box that is being drawn
     int CountSave = 0;      // of the lines, kept during the drawing of one
+    int LineRow = -1;       // of the line drawn last since the map was read; none when negative
     Colour PenSave = Black; // pen and font of the picture, kept during a gesture
     TextFont FontSave;
 

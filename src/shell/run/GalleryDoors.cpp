@@ -42,7 +42,7 @@ void HideBehindGallery(Program& p, Form& form)
 
 void GoToGalleryFromMap(Program& p)
 {
-    LeaveToolsIfOpen(p);
+    LeaveToolsAtDoor(p);
     if (TellIfNoBranch(p))
         return;
     ClearMapCursor(p);

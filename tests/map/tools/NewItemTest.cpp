@@ -200,6 +200,68 @@ TEST_F(NewLineRowTest, NoRowAboveTheCountIsSaved_TheFirstFreeIsTaken_AndTheCount
     EXPECT_EQ(P.Map.SLines, 199);
 }
 
+TEST_F(NewLineRowTest, NoRowAboveTheCountIsSaved_CtrlGoesOnFromTheHighestLine)
+{
+    givenLine(199, {1000, 5000}, {2000, 5000});
+    P.Map.SLines = 199;
+    Choose(7);
+
+    Drag({{4000, 4000}, {6000, 4000}}, Ctrl);
+
+    EXPECT_EQ(Line(0), (std::vector<int>{2000, 5000, 6000, 4000, 0}));
+}
+
+TEST_F(NewLineRowTest, NoRowAboveTheCountIsSaved_CtrlGoesOnFromTheLineDrawnLast)
+{
+    givenLine(199, {1000, 5000}, {2000, 5000});
+    P.Map.SLines = 199;
+    DrawNewLine({4000, 4000}, {5000, 4000});
+
+    Drag({{7000, 7000}, {5000, 6000}}, Ctrl);
+    Drag({{7000, 7000}, {3000, 6000}}, Ctrl);
+
+    EXPECT_EQ(Line(3), (std::vector<int>{5000, 4000, 5000, 6000, 0}));
+    EXPECT_EQ(Line(4), (std::vector<int>{5000, 6000, 3000, 6000, 0}));
+}
+
+TEST_F(NewLineRowTest, LineDrawnLast_MovedSince_CtrlGoesOnFromItsEnd)
+{
+    DrawNewLine({4000, 4000}, {5000, 4000});
+    Choose(17);
+    Drag({{4500, 4000}, {4500, 4300}});
+    Choose(7);
+
+    Drag({{7000, 7000}, {5000, 6000}}, Ctrl);
+
+    EXPECT_EQ(Line(4), (std::vector<int>{5000, 4300, 5000, 6000, 0}));
+}
+
+// A line drawn after the deletion may have its row.
+TEST_F(NewLineRowTest, LineDrawnLast_DeletedSince_CtrlGoesOnFromTheHighestLine)
+{
+    DrawNewLine({4000, 4000}, {5000, 4000});
+    Delete(27, {4500, 4000});
+    Choose(7);
+
+    Drag({{7000, 7000}, {5000, 6000}}, Ctrl);
+
+    EXPECT_EQ(Line(3), (std::vector<int>{2000, 3000, 5000, 6000, 0}));
+}
+
+TEST_F(NewLineRowTest, LineDrawnLast_OfAMapThatHasBeenReadAfresh_IsTheHighestOne)
+{
+    givenLine(199, {1000, 5000}, {2000, 5000});
+    P.Map.SLines = 199;
+    DrawNewLine({4000, 4000}, {5000, 4000});
+    Leave(Answer::Yes);
+    P.Form1->mnuTreeTools.Click();
+    Choose(7);
+
+    Drag({{7000, 7000}, {5000, 6000}}, Ctrl);
+
+    EXPECT_EQ(Line(4), (std::vector<int>{2000, 5000, 5000, 6000, 0}));
+}
+
 class NewTextRowTest : public NewItemTest
 {
 protected:

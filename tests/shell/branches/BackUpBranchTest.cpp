@@ -189,6 +189,21 @@ TEST_F(BackUpBranchTest, OnARecordOfAnotherBranch_ThatBranchGoes)
     EXPECT_EQ(Records(P).Text(u"File"), u"B001"_s);
 }
 
+// Its record stands alone, on the form that has been made anew, too.
+TEST_F(BackUpBranchTest, OnARecordOfAnotherBranch_TheTransportButtonsStayOff_UntilTheReturn)
+{
+    SwitchToSibling(P, u"B");
+
+    BackUpAs(Home.Path(u"safe/x.mdb"));
+    Click(P.Form1->Command1.Click);
+
+    for (Button forms::Form3::*transport : forms::Form3::Transport)
+        EXPECT_FALSE(((*P.Form3).*transport).Enabled);
+    ReturnFromSibling(P);
+    for (Button forms::Form3::*transport : forms::Form3::Transport)
+        EXPECT_TRUE(((*P.Form3).*transport).Enabled);
+}
+
 TEST_F(BackUpBranchTest, WithNoBranchOpen_IsTold)
 {
     P.Form1->mnuCloseDB.Click();

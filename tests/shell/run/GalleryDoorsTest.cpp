@@ -70,6 +70,19 @@ TEST_F(GalleryDoorsTest, ButtonOfTheMap_LeavesTheTools)
     EXPECT_TRUE(P.Form5->Visible);
 }
 
+// View has taken the mouse from them.
+TEST_F(GalleryDoorsTest, ButtonOfTheMap_ToolsLeftToThemselves_StayAsTheyAre_AndThePageIsTheRecordsBesideTheMap)
+{
+    Click(P.Form1->mnuTreeTools.Click);
+    P.Form1->Text1.Text = u"Nobody"_s;
+    Click(P.Form1->Command3.Click);
+    ASSERT_EQ(P.Tools.ToolMode, 1);
+    Records(P).MoveNext();
+    PressOnMap();
+    EXPECT_EQ(Caption(), u"Smiths Tree Branch. Gallery A002 of Mary Jones"_s);
+    EXPECT_TRUE(P.Form1->Image8.Visible);
+}
+
 TEST_F(GalleryDoorsTest, SameRecordAgain_ShowsThePageThatItHas)
 {
     GivenGallery({u"A001_01.jpg"_s});
