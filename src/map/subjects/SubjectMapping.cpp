@@ -8,8 +8,8 @@
 #include "map/subjects/SubjectPanel.h"
 #include "platform/base/Text.h"
 #include "program/branch/BranchPaths.h"
+#include "program/branch/ComeBackAfterwards.h"
 #include "program/branch/SiblingBranch.h"
-#include "program/branch/WorkDatabase.h"
 #include "program/ui/BranchUi.h"
 
 #include <QScopeGuard>
@@ -201,14 +201,14 @@ void CopyBlankPortrait(Program& p)
     p.Files.FileCopy(p.Files.CurDir() + PathSeparator + u"Tree99.jpg", p.Mapping.PictureFile);
 }
 
-// False when the user cancels.
-bool CopyChosenPicture(Program& p)
+// Nothing when the user cancels. The scanner may go on behind the dialog.
+std::optional<QString> ChoosePicture(Program& p)
 {
-    const std::optional<QString> chosen =
+    const Bookmark subject = Records(p).GetBookmark();
+    std::optional<QString> chosen =
         p.Prompts.OpenFile({u"Select Picture Source File"_s, u"DataBase|*.jpg|All Files|*.*|"_s});
-    if (chosen)
-        p.Files.FileCopy(*chosen, p.Mapping.PictureFile);
-    return chosen.has_value();
+    StandOn(p, subject);
+    return chosen;
 }
 
 void ShowPicture(Program& p, const QImage& picture)
@@ -240,8 +240,12 @@ void GiveNewSubjectItsPicture(Program& p)
     p.Errors.Ignoring([&] { TakeMarker(p); });
     p.Errors.Ignoring([&] {
         if (p.Mapping.PictureOption == selectNow) {
-            if (!CopyChosenPicture(p))
+            const std::optional<QString> chosen = ChoosePicture(p);
+            // A scan that has ended meanwhile has shown its last record.
+            TakeMarker(p);
+            if (!chosen)
                 return;
+            p.Files.FileCopy(*chosen, p.Mapping.PictureFile);
         } else if (p.Mapping.MapOption == alternateRecord) {
             ClearMapCursor(p);
             p.Mapping.MapOption = newRecord;
@@ -324,6 +328,7 @@ void MapNewSubject(Program& p)
 
 void AskSubjectPicture(Program& p)
 {
+    const Bookmark asked = Records(p).GetBookmark();
     const Answer change = p.Prompts.MsgBox(u"New Subject Mapping"_s,
                                            u"This Subject has already been Logged into the Database.\n"
                                            u"Do you want to change the Subject Picture ? "_s,
@@ -332,12 +337,15 @@ void AskSubjectPicture(Program& p)
         StopMapping(p);
         return;
     }
+    p.Errors.Ignoring([&] { StandOn(p, asked); });
     p.Record.sCurFile = p.Form3->Label25.Caption;
     p.Errors.Ignoring([&] {
         if (p.Mapping.PictureOption == selectNow) {
             NamePictureFile(p);
-            if (!CopyChosenPicture(p))
+            const std::optional<QString> chosen = ChoosePicture(p);
+            if (!chosen)
                 return;
+            p.Files.FileCopy(*chosen, p.Mapping.PictureFile);
         }
         TakeMarker(p);
         ShowMappedPicture(p);

@@ -1,4 +1,6 @@
+#include "map/items/CurrentBox.h"
 #include "map/subjects/SubjectMappingTest.h"
+#include "map/subjects/SubjectPanel.h"
 
 namespace lineforge
 {
@@ -130,6 +132,47 @@ TEST_F(MappedPictureTest, SelectNow_TheChosenFileIsCopied_AndShown)
     EXPECT_TRUE(Marker.Visible);
     EXPECT_EQ(P.Tools.MapCursorMode, 1);
     EXPECT_EQ(P.Screen.Pointer, MousePointer::Default);
+}
+
+// The scanner goes on behind the dialog, to its end.
+TEST_F(MappedPictureTest, SelectNow_CursorGoneOnMeanwhile_NewRecordAndPictureStandTogether)
+{
+    for (const std::optional<QString>& answer : {std::optional(Chosen), std::optional<QString>()}) {
+        ChooseNewRecord(&Form7::Option7);
+        Prompts.ExpectOpenFile(u"Select Picture Source File", u"DataBase|*.jpg|All Files|*.*|", answer, [this] {
+            Records(P).MoveFirst();
+            ShowRecordOnMap(P);
+            MarkCurrentBox(P);
+        });
+        DoubleClickBox(answer ? 0 : 2);
+
+        const QString made = answer ? u"A002"_s : u"A003"_s;
+        EXPECT_EQ(Current(), made);
+        EXPECT_EQ(ShownNumber(), QString(u"Ref  " + made));
+        EXPECT_EQ(P.Form3->Label25.Caption.value(), made);
+        if (answer)
+            EXPECT_TRUE(BothShow(Qt::blue));
+        else
+            EXPECT_TRUE(P.Form1->Image1.Picture.value().isNull() && P.Form3->Image1.Picture.value().isNull());
+        EXPECT_TRUE(IsMarkerOnBox(answer ? 0 : 2));
+    }
+}
+
+TEST_F(MappedPictureTest, ExistingRecord_CursorGoneOnMeanwhile_ItIsTheOneThatIsAskedFor)
+{
+    MapBlank();
+    ChooseNewRecord(&Form7::Option7);
+    const auto goOn = [this] { Records(P).MoveLast(); };
+    Prompts.Expect(u"New Subject Mapping",
+                   u"This Subject has already been Logged into the Database.\n"
+                   u"Do you want to change the Subject Picture ? ",
+                   Buttons::QuestionYesNo, Answer::Yes, goOn);
+    Prompts.ExpectOpenFile(u"Select Picture Source File", u"DataBase|*.jpg|All Files|*.*|", Chosen, goOn);
+    DoubleClickBox(1);
+
+    EXPECT_EQ(Current(), u"A001"_s);
+    EXPECT_EQ(P.Record.sCurFile, u"A001"_s);
+    EXPECT_TRUE(IsMarkerOnBox(1));
 }
 
 TEST_F(MappedPictureTest, SelectNow_ForTheFirstRecordOfABranch)
