@@ -29,6 +29,15 @@ QString MapsDirectory(const Program& p)
     return p.Branch.UsingAlternate == 1 ? p.Branch.WorkDirSaved : p.Branch.WorkDir;
 }
 
+// A record transfer can have gone over to another branch than the one that the program is named after. The list of
+// another home tells nothing of it.
+QString NameOfBranch(const Program& p)
+{
+    const QString directory = MapsDirectory(p);
+    return IsBranchDirectory(directory, p.Branch.HomeDir) ? ListedName(p, DirectoryName(directory))
+                                                          : p.Branch.sBranchName;
+}
+
 // Whether a branch is open, in a directory of its own beneath the home directory: that may be another one since it was
 // opened, whose registry knows nothing of it. Tells the user when not.
 bool RequireBranch(Program& p, const QString& name)
@@ -84,8 +93,7 @@ void ShowNoBranch(Program& p)
 
 void DeleteBranch(Program& p)
 {
-    // A record transfer can have gone over to another branch than the one that the program is named after.
-    const QString name = ListedName(p, DirectoryName(MapsDirectory(p)));
+    const QString name = NameOfBranch(p);
     if (!RequireBranch(p, name) || !Ask(p, name))
         return;
     ReturnToOwnSubject(p);

@@ -393,6 +393,16 @@ TEST_F(DeleteBranchTest, AfterAChangeOfTheHomeDirectory_OnARecordOfAnotherBranch
     ExpectRefusedElsewhere(Home.Path(u"LfgDat_A"));
 }
 
+// The list in force tells of the branches of another home.
+TEST_F(DeleteBranchTest, AfterAChangeOfTheHomeDirectory_IsNamedAsItWasOpened_WhateverIsListedThere)
+{
+    Home.WriteFile(u"other/AliasList.cfg", "[Alias]\r\n[Browns=LfgDat_A,]\r\n[CFG]\r\n[1,]\r\n");
+    P.Branch.HomeDir = Home.Path(u"other") + PathSeparator;
+    ReadAliasList(P);
+
+    ExpectRefusedElsewhere(Home.Path(u"LfgDat_A"));
+}
+
 TEST_F(DeleteBranchTest, RecordsOfOtherBranchesThatReferToIt_StayAsTheyAre)
 {
     ASSERT_TRUE(QFile::remove(Home.Path(u"LfgDat_B/LfgDat_B.mdb")));
