@@ -30,4 +30,11 @@ void ShowNamedPicture(Program& p)
     p.Form3->Image1.Tag = file;
 }
 
+void FollowStep(Program& p)
+{
+    p.Form3->Data1.Settle();
+    FollowSubject(p);
+    FollowWithRecordPicture(p);
+}
+
 } // namespace lineforge

@@ -15,4 +15,8 @@ void ShowRecordPicture(Program& p);
 // The picture that `sPicFile` names, in the same way.
 void ShowNamedPicture(Program& p);
 
+// After a step by the record form's own bar, which is on no way to anywhere: picture and panel go with it at once, also
+// while another command, whose end would bring them, is still waiting.
+void FollowStep(Program& p);
+
 } // namespace lineforge

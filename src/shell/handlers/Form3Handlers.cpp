@@ -5,6 +5,7 @@
 #include "records/DeleteRecord.h"
 #include "records/RecordClipboard.h"
 #include "records/RecordForm.h"
+#include "records/RecordPicture.h"
 #include "records/RecordScanner.h"
 #include "records/RecordSearch.h"
 #include "records/RecordTransfer.h"
@@ -100,6 +101,7 @@ void InstallForm3(Program& p, forms::Form3& form)
     form.Command1.Click = [&p] { GoToGalleryFromRecords(p); };
     form.Command2.Click = [&p] { ReturnToTree(p); };
     form.Image1.Click = [&p] { EnlargeSubjectPicture(p); };
+    form.Data1.Stepped = [&p] { FollowStep(p); };
     InstallSelection(p, form);
     InstallScanner(p, form);
     InstallMenus(p, form);

@@ -146,5 +146,19 @@ TEST_F(RecordPictureFollowsTest, UnderABox_TheFormerPictureGoes_AndTheOneOfTheRe
     EXPECT_EQ(Shown(), u"A002 blue"_s);
 }
 
+// The user's own step isn't on its way anywhere.
+TEST_F(RecordPictureFollowsTest, StepByTheFormsOwnBar_IsFollowedAtOnce_UnderAnotherCommandToo)
+{
+    Do([this] {
+        Do([this] {
+            Records(P).MoveNext();
+            Fire(P.Form3->Data1.Stepped);
+        });
+        EXPECT_EQ(Shown(), u"A002 blue"_s);
+        EXPECT_EQ(P.Form1->Frame1.Caption.value(), u"Ref  A002"_s);
+        EXPECT_FALSE(P.Form1->Image1.Picture.value().isNull());
+    });
+}
+
 } // namespace
 } // namespace lineforge
