@@ -57,10 +57,27 @@ QImage WholePicture(Program& p, const Image& tile)
     return tile.Picture.value().isNull() ? QImage() : LoadPicture(p.Files, GalleryPath(p, tile.Tag));
 }
 
+void PutPictureAway(Program& p)
+{
+    if (!p.Gallery.EnlargedTile)
+        return;
+    Image& tile = p.Form5->Image1[*p.Gallery.EnlargedTile];
+    p.Gallery.EnlargedTile.reset();
+    tile.Visible = false;
+    tile.Top = p.Gallery.GalSaveTop;
+    tile.Left = ToInteger(p.Gallery.GalSaveLeft);
+    tile.Height = p.Gallery.GalSaveHeight;
+    tile.Width = p.Gallery.GalSaveWidth;
+    tile.Picture = p.Gallery.TilePicture;
+    tile.Stretch = true;
+}
+
 void OpenPicture(Program& p)
 {
     Image& tile = SelectedTile(p);
     const QImage picture = WholePicture(p, tile);
+    // Where something else has taken the state word, one stands open still.
+    PutPictureAway(p);
     p.Scratch.ScanState = GalleryScan::ItemOpen;
     ShowPage(p, false);
     p.Gallery.EnlargedTile = p.Gallery.GallerySel;
@@ -80,21 +97,6 @@ void OpenPicture(Program& p)
     tile.Left = (area.Width - tile.Width) / 2;
     tile.Top = (area.Height - tile.Height) / 2;
     tile.Visible = true;
-}
-
-void PutPictureAway(Program& p)
-{
-    if (!p.Gallery.EnlargedTile)
-        return;
-    Image& tile = p.Form5->Image1[*p.Gallery.EnlargedTile];
-    p.Gallery.EnlargedTile.reset();
-    tile.Visible = false;
-    tile.Top = p.Gallery.GalSaveTop;
-    tile.Left = ToInteger(p.Gallery.GalSaveLeft);
-    tile.Height = p.Gallery.GalSaveHeight;
-    tile.Width = p.Gallery.GalSaveWidth;
-    tile.Picture = p.Gallery.TilePicture;
-    tile.Stretch = true;
 }
 
 void OpenPlayer(Program& p, const PlayerPanel& panel)

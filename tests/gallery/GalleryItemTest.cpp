@@ -68,6 +68,26 @@ TEST_F(GalleryItemTest, SecondClick_PutsThePictureBackOnItsTile)
     EXPECT_EQ(Caption(), u"A001 Gallery of  John  Smith"_s);
 }
 
+// A conversion that runs behind the gallery puts its own word back after each of its yields.
+TEST_F(GalleryItemTest, StateWordTakenBehindAnOpenPicture_TheNextClickOpensFromThePage_AndTheTilesComeBackAsTheyWere)
+{
+    OpenGallery({u"A001_01.jpg"_s, u"A001_02.jpg"_s});
+    const QStringList page = Page();
+    const Rectangle places[] = {PlaceOf(0), PlaceOf(1)};
+    for (const int next : {0, 1}) {
+        ClickTile(0);
+        P.Scratch.ScanState = 0;
+        ClickTile(next);
+        EXPECT_EQ(Page().size(), 1);
+        EXPECT_FALSE(Tile(next).Stretch);
+        ClickTile(next);
+        EXPECT_EQ(Page(), page);
+        EXPECT_EQ(PlaceOf(0), places[0]);
+        EXPECT_EQ(PlaceOf(1), places[1]);
+        EXPECT_TRUE(Tile(0).Stretch && Tile(1).Stretch);
+    }
+}
+
 TEST_F(GalleryItemTest, EmptyTile_DoesNothingButSayItsSubscriptInTheCaption)
 {
     OpenGallery({u"A001_01.jpg"_s});
