@@ -19,9 +19,8 @@ constexpr qint64 mostDots = 128'000'000;
 constexpr int bytesADot = 4;
 constexpr qint64 mostBytes = 1 << 30; // of a file
 
-// What cameras, scanners and painters make. What else the toolkit reads are drawings in a script, a few lines of which
-// may keep it busy for ever, and relics that nobody looks after.
-constexpr QByteArrayView families[] = {"jpeg", "jpg", "png", "bmp", "gif", "ico", "tif", "tiff", "webp"};
+// Drawings in a script, a few lines of which may keep the toolkit's readers busy for ever.
+constexpr QByteArrayView scripts[] = {"svg", "svgz", "pdf", "ps", "eps", "epsf", "epsi"};
 
 // The toolkit's own limit is lower, and holds for some formats only.
 void AllowLargestPicture()
@@ -62,7 +61,7 @@ QImage DecodePicture(const QString& file, const DecodedSize& sizeFor)
     // A picture is what its content says, whatever its name ends in.
     reader.setDecideFormatFromContent(true);
     // Before anything else is asked, which a reader may answer by reading all of it.
-    if (std::ranges::find(families, QByteArrayView(reader.format())) == std::end(families))
+    if (std::ranges::find(scripts, QByteArrayView(reader.format())) != std::end(scripts))
         throw RuntimeError(ErrorNumber::InvalidPicture, file);
     const QSize stored = reader.size();
     if (qint64{stored.width()} * stored.height() > mostDots)

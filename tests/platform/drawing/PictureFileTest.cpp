@@ -50,13 +50,38 @@ TEST_F(PictureTest, FileThatIsNoPicture_Is481)
     }
 }
 
-TEST_F(PictureTest, DrawingInAScript_AndRelic_Are481)
+TEST_F(PictureTest, DrawingInAScript_Is481)
 {
     home.WriteFile(u"drawing.jpg", "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'><rect/></svg>");
-    home.WriteFile(u"bits.jpg", "#define a_width 8\n#define a_height 1\nstatic char a_bits[] = { 0x55 };\n");
-    home.WriteFile(u"pixels.jpg", "/* XPM */\nstatic char * a[] = {\n\"1 1 1 1\",\n\"a c #FF0000\",\n\"a\"};\n");
+    home.WriteFile(u"page.jpg", "%PDF-1.4\n1 0 obj\n<< /Type /Catalog >>\nendobj\ntrailer\n<< /Root 1 0 R >>\n");
+    home.WriteFile(u"letter.jpg", "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 9 9\n{ } loop\n");
 
-    for (const QString& name : {u"drawing.jpg"_s, u"bits.jpg"_s, u"pixels.jpg"_s})
+    for (const QString& name : {u"drawing.jpg"_s, u"page.jpg"_s, u"letter.jpg"_s})
+        EXPECT_EQ(RefusalOf([&] { LoadPicture(files, name); }), ErrorNumber::InvalidPicture) << qUtf8Printable(name);
+}
+
+// A gallery may hold it, whose page would be refused with it.
+TEST_F(PictureTest, OldKindOfPicture_IsReadByItsContent)
+{
+    home.WriteFile(u"bits.jpg", "#define a_width 8\n#define a_height 1\nstatic char a_bits[] = { 0x55 };\n");
+    home.WriteFile(u"pixels.jpg", "/* XPM */\nstatic char * a[] = {\n\"8 1 1 1\",\n\"a c #FF0000\",\n\"aaaaaaaa\"};\n");
+    home.WriteFile(u"map.jpg", "P1\n8 1\n0 1 0 1 0 1 0 1\n");
+    home.WriteFile(u"greys.jpg", "P2\n8 1\n255\n0 1 2 3 4 5 6 7\n");
+    home.WriteFile(u"colours.jpg", "P6\n8 1\n255\n" + QByteArray(24, '\x7F'));
+
+    for (const QString& name : {u"bits.jpg"_s, u"pixels.jpg"_s, u"map.jpg"_s, u"greys.jpg"_s, u"colours.jpg"_s}) {
+        EXPECT_EQ(LoadPicture(files, name).size(), QSize(8, 1)) << qUtf8Printable(name);
+        EXPECT_EQ(cache.Load(files, name).size(), QSize(8, 1)) << qUtf8Printable(name);
+    }
+}
+
+TEST_F(PictureTest, OldKindOfPicture_ThatIsTooLargeOrCutOff_Is481)
+{
+    home.WriteFile(u"greys.jpg", "P5\n40000 40000\n255\nxxxx");
+    home.WriteFile(u"pixels.jpg", "/* XPM */\nstatic char * a[] = {\n\"30000 30000 1 1\",\n\"a c #FF0000\",\n");
+    home.WriteFile(u"cut.jpg", "P6\n8 1\n255\nxxx");
+
+    for (const QString& name : {u"greys.jpg"_s, u"pixels.jpg"_s, u"cut.jpg"_s})
         EXPECT_EQ(RefusalOf([&] { LoadPicture(files, name); }), ErrorNumber::InvalidPicture) << qUtf8Printable(name);
 }
 
