@@ -4,6 +4,8 @@
 #include "compare/CompareBranch.h"
 #include "compare/CompareSearch.h"
 #include "compare/Sides.h"
+#include "forms/Form6.h"
+#include "forms/Form8.h"
 #include "platform/base/Text.h"
 #include "program/branch/WorkDatabase.h"
 #include "shell/branches/OpenBranch.h"

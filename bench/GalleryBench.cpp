@@ -1,6 +1,8 @@
 #include "BenchHome.h"
 #include "Machine.h"
 #include "Runs.h"
+#include "forms/Form5.h"
+#include "forms/Form8.h"
 #include "gallery/GalleryPage.h"
 #include "shell/branches/OpenBranch.h"
 

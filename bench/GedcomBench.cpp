@@ -1,5 +1,6 @@
 #include "Machine.h"
 #include "Runs.h"
+#include "forms/Form11.h"
 #include "gedcom/report/GedcomConversion.h"
 #include "shell/handlers/InstallHandlers.h"
 

@@ -1,5 +1,6 @@
 #include "Machine.h"
 
+#include "forms/Form1.h"
 #include "shell/handlers/InstallHandlers.h"
 
 #include <QPagedPaintDevice>

@@ -1,6 +1,8 @@
 #include "BenchHome.h"
 #include "Machine.h"
 #include "Runs.h"
+#include "forms/Form1.h"
+#include "forms/Form8.h"
 #include "map/items/MapDisplay.h"
 #include "map/items/MapItems.h"
 #include "platform/canvas/TextMask.h"

@@ -1,6 +1,8 @@
 #include "BenchHome.h"
 #include "Machine.h"
 #include "Runs.h"
+#include "forms/Form3.h"
+#include "forms/Form8.h"
 #include "map/subjects/MapInteraction.h"
 #include "platform/drawing/PictureFile.h"
 #include "records/RecordScanner.h"

@@ -1,6 +1,7 @@
 #include "FirstPaint.h"
 #include "Idle.h"
 #include "forms/Form1.h"
+#include "forms/Form8.h"
 #include "program/state/Program.h"
 #include "qt/QtPlatform.h"
 #include "shell/branches/OpenBranch.h"

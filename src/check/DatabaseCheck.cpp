@@ -4,6 +4,7 @@
 #include "platform/base/RuntimeError.h"
 #include "platform/base/Text.h"
 #include "platform/store/DatabaseFormat.h"
+#include "platform/store/Fields.h"
 #include "platform/store/JetStreamFormat.h"
 #include "program/branch/BranchPaths.h"
 
@@ -65,7 +66,7 @@ bool RequireFields(Home& home, const QString& path, const QStringList& fields)
         if (const auto name = QString::fromLatin1(field.data(), static_cast<qsizetype>(field.size()));
             !fields.contains(name, Qt::CaseInsensitive))
             home.Add(Kind::Database, path, u"the records have no field "_s + name);
-    return fields.contains(u"File"_s, Qt::CaseInsensitive);
+    return fields.contains(Field::File.toString(), Qt::CaseInsensitive);
 }
 
 // A field that isn't there is empty in every record.

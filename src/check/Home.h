@@ -2,6 +2,7 @@
 
 #include "check/Findings.h"
 #include "platform/files/FileSystem.h"
+#include "platform/store/Fields.h"
 
 #include <QSet>
 
@@ -12,7 +13,7 @@ namespace lineforge::check
 {
 
 // The fields of a record that lead to another one.
-inline constexpr std::array<QStringView, 3> linkFields{u"FatherRec", u"MotherRec", u"SpouseRec"};
+inline constexpr std::array<QStringView, 3> linkFields{Field::FatherRec, Field::MotherRec, Field::SpouseRec};
 
 // What the check needs of a record.
 struct Record {

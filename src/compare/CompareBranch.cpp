@@ -1,10 +1,13 @@
 #include "compare/CompareBranch.h"
 
-#include "compare/CompareKeys.h"
 #include "compare/CompareSearch.h"
 #include "compare/FieldDifference.h"
 #include "compare/SearchButton.h"
 #include "compare/Sides.h"
+#include "forms/Form1.h"
+#include "forms/Form6.h"
+#include "forms/Form8.h"
+#include "platform/store/Fields.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/OldDatabase.h"
 #include "program/branch/SiblingBranch.h"
@@ -67,7 +70,7 @@ void ShowFirstPair(Program& p, const QString& name)
     ShowComparePair(p);
     SetFieldCaptions(p, u"Field: Surname"_s, u"Field: Surname"_s);
     ShowFields(p, p.Form6->Text1.Text, p.Form6->Text3.Text);
-    p.Compare.sCompField = u"Surname"_s;
+    p.Compare.sCompField = Field::Surname.toString();
     ShowSearchState(p, SearchState::Found);
 }
 } // namespace
@@ -117,7 +120,6 @@ void LoadComparison(Program& p)
 
 void ChooseCompareBranch(Program& p)
 {
-    p.Compare.SearchMask = CompareRequest;
     p.Compare.IsChoosing = true;
     p.Form8->Show();
 }

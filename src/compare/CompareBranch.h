@@ -5,9 +5,6 @@
 namespace lineforge
 {
 
-// `SearchMask` while the list of branches is to choose the one to compare with.
-inline constexpr int CompareRequest = 8;
-
 // Tells that the record of another branch can't be compared; false while the open branch's own is shown.
 bool TellIfComparesAlternate(Program& p);
 

@@ -4,6 +4,8 @@
 #include "compare/FieldDifference.h"
 #include "compare/RefusedChange.h"
 #include "compare/Sides.h"
+#include "forms/Form6.h"
+#include "platform/store/Fields.h"
 
 namespace lineforge
 {
@@ -19,9 +21,9 @@ struct EditedBox {
     QStringView Field;
 };
 const EditedBox editedBoxes[] = {
-    {&forms::Form6::Text1, CurrentSide, u"Surname"},
+    {&forms::Form6::Text1, CurrentSide, Field::Surname},
     {&forms::Form6::Text2, CurrentSide, u""},
-    {&forms::Form6::Text3, CompareSide, u"Surname"},
+    {&forms::Form6::Text3, CompareSide, Field::Surname},
     {&forms::Form6::Text4, CompareSide, u""},
 };
 

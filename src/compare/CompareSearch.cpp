@@ -1,11 +1,12 @@
 #include "compare/CompareSearch.h"
 
 #include "compare/CompareEnds.h"
-#include "compare/CompareKeys.h"
 #include "compare/FieldDifference.h"
+#include "compare/KeyIndex.h"
 #include "compare/SearchButton.h"
 #include "compare/Sides.h"
 #include "compare/WhereSame.h"
+#include "forms/Form6.h"
 #include "program/branch/WorkDatabase.h"
 #include "program/ui/BranchUi.h"
 

@@ -4,8 +4,10 @@
 #include "compare/FieldDifference.h"
 #include "compare/RefusedChange.h"
 #include "compare/Sides.h"
+#include "forms/Form6.h"
 #include "platform/base/Number.h"
 #include "platform/base/Text.h"
+#include "platform/store/Fields.h"
 #include "program/branch/WorkDatabase.h"
 #include "program/state/RecordFields.h"
 
@@ -72,12 +74,12 @@ void TellExists(Program& p, const Direction& way)
 
 // Looks through the branch that the record would go to, from where its cursor stands. False, with a box and the cursor
 // back where it stood before, when it has the record's number.
-bool TakeStock(Program& p, const Direction& way, const Bookmark& before)
+bool PassThroughDestination(Program& p, const Direction& way, const Bookmark& before)
 {
     Recordset& to = way.To.Records(p);
-    const FieldValue file = way.From.Records(p).Value(u"File");
+    const FieldValue file = way.From.Records(p).Value(Field::File);
     for (; !to.Eof(); to.MoveNext()) {
-        if (file && to.FieldIs(u"File", *file)) {
+        if (file && to.FieldIs(Field::File, *file)) {
             TellExists(p, way);
             to.SetBookmark(before);
             return false;
@@ -85,7 +87,7 @@ bool TakeStock(Program& p, const Direction& way, const Bookmark& before)
         // KEPT(FieldCopyTest.AppendToCurrent_LooksAtTheFirstCompareRecordForAZ): of the compare record in both
         // directions.
         // Mended, an append to the current branch would pass over the numbers that it meets there.
-        NoteZNumber(p, CompareRecords(p).Text(u"File"));
+        NoteZNumber(p, CompareRecords(p).Text(Field::File));
     }
     return true;
 }
@@ -110,7 +112,7 @@ void Append(Program& p, const Direction& way)
     from.SetBookmark(checked);
     to.Edit();
     to.AddNew();
-    to.Put(u"File", number);
+    to.Put(Field::File, number);
     CopyFields(from, to);
     PersonTexts added = ReadPerson(p, way.To, NullForename::Empty);
     to.Update();
@@ -166,7 +168,7 @@ void AppendRecord(Program& p)
     // Not kept with the map's positions: it may be one of the other branch.
     const Bookmark before = way.To.Records(p).GetBookmark();
     CompareRecords(p).MoveFirst();
-    if (TakeStock(p, way, before))
+    if (PassThroughDestination(p, way, before))
         Append(p, way);
 }
 

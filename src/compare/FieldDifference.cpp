@@ -1,11 +1,12 @@
 #include "compare/FieldDifference.h"
 
 #include "compare/CompareEnds.h"
-#include "compare/CompareKeys.h"
 #include "compare/SearchButton.h"
 #include "compare/Sides.h"
 #include "compare/WhereSame.h"
+#include "forms/Form6.h"
 #include "platform/base/Text.h"
+#include "platform/store/Fields.h"
 #include "program/branch/WorkDatabase.h"
 #include "program/ui/Meanwhile.h"
 
@@ -31,28 +32,28 @@ struct ComparedField {
     QStringView CompField; // what `sCompField` takes; three are no fields, so that they can't be copied singly
 };
 constexpr std::array<ComparedField, 22> ComparedFields{{
-    {u"Surname", u"Field: Surname", u"Surname"},
-    {u"Forename", u"Field: Forename", u"Forename"},
-    {u"Maiden", u"Field: Maiden Name", u"Maiden"},
-    {u"Nationality", u"Field: Nationality", u"Nation"},
-    {u"FatherRec", u"Field: Fathers Record", u"Father"},
-    {u"MotherRec", u"Field: Mothers Record", u"Mother"},
-    {u"BirthDate", u"Field: Birth Date", u"BirthDate"},
-    {u"BirthPlace", u"Field: Birth Place", u"BirthPlace"},
-    {u"Spouse", u"Field: Spouse", u"Spouse"},
-    {u"Children", u"Field: Children", u"Children"},
-    {u"Partner", u"Field: Partner", u"Partner"},
-    {u"PrevChildren", u"Field: Previous Children", u"PrevChildren"},
-    {u"Maiden", u"Field: Maiden Name", u"Maiden"},
-    {u"Wedding", u"Field: Wedding", u"Wedding"},
-    {u"BirthCertificate", u"Field: Birth Certificate", u"BirthCertificate"},
-    {u"MarriageCertificate", u"Field: Marriage Certificate", u"MarriageCertificate"},
-    {u"DeathCertificate", u"Field: Death Certificate", u"DeathCertificate"},
-    {u"Education", u"Field: Education", u"Education"},
-    {u"Profession", u"Field: Profession", u"Profession"},
-    {u"Deceased", u"Field: Deceased", u"Deceased"},
-    {u"Medical", u"Field: Notes(1)", u"Medical"},
-    {u"Notes", u"Field: Notes(2)", u"Notes"},
+    {Field::Surname, u"Field: Surname", Field::Surname},
+    {Field::Forename, u"Field: Forename", Field::Forename},
+    {Field::Maiden, u"Field: Maiden Name", Field::Maiden},
+    {Field::Nationality, u"Field: Nationality", u"Nation"},
+    {Field::FatherRec, u"Field: Fathers Record", u"Father"},
+    {Field::MotherRec, u"Field: Mothers Record", u"Mother"},
+    {Field::BirthDate, u"Field: Birth Date", Field::BirthDate},
+    {Field::BirthPlace, u"Field: Birth Place", Field::BirthPlace},
+    {Field::Spouse, u"Field: Spouse", Field::Spouse},
+    {Field::Children, u"Field: Children", Field::Children},
+    {Field::Partner, u"Field: Partner", Field::Partner},
+    {Field::PrevChildren, u"Field: Previous Children", Field::PrevChildren},
+    {Field::Maiden, u"Field: Maiden Name", Field::Maiden},
+    {Field::Wedding, u"Field: Wedding", Field::Wedding},
+    {Field::BirthCertificate, u"Field: Birth Certificate", Field::BirthCertificate},
+    {Field::MarriageCertificate, u"Field: Marriage Certificate", Field::MarriageCertificate},
+    {Field::DeathCertificate, u"Field: Death Certificate", Field::DeathCertificate},
+    {Field::Education, u"Field: Education", Field::Education},
+    {Field::Profession, u"Field: Profession", Field::Profession},
+    {Field::Deceased, u"Field: Deceased", Field::Deceased},
+    {Field::Medical, u"Field: Notes(1)", Field::Medical},
+    {Field::Notes, u"Field: Notes(2)", Field::Notes},
 }};
 
 // A pair that a walk has come to. All of it is read before any is shown; and of the pairs that one press walks over the
@@ -125,7 +126,7 @@ NextPair MoveToNextPair(Program& p)
     return current.Eof() ? NextPair::Missing : NextPair::BeginsRound;
 }
 
-bool EndsAtOnce(Program& p)
+bool ShowEndIfNoPair(Program& p)
 {
     const bool isCurrent = Records(p).Eof();
     if (!isCurrent && !CompareRecords(p).Eof())
@@ -180,7 +181,7 @@ NextPair WalkPairs(Program& p)
 
 void FieldDifferenceSearch(Program& p)
 {
-    if (p.Scratch.ScanState == ComparePair::Ended || p.Compare.SearchEnded == 1 || EndsAtOnce(p))
+    if (p.Scratch.ScanState == ComparePair::Ended || p.Compare.SearchEnded == 1 || ShowEndIfNoPair(p))
         return;
     switch (WalkPairs(p)) {
     case NextPair::Stands:

@@ -1,7 +1,7 @@
 #include "compare/KeyIndex.h"
 
-#include "compare/CompareKeys.h"
 #include "platform/base/Text.h"
+#include "platform/store/Fields.h"
 
 namespace lineforge
 {
@@ -14,19 +14,19 @@ namespace
 constexpr QChar separator = u'\0';
 } // namespace
 
-CompareKeys KeysOf(int mask)
+KeyFields KeysOf(int mask)
 {
-    CompareKeys keys;
+    KeyFields keys;
     if (mask & CompareKey::File)
-        keys << u"File"_s;
+        keys << Field::File.toString();
     if (mask & CompareKey::Surname)
-        keys << u"Surname"_s;
+        keys << Field::Surname.toString();
     if (mask & CompareKey::BirthDate)
-        keys << u"BirthDate"_s;
+        keys << Field::BirthDate.toString();
     return keys;
 }
 
-QString KeyOf(const Recordset& record, const CompareKeys& keys)
+QString KeyOf(const Recordset& record, const KeyFields& keys)
 {
     QString key;
     for (const QString& field : keys) {
@@ -39,7 +39,7 @@ QString KeyOf(const Recordset& record, const CompareKeys& keys)
     return key;
 }
 
-QHash<QString, Bookmark> FirstOfEachKey(Recordset& records, const CompareKeys& keys, Meanwhile& meanwhile)
+QHash<QString, Bookmark> FirstOfEachKey(Recordset& records, const KeyFields& keys, Meanwhile& meanwhile)
 {
     QHash<QString, Bookmark> index;
     for (records.MoveFirst(); !records.Eof(); records.MoveNext()) {

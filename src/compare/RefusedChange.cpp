@@ -1,6 +1,8 @@
 #include "compare/RefusedChange.h"
 
 #include "compare/FieldDifference.h"
+#include "forms/Form3.h"
+#include "forms/Form6.h"
 #include "program/branch/WorkDatabase.h"
 
 namespace lineforge

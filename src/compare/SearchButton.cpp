@@ -1,5 +1,7 @@
 #include "compare/SearchButton.h"
 
+#include "forms/Form6.h"
+
 namespace lineforge
 {
 

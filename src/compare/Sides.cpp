@@ -1,6 +1,9 @@
 #include "compare/Sides.h"
 
 #include "compare/TextDifference.h"
+#include "forms/Form3.h"
+#include "forms/Form6.h"
+#include "platform/store/Fields.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/WorkDatabase.h"
 
@@ -109,11 +112,11 @@ void ShowPicture(Program& p, const Side& side, const QString& file)
 PersonTexts ReadPerson(Program& p, const Side& side, NullForename null)
 {
     const Recordset& record = side.Records(p);
-    const QString file = record.Text(u"File");
-    const FieldValue forename = record.Value(u"Forename");
+    const QString file = record.Text(Field::File);
+    const FieldValue forename = record.Value(Field::Forename);
     if (!forename && null == NullForename::Refused)
         throw RuntimeError(ErrorNumber::InvalidUseOfNull, u"Forename\nRecord "_s + file + u'\n' + side.Directory(p));
-    return {file, record.Text(u"Surname"), forename.value_or(QString()), RecordOf(p, side)};
+    return {file, record.Text(Field::Surname), forename.value_or(QString()), RecordOf(p, side)};
 }
 
 void ShowPerson(Program& p, const Side& side, const PersonTexts& person)

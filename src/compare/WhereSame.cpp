@@ -1,9 +1,10 @@
 #include "compare/WhereSame.h"
 
 #include "compare/CompareEnds.h"
-#include "compare/CompareKeys.h"
 #include "compare/KeyIndex.h"
 #include "compare/Sides.h"
+#include "forms/Form6.h"
+#include "platform/store/Fields.h"
 #include "program/branch/WorkDatabase.h"
 #include "program/ui/Meanwhile.h"
 
@@ -39,7 +40,7 @@ bool LeaveWalkedPair(Program& p)
 }
 
 // The rest of the compare records for the current one, from the pair at hand on.
-bool FindInRest(Program& p, const CompareKeys& keys, Meanwhile& meanwhile)
+bool FindInRest(Program& p, const KeyFields& keys, Meanwhile& meanwhile)
 {
     Recordset& compare = CompareRecords(p);
     const QString wanted = KeyOf(Records(p), keys);
@@ -53,7 +54,7 @@ bool FindInRest(Program& p, const CompareKeys& keys, Meanwhile& meanwhile)
 
 // All compare records for each of the current ones that follow. Looked up instead of walked: the pair is the one that
 // the walk of each through all would have met first.
-bool FindInFollowing(Program& p, const CompareKeys& keys, Meanwhile& meanwhile)
+bool FindInFollowing(Program& p, const KeyFields& keys, Meanwhile& meanwhile)
 {
     Recordset& current = Records(p);
     Recordset& compare = CompareRecords(p);
@@ -76,7 +77,7 @@ bool FindPair(Program& p)
 {
     if (Records(p).Eof())
         return false;
-    const CompareKeys keys = KeysOf(p.Compare.SearchMask);
+    const KeyFields keys = KeysOf(p.Compare.SearchMask);
     Meanwhile meanwhile(p);
     return FindInRest(p, keys, meanwhile) || FindInFollowing(p, keys, meanwhile);
 }
@@ -92,7 +93,7 @@ void SearchWhereSame(Program& p)
     if (FindPair(p)) {
         p.Scratch.ScanState = ComparePair::InHand;
         p.Compare.FieldStep = 0;
-        ShowPicture(p, CompareSide, CompareRecords(p).Text(u"File"));
+        ShowPicture(p, CompareSide, CompareRecords(p).Text(Field::File));
         return;
     }
     CompareRecords(p).MoveFirst();

@@ -1,6 +1,7 @@
 #include "forms/Form3.h"
 
 #include "platform/drawing/TransportFaces.h"
+#include "platform/store/Fields.h"
 
 namespace lineforge::forms
 {
@@ -19,7 +20,7 @@ Form3::Form3() : Form(u"Form3", u"Family Tree Data", {11880, 7500})
 void Form3::BindBoxes()
 {
     Data1.RecordSource = u"Tree99"_s;
-    Data1.Bind(Label25, u"File"_s);
+    Data1.Bind(Label25, Field::File.toString());
 
     struct BoundBox {
         TextBox& Box;
@@ -28,30 +29,30 @@ void Form3::BindBoxes()
     };
     // "Notes(1)" is the field Medical and "Notes(2)" the field Notes; reports and the clipboard keep that pairing.
     const BoundBox bound[] = {
-        {Text1, u"Nationality", u'A'},
-        {Text2, u"Surname", u'U'},
-        {Text3, u"Forename", u'O'},
-        {Text4, u"BirthDate", u'B'},
-        {Text5, u"BirthPlace", u'L'},
-        {Text6, u"Spouse", u'P'},
-        {Text7, u"Children", u'C'},
-        {Text8, u"Education", u'J'},
-        {Text9, u"Profession", u'Y'},
-        {Text10, u"Deceased", u'D'},
-        {Text11, u"Notes", u'2'},
-        {Text12, u"Medical", u'1'},
-        {Text13, u"BirthCertificate", u'3'},
-        {Text14, u"MarriageCertificate", u'4'},
-        {Text15, u"DeathCertificate", u'5'},
-        {Text16, u"Maiden", u'I'},
-        {Text17, u"Partner", u'K'},
-        {Text18, u"PrevChildren", u'V'},
-        {Text19, u"Wedding", u'W'},
-        {Text20, u"WedDate", u'X'},
-        {Text21, u"FatherRec", u'R'},
-        {Text22, u"MotherRec", u'M'},
-        {Text23, u"Gender", u'N'},
-        {Text24, u"SpouseRec", u'Q'},
+        {Text1, Field::Nationality, u'A'},
+        {Text2, Field::Surname, u'U'},
+        {Text3, Field::Forename, u'O'},
+        {Text4, Field::BirthDate, u'B'},
+        {Text5, Field::BirthPlace, u'L'},
+        {Text6, Field::Spouse, u'P'},
+        {Text7, Field::Children, u'C'},
+        {Text8, Field::Education, u'J'},
+        {Text9, Field::Profession, u'Y'},
+        {Text10, Field::Deceased, u'D'},
+        {Text11, Field::Notes, u'2'},
+        {Text12, Field::Medical, u'1'},
+        {Text13, Field::BirthCertificate, u'3'},
+        {Text14, Field::MarriageCertificate, u'4'},
+        {Text15, Field::DeathCertificate, u'5'},
+        {Text16, Field::Maiden, u'I'},
+        {Text17, Field::Partner, u'K'},
+        {Text18, Field::PrevChildren, u'V'},
+        {Text19, Field::Wedding, u'W'},
+        {Text20, Field::WedDate, u'X'},
+        {Text21, Field::FatherRec, u'R'},
+        {Text22, Field::MotherRec, u'M'},
+        {Text23, Field::Gender, u'N'},
+        {Text24, Field::SpouseRec, u'Q'},
     };
     for (const BoundBox& each : bound) {
         Data1.Bind(each.Box, each.Field.toString());

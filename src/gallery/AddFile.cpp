@@ -1,5 +1,6 @@
 #include "gallery/AddFile.h"
 
+#include "forms/Form5.h"
 #include "gallery/GalleryItem.h"
 #include "gallery/GalleryTile.h"
 #include "platform/base/Text.h"

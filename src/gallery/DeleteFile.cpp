@@ -1,5 +1,6 @@
 #include "gallery/DeleteFile.h"
 
+#include "forms/Form5.h"
 #include "gallery/GalleryFile.h"
 #include "gallery/GalleryItem.h"
 

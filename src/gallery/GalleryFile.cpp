@@ -1,5 +1,6 @@
 #include "gallery/GalleryFile.h"
 
+#include "forms/Form5.h"
 #include "platform/base/Number.h"
 #include "platform/base/Text.h"
 #include "program/branch/BranchPaths.h"

@@ -1,5 +1,6 @@
 #include "gallery/GalleryItem.h"
 
+#include "forms/Form5.h"
 #include "gallery/GalleryFile.h"
 #include "gallery/GalleryTile.h"
 #include "gallery/PageRecord.h"

@@ -1,5 +1,7 @@
 #include "gallery/GalleryPage.h"
 
+#include "forms/Form3.h"
+#include "forms/Form5.h"
 #include "gallery/GalleryFile.h"
 #include "gallery/GalleryItem.h"
 #include "gallery/GalleryTile.h"

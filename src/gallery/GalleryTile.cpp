@@ -1,5 +1,7 @@
 #include "gallery/GalleryTile.h"
 
+#include "forms/Form5.h"
+
 namespace lineforge
 {
 

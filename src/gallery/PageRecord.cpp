@@ -1,5 +1,6 @@
 #include "gallery/PageRecord.h"
 
+#include "forms/Form3.h"
 #include "gallery/GalleryFile.h"
 #include "platform/base/Text.h"
 

@@ -1,5 +1,7 @@
 #include "gallery/TileClick.h"
 
+#include "forms/Form1.h"
+#include "forms/Form5.h"
 #include "gallery/DeleteFile.h"
 #include "gallery/GalleryFile.h"
 #include "gallery/GalleryItem.h"

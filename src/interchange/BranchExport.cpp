@@ -1,5 +1,6 @@
 #include "interchange/BranchExport.h"
 
+#include "forms/Form4.h"
 #include "interchange/BranchDatabase.h"
 #include "platform/base/Text.h"
 #include "platform/files/Drives.h"

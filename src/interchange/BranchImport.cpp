@@ -1,5 +1,6 @@
 #include "interchange/BranchImport.h"
 
+#include "forms/Form4.h"
 #include "interchange/BranchDatabase.h"
 #include "map/subjects/EnterBranch.h"
 #include "map/tools/LeaveTools.h"
@@ -72,7 +73,7 @@ void OpenImported(Program& p, const QString& name, const QString& directory)
     p.Screen.Pointer = MousePointer::Default;
     if (!isOpen)
         return LeaveToolsIfOpen(p);
-    if (TellIfEmptyBranch(p))
+    if (EmptySubjectIfNoRecords(p))
         return;
     EnableBranchUI(p);
     ShowFirstSubject(p);

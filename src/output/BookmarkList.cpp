@@ -4,6 +4,7 @@
 #include "output/PrintErrors.h"
 #include "output/RecordReport.h"
 #include "output/TextFile.h"
+#include "platform/store/Fields.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/ComeBackAfterwards.h"
 #include "program/branch/SiblingBranch.h"
@@ -66,7 +67,7 @@ bool PutOutRecordOfSibling(Program& p, const QString& entry, Pairs& pairs)
     }
     const auto goBack = qScopeGuard([&p] { p.Errors.Ignoring([&p] { ReturnFromSibling(p); }); });
     bool isThere = false;
-    p.Errors.Ignoring([&] { isThere = Records(p).Seek(u"File", entry); });
+    p.Errors.Ignoring([&] { isThere = Records(p).Seek(Field::File, entry); });
     if (isThere)
         PutOutRecord(p, pairs);
     return true;
@@ -79,7 +80,7 @@ void PutOutEntries(Program& p, Pairs& pairs)
     QString passedOver = BranchLetter(p.Branch.WorkDir);
     for (int entry = 0; entry <= BookmarkState::Last && !p.Bookmarks.BookmarkList[entry].isEmpty(); ++entry) {
         const QString file = p.Bookmarks.BookmarkList[entry];
-        if (Records(p).Seek(u"File", file))
+        if (Records(p).Seek(Field::File, file))
             PutOutRecord(p, pairs);
         else if (!passedOver.contains(file.left(1), Qt::CaseInsensitive) && !PutOutRecordOfSibling(p, file, pairs))
             passedOver += file.left(1);
@@ -92,7 +93,7 @@ void AddBookmark(Program& p)
 {
     if (TellIfNoBranch(p) || !Records(p).HasRow())
         return;
-    p.Bookmarks.BookmarkList[p.Bookmarks.BookmarkCount] = Records(p).Text(u"File");
+    p.Bookmarks.BookmarkList[p.Bookmarks.BookmarkCount] = Records(p).Text(Field::File);
     p.Bookmarks.BookmarkCount += 1;
 }
 
@@ -104,7 +105,7 @@ void ClearBookmarks(Program& p)
 
 void PutOutBookmarks(Program& p)
 {
-    if (p.Branch.UsingAlternate == 1)
+    if (p.Branch.IsSiblingShown())
         ReturnFromSibling(p);
     Pairs pairs(p.Printer);
     PutOutEntries(p, pairs);

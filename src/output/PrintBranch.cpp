@@ -1,5 +1,9 @@
 #include "output/PrintBranch.h"
 
+#include "forms/Form1.h"
+#include "forms/Form3.h"
+#include "forms/Form5.h"
+#include "forms/Form6.h"
 #include "map/items/MapDisplay.h"
 #include "output/OutputMode.h"
 #include "output/PrintErrors.h"

@@ -1,7 +1,9 @@
 #include "output/RecordReport.h"
 
+#include "forms/Form3.h"
 #include "output/OutputMode.h"
 #include "output/Wrap.h"
+#include "platform/store/Fields.h"
 #include "program/branch/WorkDatabase.h"
 
 namespace lineforge
@@ -18,46 +20,46 @@ struct ReportLine {
 
 // In the file the place of the wedding comes first.
 constexpr ReportLine fileLines[] = {
-    {u"Surname:        ", u"Surname"},          {u"ForeNames:      ", u"ForeName"},
-    {u"Maiden Name:    ", u"Maiden"},           {u"Gender:         ", u"Gender"},
-    {u"Nationality:    ", u"Nationality"},      {u"Fathers Record: ", u"FatherRec"},
-    {u"Mothers Record: ", u"MotherRec"},        {u"Birth date:     ", u"BirthDate"},
-    {u"Birth Place:    ", u"BirthPlace"},       {u"Spouse:         ", u"Spouse"},
-    {u"Children:       ", u"Children"},         {u"Partner:        ", u"Partner"},
-    {u"Wedding Place:  ", u"Wedding"},          {u"Wedding Date:   ", u"WedDate"},
-    {u"Prev.Children:  ", u"PrevChildren"},     {u"Education:      ", u"Education"},
-    {u"Profession:     ", u"Profession"},       {u"Deceased:       ", u"Deceased"},
-    {u"Birth Cert.     ", u"BirthCertificate"}, {u"Marriage Cert:  ", u"MarriageCertificate"},
-    {u"Death Cert:     ", u"DeathCertificate"},
+    {u"Surname:        ", Field::Surname},          {u"ForeNames:      ", Field::Forename},
+    {u"Maiden Name:    ", Field::Maiden},           {u"Gender:         ", Field::Gender},
+    {u"Nationality:    ", Field::Nationality},      {u"Fathers Record: ", Field::FatherRec},
+    {u"Mothers Record: ", Field::MotherRec},        {u"Birth date:     ", Field::BirthDate},
+    {u"Birth Place:    ", Field::BirthPlace},       {u"Spouse:         ", Field::Spouse},
+    {u"Children:       ", Field::Children},         {u"Partner:        ", Field::Partner},
+    {u"Wedding Place:  ", Field::Wedding},          {u"Wedding Date:   ", Field::WedDate},
+    {u"Prev.Children:  ", Field::PrevChildren},     {u"Education:      ", Field::Education},
+    {u"Profession:     ", Field::Profession},       {u"Deceased:       ", Field::Deceased},
+    {u"Birth Cert.     ", Field::BirthCertificate}, {u"Marriage Cert:  ", Field::MarriageCertificate},
+    {u"Death Cert:     ", Field::DeathCertificate},
 };
 
 // On paper, and on the clipboard, its date does. The gender shares its line on paper with three more fields.
 constexpr ReportLine namesOnPaper[] = {
-    {u"           Surname:       ", u"Surname"},
-    {u"           ForeNames:     ", u"ForeName"},
-    {u"           Maiden Name:   ", u"Maiden"},
+    {u"           Surname:       ", Field::Surname},
+    {u"           ForeNames:     ", Field::Forename},
+    {u"           Maiden Name:   ", Field::Maiden},
 };
 constexpr ReportLine originOnPaper[] = {
-    {u"           Gender:        ", u"Gender"},
-    {u".       Nationality: ", u"Nationality"},
-    {u".        Fathers Record: ", u"FatherRec"},
-    {u".        Mothers Record: ", u"MotherRec"},
+    {u"           Gender:        ", Field::Gender},
+    {u".       Nationality: ", Field::Nationality},
+    {u".        Fathers Record: ", Field::FatherRec},
+    {u".        Mothers Record: ", Field::MotherRec},
 };
 constexpr ReportLine lifeOnPaper[] = {
-    {u"           Birth date:    ", u"BirthDate"},
-    {u"           Birth Place:   ", u"BirthPlace"},
-    {u"           Spouse:        ", u"Spouse"},
-    {u"           Children:      ", u"Children"},
-    {u"           Partner:       ", u"Partner"},
-    {u"           Wedding Date:  ", u"WedDate"},
-    {u"           Wedding Place: ", u"Wedding"},
-    {u"           Prev.Children: ", u"PrevChildren"},
-    {u"           Education:     ", u"Education"},
-    {u"           Profession:    ", u"Profession"},
-    {u"           Deceased:      ", u"Deceased"},
-    {u"           Birth Cert.    ", u"BirthCertificate"},
-    {u"           Marriage Cert: ", u"MarriageCertificate"},
-    {u"           Death Cert:    ", u"DeathCertificate"},
+    {u"           Birth date:    ", Field::BirthDate},
+    {u"           Birth Place:   ", Field::BirthPlace},
+    {u"           Spouse:        ", Field::Spouse},
+    {u"           Children:      ", Field::Children},
+    {u"           Partner:       ", Field::Partner},
+    {u"           Wedding Date:  ", Field::WedDate},
+    {u"           Wedding Place: ", Field::Wedding},
+    {u"           Prev.Children: ", Field::PrevChildren},
+    {u"           Education:     ", Field::Education},
+    {u"           Profession:    ", Field::Profession},
+    {u"           Deceased:      ", Field::Deceased},
+    {u"           Birth Cert.    ", Field::BirthCertificate},
+    {u"           Marriage Cert: ", Field::MarriageCertificate},
+    {u"           Death Cert:    ", Field::DeathCertificate},
 };
 
 struct ClipboardLine {
@@ -67,18 +69,29 @@ struct ClipboardLine {
 };
 
 constexpr ClipboardLine clipboardLines[] = {
-    {u"           Surname:       ", u"Surname"},          {u"           ForeNames:     ", u"ForeName"},
-    {u"           Maiden Name:   ", u"Maiden"},           {u"           Gender:        ", u"Gender"},
-    {u"           Nationality:   ", u"Nationality"},      {u"           Father Rec:    ", u"FatherRec"},
-    {u"           Mother Rec:    ", u"MotherRec"},        {u"           Birth date:    ", u"BirthDate"},
-    {u"           Birth Place:   ", u"BirthPlace"},       {u"           Spouse:        ", u"Spouse"},
-    {u"           Children:      ", u"Children"},         {u"           Partner:       ", u"Partner"},
-    {u"           Wedding Date:  ", u"WedDate"},          {u"           Wedding Place: ", u"Wedding"},
-    {u"           Prev.Children: ", u"PrevChildren"},     {u"           Education:     ", u"Education", true},
-    {u"           Profession:    ", u"Profession", true}, {u"           Deceased:      ", u"Deceased"},
-    {u"           Birth Cert.    ", u"BirthCertificate"}, {u"           Marriage Cert: ", u"MarriageCertificate"},
-    {u"           Death Cert:    ", u"DeathCertificate"}, {u"           Notes(1):      ", u"Medical", true},
-    {u"           Notes(2):      ", u"Notes", true},
+    {u"           Surname:       ", Field::Surname},
+    {u"           ForeNames:     ", Field::Forename},
+    {u"           Maiden Name:   ", Field::Maiden},
+    {u"           Gender:        ", Field::Gender},
+    {u"           Nationality:   ", Field::Nationality},
+    {u"           Father Rec:    ", Field::FatherRec},
+    {u"           Mother Rec:    ", Field::MotherRec},
+    {u"           Birth date:    ", Field::BirthDate},
+    {u"           Birth Place:   ", Field::BirthPlace},
+    {u"           Spouse:        ", Field::Spouse},
+    {u"           Children:      ", Field::Children},
+    {u"           Partner:       ", Field::Partner},
+    {u"           Wedding Date:  ", Field::WedDate},
+    {u"           Wedding Place: ", Field::Wedding},
+    {u"           Prev.Children: ", Field::PrevChildren},
+    {u"           Education:     ", Field::Education, true},
+    {u"           Profession:    ", Field::Profession, true},
+    {u"           Deceased:      ", Field::Deceased},
+    {u"           Birth Cert.    ", Field::BirthCertificate},
+    {u"           Marriage Cert: ", Field::MarriageCertificate},
+    {u"           Death Cert:    ", Field::DeathCertificate},
+    {u"           Notes(1):      ", Field::Medical, true},
+    {u"           Notes(2):      ", Field::Notes, true},
 };
 
 constexpr QStringView fileIndent = u"        ";
@@ -124,16 +137,16 @@ void WriteRecordToFile(Program& p)
     if (record.Eof())
         return;
     TextWriter& file = *p.Output.TextFile;
-    file.Line(u"     ANCESTRAL RECORD ", record.Text(u"File"));
+    file.Line(u"     ANCESTRAL RECORD ", record.Text(Field::File));
     file.Line({});
     for (const ReportLine& line : fileLines)
         file.Line(line.Label, record.Text(line.Field));
     file.Line(u"Notes(1):       ");
-    WriteWrapped(p, record.Text(u"Medical"));
+    WriteWrapped(p, record.Text(Field::Medical));
     // KEPT(RecordReportFileTest.FullRecord_HasEveryFieldOnItsLine): one blank fewer than its sister.
     // Mended, the line would differ from that of every report written so far.
     file.Line(u"Notes(2):      ");
-    WriteWrapped(p, record.Text(u"Notes"));
+    WriteWrapped(p, record.Text(Field::Notes));
     file.Line({});
 }
 
@@ -144,7 +157,7 @@ void PrintRecord(Program& p)
         return;
     Printer& printer = p.Printer;
     printer.Font = {u"Arial"_s, 12, true};
-    printer.PrintLine(u"        ANCESTRAL RECORD "_s + record.Text(u"File"));
+    printer.PrintLine(u"        ANCESTRAL RECORD "_s + record.Text(Field::File));
     printer.PrintLine({});
     // Everything below stays bold, too.
     printer.Font.Size = 10;
@@ -152,11 +165,11 @@ void PrintRecord(Program& p)
     PrintOrigin(printer, record);
     PrintLines(printer, record, lifeOnPaper);
     printer.PrintLine(u"           Notes(1):      "_s);
-    PrintWrapped(p, record.Text(u"Medical"));
+    PrintWrapped(p, record.Text(Field::Medical));
     // The empty line stands below this one only.
     printer.PrintLine(u"           Notes(2):      "_s);
     printer.PrintLine({});
-    PrintWrapped(p, record.Text(u"Notes"));
+    PrintWrapped(p, record.Text(Field::Notes));
     printer.PrintLine({});
     printer.PrintLine({});
     if (p.Output.OutputMode != OutputMode::SingleToPrinter)

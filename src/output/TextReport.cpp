@@ -66,7 +66,7 @@ void WriteBookmarksText(Program& p)
 
 void WriteAllRecords(Program& p)
 {
-    if (p.Branch.UsingAlternate == 1)
+    if (p.Branch.IsSiblingShown())
         ReturnFromSibling(p);
     Meanwhile meanwhile(p);
     Recordset& records = Records(p);

@@ -1,6 +1,8 @@
 #include "records/AddRecord.h"
 
+#include "forms/Form3.h"
 #include "map/subjects/RecordFormPicture.h"
+#include "platform/store/Fields.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/ComeBackAfterwards.h"
 #include "program/branch/SiblingBranch.h"
@@ -39,10 +41,10 @@ QString AppendRow(Program& p)
     QString file;
     records.AddNew();
     // The last of all that stand in the file when nobody else can add one.
-    records.PutWhenWritten(u"File", [&] {
+    records.PutWhenWritten(Field::File, [&] {
         const auto all = records.Afresh();
         all->MoveLast();
-        return file = NumberAfter(all->Text(u"File"));
+        return file = NumberAfter(all->Text(Field::File));
     });
     records.Update();
     records.SetBookmark(records.LastModified());

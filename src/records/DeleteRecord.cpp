@@ -5,6 +5,7 @@
 #include "map/items/CurrentBox.h"
 #include "map/items/MapFile.h"
 #include "platform/base/Like.h"
+#include "platform/store/Fields.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/ComeBackAfterwards.h"
 #include "program/branch/SiblingBranch.h"
@@ -56,8 +57,8 @@ void KillFiles(Program& p, const QString& file)
 
 void Unlink(Program& p)
 {
-    const QString file = Records(p).Text(u"File");
-    p.Record.sAltName = Records(p).Text(u"ForeName");
+    const QString file = Records(p).Text(Field::File);
+    p.Record.sAltName = Records(p).Text(Field::Forename);
     OpenOwnBranch(p);
     EraseSiblingsBox(p, file);
     SaveBoxes(p);
@@ -85,7 +86,7 @@ bool TakeOut(Program& p)
 // stays pending with it.
 void DeleteWithFiles(Program& p)
 {
-    const QString file = Records(p).Text(u"File");
+    const QString file = Records(p).Text(Field::File);
     if (!TakeOut(p))
         return;
     if (!file.isEmpty())
@@ -103,7 +104,7 @@ void DeleteRecord(Program& p)
     if (!Records(p).HasRow())
         return;
     const Bookmark asked = Records(p).GetBookmark();
-    if (p.Branch.UsingAlternate == 1) {
+    if (p.Branch.IsSiblingShown()) {
         if (!ConfirmUnlinking(p))
             return;
         StandOn(p, asked);

@@ -1,5 +1,6 @@
 #include "records/RecordClipboard.h"
 
+#include "forms/Form3.h"
 #include "output/RecordReport.h"
 #include "program/branch/WorkDatabase.h"
 

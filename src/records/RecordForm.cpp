@@ -1,5 +1,9 @@
 #include "records/RecordForm.h"
 
+#include "forms/Form1.h"
+#include "forms/Form2.h"
+#include "forms/Form3.h"
+#include "forms/Form8.h"
 #include "map/items/BoxCaptions.h"
 #include "map/items/CurrentBox.h"
 #include "map/items/MapFile.h"
@@ -8,6 +12,7 @@
 #include "map/tools/LeaveTools.h"
 #include "map/tools/ToolImages.h"
 #include "platform/base/Text.h"
+#include "platform/store/Fields.h"
 #include "program/branch/ComeBackAfterwards.h"
 #include "program/branch/SiblingBranch.h"
 #include "program/ui/BranchUi.h"
@@ -22,25 +27,25 @@ namespace
 {
 void RenameBoxOfRecord(Program& p, const QString& forename)
 {
-    if (const int row = RowOfRecord(p.Map, Records(p).Value(u"File")); row <= LastFiledBox)
+    if (const int row = RowOfRecord(p.Map, Records(p).Value(Field::File)); row <= LastFiledBox)
         RenameBox(p, row, forename);
 }
 
 // A record without a box would be printed wherever the last one was, in somebody else's box maybe.
 void CaptionBoxOfRecord(Program& p)
 {
-    const int row = RowOfRecord(p.Map, Records(p).Value(u"File"));
+    const int row = RowOfRecord(p.Map, Records(p).Value(Field::File));
     if (row > LastFiledBox)
         return;
     TakeBoxPosition(p, row);
     DrawRecordInBox(p);
-    RenameBox(p, row, Records(p).Text(u"Forename"));
+    RenameBox(p, row, Records(p).Text(Field::Forename));
 }
 
 // What is being drawn with the tools is saved when they are closed, or not at all.
 QString ListOfBoxesToSave(Program& p)
 {
-    return AreToolsShown(p) ? ListWithForename(p.Map.sBoxesText, Records(p).Text(u"File"), p.Form3->Text3.Text)
+    return AreToolsShown(p) ? ListWithForename(p.Map.sBoxesText, Records(p).Text(Field::File), p.Form3->Text3.Text)
                             : ListOfBoxes(p.Map);
 }
 
@@ -69,7 +74,7 @@ void FinishMapping(Program& p)
 {
     if (p.Tools.MapCursorMode != MapCursor::Mapping)
         return;
-    p.Errors.Ignoring([&] { Records(p).Put(u"Forename", p.Form3->Text3.Text.value()); });
+    p.Errors.Ignoring([&] { Records(p).Put(Field::Forename, p.Form3->Text3.Text.value()); });
     p.Errors.Ignoring([&] { KeepPosition(p); });
     p.Errors.Ignoring([&] { Records(p).Update(); });
     p.Errors.Ignoring([&] { ComeBack(p); });
@@ -81,11 +86,11 @@ void KeepGender(Program& p)
 {
     const QString typed = p.Form3->Text23.Text;
     bool isChanged = false;
-    p.Errors.Ignoring([&] { isChanged = !SameText(Records(p).Text(u"Gender"), typed); });
+    p.Errors.Ignoring([&] { isChanged = !SameText(Records(p).Text(Field::Gender), typed); });
     if (!isChanged)
         return;
     p.Errors.Ignoring([&] { Records(p).Edit(); });
-    p.Errors.Ignoring([&] { Records(p).Put(u"Gender", typed); });
+    p.Errors.Ignoring([&] { Records(p).Put(Field::Gender, typed); });
     p.Errors.Ignoring([&] { Records(p).Update(); });
     p.Errors.Ignoring([&] { MarkCurrentBox(p); });
 }
@@ -99,7 +104,7 @@ void LoadRecordForm(Program& p)
     form.Centre(p.Screen.Area(), 200);
     form.Caption = p.Form8->List1.Text() + u" Ancestral Records.";
     // A backup makes the form anew on whatever record is shown.
-    if (p.Branch.UsingAlternate == 1)
+    if (p.Branch.IsSiblingShown())
         DisableTransport(p);
 }
 

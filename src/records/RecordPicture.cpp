@@ -1,5 +1,6 @@
 #include "records/RecordPicture.h"
 
+#include "forms/Form3.h"
 #include "map/subjects/RecordFormPicture.h"
 #include "map/subjects/SubjectPanel.h"
 #include "program/branch/BranchPaths.h"

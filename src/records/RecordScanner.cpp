@@ -1,5 +1,6 @@
 #include "records/RecordScanner.h"
 
+#include "forms/Form3.h"
 #include "map/items/CurrentBox.h"
 #include "map/subjects/SubjectPanel.h"
 #include "platform/store/OtherPrograms.h"
@@ -157,7 +158,7 @@ void TickScan(Program& p)
     constexpr int slowMilliseconds = 1000;
 
     // Under that question nothing moves; and a record of another branch stands alone until the return.
-    if (p.Databases.Others().IsAsking() || p.Branch.UsingAlternate == 1)
+    if (p.Databases.Others().IsAsking() || p.Branch.IsSiblingShown())
         return;
     p.Gallery.FirstShow = 1;
     const ScanMode mode = ModeOf(p);

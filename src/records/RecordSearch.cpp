@@ -1,7 +1,9 @@
 #include "records/RecordSearch.h"
 
+#include "forms/Form3.h"
 #include "map/subjects/RecordFormPicture.h"
 #include "platform/base/Like.h"
+#include "platform/store/Fields.h"
 #include "program/branch/WorkDatabase.h"
 #include "program/ui/Meanwhile.h"
 #include "records/RecordPicture.h"
@@ -27,7 +29,7 @@ struct PatternSearch {
 // The menu has told that the records of another branch aren't searched.
 QString Ask(Program& p, const QString& prompt)
 {
-    if (p.Branch.UsingAlternate == 1)
+    if (p.Branch.IsSiblingShown())
         return {};
     return p.Prompts.InputBox(u"Search Database"_s, prompt);
 }
@@ -108,7 +110,7 @@ void SearchByDataRef(Program& p)
     if (answer.isEmpty())
         return;
     p.Record.sCurFile = answer;
-    if (Records(p).Seek(u"File", answer))
+    if (Records(p).Seek(Field::File, answer))
         ShowPictureOfHit(p);
     else
         TellNoMatch(p, u"No Match Found for Data Ref: "_s + answer);
@@ -118,14 +120,16 @@ void SearchBySurname(Program& p)
 {
     Run(p, {u"Enter the Surname or partial Surname"_s,
             u"No Match Found for Surname: "_s,
-            {u"Surname"},
+            {Field::Surname},
             Picture::BeforeTheQuestion});
 }
 
 void SearchByBirthPlace(Program& p)
 {
-    Run(p,
-        {u"Enter the BirthPlace"_s, u"No Match Found for BirthPlace: "_s, {u"BirthPlace"}, Picture::AfterTheQuestion});
+    Run(p, {u"Enter the BirthPlace"_s,
+            u"No Match Found for BirthPlace: "_s,
+            {Field::BirthPlace},
+            Picture::AfterTheQuestion});
 }
 
 void SearchByWord(Program& p)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/store/Fields.h"
 #include "program/state/Program.h"
 
 #include <array>
@@ -10,17 +11,17 @@ namespace lineforge
 // What the search by word looks at, in the order in which it is tested. The number, the gender and the spouse's number
 // are left out.
 inline constexpr std::array<QStringView, 22> WordFields{
-    u"FatherRec",        u"MotherRec",
-    u"Surname",          u"Forename",
-    u"Nationality",      u"BirthDate",
-    u"BirthPlace",       u"Spouse",
-    u"Children",         u"Education",
-    u"Profession",       u"Deceased",
-    u"BirthCertificate", u"MarriageCertificate",
-    u"DeathCertificate", u"Notes",
-    u"Medical",          u"Maiden",
-    u"PrevChildren",     u"Partner",
-    u"Wedding",          u"WedDate",
+    Field::FatherRec,        Field::MotherRec,
+    Field::Surname,          Field::Forename,
+    Field::Nationality,      Field::BirthDate,
+    Field::BirthPlace,       Field::Spouse,
+    Field::Children,         Field::Education,
+    Field::Profession,       Field::Deceased,
+    Field::BirthCertificate, Field::MarriageCertificate,
+    Field::DeathCertificate, Field::Notes,
+    Field::Medical,          Field::Maiden,
+    Field::PrevChildren,     Field::Partner,
+    Field::Wedding,          Field::WedDate,
 };
 
 // The four searches of the record form. Each asks for a text, walks all records from the first, case ignored, and

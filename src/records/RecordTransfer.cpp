@@ -1,5 +1,7 @@
 #include "records/RecordTransfer.h"
 
+#include "forms/Form1.h"
+#include "forms/Form3.h"
 #include "map/items/BoxCaptions.h"
 #include "map/items/CurrentBox.h"
 #include "map/items/MapFile.h"
@@ -10,6 +12,7 @@
 #include "map/subjects/SubjectPanel.h"
 #include "map/tools/LeaveTools.h"
 #include "platform/base/Text.h"
+#include "platform/store/Fields.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/ComeBackAfterwards.h"
 #include "program/branch/SiblingBranch.h"
@@ -64,7 +67,7 @@ std::optional<Source> ReadSource(Program& p, const Bookmark& asked)
     try {
         StandOn(p, asked);
         const Recordset& records = Records(p);
-        Source source{records.Text(u"File"), {}};
+        Source source{records.Text(Field::File), {}};
         for (std::size_t at = 0; at < CopyFieldList.size(); ++at)
             source.Texts[at] = records.Text(CopyFieldList[at]);
         return source;
@@ -103,7 +106,7 @@ void ShowItsMap(Program& p)
     PictureBox& picture = p.Form1->Picture1;
     picture.Cls();
     picture.Font = {};
-    EraseMap(p);
+    ForgetMap(p);
     DrawBranchMap(p);
     p.Screen.Pointer = MousePointer::Default;
 }
@@ -153,7 +156,7 @@ bool CopyPicture(Program& p, const QString& source, const QString& destination)
 // False, and a box that names that number, when there is no such record.
 bool FindDestination(Program& p, const QString& file, const QString& told)
 {
-    if (Records(p).Seek(u"File", file))
+    if (Records(p).Seek(Field::File, file))
         return true;
     PutRecordPicture(p, QImage());
     p.Prompts.MsgBox(u"Database Result"_s, u"No Match Found for Data Ref: "_s + told, Buttons::Information);
@@ -175,7 +178,7 @@ void ShowOverwritten(Program& p)
     FillSubjectLabels(p);
     FitForename(p);
     if (const int row = p.Scratch.IdxA; row <= LastFiledBox)
-        RenameBox(p, row, Records(p).Text(u"Forename"));
+        RenameBox(p, row, Records(p).Text(Field::Forename));
     MarkCurrentBox(p);
 }
 } // namespace

@@ -3,6 +3,7 @@
 #include "platform/machine/Prompts.h"
 #include "program/state/Program.h"
 #include "support/TestPlatform.h"
+#include "support/Windows.h"
 
 #include <memory>
 

@@ -15,7 +15,7 @@ using Lists = std::array<QString, 3>;
 // As it is read and drawn when its branch is opened; what the three arrays then hold.
 Lists Enter(Program& p)
 {
-    EraseMap(p);
+    ForgetMap(p);
     DrawBranchMap(p);
     return {ListOfBoxes(p.Map), ListOfLines(p.Map), ListOfTexts(p.Map)};
 }

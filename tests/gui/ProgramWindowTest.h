@@ -8,6 +8,7 @@
 #include "support/PdfPrinter.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TemporaryHome.h"
+#include "support/Windows.h"
 
 namespace lineforge
 {

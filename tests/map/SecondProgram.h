@@ -43,7 +43,7 @@ public:
     QImage Opened(const MapState& map)
     {
         P.Map = map;
-        EraseItems(P);
+        EmptyMapArrays(P);
         P.Form1->Picture1.Cls();
         P.Form1->Picture1.Font = {};
         ParseWhatIsThere(P);

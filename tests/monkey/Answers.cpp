@@ -9,6 +9,7 @@
 #include "program/branch/BranchPaths.h"
 #include "program/branch/WorkDatabase.h"
 #include "program/state/Program.h"
+#include "support/Windows.h"
 
 #include <QColorDialog>
 #include <QDialogButtonBox>

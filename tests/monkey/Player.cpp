@@ -5,6 +5,7 @@
 #include "monkey/SessionTime.h"
 #include "program/state/Program.h"
 #include "qt/QtPlatform.h"
+#include "support/Windows.h"
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>

@@ -9,6 +9,7 @@
 #include "shell/handlers/InstallHandlers.h"
 #include "shell/run/RunHandler.h"
 #include "shell/run/StartUp.h"
+#include "support/Windows.h"
 
 #include <QApplication>
 

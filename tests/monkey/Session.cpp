@@ -12,6 +12,7 @@
 #include "shell/run/RunHandler.h"
 #include "shell/run/StartUp.h"
 #include "support/FakeProcesses.h"
+#include "support/Windows.h"
 
 #include <QApplication>
 #include <QFileInfo>

@@ -3,6 +3,7 @@
 #include "monkey/Hands.h"
 #include "program/state/Program.h"
 #include "qt/QtPlatform.h"
+#include "support/Windows.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>

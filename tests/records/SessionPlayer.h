@@ -5,6 +5,7 @@
 #include "support/BranchBuilder.h"
 #include "support/SqliteFile.h"
 #include "support/TestPlatform.h"
+#include "support/Windows.h"
 
 #include <functional>
 #include <memory>

@@ -2,6 +2,7 @@
 
 #include "program/state/Program.h"
 #include "records/LiteralSession.h"
+#include "support/Windows.h"
 
 namespace lineforge
 {

@@ -3,6 +3,7 @@
 #include "program/state/Program.h"
 #include "shell/handlers/InstallHandlers.h"
 #include "support/TestPlatform.h"
+#include "support/Windows.h"
 
 #include <gtest/gtest.h>
 

@@ -54,7 +54,7 @@ void ReportBirth(Program& p)
     } else {
         CloseGedSource(p);
         OpenGedSource(p);
-        p.Scratch.ScanState = 0;
+        p.Scratch.ScanState = GedRecord::Outside;
         Seek(p, p.Gedcom.sGedIndi);
     }
     ConvertStep(p);
@@ -94,17 +94,17 @@ bool SeekStage(Program& p, int family, int occurrence)
     GedcomState& gedcom = p.Gedcom;
     gedcom.sSeekFor = gedcom.GedFamList[family];
     OpenGedSource(p);
-    p.Scratch.ScanState = 0;
+    p.Scratch.ScanState = GedRecord::Outside;
     GedSeek(p);
     gedcom.sSeekFor = gedcom.sGedStage;
     if (occurrence > 1)
         GedSeekChild(p, occurrence);
     else
         GedSeek(p);
-    return !(gedcom.sGedLine.startsWith('0') && p.Scratch.ScanState == 1);
+    return !(gedcom.sGedLine.startsWith('0') && p.Scratch.ScanState == GedRecord::Inside);
 }
 
-void ReportMarriage(Program& p)
+void PutMarriage(Program& p)
 {
     Seek(p, "DATE");
     PutAndStep(p, ReportLine::Marriage);
@@ -136,10 +136,10 @@ bool ReportWife(Program& p, int family)
     return isThere;
 }
 
-void ReportWedding(Program& p, int family)
+void ReportMarriage(Program& p, int family)
 {
     if (SeekStage(p, family, 1))
-        ReportMarriage(p);
+        PutMarriage(p);
     CloseGedSource(p);
     p.Gedcom.sGedStage = "CHIL";
 }
@@ -176,7 +176,7 @@ void ReportFamily(Program& p, int family)
     gedcom.sGedStage = "HUSB";
     ReportHusband(p, family);
     if (ReportWife(p, family)) {
-        ReportWedding(p, family);
+        ReportMarriage(p, family);
         ReportChildren(p, family);
     }
     gedcom.sGedStage = "HUSB";

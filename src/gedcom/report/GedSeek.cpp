@@ -13,10 +13,6 @@ namespace
 {
 constexpr char blank = ' ';
 
-// Of `ScanState`.
-constexpr int outside = 0;
-constexpr int inside = 1;
-
 GedSource& SourceOf(const GedcomState& gedcom)
 {
     if (!gedcom.Source)
@@ -69,14 +65,14 @@ Stretch ReadStretch(GedcomState& gedcom, GedSource& source, Integer16& scanState
         const char character = source.Next();
         if (IsLineEnd(character))
             return Stretch::Complete;
-        if (scanState == inside) {
+        if (scanState == GedRecord::Inside) {
             if (character == blank)
                 return Stretch::GivenUp;
             gedcom.sGedValue += character;
         } else if (character == blank && !gedcom.sGedTag.isEmpty()) {
-            scanState = inside;
+            scanState = GedRecord::Inside;
             gedcom.sGedValue += source.Next();
-        } else if (scanState == outside) {
+        } else if (scanState == GedRecord::Outside) {
             gedcom.sGedTag += character == blank ? source.Next() : character;
         }
     }
@@ -114,7 +110,7 @@ void TakeStretch(GedcomState& gedcom, Integer16& scanState)
     else if (SameBytes(gedcom.sGedValue, "FAM"))
         Remember(gedcom.GedFamList, gedcom.GedFamNext, gedcom.sGedTag);
     else
-        scanState = outside;
+        scanState = GedRecord::Outside;
 }
 
 void EmptyFields(GedcomState& gedcom)
@@ -145,7 +141,7 @@ void GedSeek(Program& p)
     GedSource& source = SourceOf(gedcom);
     const GedLines& lines = source.Lines();
     const qsizetype from = source.Line();
-    const bool endsWithRecord = SeeksChild(gedcom) || p.Scratch.ScanState == inside;
+    const bool endsWithRecord = SeeksChild(gedcom) || p.Scratch.ScanState == GedRecord::Inside;
     const qsizetype record = endsWithRecord ? lines.NextRecord(from) : lines.Count();
     const qsizetype tagged = lines.NextTagged(gedcom.sSeekFor, from);
     const qsizetype stop = std::min(record, tagged);
@@ -158,9 +154,9 @@ void GedSeek(Program& p)
     source.GoToLine(stop + 1);
     if (stop == record && SeeksChild(gedcom)) {
         PutLine(p, ReportLine::Empty);
-        p.Scratch.ScanState = inside;
+        p.Scratch.ScanState = GedRecord::Inside;
     } else if (stop == tagged) {
-        p.Scratch.ScanState = IsReference(gedcom.sGedTag) ? outside : inside;
+        p.Scratch.ScanState = IsReference(gedcom.sGedTag) ? GedRecord::Outside : GedRecord::Inside;
     }
 }
 
@@ -190,7 +186,7 @@ bool GedIndexFile(Program& p)
         case Stretch::CutOff:
             return true;
         case Stretch::GivenUp:
-            scanState = outside;
+            scanState = GedRecord::Outside;
             break;
         case Stretch::Complete:
             if (gedcom.GedHeadState == GedHead::NotSeen && !SameBytes(gedcom.sGedTag, "HEAD"))

@@ -1,5 +1,7 @@
 #include "gedcom/report/GedcomConversion.h"
 
+#include "forms/Form1.h"
+#include "forms/Form11.h"
 #include "gedcom/report/FamilyReport.h"
 #include "gedcom/report/GedSeek.h"
 #include "gedcom/report/ReportLines.h"

@@ -1,5 +1,6 @@
 #include "gedcom/report/ReportLines.h"
 
+#include "forms/Form11.h"
 #include "program/ui/ProgressPanel.h"
 
 #include <array>

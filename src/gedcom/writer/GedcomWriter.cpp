@@ -1,5 +1,6 @@
 #include "gedcom/writer/GedcomWriter.h"
 
+#include "forms/Form12.h"
 #include "gedcom/writer/Lineage.h"
 #include "program/ui/BranchUi.h"
 #include "program/ui/ProgressPanel.h"
@@ -73,7 +74,7 @@ void PutLine(Program& p, const FileLine& line)
     const QString value = line.Value ? line.Value(p) : QString();
     if (line.Condition != When::Always && value.isEmpty())
         return;
-    p.Lineage.GedcomFile->Line(QString(line.Text + value));
+    p.Lineage.File->Line(QString(line.Text + value));
     p.Form12->Picture1.Print(QString((line.Shown.isEmpty() ? line.Text : line.Shown) + value));
     if (line.Condition == When::IfFilledThenStep)
         LineageStep(p);
@@ -115,14 +116,14 @@ bool TellIfIncomplete(Program& p)
 
 void CloseGedcomFile(Program& p)
 {
-    const std::unique_ptr<SequentialFile> file = std::move(p.Lineage.GedcomFile);
+    const std::unique_ptr<SequentialFile> file = std::move(p.Lineage.File);
     file->Close();
 }
 
 // Without its last lines it would pass for a whole one; with the branch it may have gone already.
 void KillUnfinished(Program& p, const QString& path)
 {
-    p.Lineage.GedcomFile.reset();
+    p.Lineage.File.reset();
     p.Errors.Ignoring([&] { p.Files.Kill(path); });
 }
 
@@ -155,14 +156,14 @@ void ResetGedcomForm(forms::Form12& form)
 
 void CreateGedcomFile(Program& p)
 {
-    if (p.Lineage.GedcomFile)
+    if (p.Lineage.File)
         return;
     p.Form12->Picture1.Cls();
     p.Form12->VScroll1.Value = 0;
     if (TellIfIncomplete(p) || TellIfNoBranch(p))
         return;
     // A deletion has left the branch's name, and no more.
-    if (!IsWalkable(p))
+    if (!ReadsOpenBranch(p))
         return TellNoBranch(p);
     WriteGedcomFile(p);
 }
@@ -174,7 +175,7 @@ void WriteGedcomFile(Program& p)
     p.Form12->Picture1.Cls();
     p.Form12->Picture1.Print(QString(u"   Data placed in directory " + path));
     p.Form12->Picture1.Print();
-    p.Lineage.GedcomFile = std::make_unique<SequentialFile>(p.Files, path);
+    p.Lineage.File = std::make_unique<SequentialFile>(p.Files, path);
     try {
         PutLines(p, head);
         CollectLineage(p);
@@ -189,7 +190,7 @@ void WriteGedcomFile(Program& p)
         throw;
     } catch (const ProgramEnded&) {
         // After an unmet error the file has been closed, and stays with what it holds.
-        if (p.Lineage.GedcomFile)
+        if (p.Lineage.File)
             KillUnfinished(p, path);
         throw;
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/Form12.h"
 #include "program/state/Program.h"
 
 namespace lineforge

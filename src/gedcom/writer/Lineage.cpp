@@ -1,7 +1,10 @@
 #include "gedcom/writer/Lineage.h"
 
+#include "forms/Form12.h"
+#include "forms/Form3.h"
 #include "gedcom/writer/LineageLines.h"
 #include "platform/base/Text.h"
+#include "platform/store/Fields.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/WorkDatabase.h"
 #include "program/ui/Meanwhile.h"
@@ -41,15 +44,15 @@ void PrintAndStep(Program& p, QStringView line)
 
 bool SeekRecord(Program& p)
 {
-    return Records(p).Seek(u"File", p.Record.sCurFile);
+    return Records(p).Seek(Field::File, p.Record.sCurFile);
 }
 
 // Of the record that was found.
 void TakeParents(Program& p, Row& row, const QString& none)
 {
     const Recordset& records = Records(p);
-    row[Pa] = records.Value(u"FatherRec").value_or(none);
-    row[Ma] = records.Value(u"MotherRec").value_or(none);
+    row[Pa] = records.Value(Field::FatherRec).value_or(none);
+    row[Ma] = records.Value(Field::MotherRec).value_or(none);
 }
 
 // SECTION1. The line goes on to the father.
@@ -82,11 +85,11 @@ void FindOffspring(Program& p, Row& row)
     Recordset& records = Records(p);
     for (records.MoveFirst(); !records.Eof(); records.MoveNext()) {
         meanwhile.KeepPainted();
-        if (!records.FieldIs(u"FatherRec", p.Record.sCurFile))
+        if (!records.FieldIs(Field::FatherRec, p.Record.sCurFile))
             continue;
         if (count >= offspring)
             break;
-        row[Sib1 + count] = records.Text(u"File");
+        row[Sib1 + count] = records.Text(Field::File);
         ++count;
     }
 }
@@ -174,7 +177,7 @@ bool CollectMothers(Program& p)
         p.Record.sCurFile = OffspringCell(p);
         if (!SeekRecord(p))
             return false;
-        p.Lineage.MaArray[index] = Records(p).Text(u"MotherRec");
+        p.Lineage.MaArray[index] = Records(p).Text(Field::MotherRec);
     }
     return true;
 }
@@ -285,7 +288,7 @@ void CollectLineage(Program& p)
     AddMothers(p);
 }
 
-bool IsWalkable(Program& p)
+bool ReadsOpenBranch(Program& p)
 {
     return p.Form3.IsLoaded() && p.Form3->Data1.IsOpen() &&
            SameText(p.Form3->Data1.DatabaseName, DatabasePath(p.Branch.WorkDir));
@@ -300,7 +303,7 @@ void LineageStep(Program& p)
     const std::tuple place(scratch.IdxA, scratch.IdxB, scratch.LenScratch);
     StepPanel(p, p.Form12->Picture1, p.Form12->VScroll1);
     std::tie(scratch.IdxA, scratch.IdxB, scratch.LenScratch) = place;
-    if (p.Branch.WorkDir != branch || !IsWalkable(p))
+    if (p.Branch.WorkDir != branch || !ReadsOpenBranch(p))
         throw LineageAbandoned{};
 }
 

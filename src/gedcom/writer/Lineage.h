@@ -15,7 +15,7 @@ struct LineageAbandoned {
 void CollectLineage(Program& p);
 
 // Whether the open branch's own database is what the records are read from.
-bool IsWalkable(Program& p);
+bool ReadsOpenBranch(Program& p);
 
 // What follows most of the panel's lines: yields. LineageAbandoned when the branch has been left meanwhile.
 void LineageStep(Program& p);

@@ -1,9 +1,11 @@
 #include "map/items/BoxCaptions.h"
 
+#include "forms/Form1.h"
 #include "map/items/CurrentBox.h"
 #include "map/items/MapFile.h"
 #include "map/items/MapItems.h"
 #include "platform/base/Text.h"
+#include "platform/store/Fields.h"
 #include "platform/store/OtherPrograms.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/OldDatabase.h"
@@ -100,7 +102,7 @@ public:
             const auto [records, isNew] = open_.try_emplace(p_.Branch.sDbaseName);
             if (isNew)
                 records->second = Open(p_.Branch.sDbaseName);
-            return records->second && records->second->Seek(u"File", file) ? records->second.get() : nullptr;
+            return records->second && records->second->Seek(Field::File, file) ? records->second.get() : nullptr;
         } catch (const RuntimeError&) {
             return nullptr;
         }
@@ -188,7 +190,7 @@ QString FittedForename(const QString& forename)
 
 void FitForename(Program& p, const Recordset& row)
 {
-    p.Record.sForeName = FittedForename(row.Text(u"Forename"));
+    p.Record.sForeName = FittedForename(row.Text(Field::Forename));
 }
 
 void FitForename(Program& p)
@@ -203,10 +205,10 @@ void DrawRecordInBox(Program& p, const Recordset& row)
     FitForename(p, row);
     if (IsPlacingSubject(p))
         FindBoxOfRecord(p);
-    PrintCaption(p, CaptionPlace(p, NumberInBox, 10), row.Text(u"File"));
+    PrintCaption(p, CaptionPlace(p, NumberInBox, 10), row.Text(Field::File));
     PrintCaption(p, CaptionPlace(p, ForenameInBox, 130), p.Record.sForeName);
     if (OnPaper(p))
-        PrintCaption(p, CaptionPlace(p, ForenameInBox, 260), u"B :"_s + row.Text(u"BirthDate").right(4));
+        PrintCaption(p, CaptionPlace(p, ForenameInBox, 260), u"B :"_s + row.Text(Field::BirthDate).right(4));
 }
 
 void DrawRecordInBox(Program& p)
@@ -230,14 +232,14 @@ void DrawBoxCaptions(Program& p)
         DrawCaption(p, siblings, row);
 }
 
-void DrawRecordsInBoxes(Program& p)
+void DrawOwnCaptions(Program& p)
 {
     Recordset& records = Records(p);
     if (records.IsEmpty())
         return;
     const QMultiHash<QString, int> boxes = BoxesByRecord(p.Map);
     for (records.MoveFirst(); !records.Eof(); records.MoveNext()) {
-        const QString file = records.Text(u"File");
+        const QString file = records.Text(Field::File);
         const auto [first, last] = boxes.equal_range(file.toCaseFolded());
         for (auto box = first; box != last; ++box) {
             if (!SameText(FiledNumber(p, *box), file))

@@ -37,7 +37,7 @@ void DrawBoxNumber(Program& p);
 void DrawBoxCaptions(Program& p);
 
 // Walks the open branch's table once and prints each record in every box that holds it; ends at `Eof`.
-void DrawRecordsInBoxes(Program& p);
+void DrawOwnCaptions(Program& p);
 
 // Overprints in the background colour what stands in the box of that row. The row keeps its number.
 void WipeCaption(Program& p, int row);

@@ -1,6 +1,8 @@
 #include "map/items/CurrentBox.h"
 
+#include "forms/Form1.h"
 #include "platform/base/Text.h"
+#include "platform/store/Fields.h"
 #include "program/branch/WorkDatabase.h"
 
 #include <cstdint>
@@ -56,9 +58,9 @@ void TakeBoxPosition(Program& p, int row)
 
 void FindBoxOfRecord(Program& p)
 {
-    if (p.Branch.UsingAlternate == 1)
+    if (p.Branch.IsSiblingShown())
         return;
-    p.Scratch.IdxA = RowOfRecord(p.Map, Records(p).Value(u"File"));
+    p.Scratch.IdxA = RowOfRecord(p.Map, Records(p).Value(Field::File));
     if (p.Scratch.IdxA <= LastFiledBox)
         TakeBoxPosition(p, p.Scratch.IdxA);
 }
@@ -72,14 +74,14 @@ void MarkCurrentBox(Program& p)
     const Recordset& records = Records(p);
     if (!records.HasRow())
         return;
-    const int row = RowOfRecord(p.Map, records.Value(u"File"));
+    const int row = RowOfRecord(p.Map, records.Value(Field::File));
     if (row > LastFiledBox)
         return;
     TakeBoxPosition(p, row);
     p.Mouse.BoxX += BoxCentreX - markerOffset;
     p.Mouse.BoxY += BoxCentreY - markerOffset;
     form.Shape1.Move({p.Mouse.BoxX, p.Mouse.BoxY});
-    form.Shape1.BorderColor = MarkerColour(records.Text(u"Gender"));
+    form.Shape1.BorderColor = MarkerColour(records.Text(Field::Gender));
     form.Shape1.Visible = true;
 }
 

@@ -1,5 +1,6 @@
 #include "map/items/MapDisplay.h"
 
+#include "forms/Form1.h"
 #include "map/items/BoxCaptions.h"
 #include "map/items/MapItems.h"
 #include "map/items/PointerOnMap.h"
@@ -32,7 +33,7 @@ void RedrawMap(Program& p)
     if (!IsBranchOpen(p))
         return;
     KeepPosition(p);
-    DrawRecordsInBoxes(p);
+    DrawOwnCaptions(p);
     DrawBoxCaptions(p);
     ComeBack(p);
 }

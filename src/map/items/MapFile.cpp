@@ -109,9 +109,9 @@ void WriteLists(Program& p)
 }
 } // namespace
 
-void EraseItems(Program& p)
+void EmptyMapArrays(Program& p)
 {
-    p.Map.EraseItems();
+    p.Map.EraseArrays();
     p.Mouse.BoxIdx = 0;
     p.Mouse.BoxMiss = 0;
     p.Tools.TextIdx = 0;
@@ -124,9 +124,9 @@ void EraseItems(Program& p)
     p.Tools.ZoneLines.Erase();
 }
 
-void EraseMap(Program& p)
+void ForgetMap(Program& p)
 {
-    EraseItems(p);
+    EmptyMapArrays(p);
     p.Map.Erase();
     p.Tools.ToolBookmark.reset();
 }
@@ -163,7 +163,7 @@ bool ReadMapLists(const FileSystem& files, const QString& path, MapState& map)
 
 void WriteMapFile(Program& p)
 {
-    const bool isAlternate = p.Branch.UsingAlternate == 1;
+    const bool isAlternate = p.Branch.IsSiblingShown();
     if (isAlternate)
         SwapBranchDirs(p);
     const auto swapBack = qScopeGuard([&] {

@@ -9,10 +9,10 @@ namespace lineforge
 
 // Empties the three arrays, with all that a gesture has found in them: a hit may not outlive what it points at. The
 // counts keep their values.
-void EraseItems(Program& p);
+void EmptyMapArrays(Program& p);
 
 // Empties the whole map before another branch's is read. Where the records stood when tools were opened is forgotten.
-void EraseMap(Program& p);
+void ForgetMap(Program& p);
 
 // A forename without what would break the file: a comma ends a value too early and shifts all that follow, a bracket
 // or the end of a line breaks the whole list. It stands so in the array and in its box, too.

@@ -1,5 +1,6 @@
 #include "map/items/MapItems.h"
 
+#include "forms/Form1.h"
 #include "platform/base/Text.h"
 
 #include <algorithm>

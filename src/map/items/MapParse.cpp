@@ -1,5 +1,6 @@
 #include "map/items/MapParse.h"
 
+#include "forms/Form1.h"
 #include "map/items/BoxCaptions.h"
 #include "map/items/MapItems.h"
 #include "map/items/MapValues.h"
@@ -21,7 +22,7 @@ void DrawAllCaptions(Program& p)
 {
     p.Errors.Ignoring([&] { KeepPosition(p); });
     p.Errors.Ignoring([&] { DrawBoxCaptions(p); });
-    p.Errors.Ignoring([&] { DrawRecordsInBoxes(p); });
+    p.Errors.Ignoring([&] { DrawOwnCaptions(p); });
     p.Errors.Ignoring([&] { ComeBack(p); });
 }
 

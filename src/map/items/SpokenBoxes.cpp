@@ -1,7 +1,9 @@
 #include "map/items/SpokenBoxes.h"
 
+#include "forms/Form3.h"
 #include "map/items/CurrentBox.h"
 #include "platform/base/Text.h"
+#include "platform/store/Fields.h"
 #include "platform/store/Recordset.h"
 #include "program/branch/BranchPaths.h"
 
@@ -25,8 +27,8 @@ Forenames ReadForenames(Program& p, const QString& database)
     try {
         Recordset records(p.Databases.Open(p.Files, database), u"Tree99"_s);
         for (; !records.Eof(); records.MoveNext())
-            if (const QString number = Folded(records.Text(u"File")); !forenames.contains(number))
-                forenames.insert(number, records.Text(u"Forename"));
+            if (const QString number = Folded(records.Text(Field::File)); !forenames.contains(number))
+                forenames.insert(number, records.Text(Field::Forename));
     } catch (const RuntimeError&) {
         // Whatever stands in the way is told by the command that needs the records.
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/canvas/PictureBox.h"
 #include "program/state/Program.h"
 
 #include <vector>

@@ -1,5 +1,10 @@
 #include "map/subjects/EnterBranch.h"
 
+#include "forms/Form1.h"
+#include "forms/Form2.h"
+#include "forms/Form3.h"
+#include "forms/Form5.h"
+#include "forms/Form6.h"
 #include "map/items/CurrentBox.h"
 #include "map/items/MapFile.h"
 #include "map/items/MapItems.h"
@@ -77,14 +82,14 @@ void PutMapAway(Program& p)
 {
     ClearMapPicture(p);
     ResetMapFont(p.Form1->Picture1);
-    EraseMap(p);
-    if (p.Branch.UsingAlternate == 1)
+    ForgetMap(p);
+    if (p.Branch.IsSiblingShown())
         EndAlternate(p);
 }
 
 void ReturnToOwnSubject(Program& p)
 {
-    if (p.Branch.UsingAlternate != 1)
+    if (!p.Branch.IsSiblingShown())
         return;
     ReturnFromSibling(p);
     ShowSubject(p);
@@ -111,9 +116,9 @@ bool EnterBranch(Program& p, const QString& name, const QString& directory)
     return true;
 }
 
-bool TellIfEmptyBranch(Program& p)
+bool EmptySubjectIfNoRecords(Program& p)
 {
-    if (!TellIfEmpty(p))
+    if (!TellIfEmptyTable(p))
         return false;
     EmptySubjectLabels(p,
                        {&forms::Form1::Label9, &forms::Form1::Label10, &forms::Form1::Label11, &forms::Form1::Label12,

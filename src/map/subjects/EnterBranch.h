@@ -23,7 +23,7 @@ bool EnterBranch(Program& p, const QString& name, const QString& directory);
 void ShowFirstSubject(Program& p);
 
 // Whether the branch that has been entered has no records: the panel beside the map is emptied then, and the user told.
-bool TellIfEmptyBranch(Program& p);
+bool EmptySubjectIfNoRecords(Program& p);
 
 // Reads the map of the branch in `WorkDir` and draws it.
 void DrawBranchMap(Program& p);

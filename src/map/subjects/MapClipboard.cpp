@@ -1,5 +1,7 @@
 #include "map/subjects/MapClipboard.h"
 
+#include "forms/Form1.h"
+
 namespace lineforge
 {
 

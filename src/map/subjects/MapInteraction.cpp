@@ -1,5 +1,6 @@
 #include "map/subjects/MapInteraction.h"
 
+#include "forms/Form1.h"
 #include "map/items/BoxCaptions.h"
 #include "map/items/CurrentBox.h"
 #include "map/items/HitBox.h"
@@ -9,6 +10,7 @@
 #include "map/subjects/SubjectMapping.h"
 #include "map/subjects/SubjectPanel.h"
 #include "platform/base/Text.h"
+#include "platform/store/Fields.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/ComeBackAfterwards.h"
 #include "program/branch/SiblingBranch.h"
@@ -35,20 +37,20 @@ bool IsTransferPending(const Program& p)
 // one.
 void MoveLinkToPressedBox(Program& p)
 {
-    const QString file = Records(p).Text(u"File");
-    if (p.Branch.UsingAlternate == 1)
+    const QString file = Records(p).Text(Field::File);
+    if (p.Branch.IsSiblingShown())
         EraseSiblingsBox(p, file);
     else
         EraseBoxCaption(p);
     HitBox(p);
-    TieBox(p, p.Mouse.BoxIdx, file, Records(p).Text(u"Forename"));
+    TieBox(p, p.Mouse.BoxIdx, file, Records(p).Text(Field::Forename));
 }
 
 // Writes the boxes to the map's own branch although a record of another one is shown. Leaves the other branch opened
 // afresh, on the same record.
 void SaveBoxesOfOwnBranch(Program& p)
 {
-    const QString file = Records(p).Text(u"File");
+    const QString file = Records(p).Text(Field::File);
     OpenSwappedBranch(p);
     p.Branch.UsingAlternate = 0;
     SaveBoxes(p);
@@ -56,7 +58,7 @@ void SaveBoxesOfOwnBranch(Program& p)
     OpenSwappedBranch(p);
     stays.dismiss();
     p.Branch.UsingAlternate = 1;
-    Records(p).Seek(u"File", file);
+    Records(p).Seek(Field::File, file);
 }
 
 // False when there is no record to be transferred, or none any more: the cursor may have gone behind the last one.
@@ -72,8 +74,8 @@ bool FinishTransfer(Program& p)
     }
     if (const std::optional<int> row = PressedRow(p); !row || *row > LastFiledBox)
         return false;
-    if (p.Branch.UsingAlternate == 1) {
-        p.Record.sAltName = Records(p).Text(u"ForeName");
+    if (p.Branch.IsSiblingShown()) {
+        p.Record.sAltName = Records(p).Text(Field::Forename);
         MoveLinkToPressedBox(p);
         TakeBoxPosition(p, p.Mouse.BoxIdx);
         DrawRecordInBox(p);
@@ -131,7 +133,7 @@ bool KeepPositionInBranch(Program& p)
 // Stands on the record; false, and a box, when there is none. The switch of branch stays.
 bool FindPressedRecord(Program& p, const QString& file)
 {
-    if (Records(p).Seek(u"File", file))
+    if (Records(p).Seek(Field::File, file))
         return true;
     Tell(p, u"Database Searched"_s, u"No File data found"_s);
     ComeBack(p);
@@ -144,7 +146,7 @@ void MapPressedBox(Program& p, const QString& file)
     const bool isEmptyBox = file.startsWith(u'0');
     if (!isEmptyBox && (!GoToBranchOf(p, file) || !KeepPositionInBranch(p)))
         return;
-    if (Records(p).Seek(u"File", file))
+    if (Records(p).Seek(Field::File, file))
         AskSubjectPicture(p);
     else
         MapNewSubject(p);
@@ -153,7 +155,7 @@ void MapPressedBox(Program& p, const QString& file)
 // A record without a gender leaves the marker where the last subject's was; so does one that is gone meanwhile.
 void MarkSubject(Program& p)
 {
-    if (!Records(p).HasRow() || Records(p).Text(u"Gender").isEmpty())
+    if (!Records(p).HasRow() || Records(p).Text(Field::Gender).isEmpty())
         return;
     MarkCurrentBox(p);
     // The first double click of a re-positioning has chosen the old place; the cross waits for the new one.
@@ -172,7 +174,7 @@ void ShowPressedSubject(Program& p, const QString& file)
 }
 } // namespace
 
-void PressOnMap(Program& p, double x, double y)
+void PressWithoutTools(Program& p, double x, double y)
 {
     const Point pointer = PointerOnMap(x, y);
     p.Mouse.DownX = pointer.X;
@@ -186,7 +188,7 @@ void PressOnMap(Program& p, double x, double y)
     }
 }
 
-void ReleaseOnMap(Program& p, double x, double y)
+void ReleaseWithoutTools(Program& p, double x, double y)
 {
     if (p.Tools.MapCursorMode >= MapCursor::Normal && p.Tools.MapCursorMode <= MapCursor::Repositioning)
         ShowCoordinates(p, x, y);
@@ -201,7 +203,7 @@ void DoubleClickOnMap(Program& p)
             MarkSubject(p);
         return;
     }
-    if (p.Branch.UsingAlternate == 1) {
+    if (p.Branch.IsSiblingShown()) {
         ReturnFromSibling(p);
         LeaveSubject(p);
     }

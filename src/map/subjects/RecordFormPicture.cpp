@@ -1,5 +1,6 @@
 #include "map/subjects/RecordFormPicture.h"
 
+#include "forms/Form3.h"
 #include "map/subjects/SubjectPanel.h"
 #include "platform/base/Text.h"
 #include "program/branch/BranchPaths.h"

@@ -1,5 +1,8 @@
 #include "map/subjects/SubjectMapping.h"
 
+#include "forms/Form1.h"
+#include "forms/Form3.h"
+#include "forms/Form7.h"
 #include "map/items/BoxCaptions.h"
 #include "map/items/CurrentBox.h"
 #include "map/items/HitBox.h"
@@ -7,6 +10,7 @@
 #include "map/subjects/RecordFormPicture.h"
 #include "map/subjects/SubjectPanel.h"
 #include "platform/base/Text.h"
+#include "platform/store/Fields.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/ComeBackAfterwards.h"
 #include "program/branch/SiblingBranch.h"
@@ -87,7 +91,7 @@ QString NextFreeNumber(Program& p, Recordset& records)
         return p.Mapping.sBranchLetter + QString::number(counter).rightJustified(3, u'0');
     };
     for (records.MoveFirst(); !records.Eof(); records.MoveNext()) {
-        p.Record.sCurFile = records.Text(u"File");
+        p.Record.sCurFile = records.Text(Field::File);
         while (SameText(p.Record.sCurFile, candidate()))
             ++counter;
     }
@@ -100,8 +104,8 @@ void AddSubject(Program& p)
     Recordset& records = Records(p);
     QString file;
     records.AddNew();
-    records.PutWhenWritten(u"File", [&] { return file = NextFreeNumber(p, *records.Afresh()); });
-    records.Put(u"Gender", p.Mapping.NewGender);
+    records.PutWhenWritten(Field::File, [&] { return file = NextFreeNumber(p, *records.Afresh()); });
+    records.Put(Field::Gender, p.Mapping.NewGender);
     records.Update();
     records.SetBookmark(records.LastModified());
     p.Mapping.NewFile = file;
@@ -137,7 +141,7 @@ std::optional<QString> TakeEnteredNumber(Program& p)
 // False, and a box, when the open database has no such record.
 bool StandOnRecord(Program& p, const QString& number)
 {
-    if (Records(p).Seek(u"File", number))
+    if (Records(p).Seek(Field::File, number))
         return true;
     TellNotPresent(p, u"Record not Found: "_s + number);
     return false;
@@ -148,7 +152,7 @@ bool MapUnmappedRecord(Program& p)
     const std::optional<QString> number = TakeEnteredNumber(p);
     if (!number || !StandOnRecord(p, *number))
         return false;
-    LinkBox(p, PressedBox(p), *number, Records(p).Text(u"Forename"));
+    LinkBox(p, PressedBox(p), *number, Records(p).Text(Field::Forename));
     p.Mapping.MapOption = newRecord;
     SaveBoxes(p);
     return true;
@@ -164,7 +168,7 @@ bool MapAlternateRecord(Program& p)
     if (!TakeOldSibling(p, letter))
         return false;
     const auto sibling = ReachDatabase(p, DatabasePath(SiblingDirectory(p.Branch.WorkDir, letter)));
-    Records(p).Seek(u"File", *number);
+    Records(p).Seek(Field::File, *number);
     const std::optional<int> row = PressedBox(p);
     p.Screen.Pointer = MousePointer::Hourglass;
     LinkBox(p, row, *number);
@@ -322,7 +326,7 @@ void MapNewSubject(Program& p)
     FillSubjectLabels(p);
     // The record form stays in front, for the new record is to be written now; one of another branch stands there
     // already.
-    if (p.Branch.UsingAlternate == 1)
+    if (p.Branch.IsSiblingShown())
         p.Form1->Show();
 }
 

@@ -1,5 +1,8 @@
 #include "map/subjects/SubjectPanel.h"
 
+#include "forms/Form1.h"
+#include "forms/Form3.h"
+#include "platform/store/Fields.h"
 #include "program/branch/BranchPaths.h"
 #include "program/ui/BranchUi.h"
 
@@ -17,13 +20,13 @@ struct PanelField {
 };
 
 constexpr PanelField panelFields[] = {
-    {&forms::Form1::Label9, &forms::Form3::Text3, u"Forename"},
-    {&forms::Form1::Label10, &forms::Form3::Text2, u"Surname"},
-    {&forms::Form1::Label11, &forms::Form3::Text4, u"BirthDate"},
-    {&forms::Form1::Label12, &forms::Form3::Text10, u"Deceased"},
-    {&forms::Form1::Label14, &forms::Form3::Text6, u"Spouse"},
-    {&forms::Form1::Label15, &forms::Form3::Text16, u"Maiden"},
-    {&forms::Form1::Label17, &forms::Form3::Text23, u"Gender"},
+    {&forms::Form1::Label9, &forms::Form3::Text3, Field::Forename},
+    {&forms::Form1::Label10, &forms::Form3::Text2, Field::Surname},
+    {&forms::Form1::Label11, &forms::Form3::Text4, Field::BirthDate},
+    {&forms::Form1::Label12, &forms::Form3::Text10, Field::Deceased},
+    {&forms::Form1::Label14, &forms::Form3::Text6, Field::Spouse},
+    {&forms::Form1::Label15, &forms::Form3::Text16, Field::Maiden},
+    {&forms::Form1::Label17, &forms::Form3::Text23, Field::Gender},
 };
 
 const QString frameWithoutNumber = u"Ref  "_s;

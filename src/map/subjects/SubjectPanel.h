@@ -1,5 +1,7 @@
 #pragma once
 
+#include "forms/Form1.h"
+#include "forms/Form3.h"
 #include "program/state/Program.h"
 
 #include <initializer_list>

@@ -1,6 +1,8 @@
 #include "map/subjects/SurnameFrames.h"
 
+#include "forms/Form1.h"
 #include "map/items/CurrentBox.h"
+#include "platform/store/Fields.h"
 #include "program/branch/ComeBackAfterwards.h"
 #include "program/ui/BranchUi.h"
 
@@ -27,7 +29,7 @@ void RemoveFrames(Program& p)
 
 bool IsOfLine(const Recordset& record, const QString& surname)
 {
-    return record.FieldIs(u"Surname", surname) && record.FieldIs(u"Gender", u"Male"_s);
+    return record.FieldIs(Field::Surname, surname) && record.FieldIs(Field::Gender, u"Male"_s);
 }
 
 void AddFrame(Program& p)

@@ -1,9 +1,11 @@
 #include "map/tools/BoxTool.h"
 
+#include "forms/Form1.h"
 #include "map/items/BoxCaptions.h"
 #include "map/items/CurrentBox.h"
 #include "map/items/HitBox.h"
 #include "map/items/MapItems.h"
+#include "platform/store/Fields.h"
 #include "program/branch/WorkDatabase.h"
 #include "program/ui/BranchUi.h"
 
@@ -39,7 +41,7 @@ bool HasRecord(Program& p, Cursor cursor)
     if (records.IsEmpty())
         return false;
     const Bookmark before = records.HasRow() ? records.GetBookmark() : Bookmark();
-    const bool isFound = records.Seek(u"File", NumberInHitBox(p));
+    const bool isFound = records.Seek(Field::File, NumberInHitBox(p));
     if (before && (!isFound || cursor == Cursor::Stays))
         records.SetBookmark(before);
     return isFound;

@@ -1,5 +1,6 @@
 #include "map/tools/LeaveTools.h"
 
+#include "forms/Form1.h"
 #include "map/items/CurrentBox.h"
 #include "map/items/MapFile.h"
 #include "map/items/MapItems.h"
@@ -40,7 +41,7 @@ void ReadBackFromLists(Program& p)
 {
     ClearMapPicture(p);
     ResetMapFont(p.Form1->Picture1);
-    EraseItems(p);
+    EmptyMapArrays(p);
     ParseWhatIsThere(p);
 }
 
@@ -80,7 +81,7 @@ void ReturnToRecord(Program& p)
 
 void LeaveTools(Program& p)
 {
-    const bool isAlternate = p.Branch.UsingAlternate == 1;
+    const bool isAlternate = p.Branch.IsSiblingShown();
     FinishGesture(p);
     // The branch has been left behind the tools for one that can't be opened: there is nothing left to be saved.
     const bool isBranchGone = p.Branch.sDbaseName.isEmpty() || (!isAlternate && p.Map.Owner != p.Branch.WorkDir);

@@ -1,5 +1,6 @@
 #include "map/tools/LineTool.h"
 
+#include "forms/Form1.h"
 #include "map/items/HitLine.h"
 #include "map/items/MapItems.h"
 #include "map/items/PointerOnMap.h"

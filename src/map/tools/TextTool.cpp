@@ -1,5 +1,6 @@
 #include "map/tools/TextTool.h"
 
+#include "forms/Form1.h"
 #include "map/items/HitBox.h"
 #include "map/items/MapItems.h"
 

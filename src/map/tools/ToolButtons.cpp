@@ -1,5 +1,7 @@
 #include "map/tools/ToolButtons.h"
 
+#include "forms/Form1.h"
+#include "forms/Form3.h"
 #include "map/tools/ToolImages.h"
 #include "map/tools/ToolMouse.h"
 #include "map/tools/ToolSelection.h"

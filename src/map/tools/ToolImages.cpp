@@ -1,5 +1,7 @@
 #include "map/tools/ToolImages.h"
 
+#include "forms/Form1.h"
+
 #include <algorithm>
 
 namespace lineforge

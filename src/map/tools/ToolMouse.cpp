@@ -106,7 +106,7 @@ void PressMap(Program& p, int shift, double x, double y)
     if (AreToolsOpen(p))
         PressTool(p, {PointerOnMap(x, y), shift});
     else
-        PressOnMap(p, x, y);
+        PressWithoutTools(p, x, y);
 }
 
 void MoveOverMap(Program& p, int buttons, int shift, double x, double y)
@@ -123,7 +123,7 @@ void MoveOverMap(Program& p, int buttons, int shift, double x, double y)
 // The second release of a double click comes without a press of its own and ends no gesture.
 void ReleaseMap(Program& p, double x, double y)
 {
-    ReleaseOnMap(p, x, y);
+    ReleaseWithoutTools(p, x, y);
     FinishGesture(p);
 }
 

@@ -1,5 +1,6 @@
 #include "map/tools/ZoneTool.h"
 
+#include "forms/Form1.h"
 #include "map/items/BoxCaptions.h"
 #include "map/items/HitBox.h"
 #include "map/items/MapDisplay.h"

@@ -1,5 +1,7 @@
 #include "program/branch/AliasList.h"
 
+#include "forms/Form8.h"
+#include "forms/form9.h"
 #include "platform/base/Number.h"
 #include "platform/base/Text.h"
 #include "platform/files/TextFile.h"
@@ -24,7 +26,7 @@ QString ListPath(const Program& p)
 
 // Whether the list can be read. Only an attribute value of exactly read-only refuses; a file that bears another
 // attribute as well passes here and fails later, when it is written.
-bool CanRead(Program& p)
+bool FindReadableList(Program& p)
 {
     if (!p.Files.LookUpGivesTail(ListPath(p), fileNameLength)) {
         p.form9.Unload();
@@ -42,7 +44,7 @@ bool CanRead(Program& p)
 }
 
 // Where the entry of that name begins in the list; -1 for none.
-qsizetype EntryOf(const QString& aliasList, const QString& name)
+qsizetype StartOfEntry(const QString& aliasList, const QString& name)
 {
     qsizetype start = 0;
     for (qsizetype at = 0; at < aliasList.size(); ++at) {
@@ -112,7 +114,7 @@ void RemoveEntriesOf(QString& aliasList, const QString& directory)
 
 void ReadAliasConfig(Program& p)
 {
-    if (!CanRead(p))
+    if (!FindReadableList(p))
         return;
     ReadAliasSection(p.Files, ListPath(p), AliasSection::Settings,
                      [&](const QString& value) { p.Alias.NoSplash = ToInteger(value); });
@@ -120,7 +122,7 @@ void ReadAliasConfig(Program& p)
 
 void ReadAliasList(Program& p)
 {
-    if (!CanRead(p))
+    if (!FindReadableList(p))
         return;
     p.Alias.AliasTable.Erase();
     p.Alias.sAliasList.clear();
@@ -144,7 +146,7 @@ void WriteAliasList(Program& p)
 
 bool IsNameListed(const Program& p, const QString& name)
 {
-    return EntryOf(p.Alias.sAliasList, name) >= 0;
+    return StartOfEntry(p.Alias.sAliasList, name) >= 0;
 }
 
 bool IsDirectoryListed(const Program& p, const QString& directory)

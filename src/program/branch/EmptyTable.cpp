@@ -7,7 +7,7 @@ namespace lineforge
 
 using namespace Qt::StringLiterals;
 
-bool TellIfEmpty(Program& p)
+bool TellIfEmptyTable(Program& p)
 {
     if (!Records(p).IsEmpty())
         return false;

@@ -6,6 +6,6 @@ namespace lineforge
 {
 
 // Whether the open branch has no records; tells the user so.
-bool TellIfEmpty(Program& p);
+bool TellIfEmptyTable(Program& p);
 
 } // namespace lineforge

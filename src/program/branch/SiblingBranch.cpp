@@ -1,5 +1,6 @@
 #include "program/branch/SiblingBranch.h"
 
+#include "forms/Form3.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/OldDatabase.h"
 #include "program/branch/WorkDatabase.h"
@@ -64,7 +65,7 @@ bool RequireSibling(Program& p, QStringView letter)
 
 void KeepOwnDirectories(Program& p)
 {
-    if (p.Branch.UsingAlternate == 1)
+    if (p.Branch.IsSiblingShown())
         return;
     p.Branch.WorkDirSaved = p.Branch.WorkDir;
     p.Branch.HomeDirSaved = p.Branch.HomeDir;
@@ -117,7 +118,7 @@ void ReturnFromSibling(Program& p)
 
 bool TellIfAlternate(Program& p, const QString& title, const QString& text)
 {
-    if (p.Branch.UsingAlternate != 1)
+    if (!p.Branch.IsSiblingShown())
         return false;
     p.Prompts.MsgBox(title, text, Buttons::Information);
     return true;

@@ -1,5 +1,6 @@
 #include "program/branch/WorkDatabase.h"
 
+#include "forms/Form3.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/OldDatabase.h"
 

@@ -124,7 +124,7 @@ struct MapState {
     QString Owner;
 
     // Before the arrays are filled again from the lists; the counts keep their values.
-    void EraseItems()
+    void EraseArrays()
     {
         BoxArr.Erase();
         LineArr.Erase();
@@ -135,7 +135,7 @@ struct MapState {
     // Before another branch's map is read.
     void Erase()
     {
-        EraseItems();
+        EraseArrays();
         Captions.clear();
         sBoxesText.clear();
         sLinesText.clear();

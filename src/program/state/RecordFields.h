@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/store/Fields.h"
+
 #include <QStringView>
 
 #include <array>
@@ -10,18 +12,18 @@ namespace lineforge
 // What goes along when a whole record is copied over another: all fields but the record's number and its spouse's, in
 // the order in which they are written.
 inline constexpr std::array<QStringView, 23> CopyFieldList{
-    u"Surname",          u"Forename",
-    u"Nationality",      u"FatherRec",
-    u"MotherRec",        u"BirthDate",
-    u"BirthPlace",       u"Spouse",
-    u"Children",         u"Education",
-    u"Profession",       u"Deceased",
-    u"BirthCertificate", u"MarriageCertificate",
-    u"DeathCertificate", u"Notes",
-    u"Medical",          u"Gender",
-    u"Maiden",           u"Partner",
-    u"PrevChildren",     u"Wedding",
-    u"WedDate",
+    Field::Surname,          Field::Forename,
+    Field::Nationality,      Field::FatherRec,
+    Field::MotherRec,        Field::BirthDate,
+    Field::BirthPlace,       Field::Spouse,
+    Field::Children,         Field::Education,
+    Field::Profession,       Field::Deceased,
+    Field::BirthCertificate, Field::MarriageCertificate,
+    Field::DeathCertificate, Field::Notes,
+    Field::Medical,          Field::Gender,
+    Field::Maiden,           Field::Partner,
+    Field::PrevChildren,     Field::Wedding,
+    Field::WedDate,
 };
 
 } // namespace lineforge

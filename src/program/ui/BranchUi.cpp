@@ -1,5 +1,8 @@
 #include "program/ui/BranchUi.h"
 
+#include "forms/Form1.h"
+#include "forms/Form3.h"
+
 namespace lineforge
 {
 

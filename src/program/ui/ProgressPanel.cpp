@@ -1,5 +1,7 @@
 #include "program/ui/ProgressPanel.h"
 
+#include "platform/controls/TextPanel.h"
+
 #include <algorithm>
 
 namespace lineforge

@@ -210,12 +210,12 @@ void HelpWindow::GoToContentsPage()
 void HelpWindow::Follow(const QUrl& place)
 {
     setWindowTitle(browser_->documentTitle());
-    contents_->setCurrentItem(EntryOf(place));
+    contents_->setCurrentItem(ContentsEntryFor(place));
     MarkHits();
 }
 
 // That of the section, or else of the page.
-QTreeWidgetItem* HelpWindow::EntryOf(const QUrl& place) const
+QTreeWidgetItem* HelpWindow::ContentsEntryFor(const QUrl& place) const
 {
     QTreeWidgetItem* ofPage = nullptr;
     for (QTreeWidgetItemIterator each(contents_); *each; ++each) {

@@ -41,7 +41,7 @@ private:
     void GoTo(const QUrl& place);
     void GoToContentsPage();
     void Follow(const QUrl& place);
-    QTreeWidgetItem* EntryOf(const QUrl& place) const;
+    QTreeWidgetItem* ContentsEntryFor(const QUrl& place) const;
     void ShowHits();
     void LeaveSearchOrWindow();
     void GoToSearch();

@@ -1,5 +1,6 @@
 #include "shell/branches/BackUpBranch.h"
 
+#include "forms/Form3.h"
 #include "map/items/MapFile.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/WorkDatabase.h"

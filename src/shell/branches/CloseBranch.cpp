@@ -1,5 +1,14 @@
 #include "shell/branches/CloseBranch.h"
 
+#include "forms/Form1.h"
+#include "forms/Form2.h"
+#include "forms/Form3.h"
+#include "forms/Form4.h"
+#include "forms/Form5.h"
+#include "forms/Form6.h"
+#include "forms/Form7.h"
+#include "forms/Form8.h"
+#include "forms/form9.h"
 #include "map/items/MapFile.h"
 #include "map/subjects/SubjectPanel.h"
 #include "map/tools/LeaveTools.h"
@@ -17,7 +26,7 @@ void CloseBranch(Program& p)
     const QString maidenName = p.Form1->Label15.Caption;
     StoreTyped(p);
     p.Form5->MMControl1.Command(u"Close");
-    EraseMap(p);
+    ForgetMap(p);
     p.Branch.UsingAlternate = 0;
 
     forms::Form1& form = *p.Form1;

@@ -1,5 +1,7 @@
 #include "shell/branches/DeleteBranch.h"
 
+#include "forms/Form1.h"
+#include "forms/Form3.h"
 #include "gallery/GalleryFile.h"
 #include "map/subjects/EnterBranch.h"
 #include "map/subjects/SubjectPanel.h"
@@ -26,7 +28,7 @@ Answer ShowFirstBox(Program& p, const QString& name, const QString& text, Button
 // Of the branch whose map is shown.
 QString MapsDirectory(const Program& p)
 {
-    return p.Branch.UsingAlternate == 1 ? p.Branch.WorkDirSaved : p.Branch.WorkDir;
+    return p.Branch.IsSiblingShown() ? p.Branch.WorkDirSaved : p.Branch.WorkDir;
 }
 
 // A record transfer can have gone over to another branch than the one that the program is named after. The list of

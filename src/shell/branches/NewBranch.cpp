@@ -1,5 +1,8 @@
 #include "shell/branches/NewBranch.h"
 
+#include "forms/Form1.h"
+#include "forms/Form4.h"
+#include "forms/Form6.h"
 #include "gallery/GalleryFile.h"
 #include "map/items/MapFile.h"
 #include "map/items/MapParse.h"
@@ -145,7 +148,7 @@ void MakeBranch(Program& p, const QString& name, const QString& directory)
         ParseTexts(p);
     });
     EnableBranchUI(p);
-    TellIfEmpty(p);
+    TellIfEmptyTable(p);
 }
 } // namespace
 

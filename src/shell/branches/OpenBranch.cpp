@@ -1,6 +1,7 @@
 #include "shell/branches/OpenBranch.h"
 
 #include "compare/CompareBranch.h"
+#include "forms/Form8.h"
 #include "map/items/MapFile.h"
 #include "map/subjects/EnterBranch.h"
 #include "map/tools/LeaveTools.h"
@@ -22,7 +23,7 @@ namespace
 // KEPT(OpenBranchTest.NameThatBeginsAnEarlierName_OpensTheEarlierBranch): the first entry that begins with the name
 // wins, so that of "Smiths" and a later "Smith" the choice of "Smith" opens "Smiths".
 // Mended, lists of older homes would open other branches.
-QString EntryOf(const Program& p, const QString& name)
+QString FirstEntryThatBegins(const Program& p, const QString& name)
 {
     int index = 0;
     while (!p.Alias.AliasTable[index].isEmpty() && !p.Alias.AliasTable[index].startsWith(name))
@@ -62,24 +63,24 @@ void OpenSelectedBranch(Program& p)
     }
     p.Screen.Pointer = MousePointer::Hourglass;
     const auto pointerBack = qScopeGuard([&] { p.Screen.Pointer = MousePointer::Default; });
-    const QString entry = EntryOf(p, name);
+    const QString entry = FirstEntryThatBegins(p, name);
     if (entry.isEmpty())
         return;
     if (p.Compare.IsChoosing) {
         OpenCompareBranch(p, name, entry);
-        return CancelBranchList(p);
+        return CloseBranchList(p);
     }
 
     if (!EnterBranch(p, name, DirectoryName(entry)))
         return;
     EnableBranchUI(p);
     p.Screen.Pointer = MousePointer::Default;
-    if (!TellIfEmptyBranch(p))
+    if (!EmptySubjectIfNoRecords(p))
         ShowFirstSubject(p);
-    CancelBranchList(p);
+    CloseBranchList(p);
 }
 
-void CancelBranchList(Program& p)
+void CloseBranchList(Program& p)
 {
     WithdrawCompareRequest(p);
     p.Form8->List1.ListIndex = -1;

@@ -16,7 +16,7 @@ void LoadBranchList(Program& p);
 void OpenSelectedBranch(Program& p);
 
 // Leaves the list without opening anything.
-void CancelBranchList(Program& p);
+void CloseBranchList(Program& p);
 
 // Another registry file: its directory becomes the home directory for the rest of the run.
 void ChangeHomeDirectory(Program& p);

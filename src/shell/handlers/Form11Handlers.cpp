@@ -1,3 +1,4 @@
+#include "forms/Form11.h"
 #include "gedcom/report/GedcomConversion.h"
 #include "program/ui/ProgressPanel.h"
 #include "shell/handlers/InstallHandlers.h"

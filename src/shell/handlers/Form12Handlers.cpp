@@ -1,3 +1,4 @@
+#include "forms/Form12.h"
 #include "gedcom/writer/GedcomWriter.h"
 #include "program/ui/ProgressPanel.h"
 #include "shell/handlers/InstallHandlers.h"

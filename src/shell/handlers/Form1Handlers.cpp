@@ -1,4 +1,6 @@
 #include "compare/CompareBranch.h"
+#include "forms/Form1.h"
+#include "forms/form9.h"
 #include "gedcom/report/GedcomConversion.h"
 #include "gedcom/writer/GedcomWriter.h"
 #include "interchange/BranchExport.h"

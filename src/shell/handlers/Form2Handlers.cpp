@@ -1,3 +1,4 @@
+#include "forms/Form2.h"
 #include "output/PrintBranch.h"
 #include "shell/handlers/InstallHandlers.h"
 

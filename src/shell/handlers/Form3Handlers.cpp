@@ -1,3 +1,4 @@
+#include "forms/Form3.h"
 #include "map/subjects/SubjectPanel.h"
 #include "output/BookmarkList.h"
 #include "output/PrintBranch.h"

@@ -1,3 +1,4 @@
+#include "forms/Form4.h"
 #include "interchange/BranchExport.h"
 #include "shell/handlers/InstallHandlers.h"
 

@@ -1,3 +1,4 @@
+#include "forms/Form5.h"
 #include "gallery/AddFile.h"
 #include "gallery/DeleteFile.h"
 #include "gallery/GalleryItem.h"

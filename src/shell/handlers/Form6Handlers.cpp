@@ -2,6 +2,7 @@
 #include "compare/CompareClipboard.h"
 #include "compare/CompareSearch.h"
 #include "compare/FieldCopy.h"
+#include "forms/Form6.h"
 #include "output/PrintBranch.h"
 #include "shell/handlers/InstallHandlers.h"
 #include "shell/run/Help.h"

@@ -1,3 +1,4 @@
+#include "forms/Form7.h"
 #include "map/subjects/SubjectMapping.h"
 #include "shell/handlers/InstallHandlers.h"
 

@@ -1,3 +1,4 @@
+#include "forms/Form8.h"
 #include "shell/branches/OpenBranch.h"
 #include "shell/handlers/InstallHandlers.h"
 
@@ -9,7 +10,7 @@ void InstallForm8(Program& p, forms::Form8& form)
     form.Load = [&p] { LoadBranchList(p); };
     form.List1.DblClick = [&p] { OpenSelectedBranch(p); };
     form.Command1.Click = [&p] { OpenSelectedBranch(p); };
-    form.Command2.Click = [&p] { CancelBranchList(p); };
+    form.Command2.Click = [&p] { CloseBranchList(p); };
     form.Command3.Click = [&p] { ChangeHomeDirectory(p); };
 }
 

@@ -1,3 +1,4 @@
+#include "forms/form9.h"
 #include "shell/handlers/InstallHandlers.h"
 #include "shell/run/StartUp.h"
 

@@ -1,5 +1,8 @@
 #include "shell/run/GalleryDoors.h"
 
+#include "forms/Form1.h"
+#include "forms/Form3.h"
+#include "forms/Form5.h"
 #include "gallery/GalleryItem.h"
 #include "gallery/GalleryPage.h"
 #include "gallery/PageRecord.h"
@@ -87,7 +90,7 @@ void LeaveGalleryForRecords(Program& p)
     ShowNamedPicture(p);
     form.Show();
     p.Form5->Hide();
-    if (p.Branch.UsingAlternate == 1)
+    if (p.Branch.IsSiblingShown())
         for (Button forms::Form3::*transport : forms::Form3::Transport)
             (form.*transport).Visible = false;
     CancelDeletion(p);

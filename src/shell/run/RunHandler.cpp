@@ -17,7 +17,7 @@ void EndWithError(Program& p, const RuntimeError& error)
 {
     p.Errors.Last = error;
     // What was written to them stays.
-    p.Lineage.GedcomFile.reset();
+    p.Lineage.File.reset();
     CloseConversionFiles(p);
     TellError(p, error);
     p.Loop.End(1);

@@ -1,5 +1,8 @@
 #include "shell/run/StartUp.h"
 
+#include "forms/Form1.h"
+#include "forms/Form5.h"
+#include "forms/form9.h"
 #include "platform/drawing/PictureFile.h"
 #include "program/branch/AliasList.h"
 #include "program/ui/BranchUi.h"

@@ -73,7 +73,7 @@ TEST_F(GedcomFaultTest, FullTable_EndsTheProgram_AndWhatWasWrittenStays)
     CreateFile();
 
     EXPECT_EQ(ExitCode(), 1);
-    EXPECT_FALSE(P.Lineage.GedcomFile);
+    EXPECT_FALSE(P.Lineage.File);
     EXPECT_TRUE(File().startsWith("0 HEAD\r\n"));
     EXPECT_TRUE(File().endsWith("2 PHON Text5\r\n"));
 }
@@ -256,14 +256,14 @@ TEST_P(LeavingTest, BranchThatIsLeft_EndsTheRun_IsTold_AndNoUnfinishedFileIsLeft
         before = Home.Snapshot();
     });
     ExpectLeftBox([&] {
-        EXPECT_FALSE(P.Lineage.GedcomFile);
+        EXPECT_FALSE(P.Lineage.File);
         EXPECT_FALSE(Home.Exists(u"LfgDat_A/Gedcom.tmp"));
     });
 
     CreateFile();
 
     EXPECT_EQ(ExitCode(), std::nullopt);
-    EXPECT_FALSE(P.Lineage.GedcomFile);
+    EXPECT_FALSE(P.Lineage.File);
     EXPECT_FALSE(Panel().contains(u"0 TRLR"_s));
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList{u"gone: LfgDat_A/Gedcom.tmp"_s});
     EXPECT_EQ(Home.ReadFile(u"LfgDat_B/Gedcom.tmp"), "of the other branch");
@@ -331,7 +331,7 @@ TEST_P(EndedRunTest, ProgramThatIsLeft_EndsTheRunQuietly_AndNoUnfinishedFileIsLe
 
     CreateFile();
 
-    EXPECT_FALSE(P.Lineage.GedcomFile);
+    EXPECT_FALSE(P.Lineage.File);
     EXPECT_FALSE(Home.Exists(u"LfgDat_A/Gedcom.tmp"));
 }
 

@@ -85,7 +85,7 @@ TEST_F(GedcomWriterTest, WholeFile_AsItStandsOnDisk)
                              "1 DESC 2\r\n"
                              "1 ORDI N\r\n"
                              "0 TRLR\r\n");
-    EXPECT_FALSE(P.Lineage.GedcomFile) << "it is closed";
+    EXPECT_FALSE(P.Lineage.File) << "it is closed";
 }
 
 TEST_F(GedcomWriterTest, DefaultTexts_PassAsTheUsersOwn)

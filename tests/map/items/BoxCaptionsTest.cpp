@@ -305,7 +305,7 @@ TEST_F(BoxCaptionsTest, AllNumbers_BoxesBeyondTheHundredth_HaveNone)
     givenBox(100, {1000, 500}, u"A001");
 
     DrawBoxCaptions(P);
-    DrawRecordsInBoxes(P);
+    DrawOwnCaptions(P);
 
     EXPECT_TRUE(IsBlank(Picture));
 }
@@ -317,7 +317,7 @@ TEST_F(BoxCaptionsTest, FreeRow_HasNoCaption)
     givenBox(1, {0, 900}, u"A009");
 
     DrawBoxCaptions(P);
-    DrawRecordsInBoxes(P);
+    DrawOwnCaptions(P);
 
     EXPECT_TRUE(IsBlank(Picture));
 }
@@ -329,7 +329,7 @@ TEST_F(BoxCaptionsTest, FreeRow_HasNoCaptionOnPaper)
     givenPrinting();
 
     DrawBoxCaptions(P);
-    DrawRecordsInBoxes(P);
+    DrawOwnCaptions(P);
 
     EXPECT_EQ(Page.Take(), QStringList());
 }
@@ -369,7 +369,7 @@ TEST_F(BoxCaptionsTest, AllRecords_EveryBoxThatHoldsARecord_GetsItsCaption)
     givenBox(99, {3000, 500}, u"A001");
     givenBox(98, {4000, 500}, u"");
 
-    DrawRecordsInBoxes(P);
+    DrawOwnCaptions(P);
 
     Expected->PrintAt({1100, 500}, u"A002"_s);
     Expected->PrintAt({1050, 600}, u"Anne"_s);
@@ -386,7 +386,7 @@ TEST_F(BoxCaptionsTest, AllRecords_EmptyTable_IsQuiet)
     givenOpen(BranchA);
     givenBox(0, {1000, 500}, u"A001");
 
-    DrawRecordsInBoxes(P);
+    DrawOwnCaptions(P);
 
     EXPECT_TRUE(IsBlank(Picture));
 }
@@ -397,7 +397,7 @@ TEST_F(BoxCaptionsTest, BoxWhoseRecordIsNotInTheTable_ShowsOnlyItsNumber)
     givenBox(0, {1000, 500}, u"A009");
 
     DrawBoxCaptions(P);
-    DrawRecordsInBoxes(P);
+    DrawOwnCaptions(P);
 
     Expected->PrintAt({1100, 500}, u"A009"_s);
     EXPECT_TRUE(SameDrawing(Picture, *Expected));

@@ -36,7 +36,7 @@ protected:
     {
         SaveBoxes(P);
         Picture.Cls();
-        EraseMap(P);
+        ForgetMap(P);
         OpenMap();
     }
     void DoubleClick(Point at)

@@ -19,7 +19,7 @@ protected:
     void givenCaptionOf(int row)
     {
         DrawBoxCaptions(P);
-        DrawRecordsInBoxes(P);
+        DrawOwnCaptions(P);
         Records(P).MoveFirst();
         ASSERT_FALSE(IsBlank(Picture)) << row;
     }

@@ -136,7 +136,7 @@ protected:
                          u"300,1300,One,Arial,8,0,1800,400,Two,Courier,10,255,1000,2600,Three,Arial,8,0,"));
         P.Branch.WorkDir = workDir_;
         OpenWorkDatabase(P);
-        EraseMap(P);
+        ForgetMap(P);
         ReadMap(P);
     }
 
@@ -261,7 +261,7 @@ protected:
     // The map that another program finds on disk.
     Arrays OnDisk()
     {
-        EraseMap(Reader);
+        ForgetMap(Reader);
         Reader.Branch.WorkDir = workDir_;
         ReadMap(Reader);
         return Arrays(Reader.Map);

@@ -124,7 +124,7 @@ protected:
 
     void GivenOnTheMap(const Dragged& item)
     {
-        EraseMap(P);
+        ForgetMap(P);
         P.Map.SLines = 0;
         givenLine(0, {7000, 100}, {8000, 100}, Blue);
         for (const std::vector<Point>& run : item.Runs)
@@ -253,7 +253,7 @@ protected:
     // Lines that hang together more often than not, boxes and texts anywhere.
     void GivenAnyMap()
     {
-        EraseMap(P);
+        ForgetMap(P);
         P.Map.SLines = Any(3, 30);
         for (int row = 0; row <= P.Map.SLines; ++row) {
             const auto& before = P.Map.LineArr[std::max(0, row - Any(1, 3))];

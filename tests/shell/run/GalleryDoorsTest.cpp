@@ -16,7 +16,7 @@ protected:
             Home.WriteFile(QString(u"LfgDat_A/LfgGal_A/" + file), PictureBytes(Qt::blue));
     }
 
-    void PressOnMap() { Click(P.Form1->Command2.Click); }
+    void PressWithoutTools() { Click(P.Form1->Command2.Click); }
     void PressOnRecords() { Click(P.Form3->Command1.Click); }
     void PressTree() { Click(P.Form5->Command1.Click); }
     void PressRecords() { Click(P.Form5->Command2.Click); }
@@ -35,7 +35,7 @@ TEST_F(GalleryDoorsTest, ButtonOfTheMap_BuildsThePage_KeepsTheForename_AndHidesT
 {
     GivenGallery({u"A001_01.jpg"_s});
     P.Record.sShownName.clear();
-    PressOnMap();
+    PressWithoutTools();
     EXPECT_EQ(Caption(), u"Smiths Tree Branch. Gallery A001 of John Smith"_s);
     EXPECT_EQ(P.Gallery.GalleryTop, 1);
     EXPECT_TRUE(P.Form5->Visible);
@@ -48,14 +48,14 @@ TEST_F(GalleryDoorsTest, ButtonOfTheMap_WithoutABranch_IsTold)
 {
     Click(P.Form1->mnuCloseDB.Click);
     Prompts.Expect(u"Data not available", u"Cannot View until database file is Opened", Buttons::Information);
-    PressOnMap();
+    PressWithoutTools();
     EXPECT_TRUE(P.Form1->Visible);
 }
 
 TEST_F(GalleryDoorsTest, ButtonOfTheMap_EndsAPendingMapping)
 {
     P.Tools.MapCursorMode = 1;
-    PressOnMap();
+    PressWithoutTools();
     EXPECT_EQ(P.Tools.MapCursorMode, 0);
 }
 
@@ -65,7 +65,7 @@ TEST_F(GalleryDoorsTest, ButtonOfTheMap_LeavesTheTools)
     ASSERT_EQ(P.Tools.ToolMode, 3);
     Prompts.Expect(u"Closing Graphics Tools", u"Save the Tree Graphic changes ?", Buttons::InformationYesNo,
                    Answer::No);
-    PressOnMap();
+    PressWithoutTools();
     EXPECT_NE(P.Tools.ToolMode, 3);
     EXPECT_TRUE(P.Form5->Visible);
 }
@@ -78,7 +78,7 @@ TEST_F(GalleryDoorsTest, ButtonOfTheMap_ToolsLeftToThemselves_StayAsTheyAre_AndT
     Click(P.Form1->Command3.Click);
     ASSERT_EQ(P.Tools.ToolMode, 1);
     Records(P).MoveNext();
-    PressOnMap();
+    PressWithoutTools();
     EXPECT_EQ(Caption(), u"Smiths Tree Branch. Gallery A002 of Mary Jones"_s);
     EXPECT_TRUE(P.Form1->Image8.Visible);
 }
@@ -86,19 +86,19 @@ TEST_F(GalleryDoorsTest, ButtonOfTheMap_ToolsLeftToThemselves_StayAsTheyAre_AndT
 TEST_F(GalleryDoorsTest, SameRecordAgain_ShowsThePageThatItHas)
 {
     GivenGallery({u"A001_01.jpg"_s});
-    PressOnMap();
+    PressWithoutTools();
     PressTree();
     EXPECT_TRUE(P.Form1->Visible);
     EXPECT_FALSE(P.Form5->Visible);
     GivenGallery({u"A001_02.jpg"_s});
-    PressOnMap();
+    PressWithoutTools();
     EXPECT_EQ(P.Gallery.GalleryTop, 1);
 }
 
 TEST_F(GalleryDoorsTest, RecordThatASearchHasFound_GetsItsOwnPage)
 {
     GivenGallery({u"A001_01.jpg"_s, u"A002_01.jpg"_s, u"A002_02.jpg"_s});
-    PressOnMap();
+    PressWithoutTools();
     PressRecords();
     Records(P).MoveNext();
     ASSERT_EQ(P.Gallery.FirstShow, 0);
@@ -109,7 +109,7 @@ TEST_F(GalleryDoorsTest, RecordThatASearchHasFound_GetsItsOwnPage)
 
 TEST_F(GalleryDoorsTest, PageOfARecordThatASearchHasFound_IsBuiltUnderTheHourglass)
 {
-    PressOnMap();
+    PressWithoutTools();
     PressRecords();
     Records(P).MoveNext();
     bool isHourglass = false;
@@ -130,7 +130,7 @@ TEST_F(GalleryDoorsTest, ButtonOfTheRecordForm_BuildsThePage_AndHidesTheForm)
 
 TEST_F(GalleryDoorsTest, RecordsButton_ShowsTheRecordWithItsPicture)
 {
-    PressOnMap();
+    PressWithoutTools();
     P.Form3->Image1.Picture = QImage();
     PressRecords();
     EXPECT_FALSE(P.Form3->Image1.Picture.value().isNull());
@@ -141,7 +141,7 @@ TEST_F(GalleryDoorsTest, RecordsButton_ShowsTheRecordWithItsPicture)
 
 TEST_F(GalleryDoorsTest, RecordsButton_WithoutThePicture_ShowsTheRecordAllTheSame_AndNobodyElse)
 {
-    PressOnMap();
+    PressWithoutTools();
     P.Form3->Image1.Picture = P.Form1->Image1.Picture.value();
     P.Files.Kill(Home.Path(u"LfgDat_A/A001Sub.jpg"));
     PressRecords();
@@ -153,7 +153,7 @@ TEST_F(GalleryDoorsTest, RecordsButton_WithoutThePicture_ShowsTheRecordAllTheSam
 TEST_F(GalleryDoorsTest, RecordsButtonOnASiblingsRecord_HidesTheScanner_UntilTheOwnBranchIsBack)
 {
     GivenRecordOfSibling();
-    PressOnMap();
+    PressWithoutTools();
     PressRecords();
     EXPECT_FALSE(TransportIsShown());
     Click(P.Form3->Command2.Click);
@@ -168,7 +168,7 @@ TEST_F(GalleryDoorsTest, TreePressedWhileThePageIsBuilt_LeavesTheMapInSight)
 {
     GivenGallery({u"A001_01.jpg"_s});
     Machine.Loop.AtNextYield([&] { P.Form5->Command1.Click(); });
-    PressOnMap();
+    PressWithoutTools();
     EXPECT_TRUE(P.Form1->Visible);
     EXPECT_FALSE(P.Form5->Visible);
 }
@@ -186,11 +186,11 @@ TEST_F(GalleryDoorsTest, RecordsPressedWhileThePageIsBuilt_LeavesTheFormInSight)
 TEST_F(GalleryDoorsTest, ClosedBranch_LeavesAnEmptyWindow_AndTheNextOneItsOwnPage)
 {
     GivenGallery({u"A001_01.jpg"_s, u"A001_02.jpg"_s});
-    PressOnMap();
+    PressWithoutTools();
     PressTree();
     Click(P.Form1->mnuCloseDB.Click);
     Choose(u"Jones");
-    PressOnMap();
+    PressWithoutTools();
     EXPECT_EQ(Caption(), u"Jones Tree Branch. Gallery B001 of John Smith"_s);
     EXPECT_EQ(P.Gallery.GalleryTop, 0);
     EXPECT_TRUE(P.Form5->Image1[0].Visible);
@@ -201,7 +201,7 @@ TEST_F(GalleryDoorsTest, EmptyBranch_ShowsOneEmptyTile)
 {
     ExpectEmptyBox();
     Choose(u"Nobody");
-    PressOnMap();
+    PressWithoutTools();
     EXPECT_EQ(Caption(), u"Nobody Tree Branch. Gallery  of  "_s);
     EXPECT_TRUE(P.Form5->Image1[0].Visible);
     EXPECT_EQ(P.Form5->Image1[0].Tag.value(), u"1"_s);
@@ -213,7 +213,7 @@ TEST_F(GalleryDoorsTest, EmptyBranch_LeftForTheRecordForm_NamesNobodysPicture)
     Click(P.Form1->mnuCloseDB.Click);
     ExpectEmptyBox();
     Choose(u"Nobody");
-    PressOnMap();
+    PressWithoutTools();
     PressRecords();
     EXPECT_EQ(P.Record.sPicFile, QString());
     EXPECT_EQ(P.Record.sCurFile, u"A001"_s);
