@@ -34,7 +34,7 @@ struct LineageState {
     FixedArray<QString, 0, LastMother> MaArray; // the mothers of a row's offspring, in their order
     Integer16 MaDiffer;                         // how often two neighbours there differ
     QString sLineageCount;                      // rows of the line of forebears
-    std::unique_ptr<SequentialFile> File; // the one that is being written
+    std::unique_ptr<SequentialFile> File;       // the one that is being written
 };
 
 } // namespace lineforge
