@@ -34,7 +34,7 @@ void TellDamage(Home& home, const QString& path, const UntouchedDatabase& databa
 {
     const auto damage = database.Prepare("PRAGMA integrity_check(20)");
     while (damage->Step())
-        if (const QString words = QString::fromUtf8(damage->Text(0)); words != u"ok")
+        if (const QString words = FromUtf8(damage->Text(0)); words != u"ok")
             home.Add(Kind::Database, path, u"damaged: "_s + words);
 }
 
@@ -55,7 +55,7 @@ QStringList FieldsOf(const UntouchedDatabase& database)
     const auto fields = database.Prepare("SELECT name FROM pragma_table_info('Tree99')");
     QStringList names;
     while (fields->Step())
-        names += QString::fromUtf8(fields->Text(0));
+        names += FromUtf8(fields->Text(0));
     return names;
 }
 
@@ -83,9 +83,9 @@ std::vector<Record> RecordsOf(const UntouchedDatabase& database, const QStringLi
     const auto rows = database.Prepare(sql + " FROM Tree99 ORDER BY rowid");
     std::vector<Record> records;
     while (rows->Step()) {
-        Record record{QString::fromUtf8(rows->Text(0)), {}};
+        Record record{FromUtf8(rows->Text(0)), {}};
         for (int link = 1; QString & number : record.Links)
-            number = QString::fromUtf8(rows->Text(link++));
+            number = FromUtf8(rows->Text(link++));
         records.push_back(std::move(record));
     }
     return records;

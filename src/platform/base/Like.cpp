@@ -1,5 +1,7 @@
 #include "platform/base/Like.h"
 
+#include "platform/base/Text.h"
+
 #include <algorithm>
 #include <cstring>
 #include <optional>
@@ -150,7 +152,7 @@ bool LikePattern::Matches(QByteArrayView utf8) const
 {
     if (isSought_ && IsAscii(utf8))
         return Contains(utf8, sought_);
-    return Matches(QString::fromUtf8(utf8));
+    return Matches(FromUtf8(utf8));
 }
 
 } // namespace lineforge

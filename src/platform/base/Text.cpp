@@ -30,6 +30,14 @@ bool SameText(QStringView a, QStringView b)
     return a.compare(b, Qt::CaseInsensitive) == 0;
 }
 
+QString FromUtf8(QByteArrayView utf8)
+{
+    QString text = QString::fromUtf8(utf8);
+    if (utf8.startsWith("\xEF\xBB\xBF"))
+        text.prepend(QChar(QChar::ByteOrderMark));
+    return text;
+}
+
 // Letter by letter, as the comparison does it.
 QString Folded(QStringView text)
 {
@@ -48,7 +56,7 @@ bool SameText(QByteArrayView utf8, QStringView text)
         const int b = text[at].unicode();
         // Letters outside ASCII can fold to ASCII ones, so that from here on only the whole texts tell.
         if (!IsAscii(a) || !IsAscii(b))
-            return SameText(QString::fromUtf8(utf8), text);
+            return SameText(FromUtf8(utf8), text);
         if (LowerAscii(a) != LowerAscii(b))
             return false;
     }
@@ -62,7 +70,7 @@ int CompareText(QByteArrayView a, QByteArrayView b)
         const int codeA = CodeAt(a, at);
         const int codeB = CodeAt(b, at);
         if (!IsAscii(codeA) || !IsAscii(codeB))
-            return QString::fromUtf8(a).compare(QString::fromUtf8(b), Qt::CaseInsensitive);
+            return FromUtf8(a).compare(FromUtf8(b), Qt::CaseInsensitive);
         if (const int difference = LowerAscii(codeA) - LowerAscii(codeB))
             return difference;
     }

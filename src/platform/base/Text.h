@@ -5,6 +5,9 @@
 namespace lineforge
 {
 
+// A text of the record store, to the last character: the toolkit would drop a first one that is a byte order mark.
+QString FromUtf8(QByteArrayView utf8);
+
 // The one comparison of texts in the program: whole texts, case ignored.
 bool SameText(QStringView a, QStringView b);
 

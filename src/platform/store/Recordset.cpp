@@ -30,7 +30,7 @@ RowPlace PlaceAt(const Statement& row)
 FieldValue ValueAt(const Statement& row, int column)
 {
     const QByteArrayView text = row.Text(column);
-    return text.isNull() ? FieldValue() : FieldValue(QString::fromUtf8(text));
+    return text.isNull() ? FieldValue() : FieldValue(FromUtf8(text));
 }
 } // namespace
 

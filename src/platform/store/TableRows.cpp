@@ -1,6 +1,7 @@
 #include "platform/store/TableRows.h"
 
 #include "platform/base/RuntimeError.h"
+#include "platform/base/Text.h"
 #include "platform/store/OtherPrograms.h"
 
 #include <QScopeGuard>
@@ -139,7 +140,7 @@ void TableRows::Prepare()
     const auto all = file_->Prepare("SELECT * FROM " + table_);
     for (int column = 0; column < all->Columns(); ++column) {
         const QByteArray name = all->ColumnName(column);
-        names.push_back(QString::fromUtf8(name));
+        names.push_back(FromUtf8(name));
         fields += (column == 0 ? "" : ", ") + Quoted(name);
     }
     // Whoever reads the table by the places of its fields would read others.

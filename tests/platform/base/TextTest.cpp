@@ -74,6 +74,10 @@ INSTANTIATE_TEST_SUITE_P(BeyondTheBasicPlane, SameTextTest,
                          Values(Pair{u"\U00010400", u"\U00010428", true}, Pair{u"\U0001F600", u"\U0001F600", true},
                                 Pair{u"\U0001F600", u"\U0001F601", false}));
 
+INSTANTIATE_TEST_SUITE_P(ByteOrderMarks, SameTextTest,
+                         Values(Pair{u"\uFEFFa", u"\uFEFFA", true}, Pair{u"\uFEFFa", u"a", false},
+                                Pair{u"\uFEFF", u"", false}, Pair{u"\uFEFF\uFEFFa", u"\uFEFFa", false}));
+
 TEST(CompareTextTest, Order_IgnoresCase)
 {
     EXPECT_LT(CompareText("apple", "Banana"), 0);

@@ -71,6 +71,22 @@ TEST_F(RecordsetEditTest, TextWithQuotes_IsStoredAsItStands)
     EXPECT_EQ(Stored().value(0), text);
 }
 
+// The engine's encoding has a mark of the same bytes.
+TEST_F(RecordsetEditTest, TextThatBeginsWithAByteOrderMark_IsReadAsItWasStored)
+{
+    Recordset people = Open();
+    for (const QString& text : {u"\uFEFF"_s, u"\uFEFFAnne"_s, u"\uFEFF\uFEFFAnne"_s}) {
+        people.Edit();
+        people.Put(u"Name", text);
+        people.Update();
+        people.MoveNext();
+        people.MoveFirst();
+        EXPECT_EQ(people.Text(u"Name"), text);
+        EXPECT_TRUE(people.Seek(u"Name", text));
+    }
+    EXPECT_FALSE(people.Seek(u"Name", u"Anne"_s));
+}
+
 TEST_F(RecordsetEditTest, WithoutEdit_NothingCanBePutOrUpdated)
 {
     Recordset people = Open();
