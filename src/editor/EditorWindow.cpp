@@ -4,6 +4,8 @@
 #include "editor/FindBar.h"
 #include "editor/TextArea.h"
 #include "platform/base/RuntimeError.h"
+#include "platform/files/MemoryFile.h"
+#include "platform/files/WholeFile.h"
 
 #include <QCloseEvent>
 #include <QDateTime>
@@ -181,7 +183,7 @@ bool EditorWindow::SaveAs()
 
 bool EditorWindow::WriteTo(const QString& path)
 {
-    const TextEncoding before = file_.Form().Encoding;
+    const bool wasWindows1252 = file_.Form().Encoding == TextEncoding::Windows1252;
     try {
         file_.Save(path, area_->Text());
     } catch (const RuntimeError& error) {
@@ -190,9 +192,9 @@ bool EditorWindow::WriteTo(const QString& path)
     }
     area_->document()->setModified(false);
     ShowFile();
-    statusBar()->showMessage(file_.Form().Encoding == before
-                                 ? u"Saved."_s
-                                 : u"Saved as UTF-8, because Windows-1252 can't hold all of the text."_s,
+    const bool hasBecomeUtf8 = wasWindows1252 && file_.Form().Encoding != TextEncoding::Windows1252;
+    statusBar()->showMessage(hasBecomeUtf8 ? u"Saved as UTF-8, because Windows-1252 can't hold all of the text."_s
+                                           : u"Saved."_s,
                              messageTime);
     return true;
 }
@@ -206,9 +208,25 @@ void EditorWindow::Print()
     dialog.setOption(QAbstractPrintDialog::PrintSelection, area_->textCursor().hasSelection());
     if (dialog.exec() != QDialog::Accepted)
         return;
-    area_->print(&printer);
+    if (printer.outputFormat() == QPrinter::NativeFormat)
+        area_->print(&printer);
+    else
+        PrintToFile(printer);
     if (printer.printerState() == QPrinter::Error)
         Tell(this, u"The text couldn't be printed."_s);
+}
+
+void EditorWindow::PrintToFile(QPrinter& printer)
+{
+    const QString file = printer.outputFileName();
+    const MemoryFile paper;
+    printer.setOutputFileName(paper.Path());
+    area_->print(&printer);
+    try {
+        WriteWholeFile(file, paper.Bytes());
+    } catch (const RuntimeError& error) {
+        TellFailure(this, u"The text couldn't be printed to"_s, file, error);
+    }
 }
 
 void EditorWindow::GoToLine()

@@ -9,6 +9,7 @@
 
 class QLabel;
 class QMenu;
+class QPrinter;
 
 namespace lineforge
 {
@@ -57,6 +58,7 @@ private:
 
     bool MayLeaveText();
     bool WriteTo(const QString& path);
+    void PrintToFile(QPrinter& printer);
     void ShowFile();
     void ShowPosition();
 

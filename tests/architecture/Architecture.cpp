@@ -43,7 +43,7 @@ const QList<Room>& Rooms()
          {u"forms"_s, u"platform/base"_s, u"platform/controls"_s, u"platform/drawing"_s, u"platform/files"_s,
           u"platform/machine"_s, u"platform/store"_s}},
         {u"qt/events"_s, {u"platform/controls"_s, u"platform/machine"_s}},
-        {u"qt/machine"_s, {u"platform/base"_s, u"platform/machine"_s, u"qt/style"_s}},
+        {u"qt/machine"_s, {u"platform/base"_s, u"platform/files"_s, u"platform/machine"_s, u"qt/style"_s}},
         {u"program/ui"_s, {u"forms"_s, u"platform/controls"_s, u"program/state"_s}},
         {u"qt/dialogs"_s,
          {u"platform/canvas"_s, u"platform/machine"_s, u"qt/events"_s, u"qt/machine"_s, u"qt/style"_s}},

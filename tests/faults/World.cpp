@@ -54,10 +54,10 @@ Answer User::MsgBox(const QString& title, const QString& text, Buttons buttons)
     }
 }
 
-World::World()
-    : program_(
-          std::make_unique<Program>(Platform{Machine.Windows, Person, Machine.Loop, Machine.Screen, Machine.Clipboard,
-                                             Machine.Printer, Machine.Processes, Home.Path() + PathSeparator})),
+World::World(PrintSystem* printer)
+    : program_(std::make_unique<Program>(Platform{Machine.Windows, Person, Machine.Loop, Machine.Screen,
+                                                  Machine.Clipboard, printer ? *printer : Machine.Printer,
+                                                  Machine.Processes, Home.Path() + PathSeparator})),
       P(*program_)
 {
     BuildHome();

@@ -33,7 +33,8 @@ public:
 class World
 {
 public:
-    World();
+    // With the machine's own printer unless another is given.
+    explicit World(PrintSystem* printer = nullptr);
 
     // As a window fires what the user clicks: nothing leaves a handler.
     void Click(const Event& handler);

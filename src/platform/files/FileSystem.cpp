@@ -4,6 +4,7 @@
 #include "platform/base/Text.h"
 #include "platform/files/DiskFlush.h"
 #include "platform/files/FileRefusal.h"
+#include "platform/files/WholeFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -47,13 +48,6 @@ bool ComesBefore(const QString& a, const QString& b)
 {
     const int order = a.compare(b, Qt::CaseInsensitive);
     return order != 0 ? order < 0 : a < b;
-}
-
-void PutInPlace(QSaveFile& output)
-{
-    if (!output.commit())
-        Refuse(output);
-    FlushName(output.fileName());
 }
 } // namespace
 
@@ -201,13 +195,7 @@ int FileSystem::GetAttr(const QString& path) const
 
 void FileSystem::Replace(const QString& path, const QByteArray& bytes) const
 {
-    const QString file = Resolve(path);
-    RequireReplaceable(file);
-    QSaveFile output(file);
-    if (!output.open(QFile::WriteOnly) || output.write(bytes) != bytes.size())
-        Refuse(output);
-    FlushContent(output);
-    PutInPlace(output);
+    WriteWholeFile(Resolve(path), bytes);
 }
 
 QByteArray FileSystem::Read(const QString& path) const

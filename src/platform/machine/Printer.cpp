@@ -7,6 +7,7 @@
 #include <QFontMetrics>
 #include <QPagedPaintDevice>
 #include <QPainter>
+#include <QScopeGuard>
 #include <QTextLayout>
 
 namespace lineforge
@@ -157,10 +158,12 @@ void Printer::NewPage()
 
 void Printer::EndDoc()
 {
-    const bool isSent = !job_ || (job_->Send() && system_.IsTaken());
-    Abort();
-    if (!isSent)
+    const auto aborted = qScopeGuard([this] { Abort(); });
+    if (!job_)
+        return;
+    if (!job_->Send())
         throw RuntimeError(ErrorNumber::PrinterError);
+    system_.HandOver();
 }
 
 void Printer::Abort()

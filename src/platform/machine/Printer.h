@@ -20,8 +20,9 @@ public:
     // A new job, its first page still blank; error 482 when there is no printer. Its `pageRanges` are the pages that
     // the user wants, which whoever draws sees to; empty for all.
     virtual std::shared_ptr<QPagedPaintDevice> NewJob(bool landscape) = 0;
-    // Whether the job that has just been ended is on its way.
-    virtual bool IsTaken() const { return true; }
+    // Sees the job that has just been ended on its way. Error 482 when it isn't taken; those of the disk when it goes
+    // to a file that can't be written.
+    virtual void HandOver() {}
 };
 
 // The printer as a surface. The first thing that is put on it begins a job, `EndDoc` sends it off. Twips from the top
@@ -55,7 +56,8 @@ public:
     // Begins a job before anything is put on it.
     void Begin() { Begun(); }
     void NewPage();
-    // Nothing when no job is under way. Error 482 when it can't be sent off, or has none of the pages that are wanted.
+    // Nothing when no job is under way. Error 482 when it can't be sent off, or has none of the pages that are wanted;
+    // those of the disk when it goes to a file that can't be written.
     void EndDoc();
     // Forgets the job that is under way, or refused.
     void Abort();

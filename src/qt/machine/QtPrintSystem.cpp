@@ -1,6 +1,7 @@
 #include "qt/machine/QtPrintSystem.h"
 
 #include "platform/base/RuntimeError.h"
+#include "platform/files/WholeFile.h"
 
 #include <QFileInfo>
 #include <QLibrary>
@@ -10,6 +11,7 @@
 #include <QPrinterInfo>
 
 #include <cups/cups.h>
+#include <utility>
 
 namespace lineforge
 {
@@ -94,11 +96,14 @@ std::shared_ptr<QPrinter> QtPrintSystem::Usual() const
 std::shared_ptr<QPagedPaintDevice> QtPrintSystem::NewJob(bool landscape)
 {
     std::shared_ptr<QPrinter> printer = chosen_ ? chosen_ : Usual();
-    isQueued_ = printer->outputFormat() == QPrinter::NativeFormat;
-    if (isQueued_ && !IsThere(printer->printerName()))
+    const bool isQueued = printer->outputFormat() == QPrinter::NativeFormat;
+    if (isQueued && !IsThere(printer->printerName()))
         throw RuntimeError(ErrorNumber::PrinterError);
-    if (!isQueued_)
-        printer->setOutputFileName(NextFile());
+    file_ = isQueued ? QString() : NextFile();
+    if (!isQueued) {
+        paper_ = std::make_unique<MemoryFile>();
+        printer->setOutputFileName(paper_->Path());
+    }
     printer->setDocName(documentName);
     if (chosen_)
         printer->setPageOrientation(chosenOrientation_);
@@ -107,10 +112,14 @@ std::shared_ptr<QPagedPaintDevice> QtPrintSystem::NewJob(bool landscape)
     return printer;
 }
 
-// The toolkit hands a whole job over when it ends, in this thread, and doesn't look at the answer.
-bool QtPrintSystem::IsTaken() const
+// The toolkit hands a whole job over when it ends, in this thread, and looks neither at the server's answer nor at what
+// the disk has taken of a file.
+void QtPrintSystem::HandOver()
 {
-    return !isQueued_ || LastAnswer() <= IPP_STATUS_OK_EVENTS_COMPLETE;
+    if (!file_.isEmpty())
+        WriteWholeFile(file_, std::exchange(paper_, nullptr)->Bytes());
+    else if (LastAnswer() > IPP_STATUS_OK_EVENTS_COMPLETE)
+        throw RuntimeError(ErrorNumber::PrinterError);
 }
 
 // The dialog has asked about the file itself; the jobs behind the first may take no other file's place, least of all

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/files/MemoryFile.h"
 #include "platform/machine/Printer.h"
 
 #include <QPageLayout>
@@ -27,7 +28,7 @@ public:
     // One job at a time: the printer that the user has chosen is that of all his jobs, with all that he has chosen for
     // it.
     std::shared_ptr<QPagedPaintDevice> NewJob(bool landscape) override;
-    bool IsTaken() const override;
+    void HandOver() override;
 
     // Asks for a printer, or for a file to print to, for its paper and for the pages that are wanted; shows the present
     // choice. A cancelled question leaves the one before.
@@ -45,7 +46,10 @@ private:
     QPageLayout::Orientation chosenOrientation_ = QPageLayout::Portrait;
     QString chosenFile_;
     int jobsToFile_ = 0;
-    bool isQueued_ = false; // the last job
+
+    // Of the last job; no file when it went to a queue.
+    QString file_;
+    std::unique_ptr<MemoryFile> paper_;
 };
 
 } // namespace lineforge

@@ -102,7 +102,11 @@ public:
         paper->setPageRanges(Wanted);
         return paper;
     }
-    bool IsTaken() const override { return Takes; }
+    void HandOver() override
+    {
+        if (!Takes)
+            throw RuntimeError(ErrorNumber::PrinterError);
+    }
 
     std::vector<Mark> Marks;
     QPageRanges Wanted;
