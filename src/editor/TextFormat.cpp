@@ -131,8 +131,12 @@ FormedBytes WriteForm(const FormedText& formed)
             return {*bytes, form};
         form.Encoding = TextEncoding::Utf8;
     }
+    const QByteArray body = text.toUtf8();
+    // Without one, its first character would be read as the mark, and be lost.
+    if (body.startsWith(byteOrderMark))
+        form.Encoding = TextEncoding::Utf8WithMark;
     const QByteArray mark = form.Encoding == TextEncoding::Utf8WithMark ? byteOrderMark : QByteArray();
-    return {mark + text.toUtf8(), form};
+    return {mark + body, form};
 }
 
 } // namespace lineforge

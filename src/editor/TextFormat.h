@@ -40,7 +40,7 @@ struct FormedBytes {
 };
 
 // The bytes that read back as that text. A text that Windows-1252 can't hold, or not so that it is read back the same,
-// becomes UTF-8.
+// becomes UTF-8; one that begins with the mark's own character gets a mark before it.
 FormedBytes WriteForm(const FormedText& formed);
 
 } // namespace lineforge

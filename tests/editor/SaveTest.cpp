@@ -94,6 +94,16 @@ TEST_F(SaveTest, TextThatDoesNotFitWindows1252_BecomesUtf8_AndThatIsTold)
               u"Saved as UTF-8, because Windows-1252 can't hold all of the text."_s);
 }
 
+TEST_F(SaveTest, CharacterOfTheMarkAtTheBeginning_IsKeptBehindAMark)
+{
+    OpenFile(u"a.txt", "old");
+    Area().insertPlainText(u"\uFEFF"_s);
+    Choose(u"Save"_s);
+    EXPECT_EQ(Home.ReadFile(u"a.txt"), "\xEF\xBB\xBF\xEF\xBB\xBFold"_ba);
+    EXPECT_EQ(Shown(u"Encoding"_s), u"UTF-8 with mark"_s);
+    EXPECT_EQ(Editor.statusBar()->currentMessage(), u"Saved."_s);
+}
+
 TEST_F(SaveTest, ReadOnlyFile_IsTold_AndTextAndFileStay)
 {
     const QString path = OpenFile(u"a.txt", "old");

@@ -108,6 +108,17 @@ TEST(TextFormTest, NewText_IsUtf8WithCrLf)
     EXPECT_EQ(WriteForm({u"a\n\u00E9\n"_s, {}}).Bytes, "a\r\n\xC3\xA9\r\n"_ba);
 }
 
+TEST(TextFormTest, TextThatBeginsWithTheMarksCharacter_GetsAMarkBeforeIt)
+{
+    for (const TextEncoding encoding : {TextEncoding::Utf8, TextEncoding::Utf8WithMark, TextEncoding::Windows1252}) {
+        const FormedBytes written = WriteForm({u"\uFEFFa"_s, {encoding}});
+        EXPECT_EQ(written.Bytes, "\xEF\xBB\xBF\xEF\xBB\xBF"
+                                 "a"_ba);
+        EXPECT_EQ(written.Form.Encoding, TextEncoding::Utf8WithMark);
+        EXPECT_EQ(ReadForm(written.Bytes)->Text, u"\uFEFFa"_s);
+    }
+}
+
 TEST(TextFormTest, Windows1252_StaysWhereAllCharactersFit)
 {
     const FormedBytes written = WriteForm({u"\u20AC \u00E9\n"_s, {TextEncoding::Windows1252, LineEnds::Lf}});
