@@ -235,6 +235,12 @@ void MapTheEmptyBox(World& world)
     CloseTheBranch(world);
 }
 
+void GivenRemapping(World& world)
+{
+    world.Click(world.P.Form1->mnuRemap.Click);
+    world.DoubleClick({1300, 600});
+}
+
 // The gallery.
 
 void OpenGallery(World& world)
@@ -287,6 +293,35 @@ void CopyAllAcross(World& world)
 void AppendIt(World& world)
 {
     world.Click(world.P.Form6->Command8.Click);
+}
+
+void GivenPair(World& world)
+{
+    GivenComparison(world);
+    world.Click(world.P.Form6->Command1.Click);
+    world.Machine.Clipboard.Text = u"Smythe"_s;
+}
+
+void GivenSelectionOnTheLeft(World& world)
+{
+    GivenPair(world);
+    world.Click(world.P.Form6->Text1.Click);
+}
+
+void GivenSelectionOnTheRight(World& world)
+{
+    GivenPair(world);
+    world.Click(world.P.Form6->Text3.Click);
+}
+
+void CutCompared(World& world)
+{
+    world.Click(world.P.Form6->mnuCut.Click);
+}
+
+void PasteCompared(World& world)
+{
+    world.Click(world.P.Form6->mnuPaste.Click);
 }
 
 // What leaves the program.
@@ -378,6 +413,7 @@ std::vector<Command> AllCommands()
          .Do = MapTheEmptyBox,
          .Silent = u"Sub.jpg$"},
         {.Name = "MapOldRecord", .Given = GivenMappingOfOldRecord, .Do = MapTheEmptyBox, .Silent = u"Sub.jpg$"},
+        {"Remap", GivenRemapping, MapTheEmptyBox},
         // A file that can't be had ends the addition.
         {.Name = "AddPicture",
          .Given = [](World& world) { GivenFileForGallery(world, u"things/new.jpg"); },
@@ -399,6 +435,10 @@ std::vector<Command> AllCommands()
         {"CopyField", GivenComparison, CopyFieldAcross},
         {"CopyAllFields", GivenComparison, CopyAllAcross},
         {"AppendRecord", GivenComparison, AppendIt},
+        {"CutOnTheLeft", GivenSelectionOnTheLeft, CutCompared},
+        {"CutOnTheRight", GivenSelectionOnTheRight, CutCompared},
+        {"PasteOnTheLeft", GivenSelectionOnTheLeft, PasteCompared},
+        {"PasteOnTheRight", GivenSelectionOnTheRight, PasteCompared},
         {"TextFile", GivenOldText, WriteText},
         {"BookmarksTextFile", GivenBookmark, WriteBookmarks},
         {.Name = "GedcomFile", .Given = GivenLineage, .Do = CreateGedcom, .WrittenAsItGoes = u"Gedcom.tmp"},

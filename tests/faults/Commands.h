@@ -26,7 +26,7 @@ inline void PrintTo(const Command& command, std::ostream* out)
     *out << command.Name;
 }
 
-// All there are, but those of the text editor, which is a program of its own.
+// All there are, but those of the text editor, which is a program of its own, and those that print.
 std::vector<Command> AllCommands();
 
 } // namespace lineforge::faults
