@@ -2,6 +2,7 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <fcntl.h>
 #include <unistd.h>
 #include <utility>
@@ -78,6 +79,14 @@ Story::Story(const QString& file)
 QStringList Story::Last(qsizetype lines) const
 {
     return Lines.last(std::min(lines, Lines.size()));
+}
+
+bool Story::TellsOfExportTo(const QString& directory) const
+{
+    return std::ranges::any_of(Lines, [question = u"\"Export Directory and Files\": "_s,
+                                       place = QString(u'|' + directory + u'|')](const QString& line) {
+        return line.contains(question) && line.contains(place);
+    });
 }
 
 } // namespace lineforge::monkey

@@ -42,6 +42,8 @@ struct Story {
     explicit Story(const QString& file);
 
     QStringList Last(qsizetype lines) const;
+    // Whether the user was asked about an export into that directory, by the name that the journal has for it.
+    bool TellsOfExportTo(const QString& directory) const;
 
     QStringList Lines;
     int Steps = 0;

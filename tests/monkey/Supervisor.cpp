@@ -5,6 +5,7 @@
 #include "monkey/Ledger.h"
 #include "monkey/Verdict.h"
 
+#include <QDir>
 #include <QFile>
 
 #include <chrono>
@@ -125,10 +126,14 @@ QStringList Supervisor::CheckHomes(const Scratch& scratch) const
 {
     QStringList findings;
     const ChosenFiles chosen(scratch.ChosenFile());
+    const Story story(scratch.JournalFile());
     for (const QString& home : Homes()) {
         const QString directory = scratch.Directory() + home;
         const auto isTheUsers = [&](const QString& file) { return chosen.Hold(directory + u'/' + file); };
-        for (const QString& finding : NewFindings(before_[home], WithoutChosen(Checked(directory), isTheUsers)))
+        const auto isExport = [&](const QString& name) { return story.TellsOfExportTo(u"~"_s + home + u'/' + name); };
+        const auto isEmpty = [&](const QString& name) { return QDir(directory + u'/' + name).isEmpty(); };
+        const check::Report report = WithoutExports(WithoutChosen(Checked(directory), isTheUsers), isExport, isEmpty);
+        for (const QString& finding : NewFindings(before_[home], report))
             findings += home + u'/' + finding;
     }
     return findings;

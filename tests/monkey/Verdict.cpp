@@ -19,6 +19,11 @@ bool MayBeTheUsers(const check::Finding& finding)
            finding.Text.contains(u"of a record that isn't there");
 }
 
+bool IsUnlisted(const check::Finding& finding)
+{
+    return finding.Kind == check::Kind::Registry && finding.Text.contains(u"isn't in the list of branches");
+}
+
 // A branch takes what is wrong with it along to another directory, and a new record its number from those before it.
 bool AreSame(const check::Finding& one, const check::Finding& other)
 {
@@ -46,11 +51,20 @@ check::Report WithoutChosen(check::Report report, const std::function<bool(const
     return report;
 }
 
+check::Report WithoutExports(check::Report report, const OfDirectory& isExport, const OfDirectory& isEmpty)
+{
+    std::erase_if(report.Findings, [&](const check::Finding& finding) {
+        const QString directory = finding.File.section(u'/', 0, 0);
+        return isExport(directory) && (IsUnlisted(finding) || isEmpty(directory));
+    });
+    return report;
+}
+
 check::Report WithoutUnfinished(check::Report report)
 {
     QStringList unfinished;
     for (const check::Finding& finding : report.Findings)
-        if (finding.Kind == check::Kind::Registry && finding.Text.contains(u"isn't in the list of branches"))
+        if (IsUnlisted(finding))
             unfinished += finding.File;
     // A journal that the engine had not got as far as to fill stays until the next change.
     std::erase_if(report.Findings, [&](const check::Finding& finding) {

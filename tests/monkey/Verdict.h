@@ -17,6 +17,11 @@ QStringList NewFindings(const check::Report& before, const check::Report& now);
 // be shown or played is kept as it is, to the last byte.
 check::Report WithoutChosen(check::Report report, const std::function<bool(const QString&)>& isTheUsers);
 
+// Without the directories of exports that `isExport` knows by their names, where they were put beside the branches of a
+// home: an export enters nothing in its list, and one that is given up leaves its directory, which `isEmpty` then.
+using OfDirectory = std::function<bool(const QString&)>;
+check::Report WithoutExports(check::Report report, const OfDirectory& isExport, const OfDirectory& isEmpty);
+
 // Without branches that aren't in the list: whatever makes a branch tells the list last, and may be killed before.
 // Without the journals of changes that were cut off.
 check::Report WithoutUnfinished(check::Report report);

@@ -1,6 +1,7 @@
 #include "monkey/Verdict.h"
 
 #include "monkey/ChosenFiles.h"
+#include "monkey/Journal.h"
 #include "support/Printing.h"
 #include "support/TemporaryHome.h"
 
@@ -102,6 +103,33 @@ TEST(VerdictTest, BranchThatIsntInTheList_IsUnfinished_TheOthersAreNot)
     const check::Finding empty{Kind::MapFile, u"LfgDat_G/LfgDat_G.cfg"_s, {}, u"the map isn't there"_s};
     EXPECT_EQ(WithoutUnfinished(With({unlisted, torn, empty})).Findings, std::vector{torn});
     EXPECT_EQ(WithoutUnfinished(With({torn, empty})).Findings.size(), 2U);
+}
+
+TEST(VerdictTest, ExportThatWasPutBesideTheBranches_IsNoFinding_WhatIsWrongInItIs)
+{
+    const check::Finding unlisted{Kind::Registry, u"LfgDat_E"_s, {}, u"this branch isn't in the list of branches"_s};
+    const check::Finding noMap{Kind::MapFile, u"LfgDat_E/LfgDat_E.cfg"_s, {}, u"the map isn't there"_s};
+    const auto isE = [](const QString& directory) { return directory == u"LfgDat_E"; };
+    const auto never = [](const QString&) { return false; };
+    const auto always = [](const QString&) { return true; };
+
+    EXPECT_EQ(WithoutExports(With({unlisted, noMap, torn}), isE, never).Findings, (std::vector{noMap, torn}));
+    EXPECT_EQ(WithoutExports(With({unlisted, noMap, torn}), isE, always).Findings, std::vector{torn});
+    EXPECT_EQ(WithoutExports(With({unlisted, noMap, torn}), never, always).Findings.size(), 3U);
+}
+
+TEST(VerdictTest, JournalTellsWhereAnExportWasToGo)
+{
+    const TemporaryHome home;
+    {
+        Journal journal(home.Path(u"journal"), {{u"/tmp/x"_s, u"~"_s}});
+        journal.Note(u"\"Export Directory and Files\": Database and files will be placed in\n/tmp/x/home/LfgDat_E\n"
+                     u"directory. "_s);
+    }
+    const Story story(home.Path(u"journal"));
+    EXPECT_TRUE(story.TellsOfExportTo(u"~/home/LfgDat_E"_s));
+    EXPECT_FALSE(story.TellsOfExportTo(u"~/home/LfgDat_F"_s));
+    EXPECT_FALSE(story.TellsOfExportTo(u"~/home/LfgDat_"_s));
 }
 
 TEST(VerdictTest, AKillMayLeaveAJournal_ButNoOtherLeftover)
