@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-constexpr int mostEntries = 100;
+constexpr int mostEntries = 99; // the program has room for one more, and knows the end of the list by an empty one
 
 QString ListPath(const Home& home)
 {
