@@ -72,8 +72,8 @@ void TellExists(Program& p, const Direction& way)
                      Buttons::Information);
 }
 
-// Looks through the branch that the record would go to, from where its cursor stands. False, with a box and the cursor
-// back where it stood before, when it has the record's number.
+// Goes through the branch that the record would be appended to, from where its cursor stands, and notes the numbers
+// that are taken. False, with a box and the cursor back where it stood before, when it has the record's number.
 bool PassThroughDestination(Program& p, const Direction& way, const Bookmark& before)
 {
     Recordset& to = way.To.Records(p);

@@ -126,6 +126,7 @@ NextPair MoveToNextPair(Program& p)
     return current.Eof() ? NextPair::Missing : NextPair::BeginsRound;
 }
 
+// Whether one side has run out before anything is compared; shows which.
 bool ShowEndIfNoPair(Program& p)
 {
     const bool isCurrent = Records(p).Eof();

@@ -24,8 +24,9 @@ QString ListPath(const Program& p)
     return p.Branch.HomeDir + u"AliasList.cfg";
 }
 
-// Whether the list can be read. Only an attribute value of exactly read-only refuses; a file that bears another
-// attribute as well passes here and fails later, when it is written.
+// Keeps the attributes of the list. False, and a box, when it isn't there or must not be read: only an attribute value
+// of exactly read-only refuses; a file that bears another attribute as well passes here and fails later, when it is
+// written.
 bool FindReadableList(Program& p)
 {
     if (!p.Files.LookUpGivesTail(ListPath(p), fileNameLength)) {

@@ -15,7 +15,7 @@ void LoadBranchList(Program& p);
 // box; whatever fails after that costs only its own part of the picture.
 void OpenSelectedBranch(Program& p);
 
-// Leaves the list without opening anything.
+// The list goes, whether a branch has been chosen or not, and with it the request for one to compare with.
 void CloseBranchList(Program& p);
 
 // Another registry file: its directory becomes the home directory for the rest of the run.
