@@ -74,7 +74,9 @@ void MapModel::PressTool(int shift, Point at)
         SLines = RowForNew(Lines, SLines, [](const Line& line) { return line[0] == 0; });
         if ((shift & ctrlKey) != 0) {
             const bool isKnown = DrawnLast && At(Lines, *DrawnLast)[0] != 0;
-            const int row = isKnown ? *DrawnLast : SLines - 1;
+            int row = isKnown ? *DrawnLast : SLines - 1;
+            while (row >= 0 && At(Lines, row)[0] == 0)
+                --row;
             const Line before = row < 0 ? Line{} : At(Lines, row);
             Down = {Clamped(before[2]), Clamped(before[3])};
         }

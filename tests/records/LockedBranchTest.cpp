@@ -102,17 +102,41 @@ INSTANTIATE_TEST_SUITE_P(Ways, LockedLeavingTest,
                                 Leaving{"Close", [](auto& test, Program& p) { test.Do(p.Form1->mnuCloseDB.Click); }},
                                 Leaving{"Open another", [](auto& test, Program&) { test.ChooseBranch(u"Jones"); }}));
 
-// What is drawn is still to be asked for.
-TEST_F(LockedBranchTest, ToolsLeftOnARecordOfASibling_AskWhenTheWayBackIsThere)
+class ToolsLeftOnASiblingTest : public LockedBranchTest
 {
-    Click(P.Form1->mnuTreeTools.Click);
-    Click(P.Form1->Image6.Click);
-    PictureBox& map = P.Form1->Picture1;
-    map.MouseDown(1, 0, 1000, 6000);
-    map.MouseMove(1, 0, 2000, 6000);
-    map.MouseUp(1, 0, 2000, 6000);
-    Click(P.Form1->Command4.Click);
-    GivenRecordOfSibling();
+protected:
+    ToolsLeftOnASiblingTest()
+    {
+        Click(P.Form1->mnuTreeTools.Click);
+        Click(P.Form1->Image6.Click);
+        PictureBox& map = P.Form1->Picture1;
+        map.MouseDown(1, 0, 1000, 6000);
+        map.MouseMove(1, 0, 2000, 6000);
+        map.MouseUp(1, 0, 2000, 6000);
+        Click(P.Form1->Command4.Click);
+        GivenRecordOfSibling();
+    }
+};
+
+TEST_F(ToolsLeftOnASiblingTest, WayBackThatIsGone_ExitTellsItOnce_AndEnds)
+{
+    P.Form3.Load();
+    QFile::remove(Home.Path(u"LfgDat_A/LfgDat_A.mdb"));
+    Prompts.Expect(
+        u"Lineforge",
+        QString(u"Run-time error '3024':\n\nCouldn't find the database file.\n\nThis database isn't there, or "
+                u"can't be opened:\n"_s +
+                Home.Path(u"LfgDat_A/Lfgdat_A.mdb")),
+        Buttons::Error, Answer::Ok);
+
+    Click(P.Form3->mnuExit.Click);
+
+    EXPECT_EQ(ExitCode(), 0);
+}
+
+// What is drawn is still to be asked for.
+TEST_F(ToolsLeftOnASiblingTest, WayBackThatIsRefused_AsksWhenItIsThere)
+{
     Lock();
     ExpectDatabaseInUse(Answer::Cancel);
 

@@ -13,8 +13,8 @@ void LeaveTools(Program& p);
 // The same, when they are shown at all.
 void LeaveToolsIfOpen(Program& p);
 
-// On the way to the records and the gallery, which nothing drawn is lost by: tools that View or Clear have taken the
-// mouse from stay as they are, and are asked for when the map is left.
+// On the way to the records and the gallery: tools that View or Clear have taken the mouse from stay as they are, and
+// are asked for when the map is left. What is drawn waits; only a command that saves the boxes saves those drawn as well.
 void LeaveToolsAtDoor(Program& p);
 
 // The button beside the tools.

@@ -26,13 +26,16 @@ bool IsFree(const Program& p, int row)
     return p.Map.LineArr[row][LineColumn::X1] == 0;
 }
 
-// Of the line drawn last, wherever its row is; where there is none any more, of the one before the new line, which is
-// the highest for one in a low row. Negative before the first of all.
+// Of the line drawn last, wherever its row is; where there is none any more, of the one nearest before the new line,
+// which is the highest of all for one in a low row. Negative before the first of all.
 int RowOfLineBefore(const Program& p)
 {
     if (p.Tools.LineRow >= 0 && !IsFree(p, p.Tools.LineRow))
         return p.Tools.LineRow;
-    return p.Tools.NewRow < p.Map.SLines ? p.Map.SLines : p.Tools.NewRow - 1;
+    int row = p.Tools.NewRow < p.Map.SLines ? p.Map.SLines : p.Tools.NewRow - 1;
+    while (row >= 0 && IsFree(p, row))
+        --row;
+    return row;
 }
 
 Point EndOfLineBefore(const Program& p)

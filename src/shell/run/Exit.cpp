@@ -13,6 +13,7 @@
 #include "forms/form9.h"
 #include "map/items/MapFile.h"
 #include "map/tools/LeaveTools.h"
+#include "map/tools/ToolImages.h"
 #include "program/branch/WorkDatabase.h"
 #include "shell/branches/CloseBranch.h"
 #include "shell/run/RunHandler.h"
@@ -22,14 +23,17 @@ namespace lineforge
 
 namespace
 {
-void TellIfRefused(Program& p, void (*step)(Program& p))
+// False when the step was refused for what no answer can help, which is told.
+bool TellIfRefused(Program& p, void (*step)(Program& p))
 {
     try {
         step(p);
     } catch (const RuntimeError& refusal) {
         if (!refusal.IsTold)
             TellError(p, refusal);
+        return refusal.IsTold;
     }
+    return true;
 }
 } // namespace
 
@@ -57,7 +61,9 @@ void ExitFromRecords(Program& p)
     if (p.Errors.Last && p.Errors.Last->IsTold)
         return;
     TellIfRefused(p, SaveBoxes);
-    TellIfRefused(p, LeaveToolsIfOpen);
+    // Or the windows' end would ask for the tools again.
+    if (!TellIfRefused(p, LeaveToolsIfOpen))
+        HideTools(p);
     p.Form5->MMControl1.Command(u"Close");
     // The main window takes all others with it and ends the program; a text that still can't be stored is told.
     p.Form1.Unload();

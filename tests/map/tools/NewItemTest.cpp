@@ -188,6 +188,22 @@ TEST_F(NewLineRowTest, LineDeleted_CtrlGoesOnFromTheHighestLine)
     EXPECT_EQ(Line(3), (std::vector<int>{2000, 3000, 5000, 4000, 0}));
 }
 
+TEST_F(NewLineRowTest, ChainDrawnLast_DeletedSince_CtrlGoesOnFromTheHighestLineThatIsLeft)
+{
+    DrawNewLine({4000, 4000}, {5000, 4000});
+    Drag({{7000, 7000}, {5000, 6000}}, Ctrl);
+    Delete(27, {4500, 4000});
+    ASSERT_EQ(Line(3), std::vector<int>(5));
+    ASSERT_EQ(Line(4), std::vector<int>(5));
+    Choose(7);
+
+    Drag({{7000, 7000}, {3000, 6000}}, Ctrl);
+
+    EXPECT_EQ(Line(4), (std::vector<int>{2000, 3000, 3000, 6000, 0}));
+    Leave(Answer::Yes);
+    EXPECT_EQ(MapBytes(), BytesOf(u"", QString(Survivors + u"2000,3000,3000,6000,0,"), u""));
+}
+
 TEST_F(NewLineRowTest, NoRowAboveTheCountIsSaved_TheFirstFreeIsTaken_AndTheCountStays)
 {
     givenLine(200, {1000, 5000}, {2000, 5000});
