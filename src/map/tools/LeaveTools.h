@@ -14,7 +14,8 @@ void LeaveTools(Program& p);
 void LeaveToolsIfOpen(Program& p);
 
 // On the way to the records and the gallery: tools that View or Clear have taken the mouse from stay as they are, and
-// are asked for when the map is left. What is drawn waits; only a command that saves the boxes saves those drawn as well.
+// are asked for when the map is left. What is drawn waits; only a command that saves the boxes saves those drawn as
+// well.
 void LeaveToolsAtDoor(Program& p);
 
 // The button beside the tools.
