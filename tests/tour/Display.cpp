@@ -43,15 +43,20 @@ xcb_atom_t Display::Atom(const char* name) const
     return reply->atom;
 }
 
-std::vector<ScreenWindow> Display::Windows() const
+std::vector<xcb_window_t> Display::Children() const
 {
     const Reply<xcb_query_tree_reply_t> tree(
         xcb_query_tree_reply(Connection(), xcb_query_tree(Connection(), Root()), nullptr));
     Expect(tree != nullptr, u"an X server that lists its windows"_s);
     const xcb_window_t* children = xcb_query_tree_children(tree.get());
+    return {children, children + xcb_query_tree_children_length(tree.get())};
+}
+
+std::vector<ScreenWindow> Display::Windows() const
+{
     std::vector<ScreenWindow> windows;
-    for (int at = 0; at < xcb_query_tree_children_length(tree.get()); ++at)
-        if (std::optional<ScreenWindow> window = Describe(children[at]))
+    for (const xcb_window_t child : Children())
+        if (std::optional<ScreenWindow> window = Describe(child))
             windows.push_back(*std::move(window));
     return windows;
 }
@@ -86,7 +91,7 @@ QByteArray Display::Property(xcb_window_t id, xcb_atom_t property) const
                       xcb_get_property_value_length(reply.get()));
 }
 
-bool Display::AsksToStayAbove(const ScreenWindow& window) const
+bool Display::IsKeptAbove(const ScreenWindow& window) const
 {
     const QByteArray state = Property(window.Id, state_);
     for (qsizetype at = 0; at + qsizetype(sizeof above_) <= state.size(); at += sizeof above_)
@@ -122,6 +127,14 @@ std::vector<ScreenWindow> Display::Popups() const
     return windows;
 }
 
+std::optional<ScreenWindow> Display::TopmostWindow() const
+{
+    const std::vector<ScreenWindow> windows = Windows();
+    const auto topmost =
+        std::find_if(windows.rbegin(), windows.rend(), [](const ScreenWindow& window) { return !window.IsPopup; });
+    return topmost == windows.rend() ? std::nullopt : std::optional(*topmost);
+}
+
 xcb_window_t Display::KeyboardOwner() const
 {
     const Reply<xcb_get_input_focus_reply_t> reply(
@@ -140,13 +153,10 @@ void Display::GiveKeyboard(const ScreenWindow& window) const
 
 void Display::GiveKeyboardToTopmost() const
 {
-    const std::vector<ScreenWindow> windows = Windows();
     const xcb_window_t owner = KeyboardOwner();
-    const auto isOrdinary = [](const ScreenWindow& window) { return !window.IsPopup; };
-    if (std::ranges::any_of(windows, [&](const ScreenWindow& window) { return window.Id == owner; }))
+    if (std::ranges::any_of(Windows(), [&](const ScreenWindow& window) { return window.Id == owner; }))
         return;
-    const auto topmost = std::find_if(windows.rbegin(), windows.rend(), isOrdinary);
-    if (topmost != windows.rend())
+    if (const std::optional<ScreenWindow> topmost = TopmostWindow())
         GiveKeyboard(*topmost);
 }
 

@@ -25,16 +25,28 @@ class Display
 {
 public:
     Display();
+    virtual ~Display() = default;
+    Display(const Display&) = delete;
+    Display& operator=(const Display&) = delete;
 
     xcb_connection_t* Connection() const { return connection_.get(); }
     xcb_window_t Root() const { return screen_->root; }
     QSize Size() const { return {screen_->width_in_pixels, screen_->height_in_pixels}; }
 
+    // The toolkit's name for what shows a program here.
+    virtual QString Platform() const { return QStringLiteral("xcb"); }
+    // Whether windows stand where their programs put them.
+    virtual bool PlacesAsAsked() const { return true; }
+    // How large a window can be, without a frame that it is given.
+    virtual QSize Room() const { return Size(); }
+
     // From the lowest to the topmost.
-    std::vector<ScreenWindow> Windows() const;
+    virtual std::vector<ScreenWindow> Windows() const;
     std::optional<ScreenWindow> Find(const QString& title) const;
-    std::optional<ScreenWindow> Find(xcb_window_t id) const;
+    virtual std::optional<ScreenWindow> Find(xcb_window_t id) const;
     std::vector<ScreenWindow> Popups() const;
+    // Of those that are no popups.
+    std::optional<ScreenWindow> TopmostWindow() const;
 
     // What stands on the screen there, whichever windows it belongs to.
     QImage Picture(const QRect& place) const;
@@ -42,13 +54,20 @@ public:
 
     // What a window manager would do, if the screen had one: heed a window that asks to stay above the others, and
     // give the keyboard to the window that comes, or to the one that is left when another goes.
-    bool AsksToStayAbove(const ScreenWindow& window) const;
-    void Raise(const ScreenWindow& window) const;
-    void GiveKeyboard(const ScreenWindow& window) const;
-    void GiveKeyboardToTopmost() const;
+    virtual bool IsKeptAbove(const ScreenWindow& window) const;
+    virtual void Raise(const ScreenWindow& window) const;
+    virtual void GiveKeyboard(const ScreenWindow& window) const;
+    virtual void GiveKeyboardToTopmost() const;
+    // Whether the window will have the keyboard, but doesn't know yet.
+    virtual bool AwaitsKeyboard(const ScreenWindow& /*window*/) const { return false; }
 
-    // What a click on the cross of a window's title asks for.
-    void AskToClose(const ScreenWindow& window) const;
+    // Where to click to close a window; nowhere when it has no frame, and what the click would ask for is asked.
+    virtual std::optional<QPoint> ClosingCross(const ScreenWindow& /*window*/) const { return std::nullopt; }
+    virtual void AskToClose(const ScreenWindow& window) const;
+
+protected:
+    // Those of the X screen itself, from the lowest to the topmost.
+    std::vector<xcb_window_t> Children() const;
 
 private:
     struct Disconnect {

@@ -16,6 +16,13 @@ using namespace Qt::StringLiterals;
 namespace
 {
 constexpr std::uint8_t leftButton = 1;
+
+// `wait` is how many milliseconds before.
+void Fake(const Display& display, std::uint8_t event, std::uint8_t detail, std::uint32_t wait, QPoint place = {})
+{
+    xcb_test_fake_input(display.Connection(), event, detail, wait, display.Root(), static_cast<short>(place.x()),
+                        static_cast<short>(place.y()), 0);
+}
 } // namespace
 
 Input::Input(const Display& display) : display_(display), keyboard_(display.Connection())
@@ -91,11 +98,15 @@ void Input::Press(Key key)
 
 void Input::Press(std::initializer_list<Key> held, QChar character)
 {
+    // Menus don't keep several keys apart that a compositor hands on together.
+    constexpr std::uint32_t slowly = 60;
+    const xcb_keycode_t tapped = keyboard_.StrokeOf(character).Code;
     for (const Key key : held)
-        Send(XCB_KEY_PRESS, keyboard_.CodeOf(key));
-    Tap(keyboard_.StrokeOf(character).Code);
+        Fake(display_, XCB_KEY_PRESS, keyboard_.CodeOf(key), slowly);
+    Fake(display_, XCB_KEY_PRESS, tapped, slowly);
+    Fake(display_, XCB_KEY_RELEASE, tapped, slowly);
     for (const Key key : held)
-        Send(XCB_KEY_RELEASE, keyboard_.CodeOf(key));
+        Fake(display_, XCB_KEY_RELEASE, keyboard_.CodeOf(key), slowly);
     Arrive();
 }
 
@@ -107,8 +118,9 @@ void Input::Tap(xcb_keycode_t code)
 
 void Input::Send(std::uint8_t event, std::uint8_t detail, QPoint place)
 {
-    xcb_test_fake_input(display_.Connection(), event, detail, XCB_CURRENT_TIME, display_.Root(),
-                        static_cast<short>(place.x()), static_cast<short>(place.y()), 0);
+    // A key that goes down in the very millisecond in which it came up is taken for one that is held.
+    constexpr std::uint32_t pause = 2;
+    Fake(display_, event, detail, event == XCB_KEY_PRESS ? pause : 0, place);
 }
 
 // Any question that the server answers is answered after all that was sent before.

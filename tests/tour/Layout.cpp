@@ -2,6 +2,7 @@
 
 #include "Failure.h"
 #include "forms/Form1.h"
+#include "qt/style/Desktop.h"
 
 #include <optional>
 
@@ -12,9 +13,14 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-// Room for a title is left by the program whether or not there is a window manager to show one. A wrong guess would
-// show in the sizes of the windows, which the tour checks.
-constexpr int titlePixels = 24;
+Scale ScaleOn(const Display& screen)
+{
+    // Where the program places its windows it leaves room for a title whether or not there is a window manager to show
+    // one. A wrong guess would show in the sizes of the windows, which the tour checks.
+    constexpr int titlePixels = 24;
+    return screen.PlacesAsAsked() ? FittingScale(forms::MainWindowClient, screen.Room(), titlePixels)
+                                  : ScaleForRoom(forms::MainWindowClient, screen.Room());
+}
 
 QRect ToPixels(const Scale& scale, const Control& control)
 {
@@ -36,7 +42,7 @@ std::optional<QRect> Find(const Scale& scale, const Container& container, const 
 }
 } // namespace
 
-Layout::Layout(QSize screen) : scale_(FittingScale(forms::MainWindowClient, screen, titlePixels)) {}
+Layout::Layout(const Display& screen) : scale_(ScaleOn(screen)) {}
 
 QRect Layout::PlaceOf(const Form& form, const Control& control) const
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Display.h"
 #include "platform/controls/Form.h"
 #include "qt/style/Scale.h"
 
@@ -12,7 +13,7 @@ namespace lineforge::tour
 class Layout
 {
 public:
-    explicit Layout(QSize screen);
+    explicit Layout(const Display& screen);
 
     const Scale& Pixels() const { return scale_; }
     // In the area below the window's menus. A control in a frame stands where the frame stands.

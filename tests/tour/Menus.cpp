@@ -52,6 +52,19 @@ QRect PlaceInMenuBar(const Tour& tour, const MenuItem& menu)
     return QRect(bar.x() + caption.First, bar.y(), caption.Length(), bar.height());
 }
 
+// The next key comes only when the menu that it is meant for is there.
+void OpenMenusByKeys(Tour& tour, const QString& keys)
+{
+    std::size_t open = 0;
+    for (const QChar key : keys) {
+        if (open++ == 0)
+            tour.Hands.Press({Key::Alt}, key);
+        else
+            tour.Hands.Press({}, key);
+        tour.Await(u"%1 menus open"_s.arg(open), [&] { return tour.Screen.Popups().size() == open; });
+    }
+}
+
 ScreenWindow AwaitMenu(Tour& tour, const MenuItem& menu)
 {
     std::vector<ScreenWindow> popups;

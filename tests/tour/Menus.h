@@ -17,6 +17,9 @@ void Choose(Tour& tour, const MenuItem& menu, const MenuItem& entry);
 // The same for an entry of a menu that opens out of an entry.
 void Choose(Tour& tour, const MenuItem& menu, const MenuItem& submenu, const MenuItem& entry);
 
+// Opens a menu by Alt and its key, and from there, each by its key, the menus that it leads to.
+void OpenMenusByKeys(Tour& tour, const QString& keys);
+
 // Waits for a menu that something else has opened.
 ScreenWindow AwaitMenu(Tour& tour, const MenuItem& menu);
 

@@ -13,14 +13,16 @@ using namespace Qt::StringLiterals;
 namespace
 {
 // Real windows, one pixel to a pixel, in the toolkit's own looks, and no settings but those of this tour.
-QProcessEnvironment Environment(const ScratchHome& home)
+QProcessEnvironment Environment(const ScratchHome& home, const QString& platform)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const auto& name : {u"QT_SCALE_FACTOR"_s, u"QT_SCREEN_SCALE_FACTORS"_s, u"QT_ENABLE_HIGHDPI_SCALING"_s,
-                             u"QT_USE_PHYSICAL_DPI"_s, u"QT_FONT_DPI"_s, u"QT_STYLE_OVERRIDE"_s,
-                             u"QT_QPA_PLATFORMTHEME"_s, u"XDG_CURRENT_DESKTOP"_s, u"WAYLAND_DISPLAY"_s})
+    for (const auto& name :
+         {u"QT_SCALE_FACTOR"_s, u"QT_SCREEN_SCALE_FACTORS"_s, u"QT_ENABLE_HIGHDPI_SCALING"_s, u"QT_USE_PHYSICAL_DPI"_s,
+          u"QT_FONT_DPI"_s, u"QT_STYLE_OVERRIDE"_s, u"QT_QPA_PLATFORMTHEME"_s, u"XDG_CURRENT_DESKTOP"_s})
         environment.remove(name);
-    environment.insert(u"QT_QPA_PLATFORM"_s, u"xcb"_s);
+    environment.insert(u"QT_QPA_PLATFORM"_s, platform);
+    if (platform != u"wayland")
+        environment.remove(u"WAYLAND_DISPLAY"_s);
     environment.insert(u"XDG_CONFIG_HOME"_s, home.SettingsDirectory());
     // What is printed to a file goes to the user's home; the fonts' cache stays where it is.
     if (!environment.contains(u"XDG_CACHE_HOME"_s))
@@ -38,9 +40,9 @@ RunningProgram::~RunningProgram()
     process_.waitForFinished();
 }
 
-void RunningProgram::Start(const ScratchHome& home)
+void RunningProgram::Start(const ScratchHome& home, const QString& platform)
 {
-    process_.setProcessEnvironment(Environment(home));
+    process_.setProcessEnvironment(Environment(home, platform));
     process_.setWorkingDirectory(home.Directory());
     process_.setProcessChannelMode(QProcess::MergedChannels);
     process_.start(home.Executable(), QStringList());

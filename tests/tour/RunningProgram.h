@@ -13,7 +13,7 @@ class RunningProgram
 public:
     ~RunningProgram();
 
-    void Start(const ScratchHome& home);
+    void Start(const ScratchHome& home, const QString& platform);
     // Lets a moment pass, unless the program ends meanwhile.
     bool StillRunsAfter(int milliseconds);
     // How it ended, in words.

@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 
 #include <algorithm>
+#include <utility>
 
 namespace lineforge::tour
 {
@@ -29,8 +30,8 @@ int FirstRowOfPaper(const QImage& picture)
 }
 } // namespace
 
-Tour::Tour(const QString& installed, const QDir& pictures)
-    : Hands(Screen), Places(Screen.Size()), Home(installed), Pictures(pictures)
+Tour::Tour(std::unique_ptr<const Display> screen, const QString& installed, const QDir& pictures)
+    : screen_(std::move(screen)), Screen(*screen_), Hands(Screen), Places(Screen), Home(installed), Pictures(pictures)
 {
 }
 
@@ -49,19 +50,23 @@ void Tour::Await(const QString& what, const std::function<bool()>& condition)
 ScreenWindow Tour::AwaitWindow(const QString& title)
 {
     std::optional<ScreenWindow> found;
-    Await(u"the window \"%1\""_s.arg(title), [&] { return (found = Screen.Find(title)).has_value(); });
+    Await(u"the window \"%1\""_s.arg(title), [&] {
+        found = Screen.Find(title);
+        return found && !Screen.AwaitsKeyboard(*found);
+    });
     Screen.GiveKeyboard(*found);
     return *found;
 }
 
 ScreenWindow Tour::AwaitFront(const QString& title)
 {
-    const ScreenWindow window = AwaitWindow(title);
+    ScreenWindow window = AwaitWindow(title);
     Await(u"the window \"%1\" before the others"_s.arg(title), [&] {
-        const std::vector<ScreenWindow> windows = Screen.Windows();
-        const auto front =
-            std::find_if(windows.rbegin(), windows.rend(), [](const ScreenWindow& other) { return !other.IsPopup; });
-        return front != windows.rend() && front->Id == window.Id;
+        const std::optional<ScreenWindow> topmost = Screen.TopmostWindow();
+        // Under a compositor it may have been shown anew, and is another one then.
+        if (topmost)
+            window = *topmost;
+        return window.Title == title && !Screen.AwaitsKeyboard(window);
     });
     return window;
 }
@@ -69,7 +74,19 @@ ScreenWindow Tour::AwaitFront(const QString& title)
 void Tour::AwaitGone(const ScreenWindow& window)
 {
     Await(u"the window \"%1\" to go"_s.arg(window.Title), [&] { return !Screen.Find(window.Id); });
+    Await(u"another window after \"%1\""_s.arg(window.Title), [&] {
+        const std::optional<ScreenWindow> topmost = Screen.TopmostWindow();
+        return topmost && !Screen.AwaitsKeyboard(*topmost);
+    });
     Screen.GiveKeyboardToTopmost();
+}
+
+void Tour::Close(const ScreenWindow& window)
+{
+    if (const std::optional<QPoint> cross = Screen.ClosingCross(window))
+        Hands.Click(*cross);
+    else
+        Screen.AskToClose(window);
 }
 
 void Tour::AwaitEnd()
@@ -91,15 +108,16 @@ void Tour::Answer(const QString& title, Key key)
 
 void Tour::StartProgram()
 {
-    Program.Start(Home);
-    mainWindow_ = AwaitWindow(MainForm.Caption).Id;
+    Program.Start(Home, Screen.Platform());
+    AwaitWindow(MainForm.Caption);
 }
 
 ScreenWindow Tour::MainWindow() const
 {
-    const std::optional<ScreenWindow> window = Screen.Find(mainWindow_);
-    Expect(window.has_value(), u"the main window on the screen"_s);
-    return *window;
+    for (const ScreenWindow& window : Screen.Windows())
+        if (window.Title.startsWith(MainForm.Caption.value()) && window.Place.width() > Screen.Size().width() * 9 / 10)
+            return window;
+    throw Failure(u"The main window isn't on the screen"_s);
 }
 
 // The picture of the map lies below the menus, white as paper at its left margin.

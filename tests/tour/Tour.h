@@ -18,6 +18,7 @@
 #include <QDir>
 
 #include <functional>
+#include <memory>
 
 namespace lineforge::tour
 {
@@ -27,9 +28,13 @@ namespace lineforge::tour
 class Tour
 {
 public:
-    Tour(const QString& installed, const QDir& pictures);
+    Tour(std::unique_ptr<const Display> screen, const QString& installed, const QDir& pictures);
 
-    const Display Screen;
+private:
+    std::unique_ptr<const Display> screen_;
+
+public:
+    const Display& Screen;
     Input Hands;
     const Layout Places;
     const ScratchHome Home;
@@ -53,6 +58,8 @@ public:
     // In front of the others as well: one that was hidden comes back behind them, and is then raised.
     ScreenWindow AwaitFront(const QString& title);
     void AwaitGone(const ScreenWindow& window);
+    // By the cross of its frame, as far as it has one.
+    void Close(const ScreenWindow& window);
     // Until the program has ended by itself with exit code 0.
     void AwaitEnd();
 
@@ -75,7 +82,6 @@ public:
     QImage SettledPicture();
 
 private:
-    xcb_window_t mainWindow_ = XCB_WINDOW_NONE;
     int menuBarHeight_ = 0;
 };
 

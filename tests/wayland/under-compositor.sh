@@ -32,13 +32,15 @@ for pointer in default cross size_all watch wait xterm text ibeam pointer hand1 
     ln -s left_ptr "$XCURSOR_PATH/clear/cursors/$pointer"
 done
 
-# A window that fades away keeps the keyboard meanwhile.
+# A window that fades away keeps the keyboard meanwhile; a keyboard on the screen would cover what is to be seen.
 cat >"$XDG_RUNTIME_DIR/settings" <<END
 [shell]
 animation=none
 close-animation=none
 startup-animation=none
 focus-animation=none
+[input-method]
+path=
 END
 
 # With --debug anybody may take pictures of the screen and be told what is on it.

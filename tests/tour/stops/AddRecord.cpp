@@ -1,5 +1,6 @@
 #include "Failure.h"
 #include "Ink.h"
+#include "Menus.h"
 #include "RecordView.h"
 #include "stops/Stops.h"
 
@@ -15,7 +16,7 @@ const QString picture = u"LfgDat_A/A061Sub.jpg"_s; // of the number behind the l
 void PressInEditMenu(Tour& tour, QChar entry)
 {
     AwaitRecords(tour);
-    tour.Hands.Press({Key::Alt}, u'e');
+    OpenMenusByKeys(tour, u"e"_s);
     tour.Hands.Press({}, entry);
 }
 

@@ -44,7 +44,7 @@ void FirstRecordIsShown(Tour& tour)
 void OtherBranchIsOpened(Tour& tour)
 {
     AwaitComparison(tour);
-    tour.Hands.Press({Key::Alt}, u'f');
+    OpenMenusByKeys(tour, u"f"_s);
     tour.Hands.Press({}, u'm');
     const ScreenWindow list = AwaitBranchList(tour, tour.Home.BranchNames().size());
     tour.Hands.DoubleClick(PlaceOfBranch(tour, list, 1).center());
@@ -88,7 +88,7 @@ void RecordIsAppended(Tour& tour)
 void ComparisonIsClosed(Tour& tour)
 {
     const ScreenWindow window = AwaitComparison(tour);
-    tour.Hands.Press({Key::Alt}, u'f');
+    OpenMenusByKeys(tour, u"f"_s);
     tour.Hands.Press(Key::Up);
     tour.Hands.Press(Key::Return);
     tour.AwaitGone(window);

@@ -30,7 +30,7 @@ void StartsWithoutSplash(Tour& tour)
 
 void ClosingTheMainWindowEnds(Tour& tour)
 {
-    tour.Screen.AskToClose(tour.MainWindow());
+    tour.Close(tour.MainWindow());
     tour.AwaitEnd();
 }
 } // namespace

@@ -1,6 +1,7 @@
 #include "Failure.h"
 #include "GalleryView.h"
 #include "Ink.h"
+#include "Menus.h"
 #include "stops/Stops.h"
 
 namespace lineforge::tour
@@ -115,12 +116,11 @@ void FilesAreAdded(Tour& tour)
          u"A001_10.txt"_s},
     };
     const ScreenWindow editor = tour.AwaitWindow(u"A001_06.txt - Lineforge Editor"_s);
-    tour.Screen.AskToClose(editor);
+    tour.Close(editor);
     tour.AwaitGone(editor);
     for (const Addition& addition : additions) {
         AwaitItem(tour, u"A001_06.txt"_s);
-        tour.Hands.Press({Key::Alt}, u'e');
-        tour.Hands.Press({}, u'a');
+        OpenMenusByKeys(tour, u"ea"_s);
         tour.Hands.Press({}, addition.Entry);
         tour.Answer(addition.Title, Key::Return);
         const ScreenWindow dialog = tour.AwaitWindow(addition.Dialog);
@@ -147,7 +147,7 @@ void TileIsDragged(Tour& tour)
 void FileIsDeleted(Tour& tour)
 {
     const ScreenWindow window = AwaitItem(tour, u"A001_06.txt"_s);
-    tour.Hands.Press({Key::Alt}, u'e');
+    OpenMenusByKeys(tour, u"e"_s);
     tour.Hands.Press({}, u'd');
     tour.Answer(u"Deleting Gallery File."_s, Key::Return);
     tour.Hands.Click(TileOnGallery(tour, window, 6).center());

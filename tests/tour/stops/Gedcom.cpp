@@ -83,7 +83,7 @@ void ReportIsShown(Tour& tour)
 void ReportIsClosed(Tour& tour)
 {
     const ScreenWindow window = tour.AwaitWindow(u"Ged File Conversion completed."_s);
-    tour.Screen.AskToClose(window);
+    tour.Close(window);
     tour.AwaitGone(window);
 }
 } // namespace

@@ -13,19 +13,20 @@ const QString helpTitle = u"Lineforge Help"_s;
 
 void ContentsAreShown(Tour& tour)
 {
-    constexpr std::size_t fewestLines = 5;
+    constexpr std::size_t fewestTopics = 5;
     Choose(tour, tour.MainForm.mnuHelp, tour.MainForm.mnuConts);
     const ScreenWindow help = tour.AwaitWindow(helpTitle);
-    tour.Await(u"the text of the help"_s, [&] {
-        const QRect middle = help.Place.adjusted(help.Place.width() / 3, 50, -help.Place.width() / 3, -10);
-        return InkedRows(tour.PictureOf(middle), 2).size() >= fewestLines;
-    });
+    const QRect list(help.Place.x() + help.Place.width() / 30, help.Place.center().y(), help.Place.width() / 6,
+                     help.Place.height() / 3);
+    const QRect text = help.Place.adjusted(help.Place.width() / 3, help.Place.height() / 10, 0, 0);
+    tour.Await(u"topics of the help"_s, [&] { return InkedRows(tour.PictureOf(list), 0).size() >= fewestTopics; });
+    tour.Await(u"the text of the help"_s, [&] { return HoldsBlackLetters(tour.PictureOf(text)); });
 }
 
 void HelpCloses(Tour& tour)
 {
     const ScreenWindow help = tour.AwaitWindow(helpTitle);
-    tour.Screen.AskToClose(help);
+    tour.Close(help);
     tour.AwaitGone(help);
 }
 

@@ -1,4 +1,5 @@
 #include "Ink.h"
+#include "Menus.h"
 #include "RecordView.h"
 #include "stops/Stops.h"
 
@@ -16,7 +17,7 @@ const QString found = u"Search Word Found"_s;
 void AskFor(Tour& tour, QChar entry, const QString& text)
 {
     AwaitRecords(tour);
-    tour.Hands.Press({Key::Alt}, u's');
+    OpenMenusByKeys(tour, u"s"_s);
     tour.Hands.Press({}, entry);
     const ScreenWindow box = tour.AwaitWindow(question);
     const QImage empty = tour.PictureOf(box.Place);

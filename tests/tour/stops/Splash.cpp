@@ -30,10 +30,16 @@ void SplashStandsBeforeMainWindow(Tour& tour)
     tour.Await(u"the splash"_s, [&] { return FindSplash(tour).has_value(); });
     const ScreenWindow splash = *FindSplash(tour);
     const int corner = tour.Places.Pixels().ToPixels(splashCorner);
-    Expect(splash.Place.topLeft() == QPoint(corner, corner), u"the splash at its place"_s);
+    Expect(!tour.Screen.PlacesAsAsked() || splash.Place.topLeft() == QPoint(corner, corner),
+           u"the splash at its place"_s);
     Expect(tour.MainWindow().Place.contains(splash.Place), u"the main window behind the splash"_s);
-    // There is no window manager that would grant the wish.
-    Expect(tour.Screen.AsksToStayAbove(splash), u"a splash that asks to stay above"_s);
+    tour.Await(u"the splash to be kept above"_s, [&] {
+        const std::optional<ScreenWindow> now = FindSplash(tour);
+        return now && tour.Screen.IsKeptAbove(*now);
+    });
+    // A main window that is painted comes before no other any more.
+    if (tour.Screen.PlacesAsAsked())
+        tour.MeasureMenuBar();
     tour.Screen.Raise(splash);
 }
 
