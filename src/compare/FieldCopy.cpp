@@ -11,6 +11,8 @@
 #include "program/branch/WorkDatabase.h"
 #include "program/state/RecordFields.h"
 
+#include <set>
+
 namespace lineforge
 {
 
@@ -92,6 +94,32 @@ bool PassThroughDestination(Program& p, const Direction& way, const Bookmark& be
     return true;
 }
 
+std::set<QString> NumbersInFile(const Recordset& records)
+{
+    std::set<QString> numbers;
+    const auto all = records.Afresh();
+    for (; !all->Eof(); all->MoveNext())
+        numbers.insert(all->Text(Field::File));
+    return numbers;
+}
+
+// What another program has added behind the box has a number of its own.
+QString NumberStillFree(Program& p, const Recordset& to, const std::set<QString>& known)
+{
+    for (const QString& file : NumbersInFile(to))
+        if (!known.contains(file))
+            NoteZNumber(p, file);
+    return FreeZNumber(p);
+}
+
+void TellAppended(Program& p, const Direction& way, const QString& number)
+{
+    p.Prompts.MsgBox(way.Title.toString(),
+                     u"This Record will be Appended to the "_s + way.Branch + u"\nDatabase as " + number +
+                         u" but will not be mapped into\nthe Ancestral Tree Display.",
+                     Buttons::Information);
+}
+
 void TellNothingToCopy(Program& p)
 {
     p.Prompts.MsgBox(u"Copy Error"_s, u"There is no record to copy across."_s, Buttons::Information);
@@ -101,24 +129,26 @@ void Append(Program& p, const Direction& way)
 {
     Recordset& from = way.From.Records(p);
     Recordset& to = way.To.Records(p);
-    const QString number = FreeZNumber(p);
+    const QString told = FreeZNumber(p);
+    const std::set<QString> known = NumbersInFile(to);
     to.MoveLast();
     // The scanner may run on behind the box.
     const Bookmark checked = from.GetBookmark();
-    p.Prompts.MsgBox(way.Title.toString(),
-                     u"This Record will be Appended to the "_s + way.Branch + u"\nDatabase as " + number +
-                         u" but will not be mapped into\nthe Ancestral Tree Display.",
-                     Buttons::Information);
+    TellAppended(p, way, told);
     from.SetBookmark(checked);
     to.Edit();
     to.AddNew();
-    to.Put(Field::File, number);
+    QString number;
+    to.PutWhenWritten(Field::File, [&] { return number = NumberStillFree(p, to, known); });
     CopyFields(from, to);
     PersonTexts added = ReadPerson(p, way.To, NullForename::Empty);
     to.Update();
     // The cursor stays on the row before.
+    added.File = number;
     added.Whose.Record = to.LastModified();
     ShowStepped(p, way.To, added);
+    if (number != told)
+        TellAppended(p, way, number);
 }
 } // namespace
 

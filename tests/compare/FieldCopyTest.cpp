@@ -296,6 +296,36 @@ TEST_F(FieldCopyTest, ScannerThatRunsOnBehindTheBox_DoesntChangeWhatIsAppended)
     EXPECT_EQ(Stored(u'B', "Notes", "Z001"), u"first Notes"_s);
 }
 
+TEST_F(FieldCopyTest, NumberThatAnotherProgramHasGivenBehindTheBox_IsNotGivenAgain)
+{
+    GivenPair();
+    Prompts.Expect(u"Append Record to Database.",
+                   u"This Record will be Appended to the Compare\nDatabase as Z001 but will not be mapped into\n"
+                   u"the Ancestral Tree Display.",
+                   Buttons::Information, Answer::Ok,
+                   [&] { ChangeOutside(u'B', "INSERT INTO Tree99 (File, Notes) VALUES ('Z001', 'of another')"); });
+    ExpectAppended(u"Z002");
+    Append();
+    EXPECT_EQ(NumbersIn(u'B'), QStringList({u"B001"_s, u"Z001"_s, u"Z002"_s}));
+    EXPECT_EQ(Stored(u'B', "Notes", "Z001"), u"of another"_s);
+    EXPECT_EQ(Stored(u'B', "Notes", "Z002"), u"our Notes"_s);
+    EXPECT_EQ(ShownPair(), u"A001 Z002"_s);
+}
+
+TEST_F(FieldCopyTest, NumberThatAnotherProgramHasGivenBehindTheBox_IsNotGivenAgainInTheCurrentBranchEither)
+{
+    GivenPair();
+    ToCurrent();
+    Prompts.Expect(u"Append Compare Record to Current Database.",
+                   u"This Record will be Appended to the Current\nDatabase as Z001 but will not be mapped into\n"
+                   u"the Ancestral Tree Display.",
+                   Buttons::Information, Answer::Ok,
+                   [&] { ChangeOutside(u'A', "INSERT INTO Tree99 (File) VALUES ('Z001')"); });
+    ExpectAppendedToCurrent(u"Z002");
+    Append();
+    EXPECT_EQ(NumbersIn(u'A'), QStringList({u"A001"_s, u"Z001"_s, u"Z002"_s}));
+}
+
 TEST_F(FieldCopyTest, CopyThatTheDatabaseRefuses_LeavesNothingForTheNextSaving)
 {
     GivenPair();

@@ -1,4 +1,5 @@
 #include "FuzzHome.h"
+#include "forms/Form3.h"
 #include "platform/base/WholeLetters.h"
 #include "program/branch/WorkDatabase.h"
 #include "records/RecordClipboard.h"

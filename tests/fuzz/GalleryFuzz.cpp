@@ -1,10 +1,13 @@
 #include "FuzzHome.h"
+#include "forms/Form3.h"
+#include "forms/Form5.h"
 #include "gallery/AddFile.h"
 #include "gallery/DeleteFile.h"
 #include "gallery/GalleryFile.h"
 #include "gallery/GalleryItem.h"
 #include "gallery/GalleryPage.h"
 #include "gallery/Rearrange.h"
+#include "gallery/TileClick.h"
 #include "records/RecordPicture.h"
 
 #include <QFile>

@@ -1,4 +1,5 @@
 #include "FuzzHome.h"
+#include "forms/Form1.h"
 #include "map/subjects/MapClipboard.h"
 
 #include <cstring>

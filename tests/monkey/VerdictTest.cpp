@@ -125,9 +125,12 @@ TEST(VerdictTest, JournalTellsWhereAnExportWasToGo)
         Journal journal(home.Path(u"journal"), {{u"/tmp/x"_s, u"~"_s}});
         journal.Note(u"\"Export Directory and Files\": Database and files will be placed in\n/tmp/x/home/LfgDat_E\n"
                      u"directory. "_s);
+        journal.Note(u"\"Export Directory and Files\": Database and files will be placed in\n/tmp/x/home//LfgDat_G\n"
+                     u"directory. "_s);
     }
     const Story story(home.Path(u"journal"));
     EXPECT_TRUE(story.TellsOfExportTo(u"~/home/LfgDat_E"_s));
+    EXPECT_TRUE(story.TellsOfExportTo(u"~/home/LfgDat_G"_s));
     EXPECT_FALSE(story.TellsOfExportTo(u"~/home/LfgDat_F"_s));
     EXPECT_FALSE(story.TellsOfExportTo(u"~/home/LfgDat_"_s));
 }

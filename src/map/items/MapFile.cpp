@@ -127,7 +127,7 @@ void EmptyMapArrays(Program& p)
 void ForgetMap(Program& p)
 {
     EmptyMapArrays(p);
-    p.Map.Erase();
+    p.Map.EraseLists();
     p.Tools.ToolBookmark.reset();
 }
 

@@ -1,6 +1,7 @@
 #include "platform/canvas/TextMask.h"
 
 #include "platform/canvas/CanvasScale.h"
+#include "platform/drawing/Fonts.h"
 
 #include <QFontMetrics>
 #include <QImage>
@@ -123,7 +124,7 @@ const TextMask& TextMasks::Of(const TextFont& font, const QString& text)
 QFont ToPixelFont(const TextFont& font)
 {
     QFont result(font.Name);
-    result.setPixelSize(std::max(1, qRound(font.Size * twipsPerPoint / TwipsPerCanvasPixel)));
+    result.setPixelSize(LetterHeight(font, twipsPerPoint / TwipsPerCanvasPixel));
     result.setBold(font.Bold);
     result.setItalic(font.Italic);
     result.setStyleStrategy(QFont::NoAntialias);

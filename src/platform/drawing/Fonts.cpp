@@ -2,12 +2,15 @@
 
 #include <QTextLayout>
 
+#include <algorithm>
+
 namespace lineforge
 {
 
 namespace
 {
 constexpr int twipsAPoint = 20;
+constexpr double mostDots = 16'000; // the toolkit reckons the height of a line in 16 bits
 
 QStringList Broken(const QString& paragraph, const QFont& font, int width)
 {
@@ -27,10 +30,15 @@ QStringList Broken(const QString& paragraph, const QFont& font, int width)
 }
 } // namespace
 
+int LetterHeight(const TextFont& font, double dotsAPoint)
+{
+    return qRound(std::clamp(font.Size * dotsAPoint, 1.0, mostDots));
+}
+
 QFont FontInTwips(const TextFont& font)
 {
     QFont result(font.Name);
-    result.setPixelSize(std::max(1, qRound(font.Size * twipsAPoint)));
+    result.setPixelSize(LetterHeight(font, twipsAPoint));
     result.setBold(font.Bold);
     result.setItalic(font.Italic);
     result.setHintingPreference(QFont::PreferNoHinting);

@@ -8,6 +8,9 @@
 namespace lineforge
 {
 
+// In dots, of which a point has so many: one at least, and for sizes beyond all measure as many as can be painted with.
+int LetterHeight(const TextFont& font, double dotsAPoint);
+
 // The font for a painter that counts in twips.
 QFont FontInTwips(const TextFont& font);
 

@@ -132,10 +132,9 @@ struct MapState {
         LineChain.Erase();
     }
 
-    // Before another branch's map is read.
-    void Erase()
+    // What else stands of a branch's map.
+    void EraseLists()
     {
-        EraseArrays();
         Captions.clear();
         sBoxesText.clear();
         sLinesText.clear();

@@ -99,7 +99,7 @@ TEST_F(MapBadFileTest, FileCutOffAnywhere_EndsAsTheReaderMeetsIt)
         SCOPED_TRACE(length);
         givenMapFile(whole.first(length));
         const Tree before = Home.Snapshot();
-        P.Map.Erase();
+        ForgetMap(P);
         const bool endsInList =
             (length >= boxesBegin && length < boxesEnd) || (length >= linesBegin && length < linesEnd);
         if (length < boxesBegin)
@@ -122,7 +122,7 @@ TEST_F(MapBadFileTest, FileCutOffAnywhere_WhatIsLeftIsDrawn)
     for (qsizetype length = 9; length < boxes.size(); ++length) {
         SCOPED_TRACE(length);
         givenMapFile("[Boxes]" + boxes.first(length));
-        P.Map.Erase();
+        ForgetMap(P);
         Picture.Cls();
 
         EXPECT_EQ(RefusalOf([&] { ReadMapFile(P); }), ErrorNumber::InputPastEnd);

@@ -93,7 +93,7 @@ TEST_F(MapFileTest, OrdinaryBranch_IsWrittenWhereItIsRead)
     givenOpen(BranchA);
     givenLists();
     WriteMapFile(P);
-    P.Map.Erase();
+    P.Map.EraseLists();
 
     ReadMapFile(P);
 
@@ -170,7 +170,7 @@ TEST_F(MapFileTest, MapSpeltInAnotherCase_IsTheSameFile)
     EXPECT_EQ(Home.ReadFile(u"LfgDat_A/LfgDat_A.~cf"), oldMap);
     EXPECT_NE(Home.ReadFile(u"LfgDat_A/LFGDAT_A.CFG"), oldMap);
     EXPECT_FALSE(Home.Exists(u"LfgDat_A/LfgDat_A.cfg"));
-    P.Map.Erase();
+    P.Map.EraseLists();
     ReadMapFile(P);
     EXPECT_EQ(P.Map.sBoxesText, u"1200,600,255,A001,John,"_s);
 }
@@ -249,7 +249,7 @@ TEST_F(MapFileTest, MapOfAnotherBranch_IsLeftOutSilently)
 TEST_F(MapFileTest, MapOfNoBranch_IsLeftOutSilently)
 {
     givenOpen(BranchA);
-    P.Map.Erase();
+    P.Map.EraseLists();
     const Tree before = Home.Snapshot();
 
     SaveBoxes(P);
@@ -418,7 +418,7 @@ TEST_F(MapFileTest, RoundTrip_FreeBox_IsLeftOutAndLaterBoxesMoveUp)
     givenOpen(BranchA.Boxes(u"1200,600,255,A001,John,0,700,255,A002,Anne,2000,800,255,A003,Mary,"));
     OpenMap();
     SaveBoxes(P);
-    P.Map.Erase();
+    P.Map.EraseLists();
 
     OpenMap();
 
@@ -455,7 +455,7 @@ TEST_F(MapFileTest, MapWithoutTexts_WarnsAtTheNextOpening_AndStillOpens)
     P.Map.sTextsText = ListOfTexts(P.Map);
     SaveBoxes(P);
     EXPECT_TRUE(Home.ReadFile(u"LfgDat_A/LfgDat_A.cfg").endsWith("\r\n[Text]\r\n\r\n"));
-    P.Map.Erase();
+    P.Map.EraseLists();
     Picture.Cls();
     Prompts.Expect(u"Box Config File record corrupt", u"Config Text Record empty", Buttons::Information);
 
@@ -471,7 +471,7 @@ TEST_F(MapFileTest, BranchThatWasOpen_ClosedWithNothingOpen_WritesNoOtherBranch)
     givenOpen(BranchA.Boxes(u"1200,600,255,A001,John,"));
     OpenMap();
     P.Branch.WorkDir.clear();
-    P.Map.Erase();
+    P.Map.EraseLists();
     const Tree before = Home.Snapshot();
 
     SaveBoxes(P);

@@ -203,6 +203,18 @@ TEST_F(PictureBoxTest, LargerFont_PrintsLarger)
     EXPECT_NEAR(Picture.TextHeight(u"John"_s), 2 * height, 30);
 }
 
+TEST_F(PictureBoxTest, FontBeyondAllMeasure_IsAsLargeOrSmallAsFontsCanBe)
+{
+    const auto heightAt = [this](double size) {
+        Picture.Font.Size = size;
+        Picture.PrintAt({300, 200}, u"John"_s);
+        return Picture.TextHeight(u"John"_s);
+    };
+    EXPECT_GT(heightAt(2147483648.0), heightAt(1000));
+    EXPECT_EQ(heightAt(1e300), heightAt(2147483648.0));
+    EXPECT_EQ(heightAt(-2147483648.0), heightAt(0));
+}
+
 TEST_F(PictureBoxTest, TextOfNoCharacters_IsNothing_ButALine)
 {
     Picture.PrintAt({300, 200}, QString());
