@@ -13,7 +13,7 @@ namespace
 using namespace Qt::StringLiterals;
 
 // What a family whose children never end is followed to.
-constexpr int manyChildren = 10;
+constexpr int manyChildren = 2;
 
 // A run has put these lines before it has yielded so often: it yields once or twice after each, and after a birth that
 // puts none.

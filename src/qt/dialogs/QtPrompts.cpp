@@ -16,6 +16,7 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QStyle>
 #include <QWindow>
@@ -30,6 +31,13 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
+// What is pasted may have several, of which a file of lines would make lines of its own.
+QString InOneLine(QString text)
+{
+    static const QRegularExpression lineBreak(u"\\R"_s);
+    return text.replace(lineBreak, u" "_s);
+}
+
 constexpr auto ok = QMessageBox::Ok;
 constexpr auto cancel = QMessageBox::Cancel;
 constexpr auto retry = QMessageBox::Retry;
@@ -159,7 +167,7 @@ QString QtPrompts::InputBox(const QString& title, const QString& prompt)
     box.setLabelText(prompt);
     for (QLabel* label : box.findChildren<QLabel*>())
         label->setTextFormat(Qt::PlainText);
-    return Ask(box) == QDialog::Accepted ? box.textValue() : QString();
+    return Ask(box) == QDialog::Accepted ? InOneLine(box.textValue()) : QString();
 }
 
 std::optional<QString> QtPrompts::OpenFile(const FileQuestion& question)

@@ -155,6 +155,16 @@ TEST_F(PromptsTest, InputBoxGivesWhatWasEntered)
     EXPECT_EQ(Ask().InputBox(u"The title"_s, u"<i>Which</i> name?"_s), u" Smiths "_s);
 }
 
+TEST_F(PromptsTest, InputBoxGivesOneLine_WhateverWasPasted)
+{
+    const NextDialog next([](QDialog& dialog) {
+        auto& box = dynamic_cast<QInputDialog&>(dialog);
+        box.setTextValue(u"first\nsecond\r\nthird\u2028fourth"_s);
+        box.accept();
+    });
+    EXPECT_EQ(Ask().InputBox(u"t"_s, u"p"_s), u"first second third fourth"_s);
+}
+
 TEST_F(PromptsTest, InputBoxCancelledGivesNothing)
 {
     const NextDialog next([](QDialog& dialog) {
