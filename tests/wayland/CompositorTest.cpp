@@ -8,6 +8,7 @@
 #include <QProcess>
 #include <QScreen>
 #include <QTest>
+#include <QThread>
 #include <QWindow>
 
 #include <algorithm>
@@ -163,6 +164,53 @@ TEST_F(CompositorTest, EveryMenu_OpensAndCloses_WithoutPointerAndKeyboard)
         menu.close();
         ServeEvents();
     }
+}
+
+// Without a keyboard no window is ever told that it is in front.
+class KeyboardTest : public CompositorTest
+{
+protected:
+    static bool ComesToFront(const QWidget& view)
+    {
+        return QTest::qWaitFor([&view] { return view.isActiveWindow(); }, patience);
+    }
+
+    // Whether both come to stand on the screen, the one before the other.
+    bool ComesBefore(const Form& form, const Form& other)
+    {
+        return QTest::qWaitFor(
+            [&] {
+                const QString scene = Scene(); // from the topmost window to the lowest
+                const qsizetype upper = scene.indexOf(TitleInScene(form));
+                return upper >= 0 && scene.indexOf(TitleInScene(other)) > upper;
+            },
+            patience);
+    }
+
+    static void ServeNothingFor(int milliseconds) { QThread::msleep(static_cast<unsigned long>(milliseconds)); }
+
+private:
+    static QString Scene()
+    {
+        QProcess teller;
+        teller.start(u"weston-debug"_s, {u"scene-graph"_s});
+        if (!teller.waitForFinished() || teller.exitCode() != 0)
+            throw std::runtime_error("the compositor doesn't tell what is on its screen");
+        return QString::fromUtf8(teller.readAllStandardOutput());
+    }
+    QString TitleInScene(const Form& form) { return u"window '"_s + ViewOf(form).windowTitle() + u"' of"; }
+};
+
+// As on a machine that is slow: the other is still on its way when the one that is asked for is looked after.
+TEST_F(KeyboardTest, AWindowThatIsShownRightAfterAnother_ComesBeforeIt_HoweverLateThatArrives)
+{
+    OpenBranch(u"Smiths"_s);
+    ASSERT_TRUE(ComesToFront(ViewOf(*P.Form1)));
+    P.Form1->Command1.Click();
+    P.Form1->Show();
+    ServeNothingFor(200);
+    EXPECT_TRUE(ComesBefore(*P.Form1, *P.Form3));
+    EXPECT_TRUE(IsSeen(*P.Form1));
 }
 
 } // namespace

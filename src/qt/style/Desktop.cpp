@@ -46,15 +46,40 @@ QPointer<QWindow>& Wanted()
     return window;
 }
 
+// The window that has come to the screen last, until it knows that it is in front. What is in front before that, will
+// soon be behind it.
+QPointer<QWindow>& Arriving()
+{
+    static QPointer<QWindow> window;
+    return window;
+}
+
+void AwaitArrival(QWindow& window)
+{
+    Arriving() = &window;
+    const auto arrive = [&window] {
+        if (Arriving() == &window)
+            Arriving().clear();
+    };
+    QObject::connect(&window, &QWindow::activeChanged, &window, arrive, Qt::SingleShotConnection);
+}
+
+bool StaysInFront(const QWindow& window)
+{
+    const QWindow* arriving = Arriving();
+    return window.isActive() && (!arriving || arriving == &window || !arriving->isVisible());
+}
+
 // What comes to the screen anew stands before all others. A box keeps what it belongs to.
 void ShowAnewUnlessGranted(QWindow& window)
 {
     if (&window != Wanted() || QGuiApplication::modalWindow())
         return;
     Wanted().clear();
-    if (window.isActive() || !window.isVisible())
+    if (StaysInFront(window) || !window.isVisible())
         return;
     window.hide();
+    AwaitArrival(window);
     window.show();
 }
 } // namespace
@@ -90,6 +115,8 @@ void BringToFront(QWindow& window)
     Wanted() = &window;
     if (window.isExposed())
         QTimer::singleShot(patience, &window, [&window] { ShowAnewUnlessGranted(window); });
+    else
+        AwaitArrival(window);
 }
 
 } // namespace lineforge
