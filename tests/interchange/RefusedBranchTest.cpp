@@ -1,5 +1,5 @@
 #include "interchange/InterchangeTest.h"
-#include "map/tools/ToolMouse.h"
+#include "map/tools/MapMouse.h"
 #include "program/branch/SiblingBranch.h"
 #include "program/branch/WorkDatabase.h"
 #include "support/SqliteFile.h"

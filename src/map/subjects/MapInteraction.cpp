@@ -4,9 +4,7 @@
 #include "map/items/BoxCaptions.h"
 #include "map/items/CurrentBox.h"
 #include "map/items/HitBox.h"
-#include "map/items/MapDisplay.h"
 #include "map/items/MapFile.h"
-#include "map/items/PointerOnMap.h"
 #include "map/subjects/SubjectMapping.h"
 #include "map/subjects/SubjectPanel.h"
 #include "platform/base/Text.h"
@@ -174,11 +172,8 @@ void ShowPressedSubject(Program& p, const QString& file)
 }
 } // namespace
 
-void PressWithoutTools(Program& p, double x, double y)
+void AnswerPress(Program& p)
 {
-    const Point pointer = PointerOnMap(x, y);
-    p.Mouse.DownX = pointer.X;
-    p.Mouse.DownY = pointer.Y;
     if (p.Map.SBoxes == 0)
         return;
     p.Mouse.BoxMiss = 0;
@@ -186,12 +181,6 @@ void PressWithoutTools(Program& p, double x, double y)
         p.Form1->MMControl1.Command(u"Sound");
         p.Loop.DoEvents();
     }
-}
-
-void ReleaseWithoutTools(Program& p, double x, double y)
-{
-    if (p.Tools.MapCursorMode >= MapCursor::Normal && p.Tools.MapCursorMode <= MapCursor::Repositioning)
-        ShowCoordinates(p, x, y);
 }
 
 void DoubleClickOnMap(Program& p)

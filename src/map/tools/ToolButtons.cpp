@@ -2,8 +2,8 @@
 
 #include "forms/Form1.h"
 #include "forms/Form3.h"
+#include "map/tools/MapMouse.h"
 #include "map/tools/ToolImages.h"
-#include "map/tools/ToolMouse.h"
 #include "map/tools/ToolSelection.h"
 #include "program/branch/SiblingBranch.h"
 #include "program/ui/BranchUi.h"

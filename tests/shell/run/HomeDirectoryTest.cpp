@@ -1,4 +1,4 @@
-#include "map/tools/ToolMouse.h"
+#include "map/tools/MapMouse.h"
 #include "program/branch/SiblingBranch.h"
 #include "shell/ShellTest.h"
 

@@ -1,4 +1,4 @@
-#include "map/tools/ToolMouse.h"
+#include "map/tools/MapMouse.h"
 
 #include "map/items/MapDisplay.h"
 #include "map/items/PointerOnMap.h"
@@ -74,8 +74,6 @@ bool AreToolsOpen(const Program& p)
 
 void PressTool(Program& p, const Pointing& pointing)
 {
-    p.Mouse.DownX = pointing.At.X;
-    p.Mouse.DownY = pointing.At.Y;
     if (InHand(p).Press(p, pointing) == Pressed::Yes)
         p.Tools.ToolStep = -1;
 }
@@ -103,10 +101,13 @@ void PressMap(Program& p, int shift, double x, double y)
     if (AreToolsOpen(p) && TellIfNoBranch(p))
         return;
     p.Tools.IsPressed = true;
+    const Pointing pointing{PointerOnMap(x, y), shift};
+    p.Mouse.DownX = pointing.At.X;
+    p.Mouse.DownY = pointing.At.Y;
     if (AreToolsOpen(p))
-        PressTool(p, {PointerOnMap(x, y), shift});
+        PressTool(p, pointing);
     else
-        PressWithoutTools(p, x, y);
+        AnswerPress(p);
 }
 
 void MoveOverMap(Program& p, int buttons, int shift, double x, double y)
@@ -123,7 +124,8 @@ void MoveOverMap(Program& p, int buttons, int shift, double x, double y)
 // The second release of a double click comes without a press of its own and ends no gesture.
 void ReleaseMap(Program& p, double x, double y)
 {
-    ReleaseWithoutTools(p, x, y);
+    if (p.Tools.MapCursorMode != MapCursor::MovingSubject)
+        ShowCoordinates(p, x, y);
     FinishGesture(p);
 }
 
