@@ -14,7 +14,9 @@
 #include "map/tools/MapMouse.h"
 #include "map/tools/ToolButtons.h"
 #include "output/BookmarkList.h"
-#include "output/PrintBranch.h"
+#include "output/PrintCurrentRecord.h"
+#include "output/PrintMap.h"
+#include "output/PrintWindow.h"
 #include "output/TextReport.h"
 #include "program/ui/BranchUi.h"
 #include "records/RecordForm.h"
@@ -44,7 +46,7 @@ void InstallOutput(Program& p, forms::Form1& form)
 {
     form.mnuAddBkMark.Click = [&p] { AddBookmark(p); };
     form.mnuClrList.Click = [&p] { ClearBookmarks(p); };
-    form.mnuPrinterSetUp.Click = [&p] { SetUpPrinter(p); };
+    form.mnuPrinterSetUp.Click = [&p] { p.Prompts.PickPrinter(); };
     form.mnuPrint.Click = [&p] { PrintMap(p); };
     form.mnuPrintPage.Click = [&p] { PrintMainWindow(p); };
     form.mnuPrintRecord.Click = [&p] { PrintCurrentRecord(p); };

@@ -1,5 +1,5 @@
 #include "forms/Form2.h"
-#include "output/PrintBranch.h"
+#include "output/PrintWindow.h"
 #include "shell/handlers/InstallHandlers.h"
 
 namespace lineforge
@@ -7,7 +7,7 @@ namespace lineforge
 
 void InstallForm2(Program& p, forms::Form2& form)
 {
-    form.mnuPrSetup.Click = [&p] { SetUpPrinter(p); };
+    form.mnuPrSetup.Click = [&p] { p.Prompts.PickPrinter(); };
     form.mnuPrint.Click = [&p] { PrintFromPictureWindow(p); };
     form.Image1.Click = [&form] { form.Hide(); };
 }

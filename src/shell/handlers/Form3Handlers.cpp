@@ -1,7 +1,9 @@
 #include "forms/Form3.h"
 #include "map/subjects/SubjectPanel.h"
 #include "output/BookmarkList.h"
-#include "output/PrintBranch.h"
+#include "output/PrintCurrentRecord.h"
+#include "output/PrintDatabase.h"
+#include "output/PrintWindow.h"
 #include "records/AddRecord.h"
 #include "records/DeleteRecord.h"
 #include "records/RecordClipboard.h"
@@ -51,7 +53,7 @@ void InstallScanner(Program& p, forms::Form3& form)
 void InstallPrinting(Program& p, forms::Form3& form)
 {
     form.mnuAddPMark.Click = [&p] { AddBookmark(p); };
-    form.mnuPrintSetup.Click = [&p] { SetUpPrinter(p); };
+    form.mnuPrintSetup.Click = [&p] { p.Prompts.PickPrinter(); };
     form.mnuPrinForm.Click = [&p] { PrintRecordWindow(p); };
     form.mnuPrinRecord.Click = [&p] { PrintCurrentRecord(p); };
     form.mnuPrList.Click = [&p] { PrintBookmarks(p); };

@@ -4,7 +4,7 @@
 #include "gallery/GalleryItem.h"
 #include "gallery/GalleryPage.h"
 #include "gallery/TileClick.h"
-#include "output/PrintBranch.h"
+#include "output/PrintWindow.h"
 #include "shell/handlers/InstallHandlers.h"
 #include "shell/run/Exit.h"
 #include "shell/run/GalleryDoors.h"
@@ -24,7 +24,7 @@ void InstallMenus(Program& p, forms::Form5& form)
     form.mnuVid.Click = [&p] { AddGalleryFile(p, GalleryKind::Video); };
     form.mnuTxt.Click = [&p] { AddGalleryFile(p, GalleryKind::Text); };
     form.MnuDeleteFile.Click = [&p] { BeginDeletion(p); };
-    form.mnuPrintSetup.Click = [&p] { SetUpPrinter(p); };
+    form.mnuPrintSetup.Click = [&p] { p.Prompts.PickPrinter(); };
     form.mnuPrintpic.Click = [&p] { PrintGalleryWindow(p); };
     form.mnuHelp.Click = [&p] { ShowHelpContents(p); };
 }

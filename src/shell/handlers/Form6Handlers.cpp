@@ -3,7 +3,7 @@
 #include "compare/CompareSearch.h"
 #include "compare/FieldCopy.h"
 #include "forms/Form6.h"
-#include "output/PrintBranch.h"
+#include "output/PrintWindow.h"
 #include "shell/handlers/InstallHandlers.h"
 #include "shell/run/Help.h"
 

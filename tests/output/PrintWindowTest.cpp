@@ -245,56 +245,5 @@ TEST_F(PrintWindowTest, NoPrinter_PictureWindow_TellsItInWords_AndTheNextPrintWo
     ExpectWindowOnPaper();
 }
 
-class PrinterSetupTest : public OutputTest
-{
-};
-
-// Cancel or not, nothing is said afterwards.
-TEST_F(PrinterSetupTest, AllMenus_OpenTheDialog_AndSayNothing)
-{
-    GivenPeople(1);
-    for (const Event& menu : {P.Form1->mnuPrinterSetUp.Click, P.Form3->mnuPrintSetup.Click, P.Form2->mnuPrSetup.Click,
-                              P.Form5->mnuPrintSetup.Click}) {
-        Prompts.ExpectPrinterSetup();
-        menu();
-    }
-
-    EXPECT_EQ(Machine.Printer.Asked, 0);
-}
-
-TEST_F(PrinterSetupTest, WithoutABranch_TheDialogOpensToo)
-{
-    Prompts.ExpectPrinterSetup();
-
-    P.Form1->mnuPrinterSetUp.Click();
-}
-
-class DataBaseMenuTest : public OutputTest
-{
-};
-
-TEST_F(DataBaseMenuTest, NoBranch_IsTold)
-{
-    ExpectNoBranchBox();
-
-    P.Form1->mnuDataBase.Click();
-}
-
-TEST_F(DataBaseMenuTest, ClosedBranch_IsTold)
-{
-    GivenPeople(1);
-    P.Form1->mnuCloseDB.Click();
-    ExpectNoBranchBox();
-
-    P.Form1->mnuDataBase.Click();
-}
-
-TEST_F(DataBaseMenuTest, OpenBranch_SaysNothing)
-{
-    GivenPeople(1);
-
-    P.Form1->mnuDataBase.Click();
-}
-
 } // namespace
 } // namespace lineforge
