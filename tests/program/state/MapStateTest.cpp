@@ -61,7 +61,7 @@ INSTANTIATE_TEST_SUITE_P(
                     CellCase{"an empty text stored", Cell(u""_s), u"", 0, 0, ErrorNumber::TypeMismatch},
                     CellCase{"beyond 32 bits", Cell(u"3000000000"_s), u"3000000000", 0, 3e9, ErrorNumber::Overflow}));
 
-TEST(MapState, Erase_EmptiesArraysListsAndOwner_ButKeepsTheCounts)
+TEST(MapState, ErasedArraysAndLists_AreEmpty_AndWithoutOwner_ButKeepTheCounts)
 {
     MapState map;
     map.BoxArr[200][4] = u"John"_s;
@@ -74,7 +74,8 @@ TEST(MapState, Erase_EmptiesArraysListsAndOwner_ButKeepsTheCounts)
     map.sBoxesText = map.sLinesText = map.sTextsText = u"1,2,3,"_s;
     map.Owner = u"LfgDat_A"_s;
 
-    map.Erase();
+    map.EraseArrays();
+    map.EraseLists();
 
     EXPECT_EQ(map.BoxArr[200][4].Text(), QString());
     EXPECT_EQ(map.LineArr[200][4], 0);
@@ -91,7 +92,7 @@ TEST(MapState, ErasedCell_CountsAsZero_WhateverStoodInIt)
     MapState map;
     map.BoxArr[0][BoxColumn::X] = u"no number"_s;
 
-    map.Erase();
+    map.EraseArrays();
 
     EXPECT_TRUE(map.BoxArr[0][BoxColumn::X].IsZero());
 }
