@@ -1,6 +1,7 @@
 #include "monkey/Ledger.h"
 
 #include "monkey/Journal.h"
+#include "platform/files/FileIdentity.h"
 
 #include <QDirIterator>
 #include <QFile>
@@ -242,12 +243,22 @@ void Ledger::ConfirmBranch(const QString& directory)
     for (const QString& database : book_.keys())
         if (IsBelow(database, {path}))
             book_.remove(database);
+    givenUp_[path] = IdentityOf(path).File;
     Write(branchMark + tab + path);
+}
+
+// A directory that has taken the name of one that has gone is another branch.
+bool Ledger::IsGivenUp(const QString& database) const
+{
+    return std::ranges::any_of(givenUp_.asKeyValueRange(), [&](const auto& branch) {
+        return IsBelow(database, {branch.first}) && IdentityOf(branch.first).File == branch.second;
+    });
 }
 
 void Ledger::Committed(const QString& database)
 {
-    if (!IsDatabase(database) || !IsBelow(database, directories_))
+    // The texts of a branch that is given up are still stored when its window closes.
+    if (!IsDatabase(database) || !IsBelow(database, directories_) || IsGivenUp(database))
         return;
     isReading_ = true;
     const std::optional<Rows> rows = ReadRows(database);
@@ -280,6 +291,8 @@ void Ledger::Audit()
         else
             book_.remove(database);
     }
+    // What is still there stays.
+    givenUp_.clear();
     for (const QString& directory : directories_)
         for (const QString& database : DatabasesBelow(directory))
             if (!book_.contains(database))

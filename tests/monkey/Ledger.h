@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <optional>
+#include <sys/types.h>
 
 struct sqlite3;
 
@@ -55,6 +56,7 @@ private:
     static int Traced(unsigned event, void* context, void* statement, void* time);
     static int Committing(void* context);
     void Committed(const QString& database);
+    bool IsGivenUp(const QString& database) const;
     void Enter(const QString& database, const Rows& rows);
     void Write(const QString& line);
 
@@ -63,6 +65,7 @@ private:
     int file_;
     QMap<QString, Rows> book_;
     QMap<QString, Confirmed> confirmed_; // by database
+    QMap<QString, ino_t> givenUp_;       // branches, by directory
     bool isReading_ = false;
     QMap<const sqlite3*, long long> changes_;
 };

@@ -5,6 +5,8 @@
 #include "support/Printing.h"
 #include "support/SqliteFile.h"
 
+#include <QDir>
+
 #include <gtest/gtest.h>
 
 namespace lineforge::monkey
@@ -120,6 +122,28 @@ TEST_F(LedgerTest, ConfirmedBranch_MayGo)
     QFile::remove(Database());
     ledger->Audit();
     EXPECT_EQ(Findings(), QStringList());
+}
+
+TEST_F(LedgerTest, ConfirmedBranch_MayGo_WhateverIsStoredInItBefore)
+{
+    const auto ledger = Kept();
+    ledger->ConfirmBranch(home_.Path(u"LfgDat_A"));
+    Execute("UPDATE Tree99 SET Forename = 'Johnny' WHERE File = 'A001'");
+    QFile::remove(Database());
+    ledger->Audit();
+    EXPECT_EQ(Findings(), QStringList());
+}
+
+TEST_F(LedgerTest, BranchThatTakesTheNameOfAConfirmedOne_MayNotGo)
+{
+    const auto ledger = Kept();
+    ledger->ConfirmBranch(home_.Path(u"LfgDat_A"));
+    QDir(home_.Path(u"LfgDat_A")).rename(home_.Path(u"LfgDat_A"), home_.Path(u"gone"));
+    BranchBuilder(home_, u'A').Row({{u"File", u"A001"}}).Build();
+    Execute("UPDATE Tree99 SET Forename = 'Johnny' WHERE File = 'A001'");
+    QFile::remove(Database());
+    ledger->Audit();
+    EXPECT_EQ(Findings().size(), 1);
 }
 
 // A process that is killed leaves the file as it stands.
