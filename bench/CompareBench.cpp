@@ -153,7 +153,7 @@ void WhereSame10000(benchmark::State& state)
 void DoubleLoop2500(benchmark::State& state)
 {
     Program& p = ComparisonOf(2'500);
-    Recordset& current = Records(p);
+    Recordset& current = Records(p.Form3);
     Recordset& compare = CompareRecords(p);
     for (auto _ : state) {
         int found = 0;

@@ -35,7 +35,7 @@ void ShowFirstCurrentRecord(Program& p)
 void ShowCurrentAgain(Program& p)
 {
     // What has been typed on the record form meanwhile is seen here as well.
-    p.Errors.Ignoring([&] { StoreTyped(p); });
+    p.Errors.Ignoring([&] { StoreTyped(p.Form3); });
     if (IsOnShow(p, CurrentSide)) {
         ShowPerson(p, CurrentSide, ReadPerson(p, CurrentSide, NullForename::Empty));
     } else {
@@ -62,7 +62,7 @@ bool PointAtCompareDatabase(Program& p, const QString& path)
 void ShowFirstPair(Program& p, const QString& name)
 {
     p.Compare.sCompName = name;
-    Records(p).MoveFirst();
+    Records(p.Form3).MoveFirst();
     CompareRecords(p).MoveFirst();
     p.Scratch.ScanState = ComparePair::None;
     p.Compare.FieldStep = 1;
@@ -77,18 +77,18 @@ void ShowFirstPair(Program& p, const QString& name)
 
 bool TellIfComparesAlternate(Program& p)
 {
-    return TellIfAlternate(p, u"Compare Record Data not available"_s,
+    return TellIfAlternate(p.Branch, p.Prompts, u"Compare Record Data not available"_s,
                            u"Cannot compare this alternate Tree Branch Database record\n"
                            u"unless you de select this subject or change and open it's Tree Branch Database."_s);
 }
 
 void OpenComparison(Program& p)
 {
-    if (TellIfComparesAlternate(p) || TellIfNoBranch(p))
+    if (TellIfComparesAlternate(p) || TellIfNoBranch(p.Branch, p.Form3, p.Prompts))
         return;
-    if (Records(p).IsEmpty())
-        return TellNoRecords(p);
-    Records(p).MoveFirst();
+    if (Records(p.Form3).IsEmpty())
+        return TellNoRecords(p.Prompts);
+    Records(p.Form3).MoveFirst();
     ShowFirstCurrentRecord(p);
     p.Form1->Command5.Visible = true;
     p.Compare.ResetDone = 0;
@@ -109,7 +109,7 @@ void ReturnToComparison(Program& p)
 void LoadComparison(Program& p)
 {
     forms::Form6& form = *p.Form6;
-    FillScreen(p, form, 400);
+    FillScreen(form, p.Screen, p.Form3, 400);
     form.Label2.Caption = p.Branch.sBranchName;
     p.Scratch.ScanState = ComparePair::None;
     p.Compare.ZNumberTable.Erase();
@@ -133,8 +133,8 @@ void WithdrawCompareRequest(Program& p)
 void OpenCompareBranch(Program& p, const QString& name, const QString& entry)
 {
     WithdrawCompareRequest(p);
-    if (Records(p).IsEmpty())
-        return TellNoRecords(p);
+    if (Records(p.Form3).IsEmpty())
+        return TellNoRecords(p.Prompts);
     const QString directory = p.Branch.HomeDir + DirectoryName(entry);
     if (!PointAtCompareDatabase(p, DatabasePath(directory)))
         return;

@@ -73,11 +73,11 @@ void Search(Program& p)
 
 void Reset(Program& p)
 {
-    if (CompareRecords(p).IsEmpty() || Records(p).IsEmpty())
-        return TellNoRecords(p);
+    if (CompareRecords(p).IsEmpty() || Records(p.Form3).IsEmpty())
+        return TellNoRecords(p.Prompts);
     p.Compare.SearchEnded = 0;
     ShowSearchState(p, SearchState::Busy);
-    Records(p).MoveFirst();
+    Records(p.Form3).MoveFirst();
     CompareRecords(p).MoveFirst();
     p.Compare.ResetDone = 1;
     EmptyFields(p);

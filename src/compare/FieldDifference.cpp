@@ -77,7 +77,7 @@ WalkedPair WalkPair(Program& p)
     // The record form may have gone elsewhere since the press before.
     pair.IsOnShow = p.Compare.FieldStep > 1 && IsOnShow(p, CurrentSide) && IsOnShow(p, CompareSide);
     for (pair.Field = static_cast<std::size_t>(std::max(0, p.Compare.FieldStep - 1)); pair.Differs(); ++pair.Field) {
-        pair.Ours = Records(p).Text(ComparedFields[pair.Field].Field);
+        pair.Ours = Records(p.Form3).Text(ComparedFields[pair.Field].Field);
         pair.Theirs = CompareRecords(p).Text(ComparedFields[pair.Field].Field);
         if (!SameText(pair.Ours, pair.Theirs))
             break;
@@ -116,7 +116,7 @@ enum class NextPair { Stands, BeginsRound, Missing };
 // Each current record meets all compare records.
 NextPair MoveToNextPair(Program& p)
 {
-    Recordset& current = Records(p);
+    Recordset& current = Records(p.Form3);
     Recordset& compare = CompareRecords(p);
     compare.MoveNext();
     if (!compare.Eof())
@@ -129,7 +129,7 @@ NextPair MoveToNextPair(Program& p)
 // Whether one side has run out before anything is compared; shows which.
 bool ShowEndIfNoPair(Program& p)
 {
-    const bool isCurrent = Records(p).Eof();
+    const bool isCurrent = Records(p.Form3).Eof();
     if (!isCurrent && !CompareRecords(p).Eof())
         return false;
     if (isCurrent)
@@ -165,7 +165,7 @@ bool StopsAt(Program& p, const WalkedPair& pair)
 // Walks pair by pair, to a stop or to the end of a round, whose last pair is shown.
 NextPair WalkPairs(Program& p)
 {
-    Meanwhile meanwhile(p);
+    Meanwhile meanwhile(p.Loop);
     for (;;) {
         const WalkedPair pair = WalkPair(p);
         if (StopsAt(p, pair))

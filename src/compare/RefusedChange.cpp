@@ -27,7 +27,7 @@ void ChangeRecord(Program& p, const Side& side, const std::function<void(Records
 {
     const bool isOne = IsOneRecord(p);
     if (isOne)
-        StoreTyped(p);
+        StoreTyped(p.Form3);
     Recordset& record = side.Records(p);
     record.Edit();
     change(record);

@@ -18,7 +18,7 @@ namespace
 // From a pair whose fields have all been walked to the next. False, with a box, at the end.
 bool LeaveWalkedPair(Program& p)
 {
-    Recordset& current = Records(p);
+    Recordset& current = Records(p.Form3);
     Recordset& compare = CompareRecords(p);
     p.Scratch.ScanState = ComparePair::None;
     if (!compare.Eof())
@@ -43,7 +43,7 @@ bool LeaveWalkedPair(Program& p)
 bool FindInRest(Program& p, const KeyFields& keys, Meanwhile& meanwhile)
 {
     Recordset& compare = CompareRecords(p);
-    const QString wanted = KeyOf(Records(p), keys);
+    const QString wanted = KeyOf(Records(p.Form3), keys);
     for (; !compare.Eof(); compare.MoveNext()) {
         if (!wanted.isEmpty() && KeyOf(compare, keys) == wanted)
             return true;
@@ -56,7 +56,7 @@ bool FindInRest(Program& p, const KeyFields& keys, Meanwhile& meanwhile)
 // the walk of each through all would have met first.
 bool FindInFollowing(Program& p, const KeyFields& keys, Meanwhile& meanwhile)
 {
-    Recordset& current = Records(p);
+    Recordset& current = Records(p.Form3);
     Recordset& compare = CompareRecords(p);
     current.MoveNext();
     if (current.Eof())
@@ -75,10 +75,10 @@ bool FindInFollowing(Program& p, const KeyFields& keys, Meanwhile& meanwhile)
 
 bool FindPair(Program& p)
 {
-    if (Records(p).Eof())
+    if (Records(p.Form3).Eof())
         return false;
     const KeyFields keys = KeysOf(p.Compare.SearchMask);
-    Meanwhile meanwhile(p);
+    Meanwhile meanwhile(p.Loop);
     return FindInRest(p, keys, meanwhile) || FindInFollowing(p, keys, meanwhile);
 }
 } // namespace

@@ -132,7 +132,7 @@ void AddGalleryFile(Program& p, GalleryKind kind)
         return;
     // A file of nobody's would be found by no page.
     if (p.Gallery.PageRecord.isEmpty())
-        return TellNoRecords(p);
+        return TellNoRecords(p.Prompts);
     p.Files.ChDir(p.Gallery.PageDirectory);
     const QString key = GalleryKey(p);
     const std::optional<int> subscript = FreeSubscript(p, addition, key);

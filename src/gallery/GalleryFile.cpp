@@ -108,7 +108,7 @@ QString TilePicturePath(const QString& file, GalleryKind kind, const QString& ic
 
 QImage LoadTilePicture(Program& p, const QString& path)
 {
-    Meanwhile meanwhile(p);
+    Meanwhile meanwhile(p.Loop);
     return p.Thumbnails.Load(p.Files, path, DotsOfTile(p), [&meanwhile] { meanwhile.KeepPainted(); });
 }
 

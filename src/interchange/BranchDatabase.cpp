@@ -41,7 +41,7 @@ bool IsBranchDatabase(Program& p, const QString& path, const QString& notDatabas
 
 void CopyDirectory(Program& p, const QString& from, const QString& to)
 {
-    Meanwhile meanwhile(p);
+    Meanwhile meanwhile(p.Loop);
     CopyFiles(p.Files.Resolve(from), p.Files.Resolve(to), [&meanwhile] { meanwhile.KeepPainted(); });
 }
 

@@ -52,7 +52,7 @@ bool CopyBranch(Program& p, const QString& source, const QString& directory, con
     // the files, and ends behind the last.
     // Mended, a GEDCOM file after an export would name the picture that was shown.
     p.Record.sPicFile.clear();
-    if (!MakeDirectory(p, gallery))
+    if (!MakeDirectory(p.Files, gallery))
         return false;
     CopyDirectory(p, source + GalleryName(source.right(2).left(1)), gallery);
     return true;
@@ -61,7 +61,7 @@ bool CopyBranch(Program& p, const QString& source, const QString& directory, con
 // Into a directory that is made here.
 void PutBranch(Program& p, const QString& database, const QString& directory)
 {
-    if (!MakeDirectory(p, directory))
+    if (!MakeDirectory(p.Files, directory))
         return TellExists(p, directory + u" directory already exists.\nYou must first delete this Directory.");
     if (!Confirm(p, directory))
         return;
@@ -130,7 +130,7 @@ void ExportBranch(Program& p)
     try {
         PutBranch(p, database, directory);
     } catch (const RuntimeError& refusal) {
-        ReportError(p, refusal);
+        ReportError(p.Errors, p.Prompts, refusal);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "interchange/BranchImport.h"
 
+#include "forms/Form1.h"
 #include "forms/Form4.h"
 #include "interchange/BranchDatabase.h"
 #include "map/subjects/EnterBranch.h"
@@ -22,7 +23,7 @@ namespace
 QString ChooseDirectory(Program& p, const QString& letter)
 {
     const QString ordinary = u"LfgDat_"_s + letter;
-    if (!IsDirectoryListed(p, ordinary))
+    if (!IsDirectoryListed(p.Alias, ordinary))
         return ordinary;
     const QString imported = u"Import_"_s + letter;
     p.Prompts.MsgBox(u"Import database name in use"_s,
@@ -44,13 +45,13 @@ bool Confirm(Program& p, const QString& name, const QString& directory)
 bool MakeTarget(Program& p, const QString& directory)
 {
     try {
-        if (MakeDirectory(p, p.Branch.HomeDir + directory))
+        if (MakeDirectory(p.Files, p.Branch.HomeDir + directory))
             return true;
         p.Prompts.MsgBox(u"Error Setting New Directory"_s,
                          directory + u" directory already exists. Must first delete this Database.",
                          Buttons::Information);
     } catch (const RuntimeError& refusal) {
-        ReportError(p, refusal);
+        ReportError(p.Errors, p.Prompts, refusal);
     }
     return false;
 }
@@ -75,7 +76,7 @@ void OpenImported(Program& p, const QString& name, const QString& directory)
         return LeaveToolsIfOpen(p);
     if (EmptySubjectIfNoRecords(p))
         return;
-    EnableBranchUI(p);
+    EnableBranchUI(*p.Form1);
     ShowFirstSubject(p);
 }
 } // namespace
@@ -92,7 +93,7 @@ void ImportBranch(Program& p)
     p.Files.ChDir(p.Branch.HomeDir);
 
     const QString directory = ChooseDirectory(p, letter);
-    const QString name = AskBranchName(p, u"Imported Tree Branch alternate name"_s,
+    const QString name = AskBranchName(p.Alias, p.Prompts, u"Imported Tree Branch alternate name"_s,
                                        u"Enter alternate user friendly name for this imported Tree Branch Map."_s);
     if (name.isEmpty() || !Confirm(p, name, directory))
         return;

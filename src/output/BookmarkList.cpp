@@ -67,7 +67,7 @@ bool PutOutRecordOfSibling(Program& p, const QString& entry, Pairs& pairs)
     }
     const auto goBack = qScopeGuard([&p] { p.Errors.Ignoring([&p] { ReturnFromSibling(p); }); });
     bool isThere = false;
-    p.Errors.Ignoring([&] { isThere = Records(p).Seek(Field::File, entry); });
+    p.Errors.Ignoring([&] { isThere = Records(p.Form3).Seek(Field::File, entry); });
     if (isThere)
         PutOutRecord(p, pairs);
     return true;
@@ -75,12 +75,12 @@ bool PutOutRecordOfSibling(Program& p, const QString& entry, Pairs& pairs)
 
 void PutOutEntries(Program& p, Pairs& pairs)
 {
-    Meanwhile meanwhile(p);
+    Meanwhile meanwhile(p.Loop);
     // Letters that aren't gone to again: a damaged database of an older installation is asked about once.
     QString passedOver = BranchLetter(p.Branch.WorkDir);
     for (int entry = 0; entry <= BookmarkState::Last && !p.Bookmarks.BookmarkList[entry].isEmpty(); ++entry) {
         const QString file = p.Bookmarks.BookmarkList[entry];
-        if (Records(p).Seek(Field::File, file))
+        if (Records(p.Form3).Seek(Field::File, file))
             PutOutRecord(p, pairs);
         else if (!passedOver.contains(file.left(1), Qt::CaseInsensitive) && !PutOutRecordOfSibling(p, file, pairs))
             passedOver += file.left(1);
@@ -91,9 +91,9 @@ void PutOutEntries(Program& p, Pairs& pairs)
 
 void AddBookmark(Program& p)
 {
-    if (TellIfNoBranch(p) || !Records(p).HasRow())
+    if (TellIfNoBranch(p.Branch, p.Form3, p.Prompts) || !Records(p.Form3).HasRow())
         return;
-    p.Bookmarks.BookmarkList[p.Bookmarks.BookmarkCount] = Records(p).Text(Field::File);
+    p.Bookmarks.BookmarkList[p.Bookmarks.BookmarkCount] = Records(p.Form3).Text(Field::File);
     p.Bookmarks.BookmarkCount += 1;
 }
 
@@ -115,14 +115,14 @@ void PutOutBookmarks(Program& p)
     else
         pairs.Finish();
     p.Output.OutputMode = OutputMode::None;
-    Records(p).MoveFirst();
+    Records(p.Form3).MoveFirst();
 }
 
 void PrintBookmarks(Program& p)
 {
-    if (TellIfNoBranch(p))
+    if (TellIfNoBranch(p.Branch, p.Form3, p.Prompts))
         return;
-    ComeBackAfterwards(p, [&] { ReportingErrors(p, [&] { PutOutBookmarks(p); }); });
+    ComeBackAfterwards(p.Branch, p.Record, p.Form3, [&] { ReportingErrors(p, [&] { PutOutBookmarks(p); }); });
     // After a refusal; the list is still there then.
     p.Printer.Abort();
     p.Output.OutputMode = OutputMode::None;

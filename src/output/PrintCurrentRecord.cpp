@@ -9,7 +9,7 @@ namespace lineforge
 
 void PrintCurrentRecord(Program& p)
 {
-    if (TellIfNoBranch(p))
+    if (TellIfNoBranch(p.Branch, p.Form3, p.Prompts))
         return;
     p.Output.OutputMode = OutputMode::SingleToPrinter;
     ReportingErrors(p, [&] { PrintRecord(p); });

@@ -16,8 +16,8 @@ namespace
 // Two records to a page; a page is begun only for records that follow.
 void PrintAllRecords(Program& p)
 {
-    Meanwhile meanwhile(p);
-    Recordset& records = Records(p);
+    Meanwhile meanwhile(p.Loop);
+    Recordset& records = Records(p.Form3);
     records.MoveFirst();
     while (!records.Eof()) {
         PrintRecord(p);
@@ -37,7 +37,7 @@ void PrintDatabase(Program& p)
     p.Output.OutputMode = OutputMode::None;
     ReportingErrors(p, [&] { PrintAllRecords(p); });
     ReportingErrors(p, [&] { p.Printer.EndDoc(); });
-    ReportingErrors(p, [&] { Records(p).MoveFirst(); });
+    ReportingErrors(p, [&] { Records(p.Form3).MoveFirst(); });
 }
 
 } // namespace lineforge

@@ -14,7 +14,7 @@ void ReportingErrors(Program& p, Statement&& statement)
     try {
         std::forward<Statement>(statement)();
     } catch (const RuntimeError& error) {
-        ReportError(p, error);
+        ReportError(p.Errors, p.Prompts, error);
     }
 }
 

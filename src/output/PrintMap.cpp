@@ -32,7 +32,7 @@ void DrawOnPaper(Program& p)
 
 void PrintMap(Program& p)
 {
-    if (TellIfNoBranch(p))
+    if (TellIfNoBranch(p.Branch, p.Form3, p.Prompts))
         return;
     p.Screen.Pointer = MousePointer::Hourglass;
     p.Output.PrintToPrinter = 1;

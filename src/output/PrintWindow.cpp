@@ -30,7 +30,7 @@ bool PrintWindow(Program& p, const Form& form)
 void PrintOrReport(Program& p, const Form& form)
 {
     if (!PrintWindow(p, form))
-        ReportError(p);
+        ReportError(p.Errors, p.Prompts);
 }
 
 void PrintOrTell(Program& p, const Form& form)

@@ -133,7 +133,7 @@ void PrintOrigin(Printer& printer, const Recordset& record)
 
 void WriteRecordToFile(Program& p)
 {
-    const Recordset& record = Records(p);
+    const Recordset& record = Records(p.Form3);
     if (record.Eof())
         return;
     TextWriter& file = *p.Output.TextFile;
@@ -152,7 +152,7 @@ void WriteRecordToFile(Program& p)
 
 void PrintRecord(Program& p)
 {
-    Recordset& record = Records(p);
+    Recordset& record = Records(p.Form3);
     if (record.Eof())
         return;
     Printer& printer = p.Printer;
@@ -178,7 +178,7 @@ void PrintRecord(Program& p)
 
 QString RecordAsText(Program& p)
 {
-    const Recordset& record = Records(p);
+    const Recordset& record = Records(p.Form3);
     QString text = u"           Data Ref:      "_s + p.Form3->Label25.Caption.value() + u'\n';
     for (const ClipboardLine& line : clipboardLines) {
         const QString value = record.Text(line.Field);

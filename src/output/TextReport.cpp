@@ -35,9 +35,9 @@ constexpr TextReport bookmarks{u"The Bookmark list will be copied Text File loca
 
 void WriteReport(Program& p, const TextReport& report, const QString& stem)
 {
-    if (TellIfNoBranch(p))
+    if (TellIfNoBranch(p.Branch, p.Form3, p.Prompts))
         return;
-    ComeBackAfterwards(p, [&] {
+    ComeBackAfterwards(p.Branch, p.Record, p.Form3, [&] {
         // Where the user gives up, the old file stays.
         const auto closed = qScopeGuard([&p] {
             p.Output.TextFile.reset();
@@ -68,8 +68,8 @@ void WriteAllRecords(Program& p)
 {
     if (p.Branch.IsSiblingShown())
         ReturnFromSibling(p);
-    Meanwhile meanwhile(p);
-    Recordset& records = Records(p);
+    Meanwhile meanwhile(p.Loop);
+    Recordset& records = Records(p.Form3);
     for (records.MoveFirst(); !records.Eof(); records.MoveNext()) {
         if (p.Output.OutputMode == OutputMode::DatabaseToFile)
             WriteRecordToFile(p);

@@ -27,15 +27,15 @@ QString NumberAfter(const QString& last)
 // There is no last row to number on from.
 bool IsTableEmpty(Program& p)
 {
-    if (!Records(p).IsEmpty())
+    if (!Records(p.Form3).IsEmpty())
         return false;
-    TellNoRecords(p);
+    TellNoRecords(p.Prompts);
     return true;
 }
 
 QString AppendRow(Program& p)
 {
-    Recordset& records = Records(p);
+    Recordset& records = Records(p.Form3);
     records.MoveLast();
     p.Record.SavedBookmark = records.GetBookmark();
     QString file;
@@ -54,7 +54,7 @@ QString AppendRow(Program& p)
 
 void AddRecord(Program& p)
 {
-    if (TellIfAlternate(p, u"Addition of Subject Records"_s,
+    if (TellIfAlternate(p.Branch, p.Prompts, u"Addition of Subject Records"_s,
                         u"This Record is from another Tree Branch. You must open\n"
                         u" that Tree Branch first to Add a new unmapped record. "_s))
         return;
@@ -72,11 +72,11 @@ void AddRecord(Program& p)
 
 void ChangeSubjectPicture(Program& p)
 {
-    if (TellIfAlternate(p, u"Change to Subject Picture."_s,
+    if (TellIfAlternate(p.Branch, p.Prompts, u"Change to Subject Picture."_s,
                         u"This Record is from another Tree Branch. You must \n"
                         u"open that Tree Branch to change the Subject Picture. "_s))
         return;
-    const Bookmark asked = Records(p).HasRow() ? Records(p).GetBookmark() : Bookmark();
+    const Bookmark asked = Records(p.Form3).HasRow() ? Records(p.Form3).GetBookmark() : Bookmark();
     const Answer change = p.Prompts.MsgBox(u"Subject Picture Change."_s, u"Change or add the Subject Picture ?"_s,
                                            Buttons::QuestionOkCancel);
     if (change != Answer::Ok || !asked)
@@ -86,7 +86,7 @@ void ChangeSubjectPicture(Program& p)
     if (!chosen)
         return;
     p.Errors.Ignoring([&] {
-        StandOn(p, asked);
+        StandOn(Records(p.Form3), asked);
         const QString picture = SubjectPictureFile(p.Branch.WorkDir, p.Form3->Label25.Caption);
         p.Files.FileCopy(*chosen, picture);
         PutRecordPicture(p, p.Pictures.Load(p.Files, picture));

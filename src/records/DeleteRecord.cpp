@@ -57,13 +57,13 @@ void KillFiles(Program& p, const QString& file)
 
 void Unlink(Program& p)
 {
-    const QString file = Records(p).Text(Field::File);
-    p.Record.sAltName = Records(p).Text(Field::Forename);
+    const QString file = Records(p.Form3).Text(Field::File);
+    p.Record.sAltName = Records(p.Form3).Text(Field::Forename);
     OpenOwnBranch(p);
     EraseSiblingsBox(p, file);
     SaveBoxes(p);
-    EndAlternate(p);
-    Records(p).MoveFirst();
+    EndAlternate(p.Branch, p.Form3);
+    Records(p.Form3).MoveFirst();
 }
 
 // Takes the record out of the table, and then out of its box. False when the table refuses.
@@ -72,7 +72,7 @@ bool TakeOut(Program& p)
     std::optional<int> row;
     p.Errors.Ignoring([&] { row = RowToErase(p); });
     try {
-        Records(p).Delete();
+        Records(p.Form3).Delete();
     } catch (const RuntimeError& error) {
         p.Errors.Last = error;
         return false;
@@ -86,13 +86,13 @@ bool TakeOut(Program& p)
 // stays pending with it.
 void DeleteWithFiles(Program& p)
 {
-    const QString file = Records(p).Text(Field::File);
+    const QString file = Records(p.Form3).Text(Field::File);
     if (!TakeOut(p))
         return;
     if (!file.isEmpty())
         KillFiles(p, file);
-    p.Errors.Ignoring([&] { Records(p).MoveFirst(); });
-    p.Errors.Ignoring([&] { Records(p).Update(); });
+    p.Errors.Ignoring([&] { Records(p.Form3).MoveFirst(); });
+    p.Errors.Ignoring([&] { Records(p.Form3).Update(); });
     p.Errors.Ignoring([&] { SaveBoxes(p); });
 }
 } // namespace
@@ -100,19 +100,19 @@ void DeleteWithFiles(Program& p)
 void DeleteRecord(Program& p)
 {
     if (p.Tools.MapCursorMode == MapCursor::Mapping)
-        ClearMapCursor(p);
-    if (!Records(p).HasRow())
+        ClearMapCursor(p.Tools, p.Screen);
+    if (!Records(p.Form3).HasRow())
         return;
-    const Bookmark asked = Records(p).GetBookmark();
+    const Bookmark asked = Records(p.Form3).GetBookmark();
     if (p.Branch.IsSiblingShown()) {
         if (!ConfirmUnlinking(p))
             return;
-        StandOn(p, asked);
+        StandOn(Records(p.Form3), asked);
         Unlink(p);
     } else {
         if (!ConfirmDeletion(p))
             return;
-        StandOn(p, asked);
+        StandOn(Records(p.Form3), asked);
         DeleteWithFiles(p);
     }
     p.Errors.Ignoring([&] { ShowRecordPicture(p); });

@@ -53,7 +53,7 @@ void PasteOverSelection(Program& p)
 
 void CopyRecord(Program& p)
 {
-    if (!Records(p).HasRow())
+    if (!Records(p.Form3).HasRow())
         return;
     p.Record.ClipSource = 0;
     p.Record.sClipText = RecordAsText(p);

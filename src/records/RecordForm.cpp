@@ -27,26 +27,27 @@ namespace
 {
 void RenameBoxOfRecord(Program& p, const QString& forename)
 {
-    if (const int row = RowOfRecord(p.Map, Records(p).Value(Field::File)); row <= LastFiledBox)
+    if (const int row = RowOfRecord(p.Map, Records(p.Form3).Value(Field::File)); row <= LastFiledBox)
         RenameBox(p, row, forename);
 }
 
 // A record without a box would be printed wherever the last one was, in somebody else's box maybe.
 void CaptionBoxOfRecord(Program& p)
 {
-    const int row = RowOfRecord(p.Map, Records(p).Value(Field::File));
+    const int row = RowOfRecord(p.Map, Records(p.Form3).Value(Field::File));
     if (row > LastFiledBox)
         return;
     TakeBoxPosition(p, row);
     DrawRecordInBox(p);
-    RenameBox(p, row, Records(p).Text(Field::Forename));
+    RenameBox(p, row, Records(p.Form3).Text(Field::Forename));
 }
 
 // What is being drawn with the tools is saved when they are closed, or not at all.
 QString ListOfBoxesToSave(Program& p)
 {
-    return AreToolsShown(p) ? ListWithForename(p.Map.sBoxesText, Records(p).Text(Field::File), p.Form3->Text3.Text)
-                            : ListOfBoxes(p.Map);
+    return AreToolsShown(p)
+               ? ListWithForename(p.Map.sBoxesText, Records(p.Form3).Text(Field::File), p.Form3->Text3.Text)
+               : ListOfBoxes(p.Map);
 }
 
 // A forename changed only in its letters' case counts as unchanged.
@@ -74,10 +75,10 @@ void FinishMapping(Program& p)
 {
     if (p.Tools.MapCursorMode != MapCursor::Mapping)
         return;
-    p.Errors.Ignoring([&] { Records(p).Put(Field::Forename, p.Form3->Text3.Text.value()); });
-    p.Errors.Ignoring([&] { KeepPosition(p); });
-    p.Errors.Ignoring([&] { Records(p).Update(); });
-    p.Errors.Ignoring([&] { ComeBack(p); });
+    p.Errors.Ignoring([&] { Records(p.Form3).Put(Field::Forename, p.Form3->Text3.Text.value()); });
+    p.Errors.Ignoring([&] { KeepPosition(p.Record, Records(p.Form3)); });
+    p.Errors.Ignoring([&] { Records(p.Form3).Update(); });
+    p.Errors.Ignoring([&] { ComeBack(p.Record, p.Form3); });
     p.Errors.Ignoring([&] { CaptionBoxOfRecord(p); });
     p.Tools.MapCursorMode = MapCursor::Normal;
 }
@@ -86,12 +87,12 @@ void KeepGender(Program& p)
 {
     const QString typed = p.Form3->Text23.Text;
     bool isChanged = false;
-    p.Errors.Ignoring([&] { isChanged = !SameText(Records(p).Text(Field::Gender), typed); });
+    p.Errors.Ignoring([&] { isChanged = !SameText(Records(p.Form3).Text(Field::Gender), typed); });
     if (!isChanged)
         return;
-    p.Errors.Ignoring([&] { Records(p).Edit(); });
-    p.Errors.Ignoring([&] { Records(p).Put(Field::Gender, typed); });
-    p.Errors.Ignoring([&] { Records(p).Update(); });
+    p.Errors.Ignoring([&] { Records(p.Form3).Edit(); });
+    p.Errors.Ignoring([&] { Records(p.Form3).Put(Field::Gender, typed); });
+    p.Errors.Ignoring([&] { Records(p.Form3).Update(); });
     p.Errors.Ignoring([&] { MarkCurrentBox(p); });
 }
 } // namespace
@@ -105,20 +106,20 @@ void LoadRecordForm(Program& p)
     form.Caption = p.Form8->List1.Text() + u" Ancestral Records.";
     // A backup makes the form anew on whatever record is shown.
     if (p.Branch.IsSiblingShown())
-        DisableTransport(p);
+        DisableTransport(*p.Form3);
 }
 
 void ShowRecordForm(Program& p)
 {
     LeaveToolsAtDoor(p);
-    if (TellIfNoBranch(p))
+    if (TellIfNoBranch(p.Branch, p.Form3, p.Prompts))
         return;
-    SetPictureName(p);
+    SetPictureName(p.Record, *p.Form3);
     forms::Form3& form = *p.Form3;
     ShowNamedPicture(p);
     p.Record.sShownName = form.Text3.Text;
     form.Show();
-    ClearMapCursor(p);
+    ClearMapCursor(p.Tools, p.Screen);
     p.Screen.Pointer = MousePointer::Default;
 }
 
@@ -149,7 +150,7 @@ void ReturnToTree(Program& p)
 void EnlargeSubjectPicture(Program& p)
 {
     const forms::Form3& record = *p.Form3;
-    SetPictureName(p);
+    SetPictureName(p.Record, *p.Form3);
     p.Form2->Caption =
         record.Label25.Caption.value() + u"     " + record.Text3.Text.value() + u"  " + record.Text2.Text.value();
     try {
@@ -166,13 +167,13 @@ void EnlargeSubjectPicture(Program& p)
 
 void OpenRecordMenu(Program& p)
 {
-    ClearMapCursor(p);
+    ClearMapCursor(p.Tools, p.Screen);
     p.Form3->Data1.Enabled = false;
 }
 
 void OpenSearchMenu(Program& p)
 {
-    if (!TellIfAlternate(p, u"Search Alternate Tree Branch Records."_s,
+    if (!TellIfAlternate(p.Branch, p.Prompts, u"Search Alternate Tree Branch Records."_s,
                          u"This Record is from another Tree Branch. You must open \n"
                          u"that Tree Branch to Search the Records of the Database. "_s))
         OpenRecordMenu(p);

@@ -111,7 +111,7 @@ Step MoveOn(Recordset& records, bool forward)
 Step MoveOnOrHalt(Program& p, ScanMode mode)
 {
     try {
-        return MoveOn(Records(p), IsForward(mode));
+        return MoveOn(Records(p.Form3), IsForward(mode));
     } catch (const RuntimeError& refusal) {
         if (refusal.IsTold) {
             p.Record.RecordScanMode = static_cast<int>(ScanMode::Stopped);

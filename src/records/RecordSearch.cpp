@@ -52,8 +52,8 @@ void TellNoMatch(Program& p, const QString& text)
 // From the current record on; false at the end.
 bool WalkToMatch(Program& p, const std::vector<int>& columns, const LikePattern& pattern)
 {
-    Recordset& records = Records(p);
-    Meanwhile meanwhile(p);
+    Recordset& records = Records(p.Form3);
+    Meanwhile meanwhile(p.Loop);
     const auto matches = [&](int column) { return records.IsLike(column, pattern); };
     while (!records.Eof() && !std::ranges::any_of(columns, matches)) {
         records.MoveNext();
@@ -87,9 +87,9 @@ void Run(Program& p, const PatternSearch& search)
     const LikePattern compiled(pattern);
     std::vector<int> columns;
     for (const QStringView field : search.Fields)
-        columns.push_back(Records(p).Column(field));
+        columns.push_back(Records(p.Form3).Column(field));
 
-    Records(p).MoveFirst();
+    Records(p.Form3).MoveFirst();
     for (;;) {
         p.Record.sCurFile = pattern;
         if (!WalkToMatch(p, columns, compiled)) {
@@ -99,7 +99,7 @@ void Run(Program& p, const PatternSearch& search)
         }
         if (!ShowHit(p, search.Shown))
             return;
-        Records(p).MoveNext();
+        Records(p.Form3).MoveNext();
     }
 }
 } // namespace
@@ -110,7 +110,7 @@ void SearchByDataRef(Program& p)
     if (answer.isEmpty())
         return;
     p.Record.sCurFile = answer;
-    if (Records(p).Seek(Field::File, answer))
+    if (Records(p.Form3).Seek(Field::File, answer))
         ShowPictureOfHit(p);
     else
         TellNoMatch(p, u"No Match Found for Data Ref: "_s + answer);
@@ -142,7 +142,7 @@ void SearchByWord(Program& p)
 
 void ShowFirstRecord(Program& p)
 {
-    Records(p).MoveFirst();
+    Records(p.Form3).MoveFirst();
     p.Form3->Data1.Enabled = true;
     ShowPictureOfHit(p);
 }

@@ -65,8 +65,8 @@ struct Source {
 std::optional<Source> ReadSource(Program& p, const Bookmark& asked)
 {
     try {
-        StandOn(p, asked);
-        const Recordset& records = Records(p);
+        StandOn(Records(p.Form3), asked);
+        const Recordset& records = Records(p.Form3);
         Source source{records.Text(Field::File), {}};
         for (std::size_t at = 0; at < CopyFieldList.size(); ++at)
             source.Texts[at] = records.Text(CopyFieldList[at]);
@@ -156,7 +156,7 @@ bool CopyPicture(Program& p, const QString& source, const QString& destination)
 // False, and a box that names that number, when there is no such record.
 bool FindDestination(Program& p, const QString& file, const QString& told)
 {
-    if (Records(p).Seek(Field::File, file))
+    if (Records(p.Form3).Seek(Field::File, file))
         return true;
     PutRecordPicture(p, QImage());
     p.Prompts.MsgBox(u"Database Result"_s, u"No Match Found for Data Ref: "_s + told, Buttons::Information);
@@ -165,7 +165,7 @@ bool FindDestination(Program& p, const QString& file, const QString& told)
 
 void WriteFields(Program& p, const FieldTexts& texts)
 {
-    Recordset& records = Records(p);
+    Recordset& records = Records(p.Form3);
     records.Edit();
     for (std::size_t at = 0; at < CopyFieldList.size(); ++at)
         records.Put(CopyFieldList[at], texts[at]);
@@ -178,23 +178,23 @@ void ShowOverwritten(Program& p)
     FillSubjectLabels(p);
     FitForename(p);
     if (const int row = p.Scratch.IdxA; row <= LastFiledBox)
-        RenameBox(p, row, Records(p).Text(Field::Forename));
+        RenameBox(p, row, Records(p.Form3).Text(Field::Forename));
     MarkCurrentBox(p);
 }
 } // namespace
 
 void TransferRecord(Program& p)
 {
-    if (TellIfAlternate(p, u"Search Alternate Tree Branch Records."_s,
+    if (TellIfAlternate(p.Branch, p.Prompts, u"Search Alternate Tree Branch Records."_s,
                         u"This Record is from another Tree Branch. You must open \n"
                         u"that Tree Branch to Transfer this Record."_s))
         return;
     p.Errors.Clear();
-    p.Errors.Ignoring([&] { Records(p).Update(); });
+    p.Errors.Ignoring([&] { Records(p.Form3).Update(); });
     // Who has been told that a text isn't stored wants to see to it.
-    if ((p.Errors.Last && p.Errors.Last->IsTold) || !Records(p).HasRow())
+    if ((p.Errors.Last && p.Errors.Last->IsTold) || !Records(p.Form3).HasRow())
         return;
-    const Bookmark asked = Records(p).GetBookmark();
+    const Bookmark asked = Records(p.Form3).GetBookmark();
     const QString destination = AskDestination(p);
     if (destination.isEmpty())
         return;
@@ -211,7 +211,7 @@ void TransferRecord(Program& p)
         isOpen = OpenBranchOf(p, letter);
         if (isOpen) {
             ShowItsMap(p);
-            if (Records(p).IsEmpty())
+            if (Records(p.Form3).IsEmpty())
                 return;
         }
     }

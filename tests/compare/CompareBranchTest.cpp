@@ -25,12 +25,12 @@ protected:
 TEST_F(CompareBranchTest, Command_BeginsWithTheFirstRecord_WhereverTheFormStood)
 {
     GivenOpenBranch();
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
     P.Compare.ResetDone = 1;
     P.Compare.sCompField = u"Notes"_s;
     EXPECT_FALSE(P.Form1->Command5.Visible);
     Compare();
-    EXPECT_EQ(NumberAt(Records(P)), u"A001"_s);
+    EXPECT_EQ(NumberAt(Records(P.Form3)), u"A001"_s);
     EXPECT_EQ(P.Form6->Label4.Caption.value(), u"A001"_s);
     EXPECT_EQ(PersonOn(P.Form6->Image1), u"A001"_s);
     EXPECT_EQ(P.Form6->Text1.Text.value(), u"Smith"_s);
@@ -204,7 +204,7 @@ TEST_F(CompareBranchTest, ChosenBranch_IsOpenedBesideTheOpenOne_AndTheFirstPairS
 {
     GivenOpenBranch();
     Compare();
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
     P.Compare.ResetDone = 1;
     P.Compare.FieldStep = 9;
     P.Scratch.ScanState = 2;
@@ -301,9 +301,9 @@ TEST_F(CompareBranchTest, NullForenameOfTheFirstPair_EndsTheProgram_OverThePairT
     GivenOpenBranch();
     Compare();
     ChooseCompare(u"Jones");
-    Records(P).Edit();
-    Records(P).Put(u"Forename", std::nullopt);
-    Records(P).Update();
+    Records(P.Form3).Edit();
+    Records(P.Form3).Put(u"Forename", std::nullopt);
+    Records(P.Form3).Update();
     const QString text = u"Run-time error '94':\n\nInvalid use of Null\n\n"
                          u"This field has never been filled in:\nForename\nRecord A001\n"_s +
                          Home.Path(u"LfgDat_A");
@@ -405,9 +405,9 @@ TEST_F(CompareBranchTest, SameBranch_IsAccepted_AndAnEditOnOneSideIsSeenOnTheOth
     Compare();
     ChooseCompare(u"Smiths");
     EXPECT_EQ(ShownPair(), u"A001 A001"_s);
-    Records(P).Edit();
-    Records(P).Put(u"Surname", u"Changed"_s);
-    Records(P).Update();
+    Records(P.Form3).Edit();
+    Records(P.Form3).Put(u"Surname", u"Changed"_s);
+    Records(P.Form3).Update();
     EXPECT_EQ(CompareRecords(P).Text(u"Surname"), u"Changed"_s);
 }
 
@@ -453,7 +453,7 @@ TEST_F(CompareBranchTest, Tree_ShowsTheMap_AndTheButtonBringsTheWindowBack_AtThe
     EXPECT_EQ(ShownPair(), u"A001 B001"_s);
     EXPECT_EQ(Texts(), u"Smith|Smythe"_s);
 
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
     Click(P.Form1->Command5.Click);
     EXPECT_EQ(ShownPair(), u"A002 B001"_s);
     EXPECT_EQ(Texts(), u"|Smythe"_s);
@@ -467,7 +467,7 @@ TEST_F(CompareBranchTest, ButtonOnAnotherRecord_ForgetsThePair_AsAStepByHandDoes
     Search();
     P.Scratch.ScanState = 2;
     ASSERT_EQ(P.Compare.FieldStep, 2);
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
     Click(P.Form1->Command5.Click);
     EXPECT_EQ(P.Compare.FieldStep, 0);
     EXPECT_EQ(State(), 0);
@@ -497,7 +497,7 @@ TEST_F(CompareBranchTest, ButtonOnAnotherRecordOfTheSameNumber_ForgetsThePair)
     ChooseCompare(u"Jones");
     Search();
     ChangeOutside(u'A', "UPDATE Tree99 SET File = 'A001'");
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
     Click(P.Form1->Command5.Click);
     EXPECT_EQ(P.Compare.FieldStep, 0);
     EXPECT_EQ(Surnames(), u"Jones|Smythe"_s);
@@ -557,7 +557,7 @@ TEST_F(CompareBranchTest, ButtonOnARecordWithANullForename_ShowsItWhole)
     Compare();
     ChooseCompare(u"Jones");
     ChangeOutside(u'A', "UPDATE Tree99 SET Forename = NULL WHERE File = 'A002'");
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
     Click(P.Form1->Command5.Click);
     EXPECT_EQ(ExitCode(), std::nullopt);
     EXPECT_EQ(ShownPair(), u"A002 B001"_s);

@@ -89,7 +89,7 @@ TEST_P(BoxTest, CutAndPasteOnARecordThatIsNotOnShow_ShowItFirst)
     const auto theirs = Rows(u'B');
     Machine.Clipboard.Text = u"Pasted"_s;
     Select(TheBox(), u"o");
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     Paste();
     EXPECT_EQ(Rows(u'A'), ours);
     EXPECT_EQ(Rows(u'B'), theirs);
@@ -99,7 +99,7 @@ TEST_P(BoxTest, CutAndPasteOnARecordThatIsNotOnShow_ShowItFirst)
     EXPECT_EQ(Texts(), u"|"_s);
     EXPECT_EQ(P.Compare.FieldStep, 0);
 
-    Records(P).MovePrevious();
+    Records(P.Form3).MovePrevious();
     Cut();
     EXPECT_EQ(Machine.Clipboard.Text, u"o"_s);
     EXPECT_EQ(Rows(u'A'), ours);
@@ -298,7 +298,7 @@ INSTANTIATE_TEST_SUITE_P(
                             u"End of Fields this Record|End of Fields this Record"},
                     Emptied{"PressThatWasHeldBack",
                             [](UnnamedFieldTest& test, Program& p) {
-                                Records(p).MoveNext();
+                                Records(p.Form3).MoveNext();
                                 test.Click(p.Form6->Command3.Click);
                             },
                             u"Field:|Field:"}),

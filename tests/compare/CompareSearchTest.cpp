@@ -35,7 +35,7 @@ TEST_F(CompareSearchTest, FirstPress_ShowsTheFirstDifference)
 TEST_F(CompareSearchTest, Reset_BeginsWithBothFirstRecords)
 {
     Search();
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
     CompareRecords(P).MoveLast();
     P.Compare.SearchEnded = 1;
     Reset();
@@ -194,7 +194,7 @@ TEST_F(CompareSearchTest, NullForenameAtReset_LeavesTheSidesAsTheyWere)
 TEST_F(CompareSearchTest, CursorThatTheRecordFormHasMoved_IsShownWithTheFieldThatDiffers)
 {
     Search();
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
     P.Compare.FieldStep = 1;
     Search();
     EXPECT_EQ(ShownPair(), u"A002 B001"_s);
@@ -231,7 +231,7 @@ protected:
                          {{u"File", u"A002"}, {u"Surname", u"Jones"}, {u"Forename", u"Mary"}},
                          {{u"File", u"A003"}, {u"Surname", u"Brown"}, {u"Forename", u"Ann"}}},
                         {{{u"File", u"B001"}, {u"Surname", u"Jones"}, {u"Forename", u"Jon"}}});
-        Records(P).MoveLast();
+        Records(P.Form3).MoveLast();
         Click(P.Form1->Command1.Click);
     }
 };
@@ -257,13 +257,13 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(MoveOfCurrent{"Reset", [](Program& p) { Fire(p.Form6->Command2.Click); }, u"A001"},
                     MoveOfCurrent{"NextCurrent",
                                   [](Program& p) {
-                                      Records(p).MoveFirst();
+                                      Records(p.Form3).MoveFirst();
                                       Fire(p.Form6->Command6.Click);
                                   },
                                   u"A002"},
                     MoveOfCurrent{"Search",
                                   [](Program& p) {
-                                      Records(p).MoveFirst();
+                                      Records(p.Form3).MoveFirst();
                                       p.Form6->Check2.Value = true;
                                       Fire(p.Form6->Command1.Click);
                                   },

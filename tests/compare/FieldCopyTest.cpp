@@ -122,7 +122,7 @@ TEST_F(FieldCopyTest, WithoutARecordOrABranch_IsTold)
     ExpectCopyError();
     CopyOne();
     Reset();
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     NameTheSurname();
     ExpectCopyError();
     CopyOne();
@@ -291,7 +291,7 @@ TEST_F(FieldCopyTest, ScannerThatRunsOnBehindTheBox_DoesntChangeWhatIsAppended)
     Prompts.Expect(u"Append Record to Database.",
                    u"This Record will be Appended to the Compare\nDatabase as Z001 but will not be mapped into\n"
                    u"the Ancestral Tree Display.",
-                   Buttons::Information, Answer::Ok, [&] { Records(P).MoveNext(); });
+                   Buttons::Information, Answer::Ok, [&] { Records(P.Form3).MoveNext(); });
     Append();
     EXPECT_EQ(Stored(u'B', "Notes", "Z001"), u"first Notes"_s);
 }
@@ -363,7 +363,7 @@ TEST_F(FieldCopyTest, RefusedCopyOverARecordWithTypedTexts_LeavesThoseAlone)
     EXPECT_EQ(Texts(), u"our Surname|their Surname"_s);
     EXPECT_EQ(P.Form3->Text11.Text.value(), u"typed Notes"_s);
     ChangeOutside(u'A', "DROP TRIGGER Refusal");
-    Records(P).MoveFirst();
+    Records(P.Form3).MoveFirst();
     EXPECT_EQ(Stored(u'A', "Surname", "A001"), u"our Surname"_s);
     EXPECT_EQ(Stored(u'A', "Notes", "A001"), u"typed Notes"_s);
 }
@@ -402,7 +402,7 @@ protected:
                         {PersonOf(u"B001", u"their first"), PersonOf(u"B002", u"their second")});
         Search();
         P.Scratch.ScanState = 2;
-        GetParam().IsCurrentMoved ? Records(P).MoveNext() : CompareRecords(P).MoveNext();
+        GetParam().IsCurrentMoved ? Records(P.Form3).MoveNext() : CompareRecords(P).MoveNext();
         moved_ = Pair();
     }
     void Press() { Click(((*P.Form6).*GetParam().Command).Click); }
@@ -469,7 +469,7 @@ INSTANTIATE_TEST_SUITE_P(Commands, UnseenCopyTest,
 TEST_F(FieldCopyTest, RecordThatIsNotOnShow_IsNotAppendedBeforeItIs)
 {
     GivenComparison({PersonOf(u"A001", u"first"), PersonOf(u"A002", u"second")}, {PersonOf(u"B001", u"x")});
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     Append();
     EXPECT_EQ(NumbersIn(u'B'), QStringList{u"B001"_s});
     EXPECT_EQ(ShownPair(), u"A002 B001"_s);
@@ -482,7 +482,7 @@ TEST_F(FieldCopyTest, RecordThatIsNotOnShow_IsNotAppendedBeforeItIs)
 TEST_F(FieldCopyTest, AnotherRecordOfTheSameNumber_IsNotOnShow)
 {
     GivenComparison({PersonOf(u"A001", u"first"), PersonOf(u"A001", u"second")}, {PersonOf(u"B001", u"their")});
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     const auto theirs = Rows(u'B');
     CopyAll();
     EXPECT_EQ(Rows(u'B'), theirs);
@@ -559,7 +559,7 @@ TEST_F(FieldCopyTest, NumberThatTheBranchHas_IsRefused_AndTheCursorComesBack)
 TEST_F(FieldCopyTest, PositionKeptInTheOpenBranch_IsNotMixedWithOneOfTheOther)
 {
     GivenComparison({PersonOf(u"A001", u"our")}, {PersonOf(u"B001", u"x"), PersonOf(u"B002", u"x")});
-    const Bookmark kept = P.Record.SavedBookmark = Records(P).GetBookmark();
+    const Bookmark kept = P.Record.SavedBookmark = Records(P.Form3).GetBookmark();
     NextCompare();
     ExpectAppended(u"Z001");
     Append();
@@ -589,7 +589,7 @@ TEST_F(FieldCopyTest, AppendToCurrent_LooksForTheNumberFromWhereTheCurrentBranch
     EXPECT_EQ(Pair(), u"B001 B001"_s);
     EXPECT_EQ(Rows(u'A').size(), 2U);
 
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     ExpectAppendedToCurrent(u"Z001");
     Append();
     EXPECT_EQ(Rows(u'A').size(), 3U);

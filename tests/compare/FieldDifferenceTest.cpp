@@ -199,7 +199,7 @@ TEST_F(FieldDifferenceTest, AnotherRecordOfTheSameNumber_IsShownBeforeTheWalkGoe
                     {{{u"File", u"Z001"}, {u"Surname", u"Brown"}, {u"Forename", u"Jack"}}});
     Search();
     ASSERT_EQ(Texts(), u"Smith|Brown"_s);
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     Search();
     EXPECT_EQ(Texts(), u"Ann|Jack"_s);
     EXPECT_EQ(Surnames(), u"Jones|Brown"_s);
@@ -254,7 +254,7 @@ TEST_F(FieldDifferenceTest, CursorBehindTheLastRecord_IsTold)
     EXPECT_EQ(P.Compare.SearchEnded, 1);
 
     Reset();
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     ExpectEndOfCurrent();
     Search();
     EXPECT_EQ(Texts(), u"|"_s);

@@ -24,7 +24,7 @@ protected:
     void TypeSurname(const QString& text) { P.Form3->Text2.Text = text; }
     void Leave()
     {
-        Click([this] { Records(P).MoveLast(); });
+        Click([this] { Records(P.Form3).MoveLast(); });
     }
     void PasteIntoCompareField(const QString& text)
     {
@@ -80,7 +80,7 @@ TEST_F(SameBranchTest, CopiedOntoItself_ARecordKeepsWhatIsTypedForIt)
             EXPECT_EQ(P.Form3->Text2.Text.value(), typed);
             Leave();
             EXPECT_EQ(Surname(), typed);
-            Records(P).MoveFirst();
+            Records(P.Form3).MoveFirst();
         }
 }
 

@@ -170,7 +170,7 @@ TEST_F(WhereSameTest, WalkedPairWhoseCurrentBranchHasRunOut_EndsAtTheCurrentReco
     Tick(false, true, false);
     SearchTimes(2);
     ASSERT_EQ(State(), 1);
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     ExpectEndOfCurrent();
     Search();
     EXPECT_EQ(P.Compare.SearchEnded, 1);
@@ -243,7 +243,7 @@ TEST_P(PairsTest, AreThoseOfTheDoubleLoop_InItsOrder)
     else
         ExpectEndOfRecords();
     Search();
-    EXPECT_TRUE(Records(P).Eof());
+    EXPECT_TRUE(Records(P.Form3).Eof());
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, PairsTest, testing::Range(0U, 40U));

@@ -124,7 +124,7 @@ void GivenTypedText(World& world)
 
 void LeaveTheRow(World& world)
 {
-    world.Click([&] { Records(world.P).MoveNext(); });
+    world.Click([&] { Records(world.P.Form3).MoveNext(); });
 }
 
 void GoBackToTheTree(World& world)

@@ -34,7 +34,7 @@ void Select(TextBox& box, qsizetype from, qsizetype length)
 // Whether the row that was left holds what the box showed.
 void RequireStored(Program& p, const Field& field, const QString& shown)
 {
-    Recordset& records = Records(p);
+    Recordset& records = Records(p.Form3);
     records.MoveNext();
     records.MoveFirst();
     Require(records.Text(field.Name) == shown);
@@ -55,7 +55,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     static FuzzHome home;
     Program& p = home.P;
-    Records(p).MoveFirst();
+    Records(p.Form3).MoveFirst();
     const Field& field = fields[data[0] % std::size(fields)];
     TextBox& box = (*p.Form3).*field.Box;
     Select(box, data[1], data[2]);

@@ -38,7 +38,7 @@ void RequireKnown(Program& p)
     constexpr qsizetype some = 8;
     const QStringList names = p.Form8->List1.Items;
     for (const QString& name : names.first(std::min(names.size(), some)))
-        Require(p.Alias.sAliasList.isEmpty() || IsNameListed(p, name));
+        Require(p.Alias.sAliasList.isEmpty() || IsNameListed(p.Alias, name));
 }
 
 } // namespace

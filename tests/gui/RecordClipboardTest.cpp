@@ -119,7 +119,7 @@ TEST_F(RecordClipboardTest, Cut_TakesTheSelectionAway_AndTheRowIsWrittenWithoutI
     EXPECT_EQ(Held(), u" Henry"_s);
     EXPECT_EQ(Line(u"Text3"_s).text(), u"John"_s);
     EXPECT_EQ(Line(u"Text3"_s).cursorPosition(), 4);
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     EXPECT_EQ(Stored("Forename"), u"John"_s);
 }
 
@@ -134,7 +134,7 @@ TEST_F(RecordClipboardTest, Paste_PutsTheTextAtTheCaret_AndTheCaretBehindIt)
     EXPECT_EQ(Line(u"Text2"_s).cursorPosition(), 5);
     Choose(u"mnuPaste"_s);
     EXPECT_EQ(Line(u"Text2"_s).text(), u"GoodsGoodsSmith"_s);
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     EXPECT_EQ(Stored("Surname"), u"GoodsGoodsSmith"_s);
 }
 
@@ -157,7 +157,7 @@ TEST_F(RecordClipboardTest, CutInOneBox_PastedInAnother_MovesTheText)
 
     EXPECT_EQ(Line(u"Text3"_s).text(), u"John"_s);
     EXPECT_EQ(Line(u"Text2"_s).text(), u"Smith Henry"_s);
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     EXPECT_EQ(Stored("Forename"), u"John"_s);
     EXPECT_EQ(Stored("Surname"), u"Smith Henry"_s);
 }
@@ -194,7 +194,7 @@ TEST_F(RecordClipboardTest, NotesOfSeveralLines_AreCutAndPastedWithTheirLineEnds
     Choose(u"mnuPaste"_s);
 
     EXPECT_EQ(Lines(u"Text11"_s).toPlainText(), u"first line\nsecond line"_s);
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     EXPECT_EQ(Stored("Notes"), u"first line\r\nsecond line"_s);
 }
 

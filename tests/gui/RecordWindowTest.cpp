@@ -98,10 +98,10 @@ TEST_F(RecordWindowTest, TextsBeyondTheLimit_KeepAllThatTheUserLeaves)
 {
     const QString surname = u"Featherstonehaugh-Cholmondeley-Marjoribanks"_s;
     const QString note(400, u'n');
-    Records(P).Edit();
-    Records(P).Put(u"Surname", surname);
-    Records(P).Put(u"Notes", note);
-    Records(P).Update();
+    Records(P.Form3).Edit();
+    Records(P.Form3).Put(u"Surname", surname);
+    Records(P.Form3).Put(u"Notes", note);
+    Records(P.Form3).Update();
     ServeEvents();
     EXPECT_EQ(Line(u"Text2"_s).text(), surname);
 
@@ -120,8 +120,8 @@ TEST_F(RecordWindowTest, TextsBeyondTheLimit_KeepAllThatTheUserLeaves)
 TEST_F(RecordWindowTest, WithoutRecords_TheBoxesTakeNoText)
 {
     for (int record = 0; record < 3; ++record) {
-        Records(P).Delete();
-        Records(P).MoveFirst();
+        Records(P.Form3).Delete();
+        Records(P.Form3).MoveFirst();
     }
     ServeEvents();
 
@@ -288,9 +288,9 @@ TEST_F(RecordWindowTest, WidgetsFollowWhenTheLoopRuns_NotInsideAWalk)
     int changes = 0;
     QObject::connect(&Line(u"Text3"_s), &QLineEdit::textChanged, &Line(u"Text3"_s), [&] { ++changes; });
     for (int walk = 0; walk < 20; ++walk)
-        for (Records(P).MoveFirst(); !Records(P).Eof(); Records(P).MoveNext())
+        for (Records(P.Form3).MoveFirst(); !Records(P.Form3).Eof(); Records(P.Form3).MoveNext())
             EXPECT_EQ(Line(u"Text3"_s).text(), u"John"_s);
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
     EXPECT_EQ(changes, 0);
 
     ServeEvents();
@@ -321,7 +321,7 @@ TEST_F(RecordWindowTest, FrameClose_HidesTheWindow_AndTheMapIsThere)
 
     EXPECT_FALSE(ViewOf(*P.Form3).isVisible());
     EXPECT_TRUE(P.Form3->Data1.IsOpen());
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     EXPECT_EQ(Stored("Forename"), u"Anne"_s);
 }
 

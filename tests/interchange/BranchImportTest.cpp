@@ -102,7 +102,7 @@ TEST_F(BranchImportTest, NewLetter_GoesIntoItsOrdinaryDirectory_IsListed_AndOpen
     EXPECT_EQ(P.Branch.sDbaseName, u"LfgDat_C.mdb"_s);
     EXPECT_EQ(P.Scratch.sNewDir, u"LfgDat_C"_s); // a bare name, as after New
     EXPECT_EQ(P.Files.CurDir(), P.Branch.WorkDir);
-    EXPECT_EQ(Records(P).Text(u"File"), u"C001"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"C001"_s);
     EXPECT_EQ(P.Form6->Label2.Caption.value(), u"Browns"_s);
     EXPECT_EQ(P.Screen.Pointer, MousePointer::Default);
 }
@@ -193,7 +193,7 @@ TEST_F(BranchImportTest, FileInTheWayOfTheDirectory_IsToldByItsNumber_WithTheOld
     ExpectNoChange(before);
     EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_A"));
     EXPECT_EQ(P.Branch.sBranchName, u"Smiths"_s);
-    EXPECT_EQ(Records(P).Text(u"File"), u"A001"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A001"_s);
 }
 
 TEST_F(BranchImportTest, RegistryThatCantBeWritten_IsReadAgain_AndTheBranchOpensUnlisted)
@@ -210,7 +210,7 @@ TEST_F(BranchImportTest, RegistryThatCantBeWritten_IsReadAgain_AndTheBranchOpens
     EXPECT_TRUE(Registry().contains("[Smiths=LfgDat_A,Jones=LfgDat_B,]"));
     EXPECT_EQ(P.Alias.sAliasList, u"Smiths=LfgDat_A,Jones=LfgDat_B,"_s);
     EXPECT_EQ(P.Form8->List1.Items.value(), (QStringList{u"Smiths"_s, u"Jones"_s}));
-    EXPECT_EQ(Records(P).Text(u"File"), u"C001"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"C001"_s);
 }
 
 TEST_F(BranchImportTest, EmptyName_EndsIt)
@@ -268,7 +268,7 @@ TEST_F(BranchImportTest, CancelOfTheQuestion_EndsIt_WithTheOldBranchOpen)
 
     ExpectNoChange(before);
     EXPECT_EQ(P.Branch.sBranchName, u"Smiths"_s);
-    EXPECT_EQ(Records(P).Text(u"File"), u"A001"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A001"_s);
 }
 
 TEST_F(BranchImportTest, BranchThatWasOpen_IsNotSaved)
@@ -323,10 +323,10 @@ TEST_F(BranchImportTest, SourceThatCantBeWritten_IsCopiedIntoFilesThatCan)
     for (const QStringView file : {u"LfgDat_C/LfgDat_C.mdb", u"LfgDat_C/LfgDat_C.cfg", u"LfgDat_C/C001Sub.jpg",
                                    u"LfgDat_C/LfgGal_C/C001_01.jpg", u"LfgDat_C"})
         EXPECT_EQ(P.Files.GetAttr(Home.Path(file)) & FileSystem::ReadOnly, 0) << qPrintable(file.toString());
-    Records(P).Edit();
-    Records(P).Put(u"Notes", u"mine"_s);
-    Records(P).Update();
-    EXPECT_EQ(Records(P).Text(u"Notes"), u"mine"_s);
+    Records(P.Form3).Edit();
+    Records(P.Form3).Put(u"Notes", u"mine"_s);
+    Records(P.Form3).Update();
+    EXPECT_EQ(Records(P.Form3).Text(u"Notes"), u"mine"_s);
     Home.MakeWritable(u"stick/LfgDat_C");
 }
 
@@ -343,7 +343,7 @@ TEST_F(BranchImportTest, SourceWithoutAMap_IsToldAndOpensWithoutOne)
 
     Import();
 
-    EXPECT_EQ(Records(P).Text(u"File"), u"C001"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"C001"_s);
     EXPECT_TRUE(IsBlank(P.Form1->Picture1));
 }
 
@@ -396,7 +396,7 @@ TEST_F(BranchImportTest, FileThatCantBeCopied_LeavesThatOneOut_AndTheBranchIsLis
 
     EXPECT_FALSE(QFileInfo(Home.Path(u"LfgDat_C/C002Sub.jpg")).isSymLink());
     EXPECT_TRUE(Registry().contains("Browns=LfgDat_C,"));
-    EXPECT_EQ(Records(P).Text(u"File"), u"C001"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"C001"_s);
 }
 
 TEST_F(BranchImportTest, Hourglass_TurnsFromTheCopiesToTheMap)

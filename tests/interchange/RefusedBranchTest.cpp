@@ -290,7 +290,7 @@ TEST_F(RefusedBranchTest, TextThatTheOldBranchRefuses_IsTold_AndAnotherBranchOpe
 
     Choose(u"Jones");
 
-    EXPECT_EQ(Records(P).Text(u"File"), u"B001"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"B001"_s);
     EXPECT_EQ(P.Form3->Text2.Text.value(), u"Smith"_s);
     EXPECT_EQ(SurnameOfJohn(), u"Smith"_s);
 }

@@ -140,16 +140,16 @@ private:
     void Edit()
     {
         P.Form3->Text11.Text = QString::number(P.Form3->Text11.Text.value().toInt() + 1);
-        Records(P).MoveNext();
-        Records(P).MoveFirst();
+        Records(P.Form3).MoveNext();
+        Records(P.Form3).MoveFirst();
     }
 
     void Add()
     {
         Prompts.Expect(u"New Database Record", u"Adding a new Record here will not \nbe mapped into the Tree system.",
                        Buttons::InformationOkCancel, Answer::Ok);
-        Records(P).MoveLast();
-        const QString last = Records(P).Text(u"File");
+        Records(P.Form3).MoveLast();
+        const QString last = Records(P.Form3).Text(u"File");
         const QString text = u"New Record A%1 created."_s.arg(last.right(3).toInt() + 1, 3, 10, QChar(u'0'));
         Prompts.Expect(u"New Blank Record Created", text, Buttons::Information);
         P.Form3->mnuAdd.Click();

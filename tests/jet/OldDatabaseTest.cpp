@@ -53,7 +53,7 @@ TEST_F(OldDatabaseTest, SiblingOfAForeignBox_IsConverted)
     SwitchToSibling(P, u"B");
 
     ExpectConverted(u'B', "jet3/moved");
-    EXPECT_EQ(Records(P).Text(u"File"), ExpectedRecords("jet3/moved")[0][0]);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), ExpectedRecords("jet3/moved")[0][0]);
 }
 
 TEST_F(OldDatabaseTest, SiblingThatCantBeTaken_IsTold_AndIsNotGoneTo)
@@ -264,10 +264,10 @@ TEST_F(OldDatabaseTest, TemplateOfAnOlderInstallation_MakesANewBranchAllTheSame)
 
     PointAtDatabase(P, path);
 
-    EXPECT_TRUE(Records(P).IsEmpty());
-    Records(P).AddNew();
-    Records(P).Put(u"File", u"A001"_s);
-    Records(P).Update();
+    EXPECT_TRUE(Records(P.Form3).IsEmpty());
+    Records(P.Form3).AddNew();
+    Records(P.Form3).Put(u"File", u"A001"_s);
+    Records(P.Form3).Update();
     EXPECT_EQ(StoredRecords(path).size(), 1U);
 }
 

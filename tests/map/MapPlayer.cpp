@@ -249,12 +249,12 @@ void MapPlayer::MoveSubject()
 
 void MapPlayer::MoveCursor()
 {
-    if (Records(P).HasRow() && OneIn(2))
+    if (Records(P.Form3).HasRow() && OneIn(2))
         Do(
-            u"next record"_s, [&] { Records(P).MoveNext(); }, [&] { model_.StepToNextRecord(); });
+            u"next record"_s, [&] { Records(P.Form3).MoveNext(); }, [&] { model_.StepToNextRecord(); });
     else
         Do(
-            u"search"_s, [&] { Records(P).Seek(u"File", u"nobody"_s); }, [&] { model_.SearchInVain(); });
+            u"search"_s, [&] { Records(P.Form3).Seek(u"File", u"nobody"_s); }, [&] { model_.SearchInVain(); });
 }
 
 void MapPlayer::OpenTools()
@@ -337,7 +337,7 @@ void MapPlayer::GoToRecordsAndBack()
         Do(
             u"records %1"_s.arg(model_.Next.Saves), [&] { P.Form1->Command1.Click(); }, [&] { model_.PressRecords(); });
     const std::optional<QString> typed =
-        Records(P).HasRow() && OneIn(2) ? std::optional(names[Any(0, 5)]) : std::nullopt;
+        Records(P.Form3).HasRow() && OneIn(2) ? std::optional(names[Any(0, 5)]) : std::nullopt;
     Do(
         u"tree %1"_s.arg(typed.value_or(u"-"_s)),
         [&] {

@@ -107,7 +107,8 @@ void MapPlayer::CompareWindow()
 void MapPlayer::CompareRecords()
 {
     Expect(u"what is told"_s, prompts_.Told.join(u'\n'), model_.Told.join(u'\n'));
-    Expect(u"the current record"_s, Records(P).HasRow() ? Records(P).Text(u"File") : QString(), model_.CurrentFile());
+    Expect(u"the current record"_s, Records(P.Form3).HasRow() ? Records(P.Form3).Text(u"File") : QString(),
+           model_.CurrentFile());
     Expect(u"UsingAlternate"_s, P.Branch.UsingAlternate == 1, model_.UsingAlternate);
     Expect(u"sCurFile"_s, P.Record.sCurFile, model_.CurFile);
 }

@@ -201,7 +201,7 @@ void Answers::Read(QMessageBox& box)
     if (IsFatal(box))
         fatal_ = box.text();
     if (box.windowTitle() == u"Delete Record")
-        askedAbout_ = Records(program_).Text(u"File");
+        askedAbout_ = Records(program_.Form3).Text(u"File");
 }
 
 // A branch, or a record, is given up by its second question; that of a branch tells where it stands.

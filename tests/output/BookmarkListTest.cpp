@@ -193,8 +193,8 @@ TEST_F(BookmarkListTest, DeletedEntry_GivesNothing_AndNothingIsReported)
     GivenPeople(3);
     GivenBookmarks({u"A001"_s, u"A002"_s, u"A003"_s});
     GoTo(u"A002");
-    Records(P).Delete();
-    Records(P).MoveFirst();
+    Records(P.Form3).Delete();
+    Records(P.Form3).MoveFirst();
 
     Print();
 
@@ -330,7 +330,7 @@ TEST_F(BookmarkListTest, EmptyBranch_AddsNothing_AndPrintsTheEntriesOfOthers)
     Print();
 
     EXPECT_EQ(RecordsOnJobs(), Pages({{u"B001"_s}}));
-    EXPECT_TRUE(Records(P).IsEmpty());
+    EXPECT_TRUE(Records(P.Form3).IsEmpty());
 }
 
 TEST_F(BookmarkListTest, NoBranch_AddAndPrintAreTold_AndTheListStays)

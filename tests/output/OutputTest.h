@@ -103,8 +103,8 @@ protected:
         }
     }
 
-    void GoTo(QStringView file) { ASSERT_TRUE(Records(P).Seek(u"File", file.toString())); }
-    QString Current() { return Records(P).Text(u"File"); }
+    void GoTo(QStringView file) { ASSERT_TRUE(Records(P.Form3).Seek(u"File", file.toString())); }
+    QString Current() { return Records(P.Form3).Text(u"File"); }
 
     static QString FileOf(const Fields& record)
     {

@@ -36,7 +36,7 @@ TEST_F(PrintCurrentRecordTest, SiblingsRecord_IsPrintedWhileItIsShown)
 TEST_F(PrintCurrentRecordTest, BehindTheLastRecord_NothingIsPrinted)
 {
     GivenPeople(1);
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
 
     P.Form1->mnuPrintRecord.Click();
 

@@ -227,7 +227,7 @@ TEST_F(RecordReportFileTest, Record_LeavesTheCursorWhereItIs)
 TEST_F(RecordReportFileTest, BehindTheLastRecord_NothingIsWritten)
 {
     GivenPeople(1);
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     P.Output.TextFile = std::make_unique<TextWriter>(P.Files, Home.Path(u"report.txt"));
 
     WriteRecordToFile(P);

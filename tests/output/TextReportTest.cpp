@@ -98,9 +98,9 @@ TEST_F(TextReportTest, SecondRun_KeepsTheFirstResult_ThirdRun_TheSecond)
     GivenPeople(1);
     WriteDatabase();
     const QByteArray first = Home.ReadFile(report);
-    Records(P).Edit();
-    Records(P).Put(u"Surname", u"Second"_s);
-    Records(P).Update();
+    Records(P.Form3).Edit();
+    Records(P.Form3).Put(u"Surname", u"Second"_s);
+    Records(P.Form3).Update();
 
     WriteDatabase();
 
@@ -324,7 +324,7 @@ TEST_F(TextReportFaultTest, ReadOnlyFile_IsRefused_AndStaysWhole)
 
 TEST_F(TextReportFaultTest, DatabaseSpoiltWhileItIsRead_KeepsTheOldFile)
 {
-    Records(P).Rest();
+    Records(P.Form3).Rest();
     const QByteArray old = Home.ReadFile(report);
     ExpectDatabaseTextBox(report, [&] {
         QFile file(Home.Path(u"LfgDat_A/LfgDat_A.mdb"));

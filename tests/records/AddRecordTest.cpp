@@ -85,7 +85,7 @@ TEST_F(AddRecordTest, RecordThatAnotherProgramHasAddedMeanwhile_KeepsItsNumberTo
 
     EXPECT_EQ(Current(), u"A005"_s);
     EXPECT_EQ(Stored("Forename", "A004"), u"Eve"_s);
-    Records(P).MovePrevious();
+    Records(P.Form3).MovePrevious();
     EXPECT_EQ(Current(), u"A004"_s) << "and is seen";
 }
 
@@ -94,9 +94,9 @@ TEST_F(AddRecordTest, NewRecord_IsTheLastOfTheTable)
     Add(u"A004");
 
     EXPECT_EQ(AllRows().back().front(), u"A004"_s);
-    Records(P).MoveNext();
-    EXPECT_TRUE(Records(P).Eof());
-    Records(P).MovePrevious();
+    Records(P.Form3).MoveNext();
+    EXPECT_TRUE(Records(P.Form3).Eof());
+    Records(P.Form3).MovePrevious();
     EXPECT_EQ(Current(), u"A004"_s);
 }
 
@@ -130,7 +130,7 @@ TEST_F(AddRecordTest, RecordWithoutABox_IsReachedBySearch_AndShownOnTheMapWithou
 {
     Add(u"A004");
     P.Form3->Text3.Text = u"Unmapped"_s;
-    Records(P).MoveFirst();
+    Records(P.Form3).MoveFirst();
     P.Form3->Command2.Click();
     ASSERT_TRUE(P.Form1->Shape1.Visible);
     GivenRecordForm();
@@ -151,9 +151,9 @@ TEST_F(AddRecordTest, RecordWithoutABox_IsReachedByALinkFromAnother)
 {
     Add(u"A004");
     P.Form3->Text21.Text = u"A003"_s;
-    Records(P).MoveFirst();
+    Records(P.Form3).MoveFirst();
     P.Form3->Text21.Text = u"a004"_s;
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     P.Form12->Text7.Text = u"A001"_s;
 
     CollectLineage(P);
@@ -178,14 +178,14 @@ TEST_F(AddRecordTest, BookmarkIsKeptOfTheRecordThatWasLast)
 {
     Add(u"A004");
 
-    Records(P).SetBookmark(P.Record.SavedBookmark);
+    Records(P.Form3).SetBookmark(P.Record.SavedBookmark);
     EXPECT_EQ(Current(), u"A003"_s);
 }
 
 TEST_F(AddRecordTest, Twice_NumbersOn)
 {
     Add(u"A004");
-    Records(P).MoveFirst();
+    Records(P.Form3).MoveFirst();
     Add(u"A005");
 
     EXPECT_EQ(AllRows().size(), 5U);
@@ -198,10 +198,10 @@ TEST_F(AddRecordTest, NewRecord_TakesTexts_AndIsThereAtTheNextOpening)
     P.Form1->mnuCloseDB.Click();
     Choose(u"Smiths");
 
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
 
     EXPECT_EQ(Current(), u"A004"_s);
-    EXPECT_EQ(Records(P).Text(u"Forename"), u"Anne"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"Forename"), u"Anne"_s);
     EXPECT_EQ(Stored("Forename", "A003"), u"Peter"_s);
 }
 
@@ -303,7 +303,7 @@ TEST_F(AddRecordTest, EmptyTable_IsTold_AndChangesNothing)
     Click(P.Form3->mnuAdd.Click);
 
     EXPECT_EQ(ExitCode(), std::nullopt);
-    EXPECT_TRUE(Records(P).IsEmpty());
+    EXPECT_TRUE(Records(P.Form3).IsEmpty());
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
 }
 

@@ -16,7 +16,7 @@ class CompactedBranchTest : public RecordTest
 public:
     CompactedBranchTest()
     {
-        Records(P).MoveNext();
+        Records(P.Form3).MoveNext();
         GivenRecordForm();
         Home.WriteFile(u"Tree99.jpg", PictureBytes(Qt::blue));
         P.Form3->Text2.Text = u"Typed"_s;
@@ -255,7 +255,7 @@ TEST_F(OvertakenRecordTest, RemovedByAnotherProgram_IsTold_AndTheProgramGoesOn)
 TEST_F(OvertakenRecordTest, RecordRemovedUnderTheQuestions_KeepsItsFiles)
 {
     P.Form3->Data1.Refresh(P.Databases, P.Files);
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     P.Form3->Data1.Settle();
     Prompts.Expect(u"Delete Record", u"Do you really want to delete this record?", Buttons::QuestionYesNo, Answer::Yes);
     Prompts.Expect(u"Deletion of Subject Records",

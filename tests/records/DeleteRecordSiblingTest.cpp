@@ -79,7 +79,7 @@ TEST_F(DeletedLinkTest, Yes_ThenTheOwnRecordsCanBeDeleted)
 TEST_F(DeletedLinkTest, AnotherRecordOfTheSibling_ItsOwnBoxGoes)
 {
     P.Map.BoxArr[1][BoxColumn::File] = u"b001"_s;
-    Records(P).MoveFirst();
+    Records(P.Form3).MoveFirst();
 
     Unlink(Answer::Yes);
 
@@ -89,7 +89,7 @@ TEST_F(DeletedLinkTest, AnotherRecordOfTheSibling_ItsOwnBoxGoes)
 
 TEST_F(DeletedLinkTest, AnotherRecordOfTheSibling_WithoutABox_NoneGoes)
 {
-    Records(P).MoveFirst();
+    Records(P.Form3).MoveFirst();
 
     Unlink(Answer::Yes);
 

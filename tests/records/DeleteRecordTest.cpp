@@ -10,7 +10,7 @@ using testing::WithParamInterface;
 
 TEST_F(DeleteRecordTest, RecordAndPictureGo_TheOthersStay)
 {
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     const auto others = AllRows("File <> 'A002'");
 
     Delete();
@@ -23,7 +23,7 @@ TEST_F(DeleteRecordTest, RecordAndPictureGo_TheOthersStay)
 
 TEST_F(DeleteRecordTest, Ends_OnTheFirstRecord_WithItsPicture)
 {
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
     Delete();
     EXPECT_EQ(Current(), u"A001"_s);
     EXPECT_EQ(ColourOf(P.Form3->Image1), u"red"_s);
@@ -38,7 +38,7 @@ TEST_F(DeleteRecordTest, Ends_OnTheFirstRecord_WithItsPicture)
 
 TEST_F(DeleteRecordTest, FirstRecordWithoutPicture_ShowsNone)
 {
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
     RemovePicture(u"A001");
 
     Delete();
@@ -49,7 +49,7 @@ TEST_F(DeleteRecordTest, FirstRecordWithoutPicture_ShowsNone)
 
 TEST_F(DeleteRecordTest, BoxIsEmptied_InTheMapFileToo_AndOthersKeepTheirs)
 {
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
 
     Delete();
 
@@ -70,8 +70,8 @@ TEST_F(DeleteRecordTest, ForenameTypedAndNotYetStored_TheOneInTheBoxIsWiped)
 TEST_F(DeleteRecordTest, ForenameStoredBehindTheMapsBack_TheOneInTheBoxIsWiped)
 {
     P.Form3->Text3.Text = u"Christopher"_s;
-    Records(P).MoveNext();
-    Records(P).MovePrevious();
+    Records(P.Form3).MoveNext();
+    Records(P.Form3).MovePrevious();
     ASSERT_EQ(Stored("Forename"), u"Christopher"_s);
 
     Delete();
@@ -81,7 +81,7 @@ TEST_F(DeleteRecordTest, ForenameStoredBehindTheMapsBack_TheOneInTheBoxIsWiped)
 
 TEST_F(DeleteRecordTest, BoxIsWipedOfItsCaption_AndTheOthersKeepTheirs)
 {
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     const int first = CaptionPixels(1200);
     ASSERT_GT(CaptionPixels(3000), 0);
 
@@ -142,7 +142,7 @@ TEST_F(DeleteRecordTest, NoAtTheFirstQuestion_LeavesEverything)
 
 TEST_F(DeleteRecordTest, NoAtTheSecondQuestion_LeavesEverything)
 {
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     const Tree before = Home.Snapshot();
     const int caption = CaptionPixels(3000);
     ExpectFirstQuestion(Answer::Yes);
@@ -181,14 +181,14 @@ TEST_F(DeleteRecordTest, PendingRepositioning_Goes_On)
 TEST_F(DeleteRecordTest, BehindTheLastRecord_OrBeforeTheFirst_NothingIsAsked)
 {
     const Tree before = Home.Snapshot();
-    Records(P).MoveLast();
-    Records(P).MoveNext();
+    Records(P.Form3).MoveLast();
+    Records(P.Form3).MoveNext();
     P.Tools.MapCursorMode = 1;
     Click(P.Form3->mnuDelete.Click);
     EXPECT_EQ(P.Tools.MapCursorMode, 0);
 
-    Records(P).MoveFirst();
-    Records(P).MovePrevious();
+    Records(P.Form3).MoveFirst();
+    Records(P.Form3).MovePrevious();
     Click(P.Form3->mnuDelete.Click);
 
     EXPECT_EQ(ExitCode(), std::nullopt);
@@ -205,7 +205,7 @@ TEST_F(DeleteRecordTest, OnlyRecord_LeavesTheCursorAtTheEnd_AndNoPicture)
     Delete();
 
     EXPECT_EQ(Numbers(), QStringList());
-    EXPECT_TRUE(Records(P).Eof());
+    EXPECT_TRUE(Records(P.Form3).Eof());
     EXPECT_EQ(P.Record.sCurFile, QString());
     EXPECT_EQ(P.Record.sPicFile, u"Sub.jpg"_s);
     EXPECT_EQ(ColourOf(P.Form3->Image1), u"none"_s);
@@ -257,7 +257,7 @@ INSTANTIATE_TEST_SUITE_P(Numbers, NoNumberTest, Values("''", "NULL"));
 // The numbers that are given after one has gone.
 TEST_F(DeleteRecordTest, LastDeleted_ItsNumberIsGivenAgain_WithTheBlankPortrait)
 {
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
     Delete();
 
     Add(u"A003");
@@ -278,7 +278,7 @@ TEST_F(DeleteRecordTest, FirstDeleted_NumberingGoesOnBehindTheLast)
 
 TEST_F(DeleteRecordTest, MiddleDeleted_ItsNumberStaysFree)
 {
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     Delete();
 
     Add(u"A004");
@@ -372,7 +372,7 @@ TEST_F(RefusedDeletionTest, WithTextsPending_NothingIsLost_AndTheyAreStoredLater
 
     EXPECT_EQ(P.Form3->Text2.Text.value(), u"Brown"_s);
     Execute("DROP TRIGGER Refusal");
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     EXPECT_EQ(Stored("Surname"), u"Brown"_s);
     EXPECT_EQ(Stored("Forename"), u"Christopher"_s);
 }
@@ -380,8 +380,8 @@ TEST_F(RefusedDeletionTest, WithTextsPending_NothingIsLost_AndTheyAreStoredLater
 TEST_F(RefusedDeletionTest, ForenameStoredBehindTheMapsBack_TheBoxKeepsTheOneItShows)
 {
     P.Form3->Text3.Text = u"Christopher"_s;
-    Records(P).MoveNext();
-    Records(P).MovePrevious();
+    Records(P.Form3).MoveNext();
+    Records(P.Form3).MovePrevious();
     RefuseDeletion();
 
     DeleteInVain();

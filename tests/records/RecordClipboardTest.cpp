@@ -117,9 +117,9 @@ TEST_F(RecordClipboardTest, CutOnABoxThatLostItsSelection_StoresNothing)
     P.Form3->mnuCut.Click();
 
     // Another program's text would be written over if the box counted as edited.
-    Records(P).Rest();
+    Records(P.Form3).Rest();
     SqliteFile(Home.Path(u"LfgDat_A/LfgDat_A.mdb")).Execute("UPDATE Tree99 SET Surname = 'Brown' WHERE File = 'A001'");
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     EXPECT_EQ(Text(), u"mit"_s);
     EXPECT_EQ(Stored("Surname"), u"Brown"_s);
 }
@@ -127,24 +127,24 @@ TEST_F(RecordClipboardTest, CutOnABoxThatLostItsSelection_StoresNothing)
 // What has never been filled in stays so.
 TEST_F(RecordClipboardTest, CutWithoutASelection_LeavesTheStoredField)
 {
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
     Select(Surname(), 0, u"");
 
     P.Form3->mnuCut.Click();
 
-    Records(P).MoveFirst();
+    Records(P.Form3).MoveFirst();
     EXPECT_EQ(Stored("Surname", "A003"), std::nullopt);
 }
 
 TEST_F(RecordClipboardTest, PasteOfNothingWithoutSelection_LeavesTheStoredField)
 {
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
     Text() = QString();
     Select(Surname(), 0, u"");
 
     P.Form3->mnuPaste.Click();
 
-    Records(P).MoveFirst();
+    Records(P.Form3).MoveFirst();
     EXPECT_EQ(Stored("Surname", "A003"), std::nullopt);
 }
 
@@ -217,8 +217,8 @@ TEST_F(RecordClipboardTest, PasteOfMoreThanTheBoxTakes_IsCutShort)
 TEST_F(RecordClipboardTest, PasteWhereNoRecordStands_DoesNothing)
 {
     Select(Surname(), 0, u"");
-    Records(P).MoveLast();
-    Records(P).MoveNext();
+    Records(P.Form3).MoveLast();
+    Records(P.Form3).MoveNext();
     Text() = u"Brown"_s;
 
     P.Form3->mnuPaste.Click();
@@ -230,9 +230,9 @@ TEST_F(RecordClipboardTest, PasteWhereNoRecordStands_DoesNothing)
 TEST_F(RecordClipboardTest, PasteIntoATextBeyondTheLimit_TakesItsSelectionAlone)
 {
     const QString stored(40, u's');
-    Records(P).Edit();
-    Records(P).Put(u"Surname", stored);
-    Records(P).Update();
+    Records(P.Form3).Edit();
+    Records(P.Form3).Put(u"Surname", stored);
+    Records(P.Form3).Update();
     Select(Surname(), 0, u"ss");
     Text() = u"abc"_s;
 
@@ -270,7 +270,7 @@ TEST_F(RecordClipboardTest, PastedText_IsStoredLikeTypedText_AndCutTextToo)
     P.Form3->mnuCut.Click();
     EXPECT_EQ(Stored("Surname"), u"Smith"_s);
 
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
 
     EXPECT_EQ(Stored("Surname"), u"Ålander"_s);
     EXPECT_EQ(Stored("Forename"), u"Jo"_s);
@@ -348,8 +348,8 @@ protected:
 
     QByteArray Copied()
     {
-        Records(P).MoveFirst();
-        Records(P).MoveLast();
+        Records(P.Form3).MoveFirst();
+        Records(P.Form3).MoveLast();
         Click(P.Form3->mnuCopyRecToClip.Click);
         EXPECT_EQ(ExitCode(), std::nullopt);
         return Text().value_or(u"nothing"_s).toUtf8();

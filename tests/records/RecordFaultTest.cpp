@@ -66,7 +66,7 @@ TEST_F(RecordFaultTest, WritesRefused_TreeStillGoesBack_AndTheTextStaysPending)
     EXPECT_EQ(Stored("Forename"), u"John"_s);
     EXPECT_EQ(P.Form3->Text3.Text.value(), u"Anne"_s);
     SqliteFile(Home.Path(database)).Execute("DROP TRIGGER Refusal");
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     EXPECT_EQ(Stored("Forename"), u"Anne"_s);
     EXPECT_EQ(Stored("Gender"), u"Female"_s);
 }
@@ -219,7 +219,7 @@ TEST_P(RubbishTest, WithTextsPending_ErrorsArePassedOver)
 
 TEST_P(RubbishTest, BeforeTheBoxesHaveFollowedAMove_ErrorsArePassedOver)
 {
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     WriteRubbish();
 
     Press();
@@ -282,7 +282,7 @@ TEST_F(RecordFaultTest, Vanished_TheScanRunsToItsEnd)
 
 TEST_F(RecordFaultTest, BranchDirectoryVanished_TheEndOfTheScanIsRefused_AfterTheTimerIsOff)
 {
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
     P.Form3->Picture2.Click();
     QDir(Home.Path(u"LfgDat_A")).removeRecursively();
     ExpectFatalBox(u"Run-time error '76':\n\nPath not found",

@@ -63,7 +63,7 @@ protected:
 
 TEST_P(OpenFormTest, ShowsTheFormWithTheRecordsPicture_AndRemembersTheForename)
 {
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     P.Record.sShownName = u"nobody"_s;
 
     Open();
@@ -110,7 +110,7 @@ TEST_P(OpenFormTest, MissingPicture_LeavesItsPlaceEmpty_NotWithThePersonBefore)
     Open();
     ASSERT_EQ(ColourOf(P.Form3->Image1), u"red"_s);
     RemovePicture(u"A002");
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
 
     Open();
 
@@ -262,7 +262,7 @@ TEST_F(TreeTest, ForenameChangedInItsCaseOnly_CountsAsUnchanged_AndIsStillWritte
     EXPECT_EQ(Forename(0), u"John"_s);
     EXPECT_EQ(P.Map.sBoxesText, u"stale"_s);
     EXPECT_TRUE(Map() == before);
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     EXPECT_EQ(Stored("Forename"), u"JOHN"_s);
 }
 
@@ -313,7 +313,7 @@ TEST_F(TreeTest, RecordWithoutABox_LeavesThePicture_AndRebuildsTheList)
 
 TEST_F(TreeTest, MovedToAnotherRecord_ComparesWithTheNameAtOpening_AndRewritesThatRecordsBox)
 {
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     P.Map.BoxArr[1][BoxColumn::Forename] = u"old"_s;
 
     PressTree();
@@ -357,7 +357,7 @@ TEST_F(TreeTest, SameGender_WritesNothingOfItsOwn)
 TEST_F(TreeTest, WithoutGenderInRecordAndBox_WritesNothing)
 {
     SqliteFile(Home.Path(u"LfgDat_A/LfgDat_A.mdb")).Execute("UPDATE Tree99 SET Gender = NULL");
-    Records(P).MoveFirst();
+    Records(P.Form3).MoveFirst();
     const Tree before = Home.Snapshot();
 
     PressTree();
@@ -367,7 +367,7 @@ TEST_F(TreeTest, WithoutGenderInRecordAndBox_WritesNothing)
 
 TEST_F(TreeTest, Panel_ShowsTheRecordWithWhatWasTyped)
 {
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     P.Form3->Text2.Text = u"Brown"_s;
 
     PressTree();
@@ -391,7 +391,7 @@ TEST_F(TreeTest, MissingPicture_IsTold_AndTheMapIsShown)
 
 TEST_F(TreeTest, Marker_FollowsOnlyWhenANewGalleryPageIsAskedFor)
 {
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     P.Record.sShownName = u"Mary"_s;
     P.Gallery.FirstShow = 0;
     PressTree();
@@ -491,15 +491,16 @@ TEST_P(NothingLostTest, EveryTextTyped_StandsInTheFileAfterwards_AndInItsOwnReco
 }
 
 INSTANTIATE_TEST_SUITE_P(Ways, NothingLostTest,
-                         Values(Way{"next record", [](Program& p) { Records(p).MoveNext(); }},
-                                Way{"last record", [](Program& p) { Records(p).MoveLast(); }},
-                                Way{"first record, itself", [](Program& p) { Records(p).MoveFirst(); }},
+                         Values(Way{"next record", [](Program& p) { Records(p.Form3).MoveNext(); }},
+                                Way{"last record", [](Program& p) { Records(p.Form3).MoveLast(); }},
+                                Way{"first record, itself", [](Program& p) { Records(p.Form3).MoveFirst(); }},
                                 Way{"behind the last record",
                                     [](Program& p) {
-                                        while (!Records(p).Eof())
-                                            Records(p).MoveNext();
+                                        while (!Records(p.Form3).Eof())
+                                            Records(p.Form3).MoveNext();
                                     }},
-                                Way{"a search without a hit", [](Program& p) { Records(p).Seek(u"File", u"Z999"_s); }},
+                                Way{"a search without a hit",
+                                    [](Program& p) { Records(p.Form3).Seek(u"File", u"Z999"_s); }},
                                 Way{"a scan",
                                     [](Program& p) {
                                         p.Form3->Picture2.Click();
@@ -508,7 +509,7 @@ INSTANTIATE_TEST_SUITE_P(Ways, NothingLostTest,
                                 Way{"Tree, then another record",
                                     [](Program& p) {
                                         p.Form3->Command2.Click();
-                                        Records(p).MoveNext();
+                                        Records(p.Form3).MoveNext();
                                     }},
                                 Way{"Tree with another gender",
                                     [](Program& p) {
@@ -611,7 +612,7 @@ TEST_F(GalleryButtonTest, WritesAChangedGender_AndTheMapFollows)
 
 TEST_F(GalleryButtonTest, PanelFollowsTheRecord_TheMarkerOnlyWhenANewPageIsAskedFor)
 {
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     P.Gallery.FirstShow = 0;
     PressGallery();
     EXPECT_EQ(ShownRef(), u"Ref  A002"_s);
@@ -674,7 +675,7 @@ TEST_F(RecordFormTest, PictureClickWithoutPicture_IsTold_AndEmptiesTheMapsPanel)
 TEST_F(RecordFormTest, PictureClickOnARecordThatTheBarWentTo_ShowsItsOwn)
 {
     GivenRecordForm();
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     LoopRuns();
 
     P.Form3->Image1.Click();
@@ -688,11 +689,11 @@ TEST_F(RecordFormTest, Bar_ShowsThePictureWithTheRecord)
     GivenRecordForm();
     RemovePicture(u"A003");
     for (const QString& colour : {u"green"_s, u"none"_s}) {
-        Records(P).MoveNext();
+        Records(P.Form3).MoveNext();
         LoopRuns();
         EXPECT_EQ(ColourOf(P.Form3->Image1), colour);
     }
-    Records(P).MoveFirst();
+    Records(P.Form3).MoveFirst();
     LoopRuns();
     EXPECT_EQ(ColourOf(P.Form3->Image1), u"red"_s);
 }
@@ -713,7 +714,7 @@ TEST_F(RecordFormTest, DoubleClickOnTheMapBehind_ShowsThePictureWithTheRecord)
 TEST_F(RecordFormTest, OtherBranchOpenedBehind_ShowsThePictureOfItsFirstRecord)
 {
     GivenRecordForm();
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
 
     Choose(u"Jones");
     LoopRuns();
@@ -728,7 +729,7 @@ TEST_F(RecordFormTest, OtherBranchOpenedBehind_ShowsThePictureOfItsFirstRecord)
 
 TEST_F(RecordFormTest, PictureClickOnARecordWithoutSurname_LeavesTheBlanks)
 {
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
     GivenRecordForm();
 
     P.Form3->Image1.Click();
@@ -845,7 +846,7 @@ TEST_F(RecordFormTest, FrameClose_LeadsBackToTheMap_WithTheDatabaseStillOpen)
     EXPECT_EQ(Forename(0), u"Anne"_s);
     EXPECT_EQ(Current(), u"A001"_s);
     EXPECT_EQ(P.Form1->Label9.Caption.value(), u"Anne"_s);
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     EXPECT_EQ(P.Form1->Label9.Caption.value(), u"Mary"_s);
 }
 

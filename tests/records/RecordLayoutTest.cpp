@@ -68,7 +68,7 @@ TEST_P(FieldBoxTest, ShowsItsFieldAlone)
 {
     SqliteFile(Home.Path(u"LfgDat_A/LfgDat_A.mdb"))
         .Execute(QByteArray("UPDATE Tree99 SET ") + GetParam().Field + " = 'only here' WHERE File = 'A002'");
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
 
     for (const FieldBox& other : fieldBoxes)
         EXPECT_EQ((Form().*other.Box).Text.value() == u"only here"_s, other.Field == GetParam().Field) << other.Field;
@@ -78,7 +78,7 @@ TEST_P(FieldBoxTest, WritesItsFieldAlone)
 {
     Box().Text = u"only here"_s;
 
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
 
     for (const FieldBox& other : fieldBoxes)
         EXPECT_EQ(Stored(other.Field) == u"only here"_s, other.Field == GetParam().Field) << other.Field;
@@ -121,7 +121,7 @@ TEST_F(RecordLayoutTest, NumberOfTheRecord_IsShown_AndNotTyped)
     EXPECT_EQ(Form().Label25.Caption.value(), u"A001"_s);
     Form().Label25.Caption = u"Z999"_s;
 
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
 
     EXPECT_EQ(Form().Label25.Caption.value(), u"A002"_s);
     EXPECT_EQ(Stored("Forename"), u"John"_s);

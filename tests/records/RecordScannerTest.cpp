@@ -23,7 +23,7 @@ protected:
     void PressStop() { Press(&forms::Form3::Picture3); }
     void Tick() { P.Form3->Timer1.Tick(); }
 
-    void StandOn(QStringView file) { ASSERT_TRUE(Records(P).Seek(u"File", file.toString())); }
+    void StandOn(QStringView file) { ASSERT_TRUE(Records(P.Form3).Seek(u"File", file.toString())); }
 
     // The name of the store whose picture each of the five buttons shows, in their order; "" for none of them.
     QStringList Faces()
@@ -253,7 +253,7 @@ protected:
 
     void GivenAtTheEnd()
     {
-        Recordset& records = Records(P);
+        Recordset& records = Records(P.Form3);
         IsForward() ? records.MoveLast() : records.MoveFirst();
         if (!GetParam().BeforeMove)
             return;
@@ -293,8 +293,8 @@ TEST_P(ScanEndTest, BeforeTheMove_NothingMoves_AfterIt_TheEndsRecordIsCurrent)
 
     Tick();
 
-    EXPECT_EQ(Records(P).Eof(), GetParam().BeforeMove && IsForward());
-    EXPECT_EQ(Records(P).Bof(), GetParam().BeforeMove && !IsForward());
+    EXPECT_EQ(Records(P.Form3).Eof(), GetParam().BeforeMove && IsForward());
+    EXPECT_EQ(Records(P.Form3).Bof(), GetParam().BeforeMove && !IsForward());
     if (!GetParam().BeforeMove) {
         EXPECT_EQ(Current(), IsForward() ? u"A003"_s : u"A001"_s);
         EXPECT_EQ(ShownRef(), IsForward() ? u"Ref  A003"_s : u"Ref  A001"_s);
@@ -357,8 +357,8 @@ TEST_F(RecordScannerTest, ForwardAtTheLastRecord_OneTick_StopsOnIt_WithTheStopFa
 
 TEST_F(RecordScannerTest, BackwardFromBehindTheLastRecord_MovesToTheLast)
 {
-    Records(P).MoveLast();
-    Records(P).MoveNext();
+    Records(P.Form3).MoveLast();
+    Records(P.Form3).MoveNext();
     Press(&forms::Form3::Picture4);
 
     Tick();
@@ -529,7 +529,7 @@ TEST_F(RecordScannerTest, StopButtonOnABranchWithoutRecords_ShowsTheEmptyState)
 TEST_F(RecordScannerTest, RunOfOneRecord_StopsOnIt)
 {
     SqliteFile(Home.Path(u"LfgDat_A/LfgDat_A.mdb")).Execute("DELETE FROM Tree99 WHERE File > 'A001'");
-    Records(P).MoveFirst();
+    Records(P.Form3).MoveFirst();
     for (const auto button : moving) {
         Press(button);
         Tick();

@@ -61,7 +61,7 @@ TEST_P(WildcardTest, AnswerFindsTheField_OrDoesNot)
 
     ((*P.Form3).*search.Entry).Click();
 
-    EXPECT_EQ(Records(P).Eof(), !row.Matches);
+    EXPECT_EQ(Records(P.Form3).Eof(), !row.Matches);
     EXPECT_TRUE(!row.Matches || Current() == u"A002");
 }
 

@@ -56,7 +56,7 @@ protected:
 
 TEST_P(AnySearchTest, EmptyAnswer_ChangesNothing)
 {
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     P.Record.sCurFile = u"before"_s;
     const Tree before = Home.Snapshot();
 
@@ -76,7 +76,7 @@ TEST_P(AnySearchTest, NoMatch_IsToldWithTheAnswer_OverAnEmptyPicture_BehindTheLa
 
     Run();
 
-    EXPECT_TRUE(Records(P).Eof());
+    EXPECT_TRUE(Records(P.Form3).Eof());
     EXPECT_EQ(Picture(), u"none"_s);
 }
 
@@ -108,7 +108,7 @@ TEST_P(AnySearchTest, CaseIsIgnored)
 TEST_P(AnySearchTest, StartedOnALaterRecord_BeginsAtTheFirst)
 {
     GivenOnlyHit("A001");
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
     Answering(u"Zx9");
     ExpectHitUnlessDataRef(Answer::No);
 
@@ -120,8 +120,8 @@ TEST_P(AnySearchTest, StartedOnALaterRecord_BeginsAtTheFirst)
 TEST_P(AnySearchTest, StartedBehindTheLastRecord_BeginsAtTheFirst)
 {
     GivenOnlyHit("A001");
-    Records(P).MoveLast();
-    Records(P).MoveNext();
+    Records(P.Form3).MoveLast();
+    Records(P.Form3).MoveNext();
     Answering(u"Zx9");
     ExpectHitUnlessDataRef(Answer::No);
 
@@ -138,7 +138,7 @@ TEST_P(AnySearchTest, EmptyTable_HasNoMatch)
 
     Run();
 
-    EXPECT_TRUE(Records(P).IsEmpty());
+    EXPECT_TRUE(Records(P.Form3).IsEmpty());
 }
 
 TEST_P(AnySearchTest, MapShowsThePreviousSubject_UntilTree)
@@ -231,7 +231,7 @@ TEST_F(DataRefSearchTest, WholeValueCounts_WildcardsAndPartsFindNothing)
         ExpectAnswer(u"Enter the Data Reference number", answer);
         ExpectNoMatch(u"No Match Found for Data Ref: "_s + answer);
         P.Form3->mnuSearchDataRef.Click();
-        EXPECT_TRUE(Records(P).Eof());
+        EXPECT_TRUE(Records(P.Form3).Eof());
         EXPECT_EQ(P.Record.sCurFile, answer.toString());
     }
 }
@@ -281,7 +281,7 @@ TEST_P(PatternSearchTest, YesToTheLastHit_IsToldThatNothingMatched_AndEndsBehind
 
     Run();
 
-    EXPECT_TRUE(Records(P).Eof());
+    EXPECT_TRUE(Records(P.Form3).Eof());
     EXPECT_EQ(P.Record.sCurFile, u"*zx9*"_s);
 }
 
@@ -383,7 +383,7 @@ TEST_F(RecordSearchTest, NoDirectoryYet_ThePictureComesFromTheCurrentOne)
 
 TEST_F(RecordSearchTest, ShowFirstRecord_GoesThere_WithItsPicture_AndTheBarOn)
 {
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
     P.Form3->Image1.Picture = QImage();
     P.Form3->Data1.Enabled = false;
 

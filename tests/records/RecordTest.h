@@ -73,7 +73,7 @@ protected:
             .Value(QByteArray("SELECT ") + field + " FROM Tree99 WHERE File = '" + file + "'");
     }
 
-    QString Current() { return Records(P).Text(u"File"); }
+    QString Current() { return Records(P.Form3).Text(u"File"); }
 
     // "none", "red", "green", "blue": the one colour of a subject picture.
     static QString ColourOf(const Image& image)

@@ -60,7 +60,7 @@ TEST_F(SiblingTransferTest, TheWorkGoesOnThere)
     TransferTo(u"B001");
     P.Form3->Text2.Text = u"Brown"_s;
     P.Form3->Command2.Click();
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
 
     EXPECT_EQ(StoredIn(u'B', "Surname", "B001"), u"Brown"_s);
     EXPECT_EQ(Stored("Surname"), u"Smith"_s);
@@ -69,7 +69,7 @@ TEST_F(SiblingTransferTest, TheWorkGoesOnThere)
 
 TEST_F(SiblingTransferTest, Picture_IsTheSourcesByteForByte)
 {
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
 
     TransferTo(u"B001");
 
@@ -81,7 +81,7 @@ TEST_F(SiblingTransferTest, Picture_IsTheSourcesByteForByte)
 
 TEST_F(SiblingTransferTest, OnlyDatabaseAndPictureOfTheDestination_Change)
 {
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     const Tree before = Home.Snapshot();
 
     TransferTo(u"B001");
@@ -97,7 +97,7 @@ TEST_F(SiblingTransferTest, MapIsTheDestinations_WithTheNewNameInItsBox)
     const MapState lists = P.Map;
     Choose(u"Smiths");
     GivenRecordForm();
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
 
     TransferTo(u"B001");
 
@@ -142,7 +142,7 @@ TEST_F(SiblingTransferTest, ExitAfterwards_SavesTheDestinationsMapThere_AndTheOw
 
 TEST_F(SiblingTransferTest, LetterInSmall_FindsTheBranch)
 {
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
 
     TransferTo(u"b001");
 
@@ -169,7 +169,7 @@ TEST_F(SiblingTransferTest, BranchWithoutRecords_EndsThereWithoutAWord)
     TransferTo(u"C001");
 
     EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_C"));
-    EXPECT_TRUE(Records(P).IsEmpty());
+    EXPECT_TRUE(Records(P.Form3).IsEmpty());
     EXPECT_EQ(ChangesSince(before), QStringList());
 }
 
@@ -189,7 +189,7 @@ TEST_F(SiblingTransferTest, NoSuchRecordThere_IsTold_AndThePictureStaysCopied)
 
 TEST_F(SiblingTransferTest, NoSuchBranch_IsToldTwice_AndTheOwnIsAsItWas)
 {
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     const Tree before = Home.Snapshot();
     const QImage map = Map();
     ExpectTransferTo(u"Z001");
@@ -213,7 +213,7 @@ TEST_F(SiblingTransferTest, NoSuchBranch_TheWorkGoesOnInTheOwn)
 
     P.Form3->Text3.Text = u"Anne"_s;
     P.Form3->Command2.Click();
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
 
     EXPECT_EQ(Stored("Forename"), u"Anne"_s);
     EXPECT_EQ(P.Map.BoxArr[0][BoxColumn::Forename].Text(), u"Anne"_s);
@@ -222,7 +222,7 @@ TEST_F(SiblingTransferTest, NoSuchBranch_TheWorkGoesOnInTheOwn)
 TEST_F(SiblingTransferTest, BranchWithoutDatabase_TheOwnRecordsAreSearched)
 {
     QFile::remove(Home.Path(u"LfgDat_B/LfgDat_B.mdb"));
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     const auto own = Rows("1");
     ExpectTransferTo(u"B001");
     ExpectNoMatch(u"B001");
@@ -237,7 +237,7 @@ TEST_F(SiblingTransferTest, BranchWithoutDatabase_TheOwnRecordsAreSearched)
 
 TEST_F(SiblingTransferTest, ReadOnlyDatabaseThere_StaysWhole_AndTheOwnIsAsItWas)
 {
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     const auto own = Rows("1");
     const auto there = Rows("1", u'B');
     Home.MakeReadOnly(u"LfgDat_B/LfgDat_B.mdb");
@@ -268,7 +268,7 @@ TEST_F(SiblingTransferTest, ReadOnlyDatabaseThere_APictureThatIsMissingThere_IsC
 
 TEST_F(SiblingTransferTest, LockedThere_Cancel_NothingThereIsTouched_AndTheOwnIsAsItWas)
 {
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     const Tree before = Home.Snapshot();
     auto other = LockDatabase(u'B');
     ExpectTransferTo(u"B001");
@@ -284,7 +284,7 @@ TEST_F(SiblingTransferTest, LockedThere_Cancel_NothingThereIsTouched_AndTheOwnIs
 
 TEST_F(SiblingTransferTest, LockedThere_Retry_TransfersTheRecord)
 {
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     auto other = LockDatabase(u'B');
     ExpectTransferTo(u"B001");
     ExpectDatabaseInUse(Answer::Retry, [&] { other.reset(); });
@@ -297,7 +297,7 @@ TEST_F(SiblingTransferTest, LockedThere_Retry_TransfersTheRecord)
 
 TEST_F(SiblingTransferTest, ReadOnlyPictureThere_StaysWhole_AndTheFieldsAreTransferred)
 {
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     Home.MakeReadOnly(u"LfgDat_B/B001Sub.jpg");
     ExpectTransferTo(u"B001");
     ExpectCopyProblem();
@@ -310,7 +310,7 @@ TEST_F(SiblingTransferTest, ReadOnlyPictureThere_StaysWhole_AndTheFieldsAreTrans
 
 TEST_F(SiblingTransferTest, RefusedByTheDatabaseThere_EndsTheProgram_WithTheRecordsWhole)
 {
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     const auto own = Rows("1");
     const auto there = Rows("1", u'B');
     Execute("CREATE TRIGGER Refusal BEFORE UPDATE ON Tree99 BEGIN SELECT RAISE(ABORT, 'refused'); END", u'B');
@@ -327,7 +327,7 @@ TEST_F(SiblingTransferTest, RefusedByTheDatabaseThere_EndsTheProgram_WithTheReco
 
 TEST_F(SiblingTransferTest, NoMapThere_IsTold_AndTheRecordIsTransferred)
 {
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     QFile::remove(Home.Path(u"LfgDat_B/LfgDat_B.cfg"));
     ExpectTransferTo(u"B001");
     Prompts.Expect(u"Graphic Config File not Found.", u"You need to create a new Ancestral Map for this Database.",

@@ -275,7 +275,7 @@ TEST_F(RecordTransferTest, NoSuchRecord_IsToldWithTheNumberShownLast_AndThePictu
 
     EXPECT_EQ(Rows("1"), before);
     EXPECT_EQ(Home.ReadFile(u"LfgDat_A/A009sub.jpg"), Red);
-    EXPECT_TRUE(Records(P).Eof());
+    EXPECT_TRUE(Records(P.Form3).Eof());
     EXPECT_EQ(ColourOf(P.Form3->Image1), u"none"_s);
 }
 
@@ -284,7 +284,7 @@ TEST_F(RecordTransferTest, NoSuchRecordAfterASearch_IsToldWithItsPattern)
     Prompts.ExpectInput(u"Search Database", u"Enter the Surname or partial Surname", u"nobody");
     Prompts.Expect(u"Database Result", u"No Match Found for Surname: nobody", Buttons::Information);
     P.Form3->mnuSearchSurName.Click();
-    Records(P).MoveFirst();
+    Records(P.Form3).MoveFirst();
     ExpectTransferTo(u"A009");
     ExpectNoMatch(u"*nobody*");
 
@@ -416,7 +416,7 @@ TEST_F(RecordTransferTest, TextsPendingThatCannotBeStored_StayPending_WhenTheUse
 
     EXPECT_EQ(P.Form3->Text2.Text.value(), u"Brown"_s);
     Execute("DROP TRIGGER Refusal");
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     EXPECT_EQ(Stored("Surname"), u"Brown"_s);
 }
 
@@ -481,7 +481,7 @@ TEST_F(LockedTransferTest, WithTextsPending_Cancel_AsksNothingFurther_AndTheText
     Other.reset();
     EXPECT_EQ(ChangesSince(before), QStringList());
     EXPECT_EQ(P.Form3->Text2.Text.value(), u"Brown"_s);
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     EXPECT_EQ(Stored("Surname"), u"Brown"_s);
 }
 
@@ -490,8 +490,8 @@ TEST_F(RecordTransferTest, RecordThatIsGoneByThen_IsNotTransferred_AndTold)
 {
     ExpectConfirmation(Answer::Ok);
     Prompts.ExpectInput(u"Data Record Destination.", u"Enter Destination Data Ref Number.", u"A002", [&] {
-        Records(P).MoveNext();
-        Records(P).Rest();
+        Records(P.Form3).MoveNext();
+        Records(P.Form3).Rest();
         Execute("DELETE FROM Tree99 WHERE File = 'A001'");
     });
     Prompts.Expect(u"Record removed", u"A record has been removed by another program.\nNothing was stored.",

@@ -165,7 +165,7 @@ SessionMove Refuse(Session& session)
             },
             [=](Program& p) {
                 if (p.Form3.IsLoaded() && p.Form3->Data1.IsOpen())
-                    Records(p).Rest();
+                    Records(p.Form3).Rest();
                 if (p.Form6.IsLoaded() && p.Form6->Data1.IsOpen())
                     CompareRecords(p).Rest();
                 SqliteFile file(database);
@@ -218,7 +218,7 @@ SessionMove StepByBar(Session& session)
 {
     const int direction = Direction(session);
     return {QString::number(direction), [direction](Session& s) { s.StepByBar(direction); },
-            [direction](Program& p) { StepBy(Records(p), direction); }};
+            [direction](Program& p) { StepBy(Records(p.Form3), direction); }};
 }
 
 SessionMove StartScan(Session& session)

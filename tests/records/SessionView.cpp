@@ -279,7 +279,7 @@ SessionView ViewOf(Program& p)
 {
     SessionView view;
     const bool isOpen = p.Form3.IsLoaded() && p.Form3->Data1.IsOpen();
-    view[u"current"_s] = isOpen ? PositionOf(Records(p)) : u"closed"_s;
+    view[u"current"_s] = isOpen ? PositionOf(Records(p.Form3)) : u"closed"_s;
     view[u"branch"_s] = p.Branch.WorkDir;
     view[u"name"_s] = p.Branch.sBranchName;
     view[u"alternate"_s] = YesOrNo(p.Branch.UsingAlternate == 1);

@@ -52,7 +52,7 @@ TEST_F(SubjectPictureTest, ChosenFile_BecomesThePicture_ByteForByte_AndIsShown)
 
 TEST_F(SubjectPictureTest, PictureIsTheCurrentRecords)
 {
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
 
     Choose(Album);
 

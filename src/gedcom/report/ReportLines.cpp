@@ -72,7 +72,7 @@ void ConvertStep(Program& p)
 {
     const Integer16 scanState = p.Scratch.ScanState;
     if (p.Form11.IsLoaded())
-        StepPanel(p, p.Form11->Picture1, p.Form11->VScroll1);
+        StepPanel(p.Loop, p.Form11->Picture1, p.Form11->VScroll1);
     else
         p.Loop.DoEvents();
     p.Scratch.ScanState = scanState;

@@ -144,7 +144,7 @@ void ShowGedcomForm(Program& p)
 void LoadGedcomForm(Program& p)
 {
     forms::Form12& form = *p.Form12;
-    FillScreen(p, form, 700);
+    FillScreen(form, p.Screen, p.Form3, 700);
     form.Caption = u"Create GEDCOM file"_s;
 }
 
@@ -160,11 +160,11 @@ void CreateGedcomFile(Program& p)
         return;
     p.Form12->Picture1.Cls();
     p.Form12->VScroll1.Value = 0;
-    if (TellIfIncomplete(p) || TellIfNoBranch(p))
+    if (TellIfIncomplete(p) || TellIfNoBranch(p.Branch, p.Form3, p.Prompts))
         return;
     // A deletion has left the branch's name, and no more.
     if (!ReadsOpenBranch(p))
-        return TellNoBranch(p);
+        return TellNoBranch(p.Prompts);
     WriteGedcomFile(p);
 }
 

@@ -44,13 +44,13 @@ void PrintAndStep(Program& p, QStringView line)
 
 bool SeekRecord(Program& p)
 {
-    return Records(p).Seek(Field::File, p.Record.sCurFile);
+    return Records(p.Form3).Seek(Field::File, p.Record.sCurFile);
 }
 
 // Of the record that was found.
 void TakeParents(Program& p, Row& row, const QString& none)
 {
-    const Recordset& records = Records(p);
+    const Recordset& records = Records(p.Form3);
     row[Pa] = records.Value(Field::FatherRec).value_or(none);
     row[Ma] = records.Value(Field::MotherRec).value_or(none);
 }
@@ -81,8 +81,8 @@ void FillLine(Program& p)
 void FindOffspring(Program& p, Row& row)
 {
     int& count = p.Scratch.IdxA;
-    Meanwhile meanwhile(p);
-    Recordset& records = Records(p);
+    Meanwhile meanwhile(p.Loop);
+    Recordset& records = Records(p.Form3);
     for (records.MoveFirst(); !records.Eof(); records.MoveNext()) {
         meanwhile.KeepPainted();
         if (!records.FieldIs(Field::FatherRec, p.Record.sCurFile))
@@ -177,7 +177,7 @@ bool CollectMothers(Program& p)
         p.Record.sCurFile = OffspringCell(p);
         if (!SeekRecord(p))
             return false;
-        p.Lineage.MaArray[index] = Records(p).Text(Field::MotherRec);
+        p.Lineage.MaArray[index] = Records(p.Form3).Text(Field::MotherRec);
     }
     return true;
 }
@@ -301,7 +301,7 @@ void LineageStep(Program& p)
     const QString branch = p.Branch.WorkDir;
     ScratchState& scratch = p.Scratch;
     const std::tuple place(scratch.IdxA, scratch.IdxB, scratch.LenScratch);
-    StepPanel(p, p.Form12->Picture1, p.Form12->VScroll1);
+    StepPanel(p.Loop, p.Form12->Picture1, p.Form12->VScroll1);
     std::tie(scratch.IdxA, scratch.IdxB, scratch.LenScratch) = place;
     if (p.Branch.WorkDir != branch || !ReadsOpenBranch(p))
         throw LineageAbandoned{};

@@ -123,7 +123,7 @@ private:
 void DrawForeignCaption(Program& p, Siblings& siblings, int row)
 {
     const QString file = FiledNumber(p, row);
-    KeepOwnDirectories(p);
+    KeepOwnDirectories(p.Branch);
     const auto pointBack = qScopeGuard([&p, before = p.Branch] { p.Branch = before; });
     p.Branch.WorkDir = SiblingDirectory(p.Branch.WorkDir, file.first(1));
     p.Branch.sDbaseName = DatabasePath(p.Branch.WorkDir);
@@ -195,7 +195,7 @@ void FitForename(Program& p, const Recordset& row)
 
 void FitForename(Program& p)
 {
-    FitForename(p, Records(p));
+    FitForename(p, Records(p.Form3));
 }
 
 void DrawRecordInBox(Program& p, const Recordset& row)
@@ -213,7 +213,7 @@ void DrawRecordInBox(Program& p, const Recordset& row)
 
 void DrawRecordInBox(Program& p)
 {
-    DrawRecordInBox(p, Records(p));
+    DrawRecordInBox(p, Records(p.Form3));
 }
 
 void DrawBoxNumber(Program& p)
@@ -234,7 +234,7 @@ void DrawBoxCaptions(Program& p)
 
 void DrawOwnCaptions(Program& p)
 {
-    Recordset& records = Records(p);
+    Recordset& records = Records(p.Form3);
     if (records.IsEmpty())
         return;
     const QMultiHash<QString, int> boxes = BoxesByRecord(p.Map);

@@ -60,7 +60,7 @@ void FindBoxOfRecord(Program& p)
 {
     if (p.Branch.IsSiblingShown())
         return;
-    p.Scratch.IdxA = RowOfRecord(p.Map, Records(p).Value(Field::File));
+    p.Scratch.IdxA = RowOfRecord(p.Map, Records(p.Form3).Value(Field::File));
     if (p.Scratch.IdxA <= LastFiledBox)
         TakeBoxPosition(p, p.Scratch.IdxA);
 }
@@ -71,7 +71,7 @@ void MarkCurrentBox(Program& p)
     form.Shape1.Visible = false;
     p.Gallery.FirstShow = 1;
 
-    const Recordset& records = Records(p);
+    const Recordset& records = Records(p.Form3);
     if (!records.HasRow())
         return;
     const int row = RowOfRecord(p.Map, records.Value(Field::File));

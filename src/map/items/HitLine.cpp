@@ -119,7 +119,7 @@ void HitLine(Program& p)
         FindLine(p);
     } catch (const RuntimeError& error) {
         p.Errors.Last = error;
-        ReportError(p);
+        ReportError(p.Errors, p.Prompts);
     }
 }
 

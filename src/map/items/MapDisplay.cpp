@@ -30,12 +30,12 @@ void RedrawMap(Program& p)
         DrawLine(p, row);
 
     // A backup that failed leaves the branch without its records.
-    if (!IsBranchOpen(p))
+    if (!IsBranchOpen(p.Branch, p.Form3))
         return;
-    KeepPosition(p);
+    KeepPosition(p.Record, Records(p.Form3));
     DrawOwnCaptions(p);
     DrawBoxCaptions(p);
-    ComeBack(p);
+    ComeBack(p.Record, p.Form3);
 }
 
 void ShowCoordinates(Program& p, double x, double y)

@@ -165,10 +165,10 @@ void WriteMapFile(Program& p)
 {
     const bool isAlternate = p.Branch.IsSiblingShown();
     if (isAlternate)
-        SwapBranchDirs(p);
+        SwapBranchDirs(p.Branch);
     const auto swapBack = qScopeGuard([&] {
         if (isAlternate)
-            SwapBranchDirs(p);
+            SwapBranchDirs(p.Branch);
     });
     if (BelongsToOpenBranch(p))
         WriteLists(p);

@@ -20,10 +20,10 @@ int HighestRow(int rows)
 
 void DrawAllCaptions(Program& p)
 {
-    p.Errors.Ignoring([&] { KeepPosition(p); });
+    p.Errors.Ignoring([&] { KeepPosition(p.Record, Records(p.Form3)); });
     p.Errors.Ignoring([&] { DrawBoxCaptions(p); });
     p.Errors.Ignoring([&] { DrawOwnCaptions(p); });
-    p.Errors.Ignoring([&] { ComeBack(p); });
+    p.Errors.Ignoring([&] { ComeBack(p.Record, p.Form3); });
 }
 
 // How many lines can be read before the list breaks off.

@@ -28,12 +28,12 @@ namespace
 void StoreOrGiveUpTyped(Program& p)
 {
     try {
-        StoreTyped(p);
+        StoreTyped(p.Form3);
     } catch (const RuntimeError& refusal) {
         // Who has been asked already, and hasn't waited, keeps his text, and the branch with it.
         if (refusal.IsTold)
             throw;
-        ReportError(p, refusal);
+        ReportError(p.Errors, p.Prompts, refusal);
         p.Form3->Data1.GiveUpEdits();
     }
 }
@@ -70,7 +70,7 @@ bool OpenDatabase(Program& p, const QString& directory)
 // The current record beside the map and its marker, each as far as it can be had. False without a picture.
 bool ShowSubject(Program& p)
 {
-    p.Errors.Ignoring([&] { SetPictureName(p); });
+    p.Errors.Ignoring([&] { SetPictureName(p.Record, *p.Form3); });
     const bool hasPicture = ShowSubjectPicture(p);
     p.Errors.Ignoring([&] { MarkCurrentBox(p); });
     p.Errors.Ignoring([&] { FillSubjectLabels(p); });
@@ -84,7 +84,7 @@ void PutMapAway(Program& p)
     ResetMapFont(p.Form1->Picture1);
     ForgetMap(p);
     if (p.Branch.IsSiblingShown())
-        EndAlternate(p);
+        EndAlternate(p.Branch, p.Form3);
 }
 
 void ReturnToOwnSubject(Program& p)
@@ -105,7 +105,7 @@ bool EnterBranch(Program& p, const QString& name, const QString& directory)
 {
     StoreOrGiveUpTyped(p);
     // Who doesn't wait for another program keeps the branch that he has.
-    const auto database = ReachDatabase(p, DatabasePath(p.Branch.HomeDir + directory));
+    const auto database = ReachDatabase(p.Databases, p.Files, DatabasePath(p.Branch.HomeDir + directory));
     p.Branch.sBranchName = name;
     p.Form1->Shape1.Visible = false;
     PutMapAway(p);
@@ -118,7 +118,7 @@ bool EnterBranch(Program& p, const QString& name, const QString& directory)
 
 bool EmptySubjectIfNoRecords(Program& p)
 {
-    if (!TellIfEmptyTable(p))
+    if (!TellIfEmptyTable(Records(p.Form3), p.Prompts))
         return false;
     EmptySubjectLabels(p,
                        {&forms::Form1::Label9, &forms::Form1::Label10, &forms::Form1::Label11, &forms::Form1::Label12,

@@ -35,28 +35,28 @@ bool IsTransferPending(const Program& p)
 // one.
 void MoveLinkToPressedBox(Program& p)
 {
-    const QString file = Records(p).Text(Field::File);
+    const QString file = Records(p.Form3).Text(Field::File);
     if (p.Branch.IsSiblingShown())
         EraseSiblingsBox(p, file);
     else
         EraseBoxCaption(p);
     HitBox(p);
-    TieBox(p, p.Mouse.BoxIdx, file, Records(p).Text(Field::Forename));
+    TieBox(p, p.Mouse.BoxIdx, file, Records(p.Form3).Text(Field::Forename));
 }
 
 // Writes the boxes to the map's own branch although a record of another one is shown. Leaves the other branch opened
 // afresh, on the same record.
 void SaveBoxesOfOwnBranch(Program& p)
 {
-    const QString file = Records(p).Text(Field::File);
+    const QString file = Records(p.Form3).Text(Field::File);
     OpenSwappedBranch(p);
     p.Branch.UsingAlternate = 0;
     SaveBoxes(p);
-    auto stays = qScopeGuard([&p] { EndAlternate(p); });
+    auto stays = qScopeGuard([&p] { EndAlternate(p.Branch, p.Form3); });
     OpenSwappedBranch(p);
     stays.dismiss();
     p.Branch.UsingAlternate = 1;
-    Records(p).Seek(Field::File, file);
+    Records(p.Form3).Seek(Field::File, file);
 }
 
 // False when there is no record to be transferred, or none any more: the cursor may have gone behind the last one.
@@ -64,16 +64,16 @@ void SaveBoxesOfOwnBranch(Program& p)
 // old box.
 bool FinishTransfer(Program& p)
 {
-    if (!Records(p).HasRow()) {
-        if (Records(p).IsEmpty())
-            TellNoRecords(p);
-        ClearMapCursor(p);
+    if (!Records(p.Form3).HasRow()) {
+        if (Records(p.Form3).IsEmpty())
+            TellNoRecords(p.Prompts);
+        ClearMapCursor(p.Tools, p.Screen);
         return false;
     }
     if (const std::optional<int> row = PressedRow(p); !row || *row > LastFiledBox)
         return false;
     if (p.Branch.IsSiblingShown()) {
-        p.Record.sAltName = Records(p).Text(Field::Forename);
+        p.Record.sAltName = Records(p.Form3).Text(Field::Forename);
         MoveLinkToPressedBox(p);
         TakeBoxPosition(p, p.Mouse.BoxIdx);
         DrawRecordInBox(p);
@@ -83,7 +83,7 @@ bool FinishTransfer(Program& p)
         DrawRecordInBox(p);
         SaveBoxes(p);
     }
-    ClearMapCursor(p);
+    ClearMapCursor(p.Tools, p.Screen);
     return true;
 }
 
@@ -120,21 +120,21 @@ bool GoToBranchOf(Program& p, const QString& file)
 // Remembers where the cursor stands; false, and a box, when the branch has no records.
 bool KeepPositionInBranch(Program& p)
 {
-    if (Records(p).IsEmpty()) {
+    if (Records(p.Form3).IsEmpty()) {
         Tell(p, u"Database Empty"_s, u"This Tree Branch has no records to access"_s);
         return false;
     }
-    KeepPosition(p);
+    KeepPosition(p.Record, Records(p.Form3));
     return true;
 }
 
 // Stands on the record; false, and a box, when there is none. The switch of branch stays.
 bool FindPressedRecord(Program& p, const QString& file)
 {
-    if (Records(p).Seek(Field::File, file))
+    if (Records(p.Form3).Seek(Field::File, file))
         return true;
     Tell(p, u"Database Searched"_s, u"No File data found"_s);
-    ComeBack(p);
+    ComeBack(p.Record, p.Form3);
     return false;
 }
 
@@ -144,7 +144,7 @@ void MapPressedBox(Program& p, const QString& file)
     const bool isEmptyBox = file.startsWith(u'0');
     if (!isEmptyBox && (!GoToBranchOf(p, file) || !KeepPositionInBranch(p)))
         return;
-    if (Records(p).Seek(Field::File, file))
+    if (Records(p.Form3).Seek(Field::File, file))
         AskSubjectPicture(p);
     else
         MapNewSubject(p);
@@ -153,7 +153,7 @@ void MapPressedBox(Program& p, const QString& file)
 // A record without a gender leaves the marker where the last subject's was; so does one that is gone meanwhile.
 void MarkSubject(Program& p)
 {
-    if (!Records(p).HasRow() || Records(p).Text(Field::Gender).isEmpty())
+    if (!Records(p.Form3).HasRow() || Records(p.Form3).Text(Field::Gender).isEmpty())
         return;
     MarkCurrentBox(p);
     // The first double click of a re-positioning has chosen the old place; the cross waits for the new one.
@@ -196,11 +196,11 @@ void DoubleClickOnMap(Program& p)
         ReturnFromSibling(p);
         LeaveSubject(p);
     }
-    if (TellIfNoBranch(p))
+    if (TellIfNoBranch(p.Branch, p.Form3, p.Prompts))
         return;
 
     const bool isMapping = p.Tools.MapCursorMode == MapCursor::Mapping;
-    if (isMapping && Records(p).IsEmpty()) {
+    if (isMapping && Records(p.Form3).IsEmpty()) {
         // Wherever the click was.
         MapNewSubject(p);
         return;

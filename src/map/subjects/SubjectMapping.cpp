@@ -101,7 +101,7 @@ QString NextFreeNumber(Program& p, Recordset& records)
 // Its number is chosen among all that stand in the file when nobody else can add one.
 void AddSubject(Program& p)
 {
-    Recordset& records = Records(p);
+    Recordset& records = Records(p.Form3);
     QString file;
     records.AddNew();
     records.PutWhenWritten(Field::File, [&] { return file = NextFreeNumber(p, *records.Afresh()); });
@@ -141,7 +141,7 @@ std::optional<QString> TakeEnteredNumber(Program& p)
 // False, and a box, when the open database has no such record.
 bool StandOnRecord(Program& p, const QString& number)
 {
-    if (Records(p).Seek(Field::File, number))
+    if (Records(p.Form3).Seek(Field::File, number))
         return true;
     TellNotPresent(p, u"Record not Found: "_s + number);
     return false;
@@ -152,7 +152,7 @@ bool MapUnmappedRecord(Program& p)
     const std::optional<QString> number = TakeEnteredNumber(p);
     if (!number || !StandOnRecord(p, *number))
         return false;
-    LinkBox(p, PressedBox(p), *number, Records(p).Text(Field::Forename));
+    LinkBox(p, PressedBox(p), *number, Records(p.Form3).Text(Field::Forename));
     p.Mapping.MapOption = newRecord;
     SaveBoxes(p);
     return true;
@@ -167,8 +167,8 @@ bool MapAlternateRecord(Program& p)
     // Before the box is tied to it.
     if (!TakeOldSibling(p, letter))
         return false;
-    const auto sibling = ReachDatabase(p, DatabasePath(SiblingDirectory(p.Branch.WorkDir, letter)));
-    Records(p).Seek(Field::File, *number);
+    const auto sibling = ReachDatabase(p.Databases, p.Files, DatabasePath(SiblingDirectory(p.Branch.WorkDir, letter)));
+    Records(p.Form3).Seek(Field::File, *number);
     const std::optional<int> row = PressedBox(p);
     p.Screen.Pointer = MousePointer::Hourglass;
     LinkBox(p, row, *number);
@@ -208,10 +208,10 @@ void CopyBlankPortrait(Program& p)
 // Nothing when the user cancels. The scanner may go on behind the dialog.
 std::optional<QString> ChoosePicture(Program& p)
 {
-    const Bookmark subject = Records(p).GetBookmark();
+    const Bookmark subject = Records(p.Form3).GetBookmark();
     std::optional<QString> chosen =
         p.Prompts.OpenFile({u"Select Picture Source File"_s, u"DataBase|*.jpg|All Files|*.*|"_s});
-    StandOn(p, subject);
+    StandOn(Records(p.Form3), subject);
     return chosen;
 }
 
@@ -251,7 +251,7 @@ void GiveNewSubjectItsPicture(Program& p)
                 return;
             p.Files.FileCopy(*chosen, p.Mapping.PictureFile);
         } else if (p.Mapping.MapOption == alternateRecord) {
-            ClearMapCursor(p);
+            ClearMapCursor(p.Tools, p.Screen);
             p.Mapping.MapOption = newRecord;
         } else {
             CopyBlankPortrait(p);
@@ -262,7 +262,7 @@ void GiveNewSubjectItsPicture(Program& p)
 
 bool TellIfNothingToMap(Program& p)
 {
-    const bool isNone = !IsBranchOpen(p);
+    const bool isNone = !IsBranchOpen(p.Branch, p.Form3);
     if (isNone)
         p.Prompts.MsgBox(u"Data not available"_s, u"Cannot Map until database file is Opened"_s, Buttons::Information);
     return isNone;
@@ -318,7 +318,7 @@ void MapNewSubject(Program& p)
     PutRecordPicture(p, QImage());
     p.Form3->Show();
     p.Mapping.sBranchLetter = BranchLetter(p.Branch.WorkDir);
-    if (Records(p).IsEmpty())
+    if (Records(p.Form3).IsEmpty())
         MapFirstRecord(p);
     else if (!MapByOption(p))
         return;
@@ -332,7 +332,7 @@ void MapNewSubject(Program& p)
 
 void AskSubjectPicture(Program& p)
 {
-    const Bookmark asked = Records(p).GetBookmark();
+    const Bookmark asked = Records(p.Form3).GetBookmark();
     const Answer change = p.Prompts.MsgBox(u"New Subject Mapping"_s,
                                            u"This Subject has already been Logged into the Database.\n"
                                            u"Do you want to change the Subject Picture ? "_s,
@@ -341,7 +341,7 @@ void AskSubjectPicture(Program& p)
         StopMapping(p);
         return;
     }
-    p.Errors.Ignoring([&] { StandOn(p, asked); });
+    p.Errors.Ignoring([&] { StandOn(Records(p.Form3), asked); });
     p.Record.sCurFile = p.Form3->Label25.Caption;
     p.Errors.Ignoring([&] {
         if (p.Mapping.PictureOption == selectNow) {
@@ -375,7 +375,7 @@ void RemapSubject(Program& p)
                                            u"subject new map position to transfer data link"_s,
                                            Buttons::InformationOkCancel);
     if (select == Answer::Cancel)
-        ClearMapCursor(p);
+        ClearMapCursor(p.Tools, p.Screen);
 }
 
 } // namespace lineforge

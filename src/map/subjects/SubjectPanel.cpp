@@ -91,7 +91,7 @@ bool ShowSubjectPicture(Program& p)
 
 void ShowRecordOnMap(Program& p)
 {
-    SetPictureName(p);
+    SetPictureName(p.Record, *p.Form3);
     const bool hasPicture = ShowSubjectPicture(p);
     FillSubjectLabels(p);
     if (!hasPicture)

@@ -47,9 +47,9 @@ void AddFrame(Program& p)
 // while events are served the cursor can move, the record be changed, or the branch closed, which ends it.
 void FrameLine(Program& p, const QString& surname)
 {
-    Records(p).MoveFirst();
-    while (IsBranchOpen(p) && !Records(p).Eof()) {
-        if (IsOfLine(Records(p), surname)) {
+    Records(p.Form3).MoveFirst();
+    while (IsBranchOpen(p.Branch, p.Form3) && !Records(p.Form3).Eof()) {
+        if (IsOfLine(Records(p.Form3), surname)) {
             FindBoxOfRecord(p);
             if (p.Mouse.BoxY == 0 && p.Mouse.BoxX != 0) {
                 p.Loop.DoEvents();
@@ -57,7 +57,7 @@ void FrameLine(Program& p, const QString& surname)
             }
             AddFrame(p);
         }
-        Records(p).MoveNext();
+        Records(p.Form3).MoveNext();
     }
 }
 } // namespace
@@ -74,19 +74,19 @@ void LineageView(Program& p)
         return;
     }
     p.Map.MarkCount = 0;
-    if (Records(p).IsEmpty()) {
-        TellNoRecords(p);
+    if (Records(p.Form3).IsEmpty()) {
+        TellNoRecords(p.Prompts);
         return;
     }
-    KeepPosition(p);
+    KeepPosition(p.Record, Records(p.Form3));
     FrameLine(p, surname);
-    if (IsBranchOpen(p))
-        ComeBack(p);
+    if (IsBranchOpen(p.Branch, p.Form3))
+        ComeBack(p.Record, p.Form3);
 }
 
 void ViewLineage(Program& p)
 {
-    if (TellIfNoBranch(p))
+    if (TellIfNoBranch(p.Branch, p.Form3, p.Prompts))
         return;
     p.Tools.ToolMode = 1;
     LineageView(p);
@@ -94,7 +94,7 @@ void ViewLineage(Program& p)
 
 void ClearLineage(Program& p)
 {
-    if (TellIfNoBranch(p))
+    if (TellIfNoBranch(p.Branch, p.Form3, p.Prompts))
         return;
     p.Tools.ToolMode = 0;
     LineageView(p);

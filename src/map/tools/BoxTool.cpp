@@ -37,7 +37,7 @@ enum class Cursor { GoesThere, Stays };
 
 bool HasRecord(Program& p, Cursor cursor)
 {
-    Recordset& records = Records(p);
+    Recordset& records = Records(p.Form3);
     if (records.IsEmpty())
         return false;
     const Bookmark before = records.HasRow() ? records.GetBookmark() : Bookmark();
@@ -59,9 +59,9 @@ Pressed TakeHitBox(Program& p, const Pointing& pointing)
 
 void PutSubjectDown(Program& p)
 {
-    Records(p).Edit();
-    Records(p).Update();
-    Records(p).SetBookmark(p.Record.SavedBookmark);
+    Records(p.Form3).Edit();
+    Records(p.Form3).Update();
+    Records(p.Form3).SetBookmark(p.Record.SavedBookmark);
     p.Form1->Picture1.ForeColor = Black;
     if (HasPlace(p.Map, p.Mouse.BoxIdx)) {
         TakeBoxPosition(p, p.Mouse.BoxIdx);
@@ -103,7 +103,7 @@ Pressed TakeBox(Program& p, const Pointing& pointing)
         return Pressed::No;
     if (HasRecord(p, Cursor::GoesThere)) {
         p.Record.sCurFile = NumberInHitBox(p);
-        p.Record.SavedBookmark = Records(p).GetBookmark();
+        p.Record.SavedBookmark = Records(p.Form3).GetBookmark();
         p.Tools.MapCursorMode = MapCursor::MovingSubject;
     }
     return TakeHitBox(p, pointing);
@@ -150,7 +150,7 @@ Released DropBox(Program& p)
     DrawBoxIn(p, p.Mouse.BoxIdx, ColourOfBox(p.Map, p.Mouse.BoxIdx));
     if (p.Tools.MapCursorMode == MapCursor::MovingSubject) {
         // A backup that has failed meanwhile has left the branch without its records.
-        if (IsBranchOpen(p))
+        if (IsBranchOpen(p.Branch, p.Form3))
             PutSubjectDown(p);
         p.Tools.MapCursorMode = MapCursor::Normal;
     }

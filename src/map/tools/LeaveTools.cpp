@@ -54,7 +54,7 @@ void PutCursorDown(Program& p)
 // Where that record has been deleted meanwhile, whoever is current stays so; is that nobody, the first becomes it.
 void StandOnRecordOfOpening(Program& p)
 {
-    Recordset& records = Records(p);
+    Recordset& records = Records(p.Form3);
     const Bookmark here = records.HasRow() ? records.GetBookmark() : Bookmark();
     records.SetBookmark(p.Tools.ToolBookmark);
     if (records.HasRow())
@@ -67,7 +67,7 @@ void StandOnRecordOfOpening(Program& p)
 
 void ReturnToRecord(Program& p)
 {
-    if (IsBranchOpen(p) && !Records(p).IsEmpty()) {
+    if (IsBranchOpen(p.Branch, p.Form3) && !Records(p.Form3).IsEmpty()) {
         p.Errors.Ignoring([&] { StandOnRecordOfOpening(p); });
         MarkCurrentBox(p);
         // KEPT(LeaveToolsAnswerTest.RecordWithoutABox_ShowsTheMarkerWhereItStood): even where no box holds the record
@@ -138,7 +138,7 @@ void OpenEditingMenu(Program& p)
             [&] { p.Form1->Image8.Picture = p.Pictures.Load(p.Files, p.Branch.HomeDir + u"Save-Dwn.bmp"); });
         LeaveTools(p);
     }
-    ClearMapCursor(p);
+    ClearMapCursor(p.Tools, p.Screen);
 }
 
 } // namespace lineforge

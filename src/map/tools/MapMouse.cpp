@@ -98,7 +98,7 @@ void PressMap(Program& p, int shift, double x, double y)
 {
     FinishGesture(p);
     // Where the records have gone behind the tools, these can only be closed.
-    if (AreToolsOpen(p) && TellIfNoBranch(p))
+    if (AreToolsOpen(p) && TellIfNoBranch(p.Branch, p.Form3, p.Prompts))
         return;
     p.Tools.IsPressed = true;
     const Pointing pointing{PointerOnMap(x, y), shift};

@@ -80,11 +80,11 @@ void LeaveZone(Program& p)
 
 void OpenTools(Program& p)
 {
-    if (TellIfAlternate(p, u"Using Alternate Tree Branch."_s,
+    if (TellIfAlternate(p.Branch, p.Prompts, u"Using Alternate Tree Branch."_s,
                         u"Cannot Change Tree Map until local Tree Branch\nRecord is Selected."_s))
         return;
     // Neither can the map of no branch: after a New that was given up none is in memory, though one is open.
-    if (!IsBranchOpen(p) || p.Map.Owner != p.Branch.WorkDir) {
+    if (!IsBranchOpen(p.Branch, p.Form3) || p.Map.Owner != p.Branch.WorkDir) {
         p.Prompts.MsgBox(u"DataBase not Opened"_s,
                          u"Cannot Change Tree Map until database\nfile is Opened or begins from New"_s,
                          Buttons::Information);

@@ -6,6 +6,7 @@
 #include "platform/base/Text.h"
 #include "platform/files/TextFile.h"
 #include "program/branch/AliasFile.h"
+#include "program/state/Program.h"
 
 #include <algorithm>
 
@@ -19,26 +20,27 @@ namespace
 constexpr int fileNameLength = 13; // of "AliasList.cfg"
 constexpr int directoryLength = 8; // of "LfgDat_A"
 
-QString ListPath(const Program& p)
+QString ListPath(const BranchState& branch)
 {
-    return p.Branch.HomeDir + u"AliasList.cfg";
+    return branch.HomeDir + u"AliasList.cfg";
 }
 
 // Keeps the attributes of the list. False, and a box, when it isn't there or must not be read: only an attribute value
 // of exactly read-only refuses; a file that bears another attribute as well passes here and fails later, when it is
 // written.
-bool FindReadableList(Program& p)
+bool FindReadableList(const BranchRegistry& registry)
 {
-    if (!p.Files.LookUpGivesTail(ListPath(p), fileNameLength)) {
-        p.form9.Unload();
-        p.Prompts.MsgBox(u"File not Found."_s, u"Can't find AliasList.cfg in Home Directory"_s, Buttons::Information);
+    if (!registry.Files.LookUpGivesTail(ListPath(registry.Branch), fileNameLength)) {
+        registry.form9.Unload();
+        registry.Prompts.MsgBox(u"File not Found."_s, u"Can't find AliasList.cfg in Home Directory"_s,
+                                Buttons::Information);
         return false;
     }
-    p.Alias.AliasAttr = p.Files.GetAttr(ListPath(p));
-    if (p.Alias.AliasAttr == FileSystem::ReadOnly) {
-        p.Prompts.MsgBox(u"File Attribute set for Read Only."_s,
-                         u"Cannot access a Read Only File. Use 'Import File' to read this File."_s,
-                         Buttons::Information);
+    registry.Alias.AliasAttr = registry.Files.GetAttr(ListPath(registry.Branch));
+    if (registry.Alias.AliasAttr == FileSystem::ReadOnly) {
+        registry.Prompts.MsgBox(u"File Attribute set for Read Only."_s,
+                                u"Cannot access a Read Only File. Use 'Import File' to read this File."_s,
+                                Buttons::Information);
         return false;
     }
     return true;
@@ -57,18 +59,18 @@ qsizetype StartOfEntry(const QString& aliasList, const QString& name)
     return -1;
 }
 
-void Do(Program& p, void (*step)(Program&), Refusals refusals)
+void Do(const BranchRegistry& registry, void (*step)(const BranchRegistry&), Refusals refusals)
 {
     if (refusals == Refusals::CostTheirStep)
-        p.Errors.Ignoring([&] { step(p); });
+        registry.Errors.Ignoring([&] { step(registry); });
     else
-        step(p);
+        step(registry);
 }
 
-void PublishAliasList(Program& p, Refusals refusals)
+void PublishAliasList(const BranchRegistry& registry, Refusals refusals)
 {
     for (const auto step : {WriteAliasList, ReadAliasList, FillBranchList})
-        Do(p, step, refusals);
+        Do(registry, step, refusals);
 }
 
 // Whether the branch list can give the name back: the first equals sign ends it there, the reader drops what is lost on
@@ -113,94 +115,100 @@ void RemoveEntriesOf(QString& aliasList, const QString& directory)
 }
 } // namespace
 
-void ReadAliasConfig(Program& p)
+BranchRegistry::BranchRegistry(Program& p)
+    : Alias(p.Alias), Branch(p.Branch), Files(p.Files), Prompts(p.Prompts), Errors(p.Errors), Scratch(p.Scratch),
+      form9(p.form9), Form8(p.Form8)
 {
-    if (!FindReadableList(p))
-        return;
-    ReadAliasSection(p.Files, ListPath(p), AliasSection::Settings,
-                     [&](const QString& value) { p.Alias.NoSplash = ToInteger(value); });
 }
 
-void ReadAliasList(Program& p)
+void ReadAliasConfig(const BranchRegistry& registry)
 {
-    if (!FindReadableList(p))
+    if (!FindReadableList(registry))
         return;
-    p.Alias.AliasTable.Erase();
-    p.Alias.sAliasList.clear();
+    ReadAliasSection(registry.Files, ListPath(registry.Branch), AliasSection::Settings,
+                     [&](const QString& value) { registry.Alias.NoSplash = ToInteger(value); });
+}
+
+void ReadAliasList(const BranchRegistry& registry)
+{
+    if (!FindReadableList(registry))
+        return;
+    registry.Alias.AliasTable.Erase();
+    registry.Alias.sAliasList.clear();
     int index = 0;
-    ReadAliasSection(p.Files, ListPath(p), AliasSection::Branches, [&](const QString& entry) {
-        p.Alias.AliasTable[index++] = entry;
-        p.Alias.sAliasList += entry + u',';
+    ReadAliasSection(registry.Files, ListPath(registry.Branch), AliasSection::Branches, [&](const QString& entry) {
+        registry.Alias.AliasTable[index++] = entry;
+        registry.Alias.sAliasList += entry + u',';
     });
 }
 
-void WriteAliasList(Program& p)
+void WriteAliasList(const BranchRegistry& registry)
 {
-    p.Scratch.sFileA = ListPath(p);
-    p.Scratch.sFileB = p.Branch.HomeDir + u"AliasList.bak";
-    if (p.Files.LookUpGivesTail(p.Scratch.sFileA, fileNameLength))
-        p.Files.FileCopy(p.Scratch.sFileA, p.Scratch.sFileB);
-    WriteTextLines(p.Files, p.Scratch.sFileA,
+    registry.Scratch.sFileA = ListPath(registry.Branch);
+    registry.Scratch.sFileB = registry.Branch.HomeDir + u"AliasList.bak";
+    if (registry.Files.LookUpGivesTail(registry.Scratch.sFileA, fileNameLength))
+        registry.Files.FileCopy(registry.Scratch.sFileA, registry.Scratch.sFileB);
+    WriteTextLines(registry.Files, registry.Scratch.sFileA,
                    {u"This File Contains Graphic Data crucial to your program. Warning: DO NOT MODIFY."_s, u"[Alias]"_s,
-                    u'[' + p.Alias.sAliasList + u']', u"[CFG]"_s, u"[%1,]"_s.arg(p.Alias.NoSplash)});
+                    u'[' + registry.Alias.sAliasList + u']', u"[CFG]"_s, u"[%1,]"_s.arg(registry.Alias.NoSplash)});
 }
 
-bool IsNameListed(const Program& p, const QString& name)
+bool IsNameListed(const AliasState& alias, const QString& name)
 {
-    return StartOfEntry(p.Alias.sAliasList, name) >= 0;
+    return StartOfEntry(alias.sAliasList, name) >= 0;
 }
 
-bool IsDirectoryListed(const Program& p, const QString& directory)
+bool IsDirectoryListed(const AliasState& alias, const QString& directory)
 {
-    return std::ranges::any_of(p.Alias.sAliasList.split(u','),
+    return std::ranges::any_of(alias.sAliasList.split(u','),
                                [&](const QString& entry) { return SameText(entry.section(u'=', -1), directory); });
 }
 
-QString ListedName(const Program& p, const QString& directory)
+QString ListedName(const AliasState& alias, const BranchState& branch, const QString& directory)
 {
-    const QString& open = p.Branch.sBranchName;
-    if (QString(u',' + p.Alias.sAliasList).contains(WholeEntry(open, directory), Qt::CaseInsensitive))
+    const QString& open = branch.sBranchName;
+    if (QString(u',' + alias.sAliasList).contains(WholeEntry(open, directory), Qt::CaseInsensitive))
         return open;
-    for (const QString& entry : p.Alias.sAliasList.split(u','))
+    for (const QString& entry : alias.sAliasList.split(u','))
         // As the branch list gives it back.
         if (const QString name = entry.section(u'=', 0, 0); IsEntryOf(entry, directory) && name != entry)
             return name;
     return open;
 }
 
-QString AskBranchName(Program& p, const QString& title, const QString& prompt)
+QString AskBranchName(const AliasState& alias, Prompts& prompts, const QString& title, const QString& prompt)
 {
     for (;;) {
-        QString name = p.Prompts.InputBox(title, prompt);
-        if (name.isEmpty() || (IsGivenBack(name) && !IsNameListed(p, name)))
+        QString name = prompts.InputBox(title, prompt);
+        if (name.isEmpty() || (IsGivenBack(name) && !IsNameListed(alias, name)))
             return name;
-        p.Prompts.MsgBox(u"Duplicate Name entered."_s, u"Cannot have Tree Branch databases with same name"_s,
-                         Buttons::Information);
+        prompts.MsgBox(u"Duplicate Name entered."_s, u"Cannot have Tree Branch databases with same name"_s,
+                       Buttons::Information);
     }
 }
 
-void AddAlias(Program& p, const QString& name, const QString& directory, Refusals refusals)
+void AddAlias(const BranchRegistry& registry, const QString& name, const QString& directory, Refusals refusals)
 {
-    Do(p, ReadAliasList, refusals);
-    p.Alias.sAliasList += name + u'=' + directory + u',';
-    PublishAliasList(p, refusals);
+    Do(registry, ReadAliasList, refusals);
+    registry.Alias.sAliasList += name + u'=' + directory + u',';
+    PublishAliasList(registry, refusals);
 }
 
 // By the directory: under the name the list may have another branch, of which this one's name is the beginning, and the
 // directory may be listed under other names too.
-void RemoveAlias(Program& p, const QString& name, const QString& directory)
+void RemoveAlias(const BranchRegistry& registry, const QString& name, const QString& directory)
 {
-    RemoveWholeName(p.Alias.sAliasList, name, directory);
-    RemoveEntriesOf(p.Alias.sAliasList, directory);
-    PublishAliasList(p, Refusals::CostTheirStep);
+    RemoveWholeName(registry.Alias.sAliasList, name, directory);
+    RemoveEntriesOf(registry.Alias.sAliasList, directory);
+    PublishAliasList(registry, Refusals::CostTheirStep);
 }
 
-void FillBranchList(Program& p)
+void FillBranchList(const BranchRegistry& registry)
 {
-    if (p.Alias.sAliasList.isEmpty())
+    if (registry.Alias.sAliasList.isEmpty())
         return;
-    const FixedArray<QString, 0, 99>& table = p.Alias.AliasTable;
-    ListBox& list = p.Form8->List1;
+    const FixedArray<QString, 0, 99>& table = registry.Alias.AliasTable;
+    ListBox& list = registry.Form8->List1;
 
     QStringList names;
     for (int index = 0; !table[index].isEmpty(); ++index) {
@@ -212,7 +220,7 @@ void FillBranchList(Program& p)
     list.ListIndex = -1;
     list.Items = names;
 
-    const QString open = p.Branch.WorkDir.right(directoryLength);
+    const QString open = registry.Branch.WorkDir.right(directoryLength);
     for (int index = 0; !table[index].isEmpty(); ++index) {
         if (IsEntryOf(table[index], open)) {
             // A directory that stands there alone has no name to select.

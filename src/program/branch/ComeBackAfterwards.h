@@ -1,6 +1,8 @@
 #pragma once
 
 #include "program/branch/WorkDatabase.h"
+#include "program/state/BranchState.h"
+#include "program/state/RecordState.h"
 
 #include <utility>
 
@@ -9,40 +11,39 @@ namespace lineforge
 
 // Makes that record current again, wherever the scanner has gone under a box. Where it hasn't, nothing is left, so that
 // what is typed stays pending. Errors of the database.
-inline void StandOn(Program& p, const Bookmark& record)
+inline void StandOn(Recordset& records, const Bookmark& record)
 {
-    Recordset& records = Records(p);
     if (!records.HasRow() || records.GetBookmark() != record)
         records.SetBookmark(record);
 }
 
 // Keeps where the cursor stands in `SavedBookmark`. On no row there is nothing to keep, and what was kept before stays.
-inline void KeepPosition(Program& p)
+inline void KeepPosition(RecordState& state, const Recordset& records)
 {
-    if (Records(p).HasRow())
-        p.Record.SavedBookmark = Records(p).GetBookmark();
+    if (records.HasRow())
+        state.SavedBookmark = records.GetBookmark();
 }
 
 // Back to what was kept last, if anything was in this database.
-inline void ComeBack(Program& p)
+inline void ComeBack(const RecordState& state, Window<forms::Form3>& recordForm)
 {
-    if (p.Record.SavedBookmark && !Records(p).IsEmpty())
-        Records(p).SetBookmark(p.Record.SavedBookmark);
+    if (state.SavedBookmark && !Records(recordForm).IsEmpty())
+        Records(recordForm).SetBookmark(state.SavedBookmark);
 }
 
 // Does something that moves the cursor, by way of other branches too, and makes the current record current again. Begun
 // on a record of another branch it ends where the doing has left it, for that branch is left meanwhile.
 template <class Act>
-void ComeBackAfterwards(Program& p, Act&& act)
+void ComeBackAfterwards(const BranchState& branch, RecordState& state, Window<forms::Form3>& recordForm, Act&& act)
 {
-    const bool isOwn = p.Branch.UsingAlternate == 0;
-    const Recordset& records = Records(p);
+    const bool isOwn = branch.UsingAlternate == 0;
+    const Recordset& records = Records(recordForm);
     const Bookmark before = records.HasRow() ? records.GetBookmark() : Bookmark();
     std::forward<Act>(act)();
-    if (!isOwn || p.Branch.UsingAlternate != 0 || !before)
+    if (!isOwn || branch.UsingAlternate != 0 || !before)
         return;
-    p.Record.SavedBookmark = before;
-    Records(p).SetBookmark(before);
+    state.SavedBookmark = before;
+    Records(recordForm).SetBookmark(before);
 }
 
 } // namespace lineforge

@@ -1,17 +1,15 @@
 #include "program/branch/EmptyTable.h"
 
-#include "program/branch/WorkDatabase.h"
-
 namespace lineforge
 {
 
 using namespace Qt::StringLiterals;
 
-bool TellIfEmptyTable(Program& p)
+bool TellIfEmptyTable(const Recordset& records, Prompts& prompts)
 {
-    if (!Records(p).IsEmpty())
+    if (!records.IsEmpty())
         return false;
-    p.Prompts.MsgBox(u"Database Empty"_s, u"This Database has no records to access"_s, Buttons::Information);
+    prompts.MsgBox(u"Database Empty"_s, u"This Database has no records to access"_s, Buttons::Information);
     return true;
 }
 

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "platform/machine/Prompts.h"
+#include "platform/store/Recordset.h"
 
 namespace lineforge
 {
 
-// Whether the open branch has no records; tells the user so.
-bool TellIfEmptyTable(Program& p);
+// Whether the open branch, whose records these are, has none; tells the user so.
+bool TellIfEmptyTable(const Recordset& records, Prompts& prompts);
 
 } // namespace lineforge

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "platform/files/FileSystem.h"
 
 namespace lineforge
 {
 
 // Makes a directory. False where one of that name is there already; whatever else stands in its way is an error of the
 // disk, 75 or 76.
-bool MakeDirectory(Program& p, const QString& directory);
+bool MakeDirectory(FileSystem& files, const QString& directory);
 
 } // namespace lineforge

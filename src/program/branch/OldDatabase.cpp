@@ -37,48 +37,48 @@ DatabaseFormat FormatOfFile(const QString& file)
 }
 
 // An exported branch, or somebody's own file, stays what it is.
-bool IsInBranch(const Program& p, const QString& file)
+bool IsInBranch(const DatabaseOpening& opening, const QString& file)
 {
-    return IsBranchDirectory(QFileInfo(file).path(), p.Files.Resolve(p.Branch.HomeDir) + PathSeparator);
+    return IsBranchDirectory(QFileInfo(file).path(), opening.Files.Resolve(opening.HomeDir) + PathSeparator);
 }
 
 // Whether an older installation wrote it, and it may become a database of ours.
-bool IsToBeTaken(const Program& p, const QString& file, DatabaseFormat format)
+bool IsToBeTaken(const DatabaseOpening& opening, const QString& file, DatabaseFormat format)
 {
     const bool isOld = format == DatabaseFormat::Jet3 || format == DatabaseFormat::Jet4;
-    return isOld && OwnerCanWrite(file) && IsInBranch(p, file);
+    return isOld && OwnerCanWrite(file) && IsInBranch(opening, file);
 }
 
 // Not where the program was built without the library.
-bool HasReader(const Program& p)
+bool HasReader(const DatabaseOpening& opening)
 {
-    return QFileInfo(OldDatabaseReader(p.ExecutableDirectory)).isExecutable();
+    return QFileInfo(OldDatabaseReader(opening.ExecutableDirectory)).isExecutable();
 }
 
-JetRows ReadRows(Program& p, const QString& file)
+JetRows ReadRows(const DatabaseOpening& opening, const QString& file)
 {
-    if (!HasReader(p))
+    if (!HasReader(opening))
         Refuse(ErrorNumber::NotADatabase, file + u'\n' + noReader);
-    Meanwhile meanwhile(p);
-    std::optional<JetRows> rows = ReadOldDatabase(OldDatabaseReader(p.ExecutableDirectory), file, readingTime,
+    Meanwhile meanwhile(opening.Loop);
+    std::optional<JetRows> rows = ReadOldDatabase(OldDatabaseReader(opening.ExecutableDirectory), file, readingTime,
                                                   [&meanwhile] { meanwhile.KeepPainted(); });
     if (!rows || (rows->HasLosses() && rows->Count() == 0))
         Refuse(ErrorNumber::NotADatabase, file);
     return std::move(*rows);
 }
 
-void WarnIfInUse(Program& p, const QString& file)
+void WarnIfInUse(const DatabaseOpening& opening, const QString& file)
 {
     const QString lock =
-        p.Files.Dir(QFileInfo(file).path() + PathSeparator + QFileInfo(file).completeBaseName() + u".ldb");
+        opening.Files.Dir(QFileInfo(file).path() + PathSeparator + QFileInfo(file).completeBaseName() + u".ldb");
     if (!lock.isEmpty())
-        p.Prompts.MsgBox(u"Old Database may be in use"_s,
-                         lock + u" shows that another program may have this database open.\n"
-                                u"What that program writes from now on is not taken over.",
-                         Buttons::Information);
+        opening.Prompts.MsgBox(u"Old Database may be in use"_s,
+                               lock + u" shows that another program may have this database open.\n"
+                                      u"What that program writes from now on is not taken over.",
+                               Buttons::Information);
 }
 
-void RequireConsentToLosses(Program& p, const QString& file, const JetRows& rows)
+void RequireConsentToLosses(const DatabaseOpening& opening, const QString& file, const JetRows& rows)
 {
     if (!rows.HasLosses())
         return;
@@ -89,50 +89,50 @@ void RequireConsentToLosses(Program& p, const QString& file, const JetRows& rows
             .arg(std::max(tally.Stated, tally.Rows + tally.BadRows))
             .arg(tally.BadCells)
             .arg(QFileInfo(NameOfKept(file)).fileName());
-    if (p.Prompts.MsgBox(u"Old Database is damaged"_s, text, Buttons::QuestionYesNoDefaultNo) != Answer::Yes)
+    if (opening.Prompts.MsgBox(u"Old Database is damaged"_s, text, Buttons::QuestionYesNoDefaultNo) != Answer::Yes)
         Refuse(ErrorNumber::NotADatabase, file);
 }
 
-void Convert(Program& p, const FileIdentity& file)
+void Convert(const DatabaseOpening& opening, const FileIdentity& file)
 {
     RequireReplaceable(file.Path);
-    const JetRows rows = ReadRows(p, file.Path);
-    WarnIfInUse(p, file.Path);
-    RequireConsentToLosses(p, file.Path, rows);
-    Meanwhile meanwhile(p);
-    ReplaceOldDatabase(p.Files, file, rows, [&meanwhile] { meanwhile.KeepPainted(); });
+    const JetRows rows = ReadRows(opening, file.Path);
+    WarnIfInUse(opening, file.Path);
+    RequireConsentToLosses(opening, file.Path, rows);
+    Meanwhile meanwhile(opening.Loop);
+    ReplaceOldDatabase(opening.Files, file, rows, [&meanwhile] { meanwhile.KeepPainted(); });
 }
 } // namespace
 
-void ConvertIfOld(Program& p, const QString& path, OldDatabaseUse use)
+void ConvertIfOld(const DatabaseOpening& opening, const QString& path, OldDatabaseUse use)
 {
-    const QString file = p.Files.Resolve(path);
+    const QString file = opening.Files.Resolve(path);
     const DatabaseFormat format = FormatOfFile(file);
     if (format == DatabaseFormat::Newer)
         Refuse(ErrorNumber::NotADatabase, file);
-    if (!IsToBeTaken(p, file, format))
+    if (!IsToBeTaken(opening, file, format))
         return;
     const FileIdentity identity = IdentityOf(file);
-    if (use == OldDatabaseUse::Caption && p.RefusedDatabases.contains(identity))
+    if (use == OldDatabaseUse::Caption && opening.RefusedDatabases.contains(identity))
         Refuse(ErrorNumber::NotADatabase, file);
     try {
         // Each time as it stands then.
-        p.Databases.Others().Patiently(file, [&](int) { Convert(p, IdentityOf(file)); });
+        opening.Databases.Others().Patiently(file, [&](int) { Convert(opening, IdentityOf(file)); });
     } catch (const RuntimeError&) {
-        p.RefusedDatabases.insert(identity);
+        opening.RefusedDatabases.insert(identity);
         throw;
     }
 }
 
-void TellDatabaseRefused(Program& p, const QString& path, const RuntimeError& refusal)
+void TellDatabaseRefused(const DatabaseOpening& opening, const QString& path, const RuntimeError& refusal)
 {
-    const QString file = p.Files.Resolve(path);
-    const bool lacksReader =
-        refusal.Number == ErrorNumber::NotADatabase && IsToBeTaken(p, file, FormatOfFile(file)) && !HasReader(p);
+    const QString file = opening.Files.Resolve(path);
+    const bool lacksReader = refusal.Number == ErrorNumber::NotADatabase &&
+                             IsToBeTaken(opening, file, FormatOfFile(file)) && !HasReader(opening);
     if (refusal.IsTold)
         return;
-    p.Prompts.MsgBox(u"Read Only or Incorrect Database"_s, lacksReader ? noReader : u"Cannot open this database"_s,
-                     Buttons::Information);
+    opening.Prompts.MsgBox(u"Read Only or Incorrect Database"_s,
+                           lacksReader ? noReader : u"Cannot open this database"_s, Buttons::Information);
 }
 
 } // namespace lineforge

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "program/branch/BranchAccess.h"
 
 #include <QString>
 
@@ -18,10 +18,10 @@ enum class OldDatabaseUse {
 // whoever opens them.
 // RuntimeError 3343 for a file of a newer installation, or one that can't be taken or that the user doesn't want taken
 // with its losses, and whatever the disk refuses; nothing has changed then.
-void ConvertIfOld(Program& p, const QString& path, OldDatabaseUse use);
+void ConvertIfOld(const DatabaseOpening& opening, const QString& path, OldDatabaseUse use);
 
 // Shows the box for a database of that path that could not be opened, with the reason where the user can do something
 // about it.
-void TellDatabaseRefused(Program& p, const QString& path, const RuntimeError& refusal);
+void TellDatabaseRefused(const DatabaseOpening& opening, const QString& path, const RuntimeError& refusal);
 
 } // namespace lineforge

@@ -18,109 +18,109 @@ namespace
 {
 // Opens the database of the branch that `point` points the program at, or leaves it pointed where it was.
 template <class Point>
-void PointAtBranch(Program& p, const Point& point)
+void PointAtBranch(const BranchAccess& access, const Point& point)
 {
-    StoreTyped(p);
-    auto pointBack = qScopeGuard([&p, before = p.Branch] { p.Branch = before; });
+    StoreTyped(access.Form3);
+    auto pointBack = qScopeGuard([&access, before = access.Branch] { access.Branch = before; });
     point();
-    OpenWorkDatabase(p);
+    OpenWorkDatabase(access);
     pointBack.dismiss();
 }
 } // namespace
 
-void SwapBranchDirs(Program& p)
+void SwapBranchDirs(BranchState& branch)
 {
-    std::swap(p.Branch.WorkDir, p.Branch.WorkDirSaved);
-    std::swap(p.Branch.HomeDir, p.Branch.HomeDirSaved);
+    std::swap(branch.WorkDir, branch.WorkDirSaved);
+    std::swap(branch.HomeDir, branch.HomeDirSaved);
 }
 
-bool TakeOldSibling(Program& p, QStringView letter)
+bool TakeOldSibling(const BranchAccess& access, QStringView letter)
 {
-    const QString database = DatabasePath(SiblingDirectory(p.Branch.WorkDir, letter));
+    const QString database = DatabasePath(SiblingDirectory(access.Branch.WorkDir, letter));
     try {
-        ConvertIfOld(p, database, OldDatabaseUse::Command);
+        ConvertIfOld(access, database, OldDatabaseUse::Command);
         return true;
     } catch (const RuntimeError& refusal) {
-        TellDatabaseRefused(p, database, refusal);
+        TellDatabaseRefused(access, database, refusal);
         return false;
     }
 }
 
-bool RequireSibling(Program& p, QStringView letter)
+bool RequireSibling(const BranchAccess& access, QStringView letter)
 {
-    const bool isImported = IsImported(p.Branch.WorkDir);
+    const bool isImported = IsImported(access.Branch.WorkDir);
     const QString directory = (isImported ? u"Import_"_s : u"LfgDat_"_s) + letter;
-    const QString database = DatabasePath(p.Branch.HomeDir + directory);
-    if (!p.Files.Dir(database).isEmpty())
-        return TakeOldSibling(p, letter);
+    const QString database = DatabasePath(access.Branch.HomeDir + directory);
+    if (!access.Files.Dir(database).isEmpty())
+        return TakeOldSibling(access, letter);
     if (isImported)
-        p.Prompts.MsgBox(u"External Import Record not present."_s,
-                         u"Cannot Access External Imported Database subject."_s, Buttons::Information);
+        access.Prompts.MsgBox(u"External Import Record not present."_s,
+                              u"Cannot Access External Imported Database subject."_s, Buttons::Information);
     else
-        p.Prompts.MsgBox(u"External Record not present."_s,
-                         u"Cannot Access this External Database and subject.\n"_s + database + u" not present.",
-                         Buttons::Information);
+        access.Prompts.MsgBox(u"External Record not present."_s,
+                              u"Cannot Access this External Database and subject.\n"_s + database + u" not present.",
+                              Buttons::Information);
     return false;
 }
 
-void KeepOwnDirectories(Program& p)
+void KeepOwnDirectories(BranchState& branch)
 {
-    if (p.Branch.IsSiblingShown())
+    if (branch.IsSiblingShown())
         return;
-    p.Branch.WorkDirSaved = p.Branch.WorkDir;
-    p.Branch.HomeDirSaved = p.Branch.HomeDir;
+    branch.WorkDirSaved = branch.WorkDir;
+    branch.HomeDirSaved = branch.HomeDir;
 }
 
-void SwitchToSibling(Program& p, QStringView letter)
+void SwitchToSibling(const BranchAccess& access, QStringView letter)
 {
-    PointAtBranch(p, [&] {
-        KeepOwnDirectories(p);
-        p.Branch.WorkDir = SiblingDirectory(p.Branch.WorkDir, letter);
+    PointAtBranch(access, [&] {
+        KeepOwnDirectories(access.Branch);
+        access.Branch.WorkDir = SiblingDirectory(access.Branch.WorkDir, letter);
     });
-    p.Branch.UsingAlternate = 1;
-    DisableTransport(p);
+    access.Branch.UsingAlternate = 1;
+    DisableTransport(*access.Form3);
 }
 
-void DisableTransport(Program& p)
+void DisableTransport(forms::Form3& form)
 {
     for (Button forms::Form3::*transport : forms::Form3::Transport)
-        ((*p.Form3).*transport).Enabled = false;
+        (form.*transport).Enabled = false;
 }
 
-void OpenOwnBranch(Program& p)
+void OpenOwnBranch(const BranchAccess& access)
 {
-    PointAtBranch(p, [&p] {
-        p.Branch.WorkDir = p.Branch.WorkDirSaved;
-        p.Branch.HomeDir = p.Branch.HomeDirSaved;
+    PointAtBranch(access, [&access] {
+        access.Branch.WorkDir = access.Branch.WorkDirSaved;
+        access.Branch.HomeDir = access.Branch.HomeDirSaved;
     });
 }
 
-void OpenSwappedBranch(Program& p)
+void OpenSwappedBranch(const BranchAccess& access)
 {
-    PointAtBranch(p, [&p] { SwapBranchDirs(p); });
+    PointAtBranch(access, [&access] { SwapBranchDirs(access.Branch); });
 }
 
-void EndAlternate(Program& p)
+void EndAlternate(BranchState& branch, Window<forms::Form3>& recordForm)
 {
-    p.Branch.UsingAlternate = 0;
+    branch.UsingAlternate = 0;
     for (Button forms::Form3::*transport : forms::Form3::Transport) {
-        Button& button = (*p.Form3).*transport;
+        Button& button = (*recordForm).*transport;
         button.Enabled = true;
         button.Visible = true; // the gallery has hidden them if it was left for the records
     }
 }
 
-void ReturnFromSibling(Program& p)
+void ReturnFromSibling(const BranchAccess& access)
 {
-    OpenOwnBranch(p);
-    EndAlternate(p);
+    OpenOwnBranch(access);
+    EndAlternate(access.Branch, access.Form3);
 }
 
-bool TellIfAlternate(Program& p, const QString& title, const QString& text)
+bool TellIfAlternate(const BranchState& branch, Prompts& prompts, const QString& title, const QString& text)
 {
-    if (!p.Branch.IsSiblingShown())
+    if (!branch.IsSiblingShown())
         return false;
-    p.Prompts.MsgBox(title, text, Buttons::Information);
+    prompts.MsgBox(title, text, Buttons::Information);
     return true;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "program/branch/BranchAccess.h"
 
 namespace lineforge
 {
@@ -9,41 +9,41 @@ namespace lineforge
 // those of the branch whose map is on the screen.
 
 // Exchanges `WorkDir` with `WorkDirSaved` and `HomeDir` with `HomeDirSaved`.
-void SwapBranchDirs(Program& p);
+void SwapBranchDirs(BranchState& branch);
 
 // Whether the database of the sibling branch of that letter is there; shows a box with its path when it isn't. One of
 // an older installation is taken; shows the box of a refused opening when it can't be.
-bool RequireSibling(Program& p, QStringView letter);
+bool RequireSibling(const BranchAccess& access, QStringView letter);
 
 // Takes the sibling's database if it is one of an older installation. False, with the box of a refused opening, when it
 // can't be taken; any other database is left to whoever opens it.
-bool TakeOldSibling(Program& p, QStringView letter);
+bool TakeOldSibling(const BranchAccess& access, QStringView letter);
 
 // Keeps the open branch's directories as the saved ones, before the program points elsewhere. From one sibling to
 // another the way back still leads to the open branch.
-void KeepOwnDirectories(Program& p);
+void KeepOwnDirectories(BranchState& branch);
 
 // The following leave the program pointed where it was when a database can't be opened.
 
 // Points the whole program at the sibling branch of that letter; the map stays.
-void SwitchToSibling(Program& p, QStringView letter);
+void SwitchToSibling(const BranchAccess& access, QStringView letter);
 
 // The directories and the database of the branch whose map is shown; `UsingAlternate` stays.
-void OpenOwnBranch(Program& p);
+void OpenOwnBranch(const BranchAccess& access);
 
 // `SwapBranchDirs`, and the database of the branch that the directories are then of; `UsingAlternate` stays.
-void OpenSwappedBranch(Program& p);
+void OpenSwappedBranch(const BranchAccess& access);
 
 // The scanner's buttons on the record form: a sibling's record stands alone, for its branch can't be walked.
-void DisableTransport(Program& p);
+void DisableTransport(forms::Form3& form);
 
 // `UsingAlternate` back to 0: the record scanner walks the open branch again.
-void EndAlternate(Program& p);
+void EndAlternate(BranchState& branch, Window<forms::Form3>& recordForm);
 
 // Back to the branch whose map is shown.
-void ReturnFromSibling(Program& p);
+void ReturnFromSibling(const BranchAccess& access);
 
 // Tells, while a record of another branch is shown, why a command refuses it; false when none is.
-bool TellIfAlternate(Program& p, const QString& title, const QString& text);
+bool TellIfAlternate(const BranchState& branch, Prompts& prompts, const QString& title, const QString& text);
 
 } // namespace lineforge

@@ -11,10 +11,10 @@ namespace lineforge
 
 using namespace Qt::StringLiterals;
 
-std::shared_ptr<Database> ReachDatabase(Program& p, const QString& path)
+std::shared_ptr<Database> ReachDatabase(Databases& databases, const FileSystem& files, const QString& path)
 {
     try {
-        return p.Databases.Open(p.Files, path);
+        return databases.Open(files, path);
     } catch (const RuntimeError& refusal) {
         if (refusal.IsTold)
             throw;
@@ -22,41 +22,42 @@ std::shared_ptr<Database> ReachDatabase(Program& p, const QString& path)
     }
 }
 
-void PointAtDatabase(Program& p, DataControl& data, const QString& path)
+void PointAtDatabase(const DatabaseOpening& opening, DataControl& data, const QString& path)
 {
-    ConvertIfOld(p, path, OldDatabaseUse::Command);
+    ConvertIfOld(opening, path, OldDatabaseUse::Command);
     const QString before = data.DatabaseName;
     data.DatabaseName = path;
     data.RecordSource = u"Tree99"_s;
     // The name is always that of the database that is open.
     auto nameBack = qScopeGuard([&] { data.DatabaseName = before; });
-    data.Refresh(p.Databases, p.Files);
+    data.Refresh(opening.Databases, opening.Files);
     nameBack.dismiss();
 }
 
-void PointAtDatabase(Program& p, const QString& path)
+void PointAtDatabase(const BranchAccess& access, const QString& path)
 {
-    PointAtDatabase(p, p.Form3->Data1, path);
+    PointAtDatabase(access, access.Form3->Data1, path);
     // It was a place in the database before.
-    p.Record.SavedBookmark.reset();
+    access.Record.SavedBookmark.reset();
 }
 
-void OpenWorkDatabase(Program& p)
+void OpenWorkDatabase(const BranchAccess& access)
 {
+    BranchState& branch = access.Branch;
     // Spelt so since the first version; names are found without regard to case.
-    p.Branch.sDbaseName = p.Branch.WorkDir + PathSeparator + u"Lfgdat_" + BranchLetter(p.Branch.WorkDir) + u".mdb";
-    PointAtDatabase(p, p.Branch.sDbaseName);
+    branch.sDbaseName = branch.WorkDir + PathSeparator + u"Lfgdat_" + BranchLetter(branch.WorkDir) + u".mdb";
+    PointAtDatabase(access, branch.sDbaseName);
 }
 
-void StoreTyped(Program& p)
+void StoreTyped(Window<forms::Form3>& recordForm)
 {
-    if (p.Form3.IsLoaded())
-        p.Form3->Data1.Store();
+    if (recordForm.IsLoaded())
+        recordForm->Data1.Store();
 }
 
-Recordset& Records(Program& p)
+Recordset& Records(Window<forms::Form3>& recordForm)
 {
-    return p.Form3->Data1.Records();
+    return recordForm->Data1.Records();
 }
 
 } // namespace lineforge

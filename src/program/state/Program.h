@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/base/RuntimeError.h"
-#include "platform/controls/Window.h"
 #include "platform/drawing/PictureFile.h"
 #include "platform/drawing/Thumbnails.h"
 #include "platform/files/FileIdentity.h"
@@ -20,28 +19,13 @@
 #include "program/state/ScanState.h"
 #include "program/state/ScratchState.h"
 #include "program/state/ToolState.h"
+#include "program/state/Windows.h"
 
 #include <QSet>
 #include <QString>
 
 namespace lineforge
 {
-
-// A routine that works with a window includes its header.
-namespace forms
-{
-struct Form1;
-struct Form2;
-struct Form3;
-struct Form4;
-struct Form5;
-struct Form6;
-struct Form7;
-struct Form8;
-struct form9;
-struct Form11;
-struct Form12;
-} // namespace forms
 
 // One run of the program: the machine it runs on, all its state, and its windows.
 struct Program {

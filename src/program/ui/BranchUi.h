@@ -1,39 +1,44 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "platform/base/RuntimeError.h"
+#include "platform/machine/Platform.h"
+#include "program/state/BranchState.h"
+#include "program/state/RecordState.h"
+#include "program/state/ToolState.h"
+#include "program/state/Windows.h"
 
 namespace lineforge
 {
 
 // What needs an open branch: off at the start. Nothing turns it off again, not even closing the branch.
-void DisableBranchUI(Program& p);
-void EnableBranchUI(Program& p);
+void DisableBranchUI(forms::Form1& form);
+void EnableBranchUI(forms::Form1& form);
 
 // As wide as the screen and as high, less the spared twips.
 // KEPT(GedcomFormTest.Window_IsAsWideAsTheScreen_AndSomewhatLessHigh): placed by the record form's size, not its own.
 // Mended, the window of the GEDCOM file would have another `Top`, and stand where it stands on the screen.
-void FillScreen(Program& p, Form& form, int spared);
+void FillScreen(Form& form, const Screen& screen, Window<forms::Form3>& recordForm, int spared);
 
 // Ends a pending mapping or re-positioning of a subject.
-void ClearMapCursor(Program& p);
+void ClearMapCursor(ToolState& tools, Screen& screen);
 
 // `sCurFile` and `sPicFile` from the record form.
-void SetPictureName(Program& p);
+void SetPictureName(RecordState& record, const forms::Form3& form);
 
 // Whether a branch is open, its records too: one whose database was refused is named, and no more.
-bool IsBranchOpen(Program& p);
+bool IsBranchOpen(const BranchState& branch, Window<forms::Form3>& recordForm);
 
 // Tells that no branch is open.
-void TellNoBranch(Program& p);
+void TellNoBranch(Prompts& prompts);
 // The same if none is; false when one is.
-bool TellIfNoBranch(Program& p);
+bool TellIfNoBranch(const BranchState& branch, Window<forms::Form3>& recordForm, Prompts& prompts);
 
 // Tells that the open database has no records.
-void TellNoRecords(Program& p);
+void TellNoRecords(Prompts& prompts);
 
 // Shows the last run-time error, if there is one, in a plain box.
-void ReportError(Program& p);
+void ReportError(const ErrorState& errors, Prompts& prompts);
 // The same of an error that has just been met.
-void ReportError(Program& p, const RuntimeError& error);
+void ReportError(ErrorState& errors, Prompts& prompts, const RuntimeError& error);
 
 } // namespace lineforge

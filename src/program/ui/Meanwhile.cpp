@@ -9,7 +9,7 @@ constexpr qint64 firstPatience = 500; // milliseconds
 constexpr qint64 patience = 100;
 } // namespace
 
-Meanwhile::Meanwhile(Program& p) : p_(p), patience_(firstPatience)
+Meanwhile::Meanwhile(EventLoop& loop) : loop_(loop), patience_(firstPatience)
 {
     sincePainted_.start();
 }
@@ -18,7 +18,7 @@ void Meanwhile::KeepPainted()
 {
     if (!sincePainted_.hasExpired(patience_))
         return;
-    p_.Loop.PaintWindows();
+    loop_.PaintWindows();
     patience_ = patience;
     sincePainted_.restart();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "platform/machine/Platform.h"
 
 #include <QElapsedTimer>
 
@@ -12,13 +12,13 @@ namespace lineforge
 class Meanwhile
 {
 public:
-    explicit Meanwhile(Program& p);
+    explicit Meanwhile(EventLoop& loop);
 
     // Costs next to nothing; to be called at every step.
     void KeepPainted();
 
 private:
-    Program& p_;
+    EventLoop& loop_;
     QElapsedTimer sincePainted_;
     qint64 patience_;
 };

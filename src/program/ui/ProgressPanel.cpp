@@ -46,9 +46,9 @@ void KeepLastLineInView(const TextPanel& panel, ScrollBar& bar)
         bar.Value = std::max(bar.Value.value(), EndOnBar(panel, bar));
 }
 
-void StepPanel(Program& p, TextPanel& panel, ScrollBar& bar)
+void StepPanel(EventLoop& loop, TextPanel& panel, ScrollBar& bar)
 {
-    p.Loop.DoEvents();
+    loop.DoEvents();
     const bool isFollowed = IsFollowed(panel, bar);
     const bool grows = panel.CurrentY() > panel.Height - growth;
     if (grows)
@@ -57,7 +57,7 @@ void StepPanel(Program& p, TextPanel& panel, ScrollBar& bar)
         KeepLastLineInView(panel, bar);
     RememberWhoFollows(panel, bar, isFollowed);
     if (grows)
-        p.Loop.DoEvents();
+        loop.DoEvents();
 }
 
 void ScrollPanel(TextPanel& panel, const ScrollBar& bar)

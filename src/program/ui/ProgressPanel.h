@@ -1,6 +1,7 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "platform/controls/Controls.h"
+#include "platform/machine/Platform.h"
 
 namespace lineforge
 {
@@ -9,7 +10,7 @@ namespace lineforge
 // panel's end makes the panel 1000 twips higher and moves its bar on by 500. The newest line stays in view, also in a
 // panel that an earlier run has made higher; but not for a user who has scrolled back to read what has passed, until
 // the end is in view again.
-void StepPanel(Program& p, TextPanel& panel, ScrollBar& bar);
+void StepPanel(EventLoop& loop, TextPanel& panel, ScrollBar& bar);
 
 // Moves the bar on until the newest line can be seen, unless the user has scrolled back; a panel that an earlier run
 // has made high holds a text that ends far above its own end.

@@ -44,7 +44,7 @@ void BackUpBranch(Program& p)
 {
     // Also one whose database can't be opened: its files can be copied all the same.
     if (p.Branch.sDbaseName.isEmpty())
-        return TellNoBranch(p);
+        return TellNoBranch(p.Prompts);
     p.Prompts.MsgBox(
         u"Backup Database"_s,
         u"Backup will copy your current Database File \nand Tree Config file to your chosen destination."_s,

@@ -24,7 +24,7 @@ void CloseBranch(Program& p)
     LeaveToolsIfOpen(p);
     SaveBoxes(p);
     const QString maidenName = p.Form1->Label15.Caption;
-    StoreTyped(p);
+    StoreTyped(p.Form3);
     p.Form5->MMControl1.Command(u"Close");
     ForgetMap(p);
     p.Branch.UsingAlternate = 0;

@@ -36,7 +36,7 @@ QString MapsDirectory(const Program& p)
 QString NameOfBranch(const Program& p)
 {
     const QString directory = MapsDirectory(p);
-    return IsBranchDirectory(directory, p.Branch.HomeDir) ? ListedName(p, DirectoryName(directory))
+    return IsBranchDirectory(directory, p.Branch.HomeDir) ? ListedName(p.Alias, p.Branch, DirectoryName(directory))
                                                           : p.Branch.sBranchName;
 }
 
@@ -48,7 +48,7 @@ bool RequireBranch(Program& p, const QString& name)
     if (IsBranchDirectory(directory, p.Branch.HomeDir))
         return true;
     if (directory.isEmpty())
-        TellNoBranch(p);
+        TellNoBranch(p.Prompts);
     else
         ShowFirstBox(p, name,
                      u"Cannot delete '"_s + name + u"' Tree Branch. Its Directory\n" + directory +

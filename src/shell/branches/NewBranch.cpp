@@ -33,7 +33,7 @@ void PutOldMapAway(Program& p)
     if (!p.Branch.WorkDir.isEmpty())
         SaveBoxes(p);
     LeaveToolsIfOpen(p);
-    StoreTyped(p);
+    StoreTyped(p.Form3);
     // Whoever gives the command up stays in the branch that he has open.
     ReturnToOwnSubject(p);
     PutMapAway(p);
@@ -81,7 +81,7 @@ bool Confirm(Program& p, const QString& name, const QString& directory)
 // False, and a box, when the directory is there already.
 bool MakeDirectories(Program& p)
 {
-    if (!MakeDirectory(p, p.Branch.WorkDir)) {
+    if (!MakeDirectory(p.Files, p.Branch.WorkDir)) {
         // KEPT(MadeBranchTest.DirectoryThatIsThereAfterAll_StopsTheCommand_AndIsNotTouched): the text has the name of a
         // variable, and the signs around it, where the directory's name should stand.
         // Mended, the box would name the directory.
@@ -147,8 +147,8 @@ void MakeBranch(Program& p, const QString& name, const QString& directory)
         ParseLines(p);
         ParseTexts(p);
     });
-    EnableBranchUI(p);
-    TellIfEmptyTable(p);
+    EnableBranchUI(*p.Form1);
+    TellIfEmptyTable(Records(p.Form3), p.Prompts);
 }
 } // namespace
 
@@ -158,7 +158,8 @@ void NewBranch(Program& p)
     if (!MarkTakenLetters(p))
         return;
     const QString directory = ordinaryPrefix + FirstFreeLetter(p);
-    const QString name = AskBranchName(p, u"New Tree Branch name"_s, u"Enter the name for this new Tree Branch Map"_s);
+    const QString name =
+        AskBranchName(p.Alias, p.Prompts, u"New Tree Branch name"_s, u"Enter the name for this new Tree Branch Map"_s);
     if (name.isEmpty() || !Confirm(p, name, directory))
         return;
     MakeBranch(p, name, directory);

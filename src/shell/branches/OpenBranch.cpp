@@ -1,6 +1,7 @@
 #include "shell/branches/OpenBranch.h"
 
 #include "compare/CompareBranch.h"
+#include "forms/Form1.h"
 #include "forms/Form8.h"
 #include "map/items/MapFile.h"
 #include "map/subjects/EnterBranch.h"
@@ -59,7 +60,7 @@ void OpenSelectedBranch(Program& p)
     // The list leaves the other windows free: tools may have been opened, or a mapping begun, since it was shown.
     if (!p.Compare.IsChoosing) {
         LeaveToolsIfOpen(p);
-        ClearMapCursor(p);
+        ClearMapCursor(p.Tools, p.Screen);
     }
     p.Screen.Pointer = MousePointer::Hourglass;
     const auto pointerBack = qScopeGuard([&] { p.Screen.Pointer = MousePointer::Default; });
@@ -73,7 +74,7 @@ void OpenSelectedBranch(Program& p)
 
     if (!EnterBranch(p, name, DirectoryName(entry)))
         return;
-    EnableBranchUI(p);
+    EnableBranchUI(*p.Form1);
     p.Screen.Pointer = MousePointer::Default;
     if (!EmptySubjectIfNoRecords(p))
         ShowFirstSubject(p);

@@ -39,7 +39,7 @@ namespace
 void OpenFileOrHelpMenu(Program& p)
 {
     p.form9.Unload();
-    ClearMapCursor(p);
+    ClearMapCursor(p.Tools, p.Screen);
 }
 
 void InstallOutput(Program& p, forms::Form1& form)
@@ -90,7 +90,7 @@ void InstallForm1(Program& p, forms::Form1& form)
     form.mnuEdit.Click = [&p] { OpenEditingMenu(p); };
     form.mnuCopy.Click = [&p] { CopyMapPicture(p); };
     form.mnuPaste.Click = [&p] { PasteMapPicture(p); };
-    form.mnuDataBase.Click = [&p] { TellIfNoBranch(p); };
+    form.mnuDataBase.Click = [&p] { TellIfNoBranch(p.Branch, p.Form3, p.Prompts); };
     form.mnuViewRecs.Click = [&p] { ShowRecordForm(p); };
     form.mnuComp.Click = [&p] { OpenComparison(p); };
     form.mnuDelSub.Click = [&p] { DeleteBranch(p); };

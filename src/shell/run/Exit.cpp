@@ -40,7 +40,7 @@ bool TellIfRefused(Program& p, void (*step)(Program& p))
 void ExitProgram(Program& p)
 {
     SaveBoxes(p);
-    StoreTyped(p);
+    StoreTyped(p.Form3);
     LeaveToolsIfOpen(p);
     p.Form5->MMControl1.Command(u"Close");
     // The main window takes all others with it and ends the program.
@@ -56,7 +56,7 @@ void ExitFromGallery(Program& p)
 void ExitFromRecords(Program& p)
 {
     p.Errors.Clear();
-    p.Errors.Ignoring([&] { Records(p).Update(); });
+    p.Errors.Ignoring([&] { Records(p.Form3).Update(); });
     // Who has been told that a text isn't stored wants to see to it.
     if (p.Errors.Last && p.Errors.Last->IsTold)
         return;
@@ -72,7 +72,7 @@ void ExitFromRecords(Program& p)
 void CloseMainWindow(Program& p)
 {
     LeaveToolsIfOpen(p);
-    StoreTyped(p);
+    StoreTyped(p.Form3);
     p.Form1->MMControl1.Command(u"Close");
     p.Form5->MMControl1.Command(u"Close");
     p.Form2.Unload();

@@ -46,9 +46,9 @@ void HideBehindGallery(Program& p, Form& form)
 void GoToGalleryFromMap(Program& p)
 {
     LeaveToolsAtDoor(p);
-    if (TellIfNoBranch(p))
+    if (TellIfNoBranch(p.Branch, p.Form3, p.Prompts))
         return;
-    ClearMapCursor(p);
+    ClearMapCursor(p.Tools, p.Screen);
     p.Screen.Pointer = MousePointer::Hourglass;
     ShowGallery(p);
     p.Record.sShownName = p.Form3->Text3.Text;
@@ -60,7 +60,7 @@ void GoToGalleryFromRecords(Program& p)
     if (p.Tools.MapCursorMode == MapCursor::Mapping)
         return;
     const bool isKnown = CarryRecordToMap(p);
-    p.Errors.Ignoring([&] { Records(p).Update(); });
+    p.Errors.Ignoring([&] { Records(p.Form3).Update(); });
     p.Errors.Ignoring([&] { ShowRecordOnMap(p); });
     if (isKnown && NeedsPage(p))
         p.Screen.Pointer = MousePointer::Hourglass;
@@ -86,7 +86,7 @@ void LeaveGalleryForRecords(Program& p)
     forms::Form3& form = *p.Form3;
     // An export has emptied it. In a branch without records nobody has a picture to be named.
     if (p.Record.sPicFile.isEmpty() && !form.Label25.Caption.value().isEmpty())
-        SetPictureName(p);
+        SetPictureName(p.Record, *p.Form3);
     ShowNamedPicture(p);
     form.Show();
     p.Form5->Hide();

@@ -14,7 +14,7 @@ void ShowHelpContents(Program& p)
 
 void ShowRecordHelp(Program& p)
 {
-    ClearMapCursor(p);
+    ClearMapCursor(p.Tools, p.Screen);
     ShowHelpContents(p);
 }
 

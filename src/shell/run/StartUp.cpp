@@ -95,7 +95,7 @@ void LoadMainWindow(Program& p)
 
     p.Branch.HomeDir = p.FirstHome;
     ReadAliasList(p);
-    DisableBranchUI(p);
+    DisableBranchUI(*p.Form1);
     p.Gallery.FirstShow = 1;
 
     // Opened before its file has a name; the name serves the commands that come later.

@@ -56,7 +56,7 @@ const QByteArray head = "0 HEAD\r\n"
 TEST_F(GedcomWriterTest, AfterTheRun_ThatRecordAloneStandsBesideTheMap)
 {
     const forms::Form1& form = *P.Form1;
-    Click([this] { Records(P).MoveLast(); });
+    Click([this] { Records(P.Form3).MoveLast(); });
     Click([this] { P.Form3->Data1.Settle(); });
     ASSERT_EQ(form.Frame1.Caption.value(), u"Ref  A002"_s);
     ASSERT_TRUE(form.Image1.Picture.value().isNull());

@@ -90,7 +90,7 @@ TEST_F(LineageSectionsTest, OffspringGoneMeanwhile_HasNoParents_AndEndsTheMarkin
     GivenPeople({{u"A001"_s, u"A002"_s}, {u"A003"_s, u"A001"_s, u"A004"_s}, {u"A002"_s}, {u"A004"_s}});
     // The first yield comes behind the offspring of the first row.
     Machine.Loop.AtNextYield([&] {
-        Recordset& records = Records(P);
+        Recordset& records = Records(P.Form3);
         ASSERT_TRUE(records.Seek(u"File", u"A003"_s));
         records.Delete();
     });
@@ -144,7 +144,7 @@ TEST_F(LineageSectionsTest, WomanOfTheLine_GetsNoOffspring)
 TEST_F(LineageSectionsTest, NoRecords_IsTheStartAlone)
 {
     GivenPeople({{u"A001"_s}});
-    Records(P).Delete();
+    Records(P.Form3).Delete();
 
     CollectFrom(u"A001"_s);
 
@@ -154,11 +154,11 @@ TEST_F(LineageSectionsTest, NoRecords_IsTheStartAlone)
 TEST_F(LineageSectionsTest, CursorIsNotPutBack)
 {
     GivenPeople({{u"A001"_s}, {u"A002"_s, u"A001"_s}});
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
 
     CollectFrom(u"A001"_s);
 
-    EXPECT_EQ(Records(P).Text(u"File"), u"A002") << "the last one that was looked for";
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A002") << "the last one that was looked for";
     EXPECT_EQ(P.Record.sCurFile, u"A002");
 }
 
@@ -186,7 +186,7 @@ TEST_F(LineageSectionsTest, MovedCursor_DoesNotDisturbTheWalk)
     CollectFrom(u"A001"_s);
     const QStringList undisturbed = Table();
     for (int yield = 0; yield < 100; ++yield)
-        Machine.Loop.AtNextYield([&] { Records(P).MoveLast(); });
+        Machine.Loop.AtNextYield([&] { Records(P.Form3).MoveLast(); });
 
     CollectFrom(u"A001"_s);
 

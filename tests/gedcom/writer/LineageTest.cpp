@@ -287,9 +287,9 @@ class ReportBeforeLineageTest : public LineageTest, public testing::WithParamInt
 TEST_P(ReportBeforeLineageTest, FirstRow_BeginsAtTheLengthOfItsLastPiece)
 {
     GivenPeople({{u"A001"_s, u"A004"_s}, {u"A002"_s, u"A001"_s}, {u"A003"_s, u"A001"_s}, {u"A004"_s}});
-    Records(P).Edit();
-    Records(P).Put(u"Notes", GetParam().Notes);
-    Records(P).Update();
+    Records(P.Form3).Edit();
+    Records(P.Form3).Put(u"Notes", GetParam().Notes);
+    Records(P.Form3).Update();
     P.Scratch.IdxA = 100;
 
     GetParam().PutOut(P, Prompts);

@@ -137,7 +137,7 @@ TEST_F(BoxCaptionsTest, Record_ForenameOf7CharactersWithABlank_StandsWhole)
 TEST_F(BoxCaptionsTest, Record_BehindTheLastRow_DrawsNothing)
 {
     givenRecord(u"John");
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
 
     DrawRecordInBox(P);
 
@@ -378,7 +378,7 @@ TEST_F(BoxCaptionsTest, AllRecords_EveryBoxThatHoldsARecord_GetsItsCaption)
         Expected->PrintAt({x + 50, 600}, u"John"_s);
     }
     EXPECT_TRUE(SameDrawing(Picture, *Expected));
-    EXPECT_TRUE(Records(P).Eof());
+    EXPECT_TRUE(Records(P.Form3).Eof());
 }
 
 TEST_F(BoxCaptionsTest, AllRecords_EmptyTable_IsQuiet)

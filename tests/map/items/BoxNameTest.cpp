@@ -235,10 +235,10 @@ TEST_F(BoxNameTest, NewSubjectOfTheNameThatWasShownLast_StandsInTheArrayToo)
 TEST_F(BoxNameTest, RecordChangedBehindTheMap_BoxMoved_LeavesNoTrace)
 {
     GivenPerson(u"John", u"John");
-    Records(P).MoveFirst();
-    Records(P).Edit();
-    Records(P).Put(u"Forename", u"Maximilian"_s);
-    Records(P).Update();
+    Records(P.Form3).MoveFirst();
+    Records(P.Form3).Edit();
+    Records(P.Form3).Put(u"Forename", u"Maximilian"_s);
+    Records(P.Form3).Update();
     P.Form1->mnuTreeTools.Click();
     Choose(18);
 
@@ -276,7 +276,7 @@ TEST_F(BoxNameTest, BoxWithoutTheFiledName_CarriedByAZone_LeavesNoTraceOnItsWay)
 TEST_F(BoxNameTest, MappingEndedWithoutABox_NothingIsPrintedInAnybodyElses)
 {
     GivenPerson(u"John", u"John");
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
     P.Form1->mnuMapSubject.Click();
     P.Form7->Command1.Click();
     const QImage before = Shown();

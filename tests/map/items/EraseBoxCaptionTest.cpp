@@ -20,7 +20,7 @@ protected:
     {
         DrawBoxCaptions(P);
         DrawOwnCaptions(P);
-        Records(P).MoveFirst();
+        Records(P.Form3).MoveFirst();
         ASSERT_FALSE(IsBlank(Picture)) << row;
     }
 

@@ -26,8 +26,8 @@ protected:
     // record, and nothing on disk has changed.
     void Draw()
     {
-        Records(P).MoveFirst();
-        Records(P).MoveNext();
+        Records(P.Form3).MoveFirst();
+        Records(P.Form3).MoveNext();
         const QString workDir = P.Branch.WorkDir;
         const QString homeDir = P.Branch.HomeDir;
         const QString database = P.Branch.sDbaseName;
@@ -39,7 +39,7 @@ protected:
         EXPECT_EQ(P.Branch.HomeDir, homeDir);
         EXPECT_EQ(P.Branch.sDbaseName, database);
         EXPECT_EQ(P.Branch.UsingAlternate, 0);
-        EXPECT_EQ(Records(P).Text(u"File"), u"A002"_s);
+        EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A002"_s);
         EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
     }
 

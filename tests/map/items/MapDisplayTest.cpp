@@ -128,53 +128,53 @@ TEST_F(RedrawMapTest, EmptyTable_BoxesShowTheirNumbers)
     Expected->ForeColor = Black;
     Expected->PrintAt({1100, 500}, u"A001"_s);
     EXPECT_TRUE(SameDrawing(Picture, *Expected));
-    EXPECT_TRUE(Records(P).IsEmpty());
+    EXPECT_TRUE(Records(P.Form3).IsEmpty());
 }
 
 TEST_F(RedrawMapTest, CurrentRecord_IsTheSameAfterwards)
 {
     givenTwoRecords();
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
 
     RedrawMap(P);
 
-    EXPECT_EQ(Records(P).Text(u"File"), u"A002"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A002"_s);
 }
 
 TEST_F(RedrawMapTest, CurrentRecord_PositionSavedForAnotherWalkLongAgo_DoesNotComeBack)
 {
     givenTwoRecords();
-    P.Record.SavedBookmark = Records(P).GetBookmark();
-    Records(P).MoveNext();
+    P.Record.SavedBookmark = Records(P.Form3).GetBookmark();
+    Records(P.Form3).MoveNext();
 
     RedrawMap(P);
 
-    EXPECT_EQ(Records(P).Text(u"File"), u"A002"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A002"_s);
 }
 
 TEST_F(RedrawMapTest, BehindTheLastRecord_GoesBackToThePositionSavedBefore)
 {
     givenTwoRecords();
-    Records(P).MoveNext();
-    P.Record.SavedBookmark = Records(P).GetBookmark();
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
+    P.Record.SavedBookmark = Records(P.Form3).GetBookmark();
+    Records(P.Form3).MoveNext();
 
     RedrawMap(P);
 
-    EXPECT_EQ(Records(P).Text(u"File"), u"A002"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A002"_s);
 }
 
 TEST_F(RedrawMapTest, BehindTheLastRecord_NoPositionSavedInThisDatabase_StaysThere)
 {
     givenTwoRecords();
-    P.Record.SavedBookmark = Records(P).GetBookmark();
+    P.Record.SavedBookmark = Records(P.Form3).GetBookmark();
     OpenWorkDatabase(P);
-    Records(P).MoveLast();
-    Records(P).MoveNext();
+    Records(P.Form3).MoveLast();
+    Records(P.Form3).MoveNext();
 
     RedrawMap(P);
 
-    EXPECT_TRUE(Records(P).Eof());
+    EXPECT_TRUE(Records(P.Form3).Eof());
 }
 
 TEST_F(RedrawMapTest, FreeRows_AreNotPainted)

@@ -173,14 +173,14 @@ INSTANTIATE_TEST_SUITE_P(Lengths, ShortBoxesTest,
 
 TEST_F(MapParseTest, Boxes_EmptyList_LeavesTheDisplayAndTheCurrentRecord)
 {
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     P.Record.SavedBookmark = {};
     givenBox(0, {1200, 600}, u"A001");
 
     Parse(u"0,0,0,"_s);
 
     EXPECT_TRUE(IsBlank(Picture));
-    EXPECT_TRUE(Records(P).Eof());
+    EXPECT_TRUE(Records(P.Form3).Eof());
     EXPECT_FALSE(P.Record.SavedBookmark);
 }
 
@@ -203,12 +203,12 @@ TEST_F(MapParseTest, Boxes_CurrentRecord_IsTheSameAfterwards)
 {
     BranchBuilder branch(Home, u'C');
     givenOpen(branch.Row({{u"File", u"C001"}}).Row({{u"File", u"C002"}}).Row({{u"File", u"C003"}}));
-    Records(P).MoveNext();
-    const Bookmark second = Records(P).GetBookmark();
+    Records(P.Form3).MoveNext();
+    const Bookmark second = Records(P.Form3).GetBookmark();
 
     Parse(u"1200,600,255,C001,,2000,600,255,C003,,"_s);
 
-    EXPECT_EQ(Records(P).Text(u"File"), u"C002"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"C002"_s);
     EXPECT_EQ(P.Record.SavedBookmark, second);
 }
 
@@ -226,8 +226,8 @@ TEST_F(MapParseTest, Boxes_EmptyTable_IsQuiet)
     expected->ForeColor = Black;
     expected->PrintAt({1300, 600}, u"B001"_s);
     EXPECT_TRUE(SameDrawing(Picture, *expected));
-    EXPECT_TRUE(Records(P).Eof());
-    EXPECT_TRUE(Records(P).Bof());
+    EXPECT_TRUE(Records(P.Form3).Eof());
+    EXPECT_TRUE(Records(P.Form3).Bof());
 }
 
 TEST_F(MapParseTest, Lines_ValuesBecomeWholeNumbers)

@@ -20,8 +20,8 @@ protected:
 TEST_F(CompactedMappingTest, NewSubject_BecomesARecordOfItsOwn)
 {
     GivenRecords({u"A001"_s, u"A002"_s, u"A003"_s});
-    Records(P).MoveLast();
-    Records(P).Rest();
+    Records(P.Form3).MoveLast();
+    Records(P.Form3).Rest();
     ChooseNewRecord();
     Execute("DELETE FROM Tree99 WHERE File = 'A001'; VACUUM");
 
@@ -91,7 +91,7 @@ TEST_F(CompactedToolsTest, BoxMovedMeanwhile_KeepsItsOwnCaption_AndTheRecordIsCu
 
     Release({1100, 1100});
 
-    EXPECT_EQ(Records(P).Text(u"File"), u"A002"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A002"_s);
     EXPECT_EQ(P.Record.sForeName, u"NA002"_s);
 }
 

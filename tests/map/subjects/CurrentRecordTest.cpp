@@ -25,13 +25,13 @@ protected:
             .Boxes(u"1000,500,0,A001,John,2000,500,0,A002,Jane,3000,500,255,0,,4000,500,0,A009,Gone,");
         GivenMap();
         P.Form3.Load();
-        Records(P).Seek(u"File", u"A002"_s);
+        Records(P.Form3).Seek(u"File", u"A002"_s);
     }
 
     void OpenTools() { P.Form1->mnuTreeTools.Click(); }
-    void GoBehindTheLastRow() { Records(P).Seek(u"File", u"nobody"_s); }
+    void GoBehindTheLastRow() { Records(P.Form3).Seek(u"File", u"nobody"_s); }
     // Empty behind the last row.
-    QString Current() { return Records(P).HasRow() ? Records(P).Text(u"File") : QString(); }
+    QString Current() { return Records(P.Form3).HasRow() ? Records(P.Form3).Text(u"File") : QString(); }
     QString ShownForename() { return P.Form1->Label9.Caption.value(); }
     void DoubleClick(Point at)
     {
@@ -143,7 +143,7 @@ TEST_F(CurrentRecordTest, BehindTheLastRow_ToolsOpenedAndClosed_TheRecordOfTheOp
 
 TEST_F(CurrentRecordTest, UnknownNumberMapped_ThenToolsOpenedAndClosed_TheFirstRecordIsCurrent_WithItsMarker)
 {
-    Records(P).MoveFirst();
+    Records(P.Form3).MoveFirst();
     OpenTools();
     Leave(Answer::No);
     P.Form1->mnuMapSubject.Click();

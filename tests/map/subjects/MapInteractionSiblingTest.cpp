@@ -28,7 +28,7 @@ protected:
         givenBox(0, {1000, 500}, u"A001");
         givenBox(1, {2000, 500}, u"B002");
         P.Map.SBoxes = 1;
-        Records(P).MoveLast();
+        Records(P.Form3).MoveLast();
     }
 
     void ExpectOn(QStringView directory, int usingAlternate)
@@ -119,7 +119,7 @@ TEST_F(SiblingDoubleClickTest, EmptyBranch_IsTold_AndTheSwitchStays)
     DoubleClickBox(siblingsBox);
 
     ExpectOn(u"LfgDat_B", 1);
-    EXPECT_TRUE(Records(P).IsEmpty());
+    EXPECT_TRUE(Records(P.Form3).IsEmpty());
 }
 
 TEST_F(SiblingDoubleClickTest, NoSuchRecord_IsTold_TheSwitchStays_AndTheCursorOnItsFirst)

@@ -169,7 +169,7 @@ protected:
         givenBox(2, {3000, 500}, u"0");
         givenBox(3, {4000, 500}, u"A003");
         P.Map.SBoxes = 3;
-        Records(P).MoveLast();
+        Records(P.Form3).MoveLast();
         P.Form1->Frame1.Caption = u"before"_s;
     }
 
@@ -349,17 +349,17 @@ TEST_F(LocalDoubleClickTest, NoSuchRecord_IsTold_AndTheCurrentRecordStays)
 TEST_F(LocalDoubleClickTest, NoSuchRecord_CursorBehindTheLastRow_AndNoPositionSaved_StaysThere)
 {
     givenBox(0, {1000, 500}, u"A009");
-    Records(P).Seek(u"File", u"nobody"_s);
+    Records(P.Form3).Seek(u"File", u"nobody"_s);
     Prompts.Expect(u"Database Searched", u"No File data found", Buttons::Information);
 
     DoubleClickBox(0);
 
-    EXPECT_TRUE(Records(P).Eof());
+    EXPECT_TRUE(Records(P.Form3).Eof());
 }
 
 TEST_F(LocalDoubleClickTest, CursorBehindTheLastRow_TheRecordIsFoundAllTheSame)
 {
-    Records(P).Seek(u"File", u"nobody"_s);
+    Records(P.Form3).Seek(u"File", u"nobody"_s);
 
     DoubleClickBox(0);
 

@@ -35,7 +35,7 @@ protected:
     }
 
     QString FileOf(int row) const { return P.Map.BoxArr[row][BoxColumn::File].Text(); }
-    QString Current() { return Records(P).Text(u"File"); }
+    QString Current() { return Records(P.Form3).Text(u"File"); }
     QString ShownNumber() { return P.Form1->Frame1.Caption; }
 
     void ExpectMissing(QStringView database)

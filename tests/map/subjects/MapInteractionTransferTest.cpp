@@ -67,9 +67,9 @@ TEST_F(TransferTest, FirstDoubleClick_ShowsTheSubject_AndSetsTheCross)
 
 TEST_F(TransferTest, FirstDoubleClickOnASubjectWithoutGender_SetsNoCross)
 {
-    Records(P).Edit();
-    Records(P).Put(u"Gender", FieldValue());
-    Records(P).Update();
+    Records(P.Form3).Edit();
+    Records(P.Form3).Put(u"Gender", FieldValue());
+    Records(P.Form3).Update();
 
     DoubleClickBox(0);
 
@@ -116,9 +116,9 @@ TEST_F(TransferTest, LocalSubject_TheThirdDoubleClickIsOrdinary)
 TEST_F(TransferTest, LocalSubjectWithoutGender_MovesAndLeavesTheMarker)
 {
     GivenCrossFor(0);
-    Records(P).Edit();
-    Records(P).Put(u"Gender", u""_s);
-    Records(P).Update();
+    Records(P.Form3).Edit();
+    Records(P.Form3).Put(u"Gender", u""_s);
+    Records(P.Form3).Update();
 
     DoubleClickBox(2);
 
@@ -353,7 +353,7 @@ TEST_F(TransferTest, AllRowsInUse_BesideAllBoxes_IsNoError)
 TEST_F(TransferTest, AnotherRecordOfTheSibling_MovesWithoutItsBox_AndTheChosenOneKeepsHis)
 {
     GivenCrossFor(1);
-    Records(P).MoveFirst();
+    Records(P.Form3).MoveFirst();
 
     DoubleClickBox(2);
 
@@ -366,7 +366,7 @@ TEST_F(TransferTest, AnotherRecordOfTheSibling_LeavesItsOwnBox)
     givenBox(3, {4000, 500}, u"b001");
     P.Map.SBoxes = 3;
     GivenCrossFor(1);
-    Records(P).MoveFirst();
+    Records(P.Form3).MoveFirst();
 
     DoubleClickBox(2);
 
@@ -393,8 +393,8 @@ TEST_F(TransferTest, CursorBehindTheLastRecord_NothingMoves_AndTheCrossGoes)
     for (const int chosen : {0, 1}) {
         P.Tools.MapCursorMode = MapCursor::Repositioning;
         GivenCrossFor(chosen);
-        Records(P).MoveLast();
-        Records(P).MoveNext();
+        Records(P.Form3).MoveLast();
+        Records(P.Form3).MoveNext();
 
         DoubleClickBox(2);
 

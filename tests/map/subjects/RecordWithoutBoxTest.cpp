@@ -44,7 +44,7 @@ protected:
         EXPECT_EQ(P.Form1->Label10.Caption.value(), u"Smith"_s);
         EXPECT_FALSE(Marker.Visible);
         EXPECT_TRUE(SameImage(Shown(), Before));
-        EXPECT_EQ(Records(P).Text(u"File"), u"A003"_s);
+        EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A003"_s);
     }
 
     Shape& Marker = P.Form1->Shape1;
@@ -62,7 +62,7 @@ TEST_F(RecordWithoutBoxTest, ReachedBySearch_IsShownBesideTheMap_WhichHasNoMarke
 
 TEST_F(RecordWithoutBoxTest, ReachedByTheLinkOfItsChild_IsShownBesideTheMap_WhichHasNoMarkerForIt)
 {
-    ASSERT_EQ(Records(P).Text(u"File"), u"A001"_s);
+    ASSERT_EQ(Records(P.Form3).Text(u"File"), u"A001"_s);
 
     SearchAndGoToTheMap(P.Form3->Text21.Text.value());
 
@@ -91,7 +91,7 @@ TEST_F(RecordWithoutBoxTest, ToolsOpenedAndClosed_ItStaysCurrent)
 
     Leave(Answer::Yes);
 
-    EXPECT_EQ(Records(P).Text(u"File"), u"A003"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A003"_s);
 }
 
 TEST_F(RecordWithoutBoxTest, GetsABoxByItsNumber_AndTheMarkerFindsIt)

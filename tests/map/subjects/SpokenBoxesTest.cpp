@@ -115,12 +115,12 @@ TEST_F(SpokenBoxesTest, NeitherTheCursor_NorTheDisk_IsTouched)
     givenOpen(BranchA);
     givenBox(0, {1200, 600}, u"A001");
     givenBox(1, {2400, 600}, u"B001");
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     const Tree before = Home.Snapshot();
 
     SpokenBoxes(P);
 
-    EXPECT_EQ(Records(P).Text(u"File"), u"A002"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A002"_s);
     EXPECT_EQ(P.Branch.UsingAlternate, 0);
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
 }

@@ -128,7 +128,7 @@ TEST_F(AlternateMappingTest, NumberUnknownThere_IsTold_TheBoxKeepsIt_AndTheSwitc
 
     ExpectOnSibling();
     ExpectNothingPending();
-    EXPECT_TRUE(Records(P).Eof());
+    EXPECT_TRUE(Records(P.Form3).Eof());
     EXPECT_EQ(FileOf(0), u"B009"_s);
     EXPECT_EQ(MapBytes(), MapWith(u"1000,500,0,B009,,2000,500,0,A001,,3000,500,0,0,,"));
     EXPECT_TRUE(P.Form3->Image1.Picture.value().isNull());
@@ -354,9 +354,9 @@ TEST_F(RemapTest, SubjectInRow99_EndsInTwoBoxes)
 
 TEST_F(RemapTest, SubjectWithoutGender_TheSecondDoubleClickIsAPlainViewAgain)
 {
-    Records(P).Edit();
-    Records(P).Put(u"Gender", FieldValue());
-    Records(P).Update();
+    Records(P.Form3).Edit();
+    Records(P.Form3).Put(u"Gender", FieldValue());
+    Records(P.Form3).Update();
     givenBox(2, {3000, 500}, u"A001");
     Remap();
     DoubleClickBox(1);

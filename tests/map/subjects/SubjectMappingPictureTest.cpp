@@ -140,7 +140,7 @@ TEST_F(MappedPictureTest, SelectNow_CursorGoneOnMeanwhile_NewRecordAndPictureSta
     for (const std::optional<QString>& answer : {std::optional(Chosen), std::optional<QString>()}) {
         ChooseNewRecord(&Form7::Option7);
         Prompts.ExpectOpenFile(u"Select Picture Source File", u"DataBase|*.jpg|All Files|*.*|", answer, [this] {
-            Records(P).MoveFirst();
+            Records(P.Form3).MoveFirst();
             ShowRecordOnMap(P);
             MarkCurrentBox(P);
         });
@@ -162,7 +162,7 @@ TEST_F(MappedPictureTest, ExistingRecord_CursorGoneOnMeanwhile_ItIsTheOneThatIsA
 {
     MapBlank();
     ChooseNewRecord(&Form7::Option7);
-    const auto goOn = [this] { Records(P).MoveLast(); };
+    const auto goOn = [this] { Records(P.Form3).MoveLast(); };
     Prompts.Expect(u"New Subject Mapping",
                    u"This Subject has already been Logged into the Database.\n"
                    u"Do you want to change the Subject Picture ? ",

@@ -393,7 +393,7 @@ TEST_F(UnmappedRecordTest, UnknownNumber_IsTold_AndTheMappingEnds)
     DoubleClickBox(0);
 
     EXPECT_EQ(FileOf(0), u"0"_s);
-    EXPECT_TRUE(Records(P).Eof());
+    EXPECT_TRUE(Records(P.Form3).Eof());
     EXPECT_EQ(FilesOf(BranchA).size(), 3);
     EXPECT_FALSE(HasPicture(u"A009"));
     EXPECT_EQ(P.Mapping.NewFile, QString());

@@ -41,16 +41,16 @@ TEST_P(SubjectFieldTest, BoundLabel_FollowsTheCurrentRecord)
 {
     EXPECT_EQ(Shown(), u"first"_s);
 
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     EXPECT_EQ(Shown(), u"second"_s);
 
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     EXPECT_EQ(Shown(), QString());
 }
 
 TEST_P(SubjectFieldTest, Fill_CopiesTheBoxOfTheRecordForm)
 {
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
 
     FillSubjectLabels(P);
 

@@ -30,7 +30,7 @@ protected:
         givenBox(4, {2000, 700}, u"A003");
         givenBox(5, {3000, 900}, u"A002");
         givenBox(6, {4000, 900}, u"A004");
-        Records(P).MoveNext();
+        Records(P.Form3).MoveNext();
     }
 
     // One man, in a box at that corner.
@@ -120,7 +120,7 @@ TEST_F(LineageMarksTest, View_SurnameOfNobody_ChangesNothing)
     EXPECT_EQ(Frames.Count(), 0U);
     EXPECT_EQ(P.Map.MarkCount, 0);
     EXPECT_TRUE(IsBlank(Picture));
-    EXPECT_EQ(Records(P).Text(u"File"), u"A002"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A002"_s);
 }
 
 TEST_F(LineageMarksTest, View_LeavesTheCurrentRecord)
@@ -129,18 +129,18 @@ TEST_F(LineageMarksTest, View_LeavesTheCurrentRecord)
 
     View(u"Smith"_s);
 
-    EXPECT_EQ(Records(P).Text(u"File"), u"A002"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A002"_s);
 }
 
 TEST_F(LineageMarksTest, View_CursorBehindTheLastRow_AndNoPositionSaved_IsLeftThere)
 {
     GivenSmiths();
-    Records(P).Seek(u"File", u"nobody"_s);
+    Records(P.Form3).Seek(u"File", u"nobody"_s);
 
     View(u"Smith"_s);
 
     EXPECT_EQ(Frames.Count(), 2U);
-    EXPECT_TRUE(Records(P).Eof());
+    EXPECT_TRUE(Records(P.Form3).Eof());
 }
 
 TEST_F(LineageMarksTest, View_WomanOfTheLine_GetsNoFrame)
@@ -451,9 +451,9 @@ TEST_F(EndlessViewTest, BoxThatLeavesTheTopRowMeanwhile_IsFramed)
 TEST_F(EndlessViewTest, RecordThatLeavesTheLineMeanwhile_IsPassedOver)
 {
     AtYield([&] {
-        Records(P).Edit();
-        Records(P).Put(u"Surname", u"Jones"_s);
-        Records(P).Update();
+        Records(P.Form3).Edit();
+        Records(P.Form3).Put(u"Surname", u"Jones"_s);
+        Records(P.Form3).Update();
     });
     EndAtYield();
 
@@ -466,13 +466,13 @@ TEST_F(EndlessViewTest, RecordThatLeavesTheLineMeanwhile_IsPassedOver)
 // The scanner ticks on while its window is hidden.
 TEST_F(EndlessViewTest, CursorThatLeavesTheLastRowMeanwhile_EndsTheView)
 {
-    AtYield([&] { Records(P).MoveNext(); });
+    AtYield([&] { Records(P.Form3).MoveNext(); });
     EndAtYield();
 
     View(u"Smith"_s);
 
     EXPECT_EQ(Frames.Count(), 0U);
-    EXPECT_EQ(Records(P).Text(u"File"), u"A001"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A001"_s);
     EXPECT_THROW(P.Loop.DoEvents(), ProgramEnded);
 }
 

@@ -198,7 +198,7 @@ TEST_F(MarksAndToolsTest, SubjectOfAnotherBranchShownBehindTheTools_TheyCloseOnT
 
     EXPECT_EQ(P.Branch.UsingAlternate, 0);
     EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_A"));
-    EXPECT_EQ(Records(P).Text(u"File"), u"A001"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A001"_s);
     EXPECT_EQ(MapBytes(),
               BytesOf(u"1000,1000,0,A001,,2000,2000,0,A002,,3000,3000,0,B002,,", u"1000,4000,2000,4000,0,", u""));
     EXPECT_TRUE(IsAsPaintedAfresh());

@@ -125,7 +125,7 @@ protected:
                        Buttons::Information);
     }
 
-    QString Current() { return Records(P).Text(u"File"); }
+    QString Current() { return Records(P.Form3).Text(u"File"); }
 };
 
 TEST_F(BoxToolTest, MoveEmptyBox_TakesItsNewPlace_AndStaysEmpty)
@@ -187,7 +187,7 @@ TEST_F(BoxToolTest, MoveMappedBox_CaptionIsGoneWhileItTravels_AndTheModeTellsIt)
 TEST_F(BoxToolTest, MoveMappedBox_ItsRecordIsCurrentAfterwards_AndUnchanged)
 {
     GivenTools();
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
     Choose(18);
 
     Drag({{2300, 600}, {2300, 1600}});

@@ -152,11 +152,11 @@ TEST_P(DoorTest, ToolsLeftToThemselves_OpensTheRecordBesideTheMap_NotTheOneOfThe
 {
     BranchA.Row({{u"File", u"A002"}, {u"Forename", u"Mary"}});
     GivenToolsLeftToThemselves();
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
 
     Run();
 
-    EXPECT_EQ(Records(P).Text(u"File"), u"A002"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A002"_s);
 }
 
 INSTANTIATE_TEST_SUITE_P(Doors, DoorTest, testing::ValuesIn(doors));

@@ -37,7 +37,7 @@ protected:
         Drag({{3300, 600}, {3400, 700}});
     }
 
-    QString Current() { return Records(P).Text(u"File"); }
+    QString Current() { return Records(P.Form3).Text(u"File"); }
 
     void ExpectMapAsItWas()
     {
@@ -173,7 +173,7 @@ TEST_P(LeaveToolsAnswerTest, AllToolsAreDown_AndThePointerIsBack)
 
 TEST_P(LeaveToolsAnswerTest, TheRecordOfTheOpeningIsCurrentAgain_WithItsMarker)
 {
-    Records(P).MoveFirst();
+    Records(P.Form3).MoveFirst();
     P.Form1->mnuTreeTools.Click();
     Choose(18);
     Drag({{2300, 600}, {2400, 1600}});
@@ -205,7 +205,7 @@ TEST_P(LeaveToolsAnswerTest, TheMarkerFollowsItsBox)
 
 TEST_P(LeaveToolsAnswerTest, RecordWithoutABox_ShowsTheMarkerWhereItStood)
 {
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
     P.Form1->mnuTreeTools.Click();
     P.Form1->Shape1.Move({77, 88});
 
@@ -428,8 +428,8 @@ TEST_F(LeaveToolsTest, ReadOnlyMap_NoIsNotRefused)
 TEST_F(LeaveToolsTest, RecordOfTheOpeningIsDeleted_WhoeverIsCurrentStaysSo)
 {
     ASSERT_EQ(Current(), u"A001"_s);
-    Records(P).Delete();
-    Records(P).MoveLast();
+    Records(P.Form3).Delete();
+    Records(P.Form3).MoveLast();
 
     Leave(Answer::No);
 
@@ -438,9 +438,9 @@ TEST_F(LeaveToolsTest, RecordOfTheOpeningIsDeleted_WhoeverIsCurrentStaysSo)
 
 TEST_F(LeaveToolsTest, RecordOfTheOpeningIsDeleted_NobodyIsCurrent_TheFirstBecomesSo)
 {
-    Records(P).Delete();
-    Records(P).MoveLast();
-    Records(P).MoveNext();
+    Records(P.Form3).Delete();
+    Records(P.Form3).MoveLast();
+    Records(P.Form3).MoveNext();
 
     Leave(Answer::No);
 

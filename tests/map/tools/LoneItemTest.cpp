@@ -28,7 +28,7 @@ protected:
     }
     void ExpectRecord(QStringView file)
     {
-        EXPECT_EQ(Records(P).Text(u"File"), file);
+        EXPECT_EQ(Records(P.Form3).Text(u"File"), file);
         EXPECT_EQ(Home.ReadFile(u"LfgDat_A/A001Sub.jpg"), Portrait);
     }
 
@@ -76,7 +76,7 @@ TEST_F(LoneItemTest, BoxOfTheFile_MappedBesideIt_TheRecordIsMade_AndTheBoxStaysE
 
         ExpectRecord(u"A001");
         EXPECT_EQ(MapBytes(), BytesOf(u"1000,500,0,0,,", u"0,0,0,", u"0,0,0,"));
-        Records(P).Delete();
+        Records(P.Form3).Delete();
         OpenWorkDatabase(P);
     }
 }

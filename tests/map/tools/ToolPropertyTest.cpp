@@ -294,10 +294,10 @@ TEST_P(ToolPropertyTest, WhateverIsDone_TheArraysAreSound_AndWhatIsSavedIsReadBa
         // Now and then from the start, so that the map doesn't fill up.
         if (sequence % 10 == 0)
             OpenAnew();
-        Records(P).MoveFirst();
+        Records(P.Form3).MoveFirst();
         if (OneIn(2))
-            Records(P).MoveNext();
-        const QString current = Records(P).Text(u"File");
+            Records(P.Form3).MoveNext();
+        const QString current = Records(P.Form3).Text(u"File");
         const Arrays before(P.Map);
         P.Form1->mnuTreeTools.Click();
         for (int step = Any(3, 25); step > 0 && !HasFailure(); --step) {
@@ -324,7 +324,7 @@ TEST_P(ToolPropertyTest, WhateverIsDone_TheArraysAreSound_AndWhatIsSavedIsReadBa
         if (const int lines = Arrays::Count(after.Lines); lines > 0) {
             EXPECT_EQ(P.Map.SLines, lines - 1);
         }
-        EXPECT_EQ(Records(P).Text(u"File"), current);
+        EXPECT_EQ(Records(P.Form3).Text(u"File"), current);
     }
 }
 

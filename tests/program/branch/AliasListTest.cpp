@@ -263,7 +263,7 @@ INSTANTIATE_TEST_SUITE_P(Settings, AliasConfigTest,
                                          Setting{"[CFG]", 4, ErrorNumber::InputPastEnd},
                                          Setting{"[CFG]\r\n[1,", 1, ErrorNumber::InputPastEnd}));
 
-using Reader = void (*)(Program&);
+using Reader = void (*)(const BranchRegistry&);
 
 class AliasReadersTest : public AliasListTest, public testing::WithParamInterface<Reader>
 {

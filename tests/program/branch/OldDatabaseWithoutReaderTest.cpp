@@ -73,7 +73,7 @@ TEST_F(OldDatabaseWithoutReaderTest, OwnDatabase_IsOpened)
 
     PointAtDatabase(P, directory + u"/LfgDat_A.mdb");
 
-    EXPECT_EQ(Records(P).Text(u"File"), u"A001"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A001"_s);
 }
 
 } // namespace

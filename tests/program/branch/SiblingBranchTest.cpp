@@ -40,7 +40,7 @@ protected:
         Prompts.Expect(u"External Record not present.", text, Buttons::Information);
     }
 
-    QString CurrentRecord() { return Records(P).Text(u"File"); }
+    QString CurrentRecord() { return Records(P.Form3).Text(u"File"); }
 };
 
 TEST_F(AlternateBranchTest, Swap_ExchangesBothDirectoriesWithTheSavedOnes)
@@ -50,7 +50,7 @@ TEST_F(AlternateBranchTest, Swap_ExchangesBothDirectoriesWithTheSavedOnes)
     P.Branch.WorkDirSaved = u"saved work"_s;
     P.Branch.HomeDirSaved = u"saved home"_s;
 
-    SwapBranchDirs(P);
+    SwapBranchDirs(P.Branch);
 
     EXPECT_EQ(P.Branch.WorkDir, u"saved work"_s);
     EXPECT_EQ(P.Branch.HomeDir, u"saved home"_s);

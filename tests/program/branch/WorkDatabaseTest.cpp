@@ -38,7 +38,7 @@ TEST_F(WorkDatabaseTest, Opening_StandsOnTheFirstRow_AndKeepsTheWholePath)
     EXPECT_EQ(P.Branch.sDbaseName.toLower(), Home.Path(Branch.DatabaseFile()).toLower());
     EXPECT_EQ(P.Form3->Data1.DatabaseName, P.Branch.sDbaseName);
     EXPECT_EQ(P.Form3->Data1.RecordSource, u"Tree99"_s);
-    EXPECT_EQ(Records(P).Text(u"File"), u"A001"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A001"_s);
 }
 
 TEST_F(WorkDatabaseTest, ImportedBranch_KeepsTheOrdinaryNameOfItsFile)
@@ -48,7 +48,7 @@ TEST_F(WorkDatabaseTest, ImportedBranch_KeepsTheOrdinaryNameOfItsFile)
     OpenWorkDatabase(P);
 
     EXPECT_EQ(P.Branch.sDbaseName.toLower(), Home.Path(u"Import_A/LfgDat_A.mdb").toLower());
-    EXPECT_EQ(Records(P).Text(u"File"), u"A001"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A001"_s);
 }
 
 TEST_F(WorkDatabaseTest, PrefixSpeltInAnotherCase_IsTheSameFile)
@@ -59,23 +59,23 @@ TEST_F(WorkDatabaseTest, PrefixSpeltInAnotherCase_IsTheSameFile)
 
     OpenWorkDatabase(P);
 
-    EXPECT_EQ(Records(P).Text(u"File"), u"A001"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A001"_s);
 }
 
 TEST_F(WorkDatabaseTest, OpeningAgain_GoesBackToTheFirstRow)
 {
     P.Branch.WorkDir = Branch.Row({{u"File", u"A001"}}).Row({{u"File", u"A002"}}).Build();
     OpenWorkDatabase(P);
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
 
     OpenWorkDatabase(P);
 
-    EXPECT_EQ(Records(P).Text(u"File"), u"A001"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A001"_s);
 }
 
 TEST_F(WorkDatabaseTest, RecordsBeforeAnyOpening_AreRefused)
 {
-    EXPECT_EQ(RefusalOf([&] { Records(P); }), ErrorNumber::ObjectNotSet);
+    EXPECT_EQ(RefusalOf([&] { Records(P.Form3); }), ErrorNumber::ObjectNotSet);
 }
 
 TEST_F(WorkDatabaseTest, RefusedOpening_KeepsTheRecordsThatWereOpen)
@@ -86,7 +86,7 @@ TEST_F(WorkDatabaseTest, RefusedOpening_KeepsTheRecordsThatWereOpen)
 
     EXPECT_EQ(RefusalOf([&] { OpenWorkDatabase(P); }), ErrorNumber::DatabaseNotFound);
 
-    EXPECT_EQ(Records(P).Text(u"File"), u"A001"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A001"_s);
 }
 
 TEST_F(WorkDatabaseTest, EmptyTable_IsBeforeItsFirstAndBehindItsLastRow_AndHasNoFieldToRead)
@@ -95,9 +95,9 @@ TEST_F(WorkDatabaseTest, EmptyTable_IsBeforeItsFirstAndBehindItsLastRow_AndHasNo
 
     OpenWorkDatabase(P);
 
-    EXPECT_TRUE(Records(P).Bof());
-    EXPECT_TRUE(Records(P).Eof());
-    EXPECT_EQ(RefusalOf([&] { Records(P).Value(u"File"); }), ErrorNumber::NoCurrentRecord);
+    EXPECT_TRUE(Records(P.Form3).Bof());
+    EXPECT_TRUE(Records(P.Form3).Eof());
+    EXPECT_EQ(RefusalOf([&] { Records(P.Form3).Value(u"File"); }), ErrorNumber::NoCurrentRecord);
 }
 
 TEST_F(WorkDatabaseTest, RecordNumbers_AreFoundInAnyCase)
@@ -105,22 +105,22 @@ TEST_F(WorkDatabaseTest, RecordNumbers_AreFoundInAnyCase)
     P.Branch.WorkDir = Branch.Row({{u"File", u"A001"}}).Row({{u"File", u"A002"}, {u"Forename", u"Mary"}}).Build();
     OpenWorkDatabase(P);
 
-    EXPECT_TRUE(Records(P).Seek(u"File", u"a002"_s));
-    EXPECT_EQ(Records(P).Text(u"Forename"), u"Mary"_s);
+    EXPECT_TRUE(Records(P.Form3).Seek(u"File", u"a002"_s));
+    EXPECT_EQ(Records(P.Form3).Text(u"Forename"), u"Mary"_s);
 }
 
 TEST_F(WorkDatabaseTest, WalkToTheEnd_StandsBehindTheLastRow_AndABookmarkBringsItBack)
 {
     P.Branch.WorkDir = Branch.Row({{u"File", u"A001"}}).Row({{u"File", u"A002"}}).Build();
     OpenWorkDatabase(P);
-    Records(P).MoveNext();
-    P.Record.SavedBookmark = Records(P).GetBookmark();
+    Records(P.Form3).MoveNext();
+    P.Record.SavedBookmark = Records(P.Form3).GetBookmark();
 
-    EXPECT_FALSE(Records(P).Seek(u"File", u"A009"_s));
-    EXPECT_TRUE(Records(P).Eof());
+    EXPECT_FALSE(Records(P.Form3).Seek(u"File", u"A009"_s));
+    EXPECT_TRUE(Records(P.Form3).Eof());
 
-    Records(P).SetBookmark(P.Record.SavedBookmark);
-    EXPECT_EQ(Records(P).Text(u"File"), u"A002"_s);
+    Records(P.Form3).SetBookmark(P.Record.SavedBookmark);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A002"_s);
 }
 
 TEST_F(WorkDatabaseTest, EditInABoundBox_IsWrittenWhenTheRowIsLeft)
@@ -129,7 +129,7 @@ TEST_F(WorkDatabaseTest, EditInABoundBox_IsWrittenWhenTheRowIsLeft)
     OpenWorkDatabase(P);
 
     P.Form3->Text3.Text = u"John"_s;
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
 
     EXPECT_EQ(SqliteFile(Home.Path(Branch.DatabaseFile())).Value("SELECT Forename FROM Tree99 WHERE File = 'A001'"),
               u"John"_s);
@@ -143,9 +143,9 @@ TEST_F(WorkDatabaseTest, UnloadedRecordForm_ClosesTheDatabase_AndTouchingItMakes
     P.Form3.Unload();
 
     EXPECT_EQ(SqliteFile(Home.Path(Branch.DatabaseFile())).Try("BEGIN EXCLUSIVE; COMMIT"), 0);
-    EXPECT_EQ(RefusalOf([&] { Records(P); }), ErrorNumber::ObjectNotSet);
+    EXPECT_EQ(RefusalOf([&] { Records(P.Form3); }), ErrorNumber::ObjectNotSet);
     OpenWorkDatabase(P);
-    EXPECT_EQ(Records(P).Text(u"File"), u"A001"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A001"_s);
 }
 
 struct BoundField {
@@ -240,7 +240,7 @@ TEST_P(SubjectLabelTest, LabelBesideTheMap_FollowsTheCurrentRecord)
     Label& label = (*P.Form1).*GetParam().Shown;
     EXPECT_EQ(label.Caption.value(), GetParam().Field);
 
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
 
     EXPECT_EQ(label.Caption.value(), u"second"_s);
 }

@@ -20,7 +20,7 @@ protected:
     int Step()
     {
         Machine.Loop.Yields = 0;
-        StepPanel(P, Shown(), Bar());
+        StepPanel(P.Loop, Shown(), Bar());
         return Machine.Loop.Yields;
     }
 };
@@ -65,7 +65,7 @@ TEST_F(PanelStepTest, NewestLine_StaysInView)
 {
     for (int line = 0; line < 2000; ++line) {
         Print(1);
-        StepPanel(P, Shown(), Bar());
+        StepPanel(P.Loop, Shown(), Bar());
         Bar().Change();
         const int bottom = Shown().Top + Shown().CurrentY();
         EXPECT_LE(bottom, P.Form12->Client.Height) << line;
@@ -80,7 +80,7 @@ TEST_F(PanelStepTest, InAPanelThatIsHighAlready_TheNewestLineStaysInViewAsWell)
     Bar().Max = 50'000;
     for (int line = 0; line < 400; ++line) {
         Print(1);
-        StepPanel(P, Shown(), Bar());
+        StepPanel(P.Loop, Shown(), Bar());
         Bar().Change();
         const int bottom = Shown().Top + Shown().CurrentY();
         EXPECT_LE(bottom, Bar().Height + TextPanel::LineHeight) << line;
@@ -99,7 +99,7 @@ protected:
     {
         for (int line = 0; line < lines; ++line) {
             Print(1);
-            StepPanel(P, Shown(), Bar());
+            StepPanel(P.Loop, Shown(), Bar());
         }
     }
     void AtNextStepScrollTo(int value)

@@ -72,7 +72,7 @@ TEST_F(BackUpBranchTest, Cancel_LeavesTheRecordFormAndWritesNoBackup)
     BackUpAs({});
 
     EXPECT_TRUE(P.Form3->Visible);
-    EXPECT_EQ(Records(P).Text(u"File"), u"A001"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A001"_s);
     EXPECT_TRUE(QDir(Home.Path(u"safe")).isEmpty());
 }
 
@@ -83,7 +83,7 @@ TEST_F(BackUpBranchTest, EditStillPending_GoesIntoTheBackup)
     BackUpAs(Home.Path(u"safe/x.mdb"));
 
     EXPECT_EQ(Home.ReadFile(u"safe/x.~md"), Home.ReadFile(u"LfgDat_A/LfgDat_A.mdb"));
-    EXPECT_EQ(Records(P).Text(u"Forename"), u"Anne"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"Forename"), u"Anne"_s);
 }
 
 TEST_F(BackUpBranchTest, Database_IsOpenAgainAfterwards_WhereverTheCurrentDirectoryIs)
@@ -92,8 +92,8 @@ TEST_F(BackUpBranchTest, Database_IsOpenAgainAfterwards_WhereverTheCurrentDirect
 
     BackUpAs(Home.Path(u"safe/x.mdb"));
 
-    EXPECT_EQ(Records(P).Text(u"File"), u"A001"_s);
-    Records(P).MoveNext();
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A001"_s);
+    Records(P.Form3).MoveNext();
     EXPECT_EQ(P.Form1->Label9.Caption.value(), u"Mary"_s);
     EXPECT_FALSE(P.Form3->Visible);
 }
@@ -133,7 +133,7 @@ TEST_F(BackUpBranchTest, RecordFormThatIsClosedByIt_IsToldOf_UntilABackupOpensIt
     Click(P.Form1->Command1.Click);
 
     EXPECT_TRUE(P.Form3->Visible);
-    EXPECT_EQ(Records(P).Text(u"File"), u"A001"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A001"_s);
 }
 
 TEST_F(BackUpBranchTest, PlaceThatCantBeWritten_EndsInSilence)
@@ -186,7 +186,7 @@ TEST_F(BackUpBranchTest, OnARecordOfAnotherBranch_ThatBranchGoes)
 
     EXPECT_EQ(Home.ReadFile(u"safe/x.~md"), Home.ReadFile(u"LfgDat_B/LfgDat_B.mdb"));
     EXPECT_EQ(Home.ReadFile(u"safe/x.~cf"), Home.ReadFile(u"LfgDat_B/LfgDat_B.cfg"));
-    EXPECT_EQ(Records(P).Text(u"File"), u"B001"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"B001"_s);
 }
 
 // Its record stands alone, on the form that has been made anew, too.
@@ -216,9 +216,9 @@ TEST_F(BackUpBranchTest, BackupPutBackByHand_OpensAsItWas)
 {
     BackUpAs(Home.Path(u"safe/x.mdb"));
     const QImage map = P.Form1->Picture1.Image();
-    Records(P).Edit();
-    Records(P).Put(u"Forename", u"Spoilt"_s);
-    Records(P).Update();
+    Records(P.Form3).Edit();
+    Records(P.Form3).Put(u"Forename", u"Spoilt"_s);
+    Records(P.Form3).Update();
     MoveFirstBoxTo(3000);
     P.Form1->mnuCloseDB.Click();
 
@@ -226,7 +226,7 @@ TEST_F(BackUpBranchTest, BackupPutBackByHand_OpensAsItWas)
     Home.WriteFile(u"LfgDat_A/LfgDat_A.cfg", Home.ReadFile(u"safe/x.~cf"));
     Choose(u"Smiths");
 
-    EXPECT_EQ(Records(P).Text(u"Forename"), u"John"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"Forename"), u"John"_s);
     EXPECT_EQ(P.Form1->Picture1.Image(), map);
 }
 

@@ -67,8 +67,8 @@ TEST_F(CloseBranchTest, MaidenName_KeepsWhatItShowed_WhereAnotherWasStillPending
 
 TEST_F(CloseBranchTest, MaidenName_TypedForNobody_IsNotShownThen)
 {
-    Records(P).MoveLast();
-    Records(P).MoveNext();
+    Records(P.Form3).MoveLast();
+    Records(P.Form3).MoveNext();
     P.Form3->Text16.Text = u"Miller"_s;
     Prompts.Expect(u"Image not Present", u"Searched Image File for Sub.Jpg", Buttons::Information);
     P.Form3->Command2.Click();
@@ -175,7 +175,7 @@ TEST_F(CloseBranchTest, AfterIt_ABranchOpensAgain_AndItsLabelsFollowTheRecords)
 
     Choose(u"Smiths");
     EXPECT_EQ(P.Form1->Label9.Caption.value(), u"John"_s);
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     EXPECT_EQ(P.Form1->Label9.Caption.value(), u"Mary"_s);
 }
 

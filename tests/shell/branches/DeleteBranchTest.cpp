@@ -94,7 +94,7 @@ TEST_F(DeleteBranchTest, NoAtEither_LeavesEverything)
 
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
     EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_A"));
-    EXPECT_EQ(Records(P).Text(u"File"), u"A001"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A001"_s);
 }
 
 TEST_F(DeleteBranchTest, NoAtTheSecond_StillReturnsFromTheOtherBranch)
@@ -108,14 +108,14 @@ TEST_F(DeleteBranchTest, NoAtTheSecond_StillReturnsFromTheOtherBranch)
 
     EXPECT_EQ(P.Branch.UsingAlternate, 0);
     EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_A"));
-    EXPECT_EQ(Records(P).Text(u"File"), u"A001"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A001"_s);
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
 }
 
 TEST_F(DeleteBranchTest, NoAtTheSecond_OnARecordOfAnotherBranch_ShowsTheOwnFirstSubject)
 {
     SwitchToSibling(P, u"B");
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
     ShowRecordOnMap(P);
     ExpectDeletionQuestion(Answer::Yes);
     ExpectDeletionWarning(Answer::No);
@@ -218,8 +218,8 @@ TEST_F(DeleteBranchTest, TextPendingThatCannotBeStored_GoesWithTheBranch_AndAnot
     EXPECT_FALSE(P.Form3.IsLoaded());
     EXPECT_FALSE(Home.Exists(u"LfgDat_A"));
     Choose(u"Jones");
-    EXPECT_EQ(Records(P).Text(u"File"), u"B001"_s);
-    EXPECT_EQ(Records(P).Text(u"Surname"), u"Smith"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"B001"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"Surname"), u"Smith"_s);
 }
 
 // The name in the title bar is the former branch's.
@@ -328,7 +328,7 @@ TEST_F(DeleteBranchTest, ToolsThatAreOpen_AreLeftBehindBothConfirmations_AndABra
     EXPECT_FALSE(Home.Exists(u"LfgDat_A"));
     EXPECT_EQ(P.Tools.ToolMode, 0);
     Choose(u"Jones");
-    EXPECT_EQ(Records(P).Text(u"File"), u"B001"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"B001"_s);
 }
 
 TEST_F(DeleteBranchTest, NoAtEither_LeavesTheToolsOpen)
@@ -413,9 +413,9 @@ TEST_F(DeleteBranchTest, RecordsOfOtherBranchesThatReferToIt_StayAsTheyAre)
 
     EXPECT_EQ(Home.ReadFile(u"LfgDat_B/LfgDat_B.mdb"), database);
     Choose(u"Jones");
-    ASSERT_TRUE(Records(P).Seek(u"File", u"B003"_s));
-    EXPECT_EQ(Records(P).Text(u"FatherRec"), u"A001"_s);
-    EXPECT_EQ(Records(P).Text(u"MotherRec"), u"A002"_s);
+    ASSERT_TRUE(Records(P.Form3).Seek(u"File", u"B003"_s));
+    EXPECT_EQ(Records(P.Form3).Text(u"FatherRec"), u"A001"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"MotherRec"), u"A002"_s);
 }
 
 TEST_F(DeleteBranchTest, RegistryThatCantBeWritten_IsReadAgain_AndListsTheBranch)

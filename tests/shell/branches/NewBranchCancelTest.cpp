@@ -55,7 +55,7 @@ protected:
     void GivenSecondRecordOfJones()
     {
         SwitchToSibling(P, u"B");
-        Records(P).MoveLast();
+        Records(P.Form3).MoveLast();
         ShowRecordOnMap(P);
         ASSERT_EQ(P.Form1->Frame1.Caption.value(), u"Ref  B002"_s);
     }
@@ -137,7 +137,7 @@ TEST_P(CancelledNewTest, OnARecordOfAnotherBranch_TheMapsOwnIsOpenAgain_WithItsF
     EXPECT_EQ(P.Branch.UsingAlternate, 0);
     EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_A"));
     EXPECT_TRUE(P.Branch.sDbaseName.endsWith(u"Lfgdat_A.mdb"_s));
-    EXPECT_EQ(Records(P).Text(u"File"), u"A001"_s);
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A001"_s);
     EXPECT_EQ(P.Form1->Label9.Caption.value(), u"John"_s);
     EXPECT_EQ(P.Form1->Frame1.Caption.value(), u"Ref  A001"_s);
     EXPECT_GT(P.Form1->Image1.Picture.value().pixelColor(10, 10).red(), 200);

@@ -234,7 +234,7 @@ TEST_F(OpenBranchTest, FromOneBranchToAnother_LeavesNothingOfTheFirst)
 TEST_F(OpenBranchTest, OpenBranchChosenAgain_IsReadAgain)
 {
     Choose(u"Smiths");
-    Records(P).MoveLast();
+    Records(P.Form3).MoveLast();
 
     Choose(u"Smiths");
 

@@ -77,7 +77,7 @@ TEST_F(GalleryDoorsTest, ButtonOfTheMap_ToolsLeftToThemselves_StayAsTheyAre_AndT
     P.Form1->Text1.Text = u"Nobody"_s;
     Click(P.Form1->Command3.Click);
     ASSERT_EQ(P.Tools.ToolMode, 1);
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     PressWithoutTools();
     EXPECT_EQ(Caption(), u"Smiths Tree Branch. Gallery A002 of Mary Jones"_s);
     EXPECT_TRUE(P.Form1->Image8.Visible);
@@ -100,7 +100,7 @@ TEST_F(GalleryDoorsTest, RecordThatASearchHasFound_GetsItsOwnPage)
     GivenGallery({u"A001_01.jpg"_s, u"A002_01.jpg"_s, u"A002_02.jpg"_s});
     PressWithoutTools();
     PressRecords();
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     ASSERT_EQ(P.Gallery.FirstShow, 0);
     PressOnRecords();
     EXPECT_EQ(Caption(), u"Smiths Tree Branch. Gallery A002 of Mary Jones"_s);
@@ -111,7 +111,7 @@ TEST_F(GalleryDoorsTest, PageOfARecordThatASearchHasFound_IsBuiltUnderTheHourgla
 {
     PressWithoutTools();
     PressRecords();
-    Records(P).MoveNext();
+    Records(P.Form3).MoveNext();
     bool isHourglass = false;
     Machine.Loop.AtNextYield([&] { isHourglass = P.Screen.Pointer == MousePointer::Hourglass; });
     PressOnRecords();

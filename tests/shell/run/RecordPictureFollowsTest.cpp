@@ -73,23 +73,23 @@ protected:
 TEST_F(RecordPictureFollowsTest, CursorThatWasMovedByWhateverElse)
 {
     EXPECT_EQ(Shown(), u"A001 red"_s);
-    Do([this] { Records(P).MoveNext(); });
+    Do([this] { Records(P.Form3).MoveNext(); });
     EXPECT_EQ(Shown(), u"A002 blue"_s);
-    Do([this] { Records(P).MoveNext(); });
+    Do([this] { Records(P.Form3).MoveNext(); });
     EXPECT_EQ(Shown(), u" none"_s);
 }
 
 TEST_F(RecordPictureFollowsTest, RecordWithoutPicture_HasNobodyElses)
 {
     P.Files.Kill(Home.Path(u"LfgDat_A/A002Sub.jpg"));
-    Do([this] { Records(P).MoveNext(); });
+    Do([this] { Records(P.Form3).MoveNext(); });
     EXPECT_EQ(Shown(), u"A002 none"_s);
 }
 
 TEST_F(RecordPictureFollowsTest, HiddenForm_KeepsItsPicture)
 {
     P.Form3->Hide();
-    Do([this] { Records(P).MoveNext(); });
+    Do([this] { Records(P.Form3).MoveNext(); });
     EXPECT_EQ(Shown(), u"A002 red"_s);
 }
 
@@ -121,7 +121,7 @@ TEST_F(RecordPictureFollowsTest, RecordOfASibling_AndTheReturnBesideAllBoxes)
 TEST_F(RecordPictureFollowsTest, RecordsOutOfTheGallery_AfterTheCursorHasMovedElsewhere)
 {
     Do(P.Form3->Command1.Click);
-    Do([this] { Records(P).MoveNext(); });
+    Do([this] { Records(P.Form3).MoveNext(); });
     Do(P.Form5->Command2.Click);
     ASSERT_TRUE(P.Form3->Visible);
     EXPECT_EQ(Shown(), u"A002 blue"_s);
@@ -139,7 +139,7 @@ TEST_F(RecordPictureFollowsTest, BranchThatIsGone_AndTheNextOne)
 TEST_F(RecordPictureFollowsTest, UnderABox_TheFormerPictureGoes_AndTheOneOfTheRecordComesBehindIt)
 {
     Do([this] {
-        Records(P).MoveNext();
+        Records(P.Form3).MoveNext();
         LoopRuns();
         EXPECT_EQ(Shown(), u"A002 none"_s);
     });
@@ -151,7 +151,7 @@ TEST_F(RecordPictureFollowsTest, StepByTheFormsOwnBar_IsFollowedAtOnce_UnderAnot
 {
     Do([this] {
         Do([this] {
-            Records(P).MoveNext();
+            Records(P.Form3).MoveNext();
             Fire(P.Form3->Data1.Stepped);
         });
         EXPECT_EQ(Shown(), u"A002 blue"_s);

@@ -165,10 +165,10 @@ TEST_F(SubjectFollowsTest, AfterTheDeletionOfARecord_TheFirstOfThoseLeft)
 TEST_F(SubjectFollowsTest, UnderABoxOfACommand_TheFormerSubjectHasGone)
 {
     Click([this] {
-        Records(P).MoveNext();
+        Records(P.Form3).MoveNext();
         LoopRuns();
         EXPECT_EQ(Shown(), u"Mary|Ref  |none|1447"_s);
-        Records(P).MovePrevious();
+        Records(P.Form3).MovePrevious();
     });
     LoopRuns();
 
@@ -178,7 +178,7 @@ TEST_F(SubjectFollowsTest, UnderABoxOfACommand_TheFormerSubjectHasGone)
 TEST_F(SubjectFollowsTest, WithTheToolsOpen_NoMarker)
 {
     Click(P.Form1->mnuTreeTools.Click);
-    Click([this] { Records(P).MoveNext(); });
+    Click([this] { Records(P.Form3).MoveNext(); });
     LoopRuns();
 
     EXPECT_EQ(Shown(), u"Mary|Ref  A002|blue|none"_s);
@@ -192,7 +192,7 @@ TEST_F(SubjectFollowsTest, NothingElseGoesAlong)
     P.Mouse.BoxY = 8;
     P.Record.sCurFile = u"cur"_s;
     P.Record.sPicFile = u"pic"_s;
-    Click([this] { Records(P).MoveNext(); });
+    Click([this] { Records(P.Form3).MoveNext(); });
     LoopRuns();
 
     EXPECT_EQ(Shown(), maryMarkedJohn);
@@ -207,7 +207,7 @@ TEST_F(SubjectFollowsTest, RecordWithoutPicture_ShowsNone)
 {
     BranchOf(u'C').Row({{u"File", u"C003"}, {u"Forename", u"Paul"}}).Build();
     Choose(u"Browns");
-    Click([this] { Records(P).MoveLast(); });
+    Click([this] { Records(P.Form3).MoveLast(); });
     LoopRuns();
 
     EXPECT_EQ(Shown(), u"Paul|Ref  C003|none|1447"_s);
