@@ -100,8 +100,8 @@ public:
     {
         P.Form8->List1.ListIndex = 0;
         OpenSelectedBranch(P);
-        OpenComparison(P);
-        OpenCompareBranch(P, u"Theirs"_s, u"Theirs=LfgDat_B"_s);
+        OpenComparison(P, P.Form1);
+        OpenCompareBranch(P, P, u"Theirs"_s, u"Theirs=LfgDat_B"_s);
     }
 
 private:
@@ -154,7 +154,7 @@ void DoubleLoop2500(benchmark::State& state)
 {
     Program& p = ComparisonOf(2'500);
     Recordset& current = Records(p.Form3);
-    Recordset& compare = CompareRecords(p);
+    Recordset& compare = CompareRecords(p.Form6);
     for (auto _ : state) {
         int found = 0;
         for (current.MoveFirst(); !current.Eof(); current.MoveNext())

@@ -102,7 +102,7 @@ void SearchWordWithoutHit(benchmark::State& state)
 {
     Program& p = LargeProgram();
     for (auto _ : state)
-        SearchByWord(p);
+        SearchByWord(p, p.Scratch, p.Loop);
 }
 
 // A statement of the engine alone on the same file.

@@ -22,142 +22,144 @@ using namespace Qt::StringLiterals;
 namespace
 {
 // The surname stands in the field's box, but no field is chosen by that.
-void ShowFirstCurrentRecord(Program& p)
+void ShowFirstCurrentRecord(const Comparison& comparison)
 {
-    const PersonTexts person = ReadPerson(p, CurrentSide, NullForename::Empty);
-    ShowPerson(p, CurrentSide, person);
-    ShowField(p, CurrentSide, person.Surname);
-    p.Form6->Frame5.Caption = u"Field: Surname"_s;
+    const PersonTexts person = ReadPerson(comparison, CurrentSide, NullForename::Empty);
+    ShowPerson(comparison, CurrentSide, person);
+    ShowField(*comparison.Form6, CurrentSide, person.Surname);
+    comparison.Form6->Frame5.Caption = u"Field: Surname"_s;
 }
 
 // What is copied or cut is the record at which the cursor stands, wherever it has gone meanwhile. The same record keeps
 // its field and its pair.
-void ShowCurrentAgain(Program& p)
+void ShowCurrentAgain(const Comparison& comparison)
 {
     // What has been typed on the record form meanwhile is seen here as well.
-    p.Errors.Ignoring([&] { StoreTyped(p.Form3); });
-    if (IsOnShow(p, CurrentSide)) {
-        ShowPerson(p, CurrentSide, ReadPerson(p, CurrentSide, NullForename::Empty));
+    comparison.Errors.Ignoring([&] { StoreTyped(comparison.Form3); });
+    if (IsOnShow(comparison, CurrentSide)) {
+        ShowPerson(comparison, CurrentSide, ReadPerson(comparison, CurrentSide, NullForename::Empty));
     } else {
-        ForgetPair(p);
-        ShowStepped(p, CurrentSide, NullForename::Empty);
+        ForgetPair(comparison.State, comparison.Scratch);
+        ShowStepped(comparison, CurrentSide, NullForename::Empty);
     }
     // It may be of the same branch.
-    if (IsOnShow(p, CompareSide))
-        ShowPerson(p, CompareSide, ReadPerson(p, CompareSide, NullForename::Empty));
+    if (IsOnShow(comparison, CompareSide))
+        ShowPerson(comparison, CompareSide, ReadPerson(comparison, CompareSide, NullForename::Empty));
 }
 
 // False, with a box, when there is no such database; what was compared before stays then.
-bool PointAtCompareDatabase(Program& p, const QString& path)
+bool PointAtCompareDatabase(const DatabaseOpening& opening, DataControl& data, const QString& path)
 {
     try {
-        PointAtDatabase(p, p.Form6->Data1, path);
+        PointAtDatabase(opening, data, path);
         return true;
     } catch (const RuntimeError& refusal) {
-        TellDatabaseRefused(p, path, refusal);
+        TellDatabaseRefused(opening, path, refusal);
         return false;
     }
 }
 
-void ShowFirstPair(Program& p, const QString& name)
+void ShowFirstPair(const Comparison& comparison, const QString& name)
 {
-    p.Compare.sCompName = name;
-    Records(p.Form3).MoveFirst();
-    CompareRecords(p).MoveFirst();
-    p.Scratch.ScanState = ComparePair::None;
-    p.Compare.FieldStep = 1;
-    p.Compare.ResetDone = 0;
-    ShowComparePair(p);
-    SetFieldCaptions(p, u"Field: Surname"_s, u"Field: Surname"_s);
-    ShowFields(p, p.Form6->Text1.Text, p.Form6->Text3.Text);
-    p.Compare.sCompField = Field::Surname.toString();
-    ShowSearchState(p, SearchState::Found);
+    comparison.State.sCompName = name;
+    Records(comparison.Form3).MoveFirst();
+    CompareRecords(comparison.Form6).MoveFirst();
+    comparison.Scratch.ScanState = ComparePair::None;
+    comparison.State.FieldStep = 1;
+    comparison.State.ResetDone = 0;
+    ShowComparePair(comparison);
+    SetFieldCaptions(*comparison.Form6, u"Field: Surname"_s, u"Field: Surname"_s);
+    ShowFields(*comparison.Form6, comparison.Form6->Text1.Text, comparison.Form6->Text3.Text);
+    comparison.State.sCompField = Field::Surname.toString();
+    ShowSearchState(*comparison.Form6, SearchState::Found);
 }
 } // namespace
 
-bool TellIfComparesAlternate(Program& p)
+bool TellIfComparesAlternate(const BranchState& branch, Prompts& prompts)
 {
-    return TellIfAlternate(p.Branch, p.Prompts, u"Compare Record Data not available"_s,
+    return TellIfAlternate(branch, prompts, u"Compare Record Data not available"_s,
                            u"Cannot compare this alternate Tree Branch Database record\n"
                            u"unless you de select this subject or change and open it's Tree Branch Database."_s);
 }
 
-void OpenComparison(Program& p)
+void OpenComparison(const Comparison& comparison, Window<forms::Form1>& mainWindow)
 {
-    if (TellIfComparesAlternate(p) || TellIfNoBranch(p.Branch, p.Form3, p.Prompts))
+    if (TellIfComparesAlternate(comparison.Branch, comparison.Prompts) ||
+        TellIfNoBranch(comparison.Branch, comparison.Form3, comparison.Prompts))
         return;
-    if (Records(p.Form3).IsEmpty())
-        return TellNoRecords(p.Prompts);
-    Records(p.Form3).MoveFirst();
-    ShowFirstCurrentRecord(p);
-    p.Form1->Command5.Visible = true;
-    p.Compare.ResetDone = 0;
-    p.Form6->Show();
+    if (Records(comparison.Form3).IsEmpty())
+        return TellNoRecords(comparison.Prompts);
+    Records(comparison.Form3).MoveFirst();
+    ShowFirstCurrentRecord(comparison);
+    mainWindow->Command5.Visible = true;
+    comparison.State.ResetDone = 0;
+    comparison.Form6->Show();
 }
 
-void ReturnToComparison(Program& p)
+void ReturnToComparison(const Comparison& comparison, Window<forms::Form1>& mainWindow)
 {
-    if (!p.Form6.IsLoaded() || !p.Form6->Visible)
-        return OpenComparison(p);
-    if (TellIfComparesAlternate(p))
+    if (!comparison.Form6.IsLoaded() || !comparison.Form6->Visible)
+        return OpenComparison(comparison, mainWindow);
+    if (TellIfComparesAlternate(comparison.Branch, comparison.Prompts))
         return;
-    if (HasRecord(p, CurrentSide))
-        ShowCurrentAgain(p);
-    p.Form6->Show();
+    if (HasRecord(comparison, CurrentSide))
+        ShowCurrentAgain(comparison);
+    comparison.Form6->Show();
 }
 
-void LoadComparison(Program& p)
+void LoadComparison(const Comparison& comparison, const Screen& screen)
 {
-    forms::Form6& form = *p.Form6;
-    FillScreen(form, p.Screen, p.Form3, 400);
-    form.Label2.Caption = p.Branch.sBranchName;
-    p.Scratch.ScanState = ComparePair::None;
-    p.Compare.ZNumberTable.Erase();
-    p.Compare.SelBox = 0;
-    p.Compare.sSelText.clear();
-    p.Compare.ShownCurrent = p.Compare.ShownCompare = {};
+    forms::Form6& form = *comparison.Form6;
+    FillScreen(form, screen, comparison.Form3, 400);
+    form.Label2.Caption = comparison.Branch.sBranchName;
+    comparison.Scratch.ScanState = ComparePair::None;
+    comparison.State.ZNumberTable.Erase();
+    comparison.State.SelBox = 0;
+    comparison.State.sSelText.clear();
+    comparison.State.ShownCurrent = comparison.State.ShownCompare = {};
 }
 
-void ChooseCompareBranch(Program& p)
+void ChooseCompareBranch(CompareState& state, Window<forms::Form8>& listOfBranches)
 {
-    p.Compare.IsChoosing = true;
-    p.Form8->Show();
+    state.IsChoosing = true;
+    listOfBranches->Show();
 }
 
-void WithdrawCompareRequest(Program& p)
+void WithdrawCompareRequest(CompareState& state)
 {
-    p.Compare.SearchMask = 0;
-    p.Compare.IsChoosing = false;
+    state.SearchMask = 0;
+    state.IsChoosing = false;
 }
 
-void OpenCompareBranch(Program& p, const QString& name, const QString& entry)
+void OpenCompareBranch(const Comparison& comparison, const DatabaseOpening& opening, const QString& name,
+                       const QString& entry)
 {
-    WithdrawCompareRequest(p);
-    if (Records(p.Form3).IsEmpty())
-        return TellNoRecords(p.Prompts);
-    const QString directory = p.Branch.HomeDir + DirectoryName(entry);
-    if (!PointAtCompareDatabase(p, DatabasePath(directory)))
+    WithdrawCompareRequest(comparison.State);
+    if (Records(comparison.Form3).IsEmpty())
+        return TellNoRecords(comparison.Prompts);
+    const QString directory = comparison.Branch.HomeDir + DirectoryName(entry);
+    if (!PointAtCompareDatabase(opening, comparison.Form6->Data1, DatabasePath(directory)))
         return;
-    p.Compare.sCompDbFile = DirectoryName(entry) + u".mdb";
-    p.Compare.sCompDir = directory + PathSeparator;
-    if (!CompareRecords(p).IsEmpty())
-        return ShowFirstPair(p, name);
-    p.Form6->Label7.Caption = QString();
-    ShowNothing(p, CompareSide);
-    p.Prompts.MsgBox(u"No Database records"_s, u"No Records in this Database"_s, Buttons::Information);
+    comparison.State.sCompDbFile = DirectoryName(entry) + u".mdb";
+    comparison.State.sCompDir = directory + PathSeparator;
+    if (!CompareRecords(comparison.Form6).IsEmpty())
+        return ShowFirstPair(comparison, name);
+    comparison.Form6->Label7.Caption = QString();
+    ShowNothing(comparison.State, *comparison.Form6, CompareSide);
+    comparison.Prompts.MsgBox(u"No Database records"_s, u"No Records in this Database"_s, Buttons::Information);
 }
 
-void LeaveComparison(Program& p)
+void LeaveComparison(forms::Form1& mainWindow)
 {
-    p.Form1->Show();
+    mainWindow.Show();
 }
 
-void CloseComparison(Program& p)
+void CloseComparison(const ComparedSides& sides, Window<forms::Form1>& mainWindow)
 {
-    p.Errors.Ignoring([&] { p.Files.ChDir(p.Branch.WorkDir); });
-    p.Form6.Unload();
-    p.Form1->Command5.Visible = false;
-    p.Form1->Show();
+    sides.Errors.Ignoring([&] { sides.Files.ChDir(sides.Branch.WorkDir); });
+    sides.Form6.Unload();
+    mainWindow->Command5.Visible = false;
+    mainWindow->Show();
 }
 
 } // namespace lineforge

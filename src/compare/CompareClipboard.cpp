@@ -27,9 +27,9 @@ const EditedBox editedBoxes[] = {
     {&forms::Form6::Text4, CompareSide, u""},
 };
 
-bool HasBox(const Program& p)
+bool HasBox(const CompareState& state)
 {
-    return p.Compare.SelBox >= 1 && p.Compare.SelBox <= static_cast<int>(std::size(editedBoxes));
+    return state.SelBox >= 1 && state.SelBox <= static_cast<int>(std::size(editedBoxes));
 }
 
 const EditedBox& BoxOf(int number)
@@ -37,50 +37,50 @@ const EditedBox& BoxOf(int number)
     return editedBoxes[number - 1];
 }
 
-void Store(Program& p, const QString& text)
+void Store(const Comparison& comparison, const QString& text)
 {
-    const EditedBox& box = BoxOf(p.Compare.SelBox);
+    const EditedBox& box = BoxOf(comparison.State.SelBox);
     const bool isField = box.Field.isEmpty();
     // Without a record there is nothing to be written to, whatever is on show.
-    if (HasRecord(p, box.Owner)) {
-        if (!IsSeen(p))
+    if (HasRecord(comparison, box.Owner)) {
+        if (!IsSeen(comparison))
             return;
-        if (isField && !IsFieldOnShow(p, box.Owner))
-            return ShowField(p, box.Owner, text);
+        if (isField && !IsFieldOnShow(comparison.State, *comparison.Form6, box.Owner))
+            return ShowField(*comparison.Form6, box.Owner, text);
     }
-    ChangeOrShowAgain(p, box.Owner, [&](Recordset& record) {
+    ChangeOrShowAgain(comparison, box.Owner, [&](Recordset& record) {
         if (isField)
-            ShowField(p, box.Owner, text);
+            ShowField(*comparison.Form6, box.Owner, text);
         else
-            ((*p.Form6).*box.Box).Text = text;
-        record.Put(isField ? QStringView(p.Compare.sCompField) : box.Field, text);
+            ((*comparison.Form6).*box.Box).Text = text;
+        record.Put(isField ? QStringView(comparison.State.sCompField) : box.Field, text);
     });
 }
 } // namespace
 
-void RememberCompareSelection(Program& p, int number)
+void RememberCompareSelection(CompareState& state, const forms::Form6& form, int number)
 {
-    p.Compare.sSelText = ((*p.Form6).*BoxOf(number).Box).SelText;
-    p.Compare.SelBox = number;
+    state.sSelText = (form.*BoxOf(number).Box).SelText;
+    state.SelBox = number;
 }
 
-void CopyCompareSelection(Program& p)
+void CopyCompareSelection(const CompareState& state, Clipboard& clipboard)
 {
-    p.Clipboard.Clear();
-    p.Clipboard.SetText(p.Compare.sSelText);
+    clipboard.Clear();
+    clipboard.SetText(state.sSelText);
 }
 
-void CutCompareField(Program& p)
+void CutCompareField(const Comparison& comparison, Clipboard& clipboard)
 {
-    CopyCompareSelection(p);
-    if (HasBox(p))
-        Store(p, {});
+    CopyCompareSelection(comparison.State, clipboard);
+    if (HasBox(comparison.State))
+        Store(comparison, {});
 }
 
-void PasteCompareField(Program& p)
+void PasteCompareField(const Comparison& comparison, Clipboard& clipboard)
 {
-    if (p.Clipboard.HasText() && HasBox(p))
-        Store(p, p.Clipboard.GetText());
+    if (clipboard.HasText() && HasBox(comparison.State))
+        Store(comparison, clipboard.GetText());
 }
 
 } // namespace lineforge

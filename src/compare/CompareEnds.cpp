@@ -10,24 +10,24 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-void Tell(Program& p, const QString& title, const QString& text)
+void Tell(Prompts& prompts, const QString& title, const QString& text)
 {
-    p.Prompts.MsgBox(title, text, Buttons::Information);
+    prompts.MsgBox(title, text, Buttons::Information);
 }
 } // namespace
 
-void EndAtCurrent(Program& p)
+void EndAtCurrent(const Comparison& comparison)
 {
-    Tell(p, u"Current Database End of File"_s, u"End of Current Database Records"_s);
-    EmptyFields(p);
-    p.Compare.SearchEnded = 1;
+    Tell(comparison.Prompts, u"Current Database End of File"_s, u"End of Current Database Records"_s);
+    EmptyFields(*comparison.Form6);
+    comparison.State.SearchEnded = 1;
 }
 
-void EndAtCompare(Program& p)
+void EndAtCompare(const Comparison& comparison)
 {
-    Tell(p, u"Compare Database End of File"_s, u"End of Compare Database Records"_s);
-    EmptyFields(p);
-    p.Compare.SearchEnded = 1;
+    Tell(comparison.Prompts, u"Compare Database End of File"_s, u"End of Compare Database Records"_s);
+    EmptyFields(*comparison.Form6);
+    comparison.State.SearchEnded = 1;
 }
 
 // KEPT(WhereSameTest.AfterTheEnd_APressOnlySetsTheButton_UntilReset): one of the two captions ends in a blank.
@@ -35,25 +35,25 @@ void EndAtCompare(Program& p)
 // KEPT(FieldDifferenceTest.CursorBehindTheLastRecord_IsTold): so does one of those at the end of a search through the
 // fields.
 // Mended, that one would be a blank narrower, too.
-void EndOfRecords(Program& p)
+void EndOfRecords(const Comparison& comparison)
 {
-    Tell(p, u"Database End of File"_s, u"End of Database Records"_s);
-    SetFieldCaptions(p, u"End of Records search "_s, u"End of Records search"_s);
-    EmptyFields(p);
+    Tell(comparison.Prompts, u"Database End of File"_s, u"End of Database Records"_s);
+    SetFieldCaptions(*comparison.Form6, u"End of Records search "_s, u"End of Records search"_s);
+    EmptyFields(*comparison.Form6);
 }
 
-void EndOfFieldSearch(Program& p)
+void EndOfFieldSearch(const Comparison& comparison)
 {
-    Tell(p, u"Database End of File"_s, u"End of Database Records"_s);
-    ShowSearchState(p, SearchState::Ready);
-    CaptionEndOfFieldSearch(p);
-    EmptyFields(p);
-    p.Compare.SearchEnded = 1;
+    Tell(comparison.Prompts, u"Database End of File"_s, u"End of Database Records"_s);
+    ShowSearchState(*comparison.Form6, SearchState::Ready);
+    CaptionEndOfFieldSearch(*comparison.Form6);
+    EmptyFields(*comparison.Form6);
+    comparison.State.SearchEnded = 1;
 }
 
-void CaptionEndOfFieldSearch(Program& p)
+void CaptionEndOfFieldSearch(forms::Form6& form)
 {
-    SetFieldCaptions(p, u"End of Records Field search "_s, u"End of Records Field search"_s);
+    SetFieldCaptions(form, u"End of Records Field search "_s, u"End of Records Field search"_s);
 }
 
 } // namespace lineforge

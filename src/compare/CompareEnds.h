@@ -1,6 +1,6 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "compare/Comparison.h"
 
 namespace lineforge
 {
@@ -8,15 +8,15 @@ namespace lineforge
 // The ends that a search or a step can come to: each is told, and empties the two field boxes.
 
 // A recordset has run out: nothing more is searched until Reset.
-void EndAtCurrent(Program& p);
-void EndAtCompare(Program& p);
+void EndAtCurrent(const Comparison& comparison);
+void EndAtCompare(const Comparison& comparison);
 
 // No pair, or no field, is left; the frames say which. The second ends the search until Reset, with the button green
 // all the same.
-void EndOfRecords(Program& p);
-void EndOfFieldSearch(Program& p);
+void EndOfRecords(const Comparison& comparison);
+void EndOfFieldSearch(const Comparison& comparison);
 
 // What the frames say then.
-void CaptionEndOfFieldSearch(Program& p);
+void CaptionEndOfFieldSearch(forms::Form6& form);
 
 } // namespace lineforge

@@ -25,123 +25,123 @@ int MaskOfBoxes(const forms::Form6& form)
 
 // What another program has ended, and the user knows, doesn't leave the light of a search.
 template <class Step>
-void ReadyWhenGivenUp(Program& p, const Step& step)
+void ReadyWhenGivenUp(Window<forms::Form6>& window, const Step& step)
 {
     try {
         step();
     } catch (const RuntimeError& refusal) {
         if (refusal.IsTold)
-            ShowSearchState(p, SearchState::Ready);
+            ShowSearchState(*window, SearchState::Ready);
         throw;
     }
 }
 
-void Next(Program& p, const Side& side, void (*end)(Program& p))
+void Next(const Comparison& comparison, const Side& side, void (*end)(const Comparison& comparison))
 {
-    if (p.Compare.SearchEnded == 1)
+    if (comparison.State.SearchEnded == 1)
         return;
-    ShowSearchState(p, SearchState::ByHand);
-    ForgetPair(p);
-    Recordset& records = side.Records(p);
+    ShowSearchState(*comparison.Form6, SearchState::ByHand);
+    ForgetPair(comparison.State, comparison.Scratch);
+    Recordset& records = side.Records(comparison);
     if (!records.Eof())
         records.MoveNext();
     if (records.Eof()) {
-        end(p);
-        ShowSearchState(p, SearchState::Busy);
+        end(comparison);
+        ShowSearchState(*comparison.Form6, SearchState::Busy);
         return;
     }
-    ShowStepped(p, side, NullForename::Refused);
-    ShowSearchState(p, SearchState::Ready);
+    ShowStepped(comparison, side, NullForename::Refused);
+    ShowSearchState(*comparison.Form6, SearchState::Ready);
 }
 
-void Search(Program& p)
+void Search(const Comparison& comparison)
 {
-    if (p.Compare.SearchEnded == 1)
+    if (comparison.State.SearchEnded == 1)
         return;
-    ShowSearchState(p, SearchState::Busy);
-    if (p.Compare.ResetDone == 1) {
-        SetFieldCaptions(p, u"Searching Record Fields"_s, u"Searching Record Fields"_s);
-        p.Compare.ResetDone = 0;
-        p.Form6->Show();
+    ShowSearchState(*comparison.Form6, SearchState::Busy);
+    if (comparison.State.ResetDone == 1) {
+        SetFieldCaptions(*comparison.Form6, u"Searching Record Fields"_s, u"Searching Record Fields"_s);
+        comparison.State.ResetDone = 0;
+        comparison.Form6->Show();
     }
-    const int mask = MaskOfBoxes(*p.Form6);
-    p.Compare.SearchMask = mask;
-    if (mask != 0 && p.Scratch.ScanState < ComparePair::InHand)
-        SearchWhereSame(p);
-    FieldDifferenceSearch(p);
+    const int mask = MaskOfBoxes(*comparison.Form6);
+    comparison.State.SearchMask = mask;
+    if (mask != 0 && comparison.Scratch.ScanState < ComparePair::InHand)
+        SearchWhereSame(comparison);
+    FieldDifferenceSearch(comparison);
 }
 
-void Reset(Program& p)
+void Reset(const Comparison& comparison)
 {
-    if (CompareRecords(p).IsEmpty() || Records(p.Form3).IsEmpty())
-        return TellNoRecords(p.Prompts);
-    p.Compare.SearchEnded = 0;
-    ShowSearchState(p, SearchState::Busy);
-    Records(p.Form3).MoveFirst();
-    CompareRecords(p).MoveFirst();
-    p.Compare.ResetDone = 1;
-    EmptyFields(p);
-    SetFieldCaptions(p, u"Field"_s, u"Field"_s);
-    ShowSearchState(p, SearchState::Ready);
-    ShowComparePair(p);
-    p.Scratch.ScanState = ComparePair::None;
-    p.Compare.SearchMask = 0;
-    p.Compare.FieldStep = 0;
-    ShowSearchState(p, SearchState::Ready);
+    if (CompareRecords(comparison.Form6).IsEmpty() || Records(comparison.Form3).IsEmpty())
+        return TellNoRecords(comparison.Prompts);
+    comparison.State.SearchEnded = 0;
+    ShowSearchState(*comparison.Form6, SearchState::Busy);
+    Records(comparison.Form3).MoveFirst();
+    CompareRecords(comparison.Form6).MoveFirst();
+    comparison.State.ResetDone = 1;
+    EmptyFields(*comparison.Form6);
+    SetFieldCaptions(*comparison.Form6, u"Field"_s, u"Field"_s);
+    ShowSearchState(*comparison.Form6, SearchState::Ready);
+    ShowComparePair(comparison);
+    comparison.Scratch.ScanState = ComparePair::None;
+    comparison.State.SearchMask = 0;
+    comparison.State.FieldStep = 0;
+    ShowSearchState(*comparison.Form6, SearchState::Ready);
 }
 } // namespace
 
-void SearchCompare(Program& p)
+void SearchCompare(const Comparison& comparison)
 {
-    ReadyWhenGivenUp(p, [&] { Search(p); });
+    ReadyWhenGivenUp(comparison.Form6, [&] { Search(comparison); });
 }
 
-void ResetCompare(Program& p)
+void ResetCompare(const Comparison& comparison)
 {
-    ReadyWhenGivenUp(p, [&] { Reset(p); });
+    ReadyWhenGivenUp(comparison.Form6, [&] { Reset(comparison); });
 }
 
-void NextCompare(Program& p)
+void NextCompare(const Comparison& comparison)
 {
-    ReadyWhenGivenUp(p, [&] { Next(p, CompareSide, EndAtCompare); });
+    ReadyWhenGivenUp(comparison.Form6, [&] { Next(comparison, CompareSide, EndAtCompare); });
 }
 
-void NextCurrent(Program& p)
+void NextCurrent(const Comparison& comparison)
 {
-    ReadyWhenGivenUp(p, [&] { Next(p, CurrentSide, EndAtCurrent); });
+    ReadyWhenGivenUp(comparison.Form6, [&] { Next(comparison, CurrentSide, EndAtCurrent); });
 }
 
-void ShowSteppedRecord(Program& p)
+void ShowSteppedRecord(const Comparison& comparison)
 {
-    ForgetPair(p);
-    if (CompareRecords(p).HasRow())
-        ShowStepped(p, CompareSide, NullForename::Empty);
+    ForgetPair(comparison.State, comparison.Scratch);
+    if (CompareRecords(comparison.Form6).HasRow())
+        ShowStepped(comparison, CompareSide, NullForename::Empty);
 }
 
 // KEPT(FieldStepTest.Next_ForgetsThePlaceUpToTheDeathCertificate): beyond the row of the death certificate the search
 // goes on where it was.
 // Mended, it would begin at the first field after every step by hand.
-void ForgetPair(Program& p)
+void ForgetPair(CompareState& state, ScratchState& scratch)
 {
-    if (p.Scratch.ScanState == ComparePair::InHand)
-        p.Scratch.ScanState = ComparePair::None;
-    if (p.Compare.FieldStep >= 2 && p.Compare.FieldStep <= 18)
-        p.Compare.FieldStep = 0;
+    if (scratch.ScanState == ComparePair::InHand)
+        scratch.ScanState = ComparePair::None;
+    if (state.FieldStep >= 2 && state.FieldStep <= 18)
+        state.FieldStep = 0;
 }
 
-void ShowSidesAnew(Program& p)
+void ShowSidesAnew(const Comparison& comparison)
 {
-    ForgetPair(p);
+    ForgetPair(comparison.State, comparison.Scratch);
     for (const Side* side : {&CurrentSide, &CompareSide})
-        if (HasRecord(p, *side))
-            ShowStepped(p, *side, NullForename::Empty);
+        if (HasRecord(comparison, *side))
+            ShowStepped(comparison, *side, NullForename::Empty);
 }
 
-bool IsSeen(Program& p)
+bool IsSeen(const Comparison& comparison)
 {
     for (const Side* side : {&CurrentSide, &CompareSide})
-        if (HasRecord(p, *side) && !IsOnShow(p, *side)) {
-            ShowSidesAnew(p);
+        if (HasRecord(comparison, *side) && !IsOnShow(comparison, *side)) {
+            ShowSidesAnew(comparison);
             return false;
         }
     return true;

@@ -31,15 +31,15 @@ struct Direction {
 const Direction toCompare{CurrentSide, CompareSide, u"Append Record to Database.", u"Compare", u"\n"};
 const Direction toCurrent{CompareSide, CurrentSide, u"Append Compare Record to Current Database.", u"Current", u""};
 
-const Direction& DirectionOf(Program& p)
+const Direction& DirectionOf(const forms::Form6& form)
 {
-    return p.Form6->Option1.Value ? toCompare : toCurrent;
+    return form.Option1.Value ? toCompare : toCurrent;
 }
 
 // Without a record on either side nothing can be copied, whatever is on show.
-bool IsPairSeen(Program& p)
+bool IsPairSeen(const Comparison& comparison)
 {
-    return !HasRecord(p, CurrentSide) || !HasRecord(p, CompareSide) || IsSeen(p);
+    return !HasRecord(comparison, CurrentSide) || !HasRecord(comparison, CompareSide) || IsSeen(comparison);
 }
 
 void CopyFields(const Recordset& from, Recordset& to)
@@ -49,47 +49,47 @@ void CopyFields(const Recordset& from, Recordset& to)
 }
 
 // Keeps the number for as long as the window lives, whatever becomes of its record.
-void NoteZNumber(Program& p, const QString& file)
+void NoteZNumber(CompareState& state, const QString& file)
 {
     constexpr int digits = 3;
     if (SameText(file.left(1), u"Z"))
-        Concerning(u"Record "_s + file, [&] { p.Compare.ZNumberTable[ToLong(file.right(digits))] = file; });
+        Concerning(u"Record "_s + file, [&] { state.ZNumberTable[ToLong(file.right(digits))] = file; });
 }
 
 // Empty when all are taken.
-QString FreeZNumber(const Program& p)
+QString FreeZNumber(const CompareState& state)
 {
-    for (int number = 1; number <= p.Compare.ZNumberTable.Last(); ++number)
-        if (p.Compare.ZNumberTable[number].isEmpty())
+    for (int number = 1; number <= state.ZNumberTable.Last(); ++number)
+        if (state.ZNumberTable[number].isEmpty())
             return u"Z"_s + QString::number(number).rightJustified(3, u'0');
     return {};
 }
 
-void TellExists(Program& p, const Direction& way)
+void TellExists(Prompts& prompts, const Direction& way)
 {
-    p.Prompts.MsgBox(u"Append Error"_s,
-                     u"Record already exists in "_s + way.Branch + u" Database." + way.Break +
-                         u"Delete the record before appending or else copy " + way.Break +
-                         u"the details to the existing record.",
-                     Buttons::Information);
+    prompts.MsgBox(u"Append Error"_s,
+                   u"Record already exists in "_s + way.Branch + u" Database." + way.Break +
+                       u"Delete the record before appending or else copy " + way.Break +
+                       u"the details to the existing record.",
+                   Buttons::Information);
 }
 
 // Goes through the branch that the record would be appended to, from where its cursor stands, and notes the numbers
 // that are taken. False, with a box and the cursor back where it stood before, when it has the record's number.
-bool PassThroughDestination(Program& p, const Direction& way, const Bookmark& before)
+bool PassThroughDestination(const Comparison& comparison, const Direction& way, const Bookmark& before)
 {
-    Recordset& to = way.To.Records(p);
-    const FieldValue file = way.From.Records(p).Value(Field::File);
+    Recordset& to = way.To.Records(comparison);
+    const FieldValue file = way.From.Records(comparison).Value(Field::File);
     for (; !to.Eof(); to.MoveNext()) {
         if (file && to.FieldIs(Field::File, *file)) {
-            TellExists(p, way);
+            TellExists(comparison.Prompts, way);
             to.SetBookmark(before);
             return false;
         }
         // KEPT(FieldCopyTest.AppendToCurrent_LooksAtTheFirstCompareRecordForAZ): of the compare record in both
         // directions.
         // Mended, an append to the current branch would pass over the numbers that it meets there.
-        NoteZNumber(p, CompareRecords(p).Text(Field::File));
+        NoteZNumber(comparison.State, CompareRecords(comparison.Form6).Text(Field::File));
     }
     return true;
 }
@@ -104,82 +104,83 @@ std::set<QString> NumbersInFile(const Recordset& records)
 }
 
 // What another program has added behind the box has a number of its own.
-QString NumberStillFree(Program& p, const Recordset& to, const std::set<QString>& known)
+QString NumberStillFree(CompareState& state, const Recordset& to, const std::set<QString>& known)
 {
     for (const QString& file : NumbersInFile(to))
         if (!known.contains(file))
-            NoteZNumber(p, file);
-    return FreeZNumber(p);
+            NoteZNumber(state, file);
+    return FreeZNumber(state);
 }
 
-void TellAppended(Program& p, const Direction& way, const QString& number)
+void TellAppended(Prompts& prompts, const Direction& way, const QString& number)
 {
-    p.Prompts.MsgBox(way.Title.toString(),
-                     u"This Record will be Appended to the "_s + way.Branch + u"\nDatabase as " + number +
-                         u" but will not be mapped into\nthe Ancestral Tree Display.",
-                     Buttons::Information);
+    prompts.MsgBox(way.Title.toString(),
+                   u"This Record will be Appended to the "_s + way.Branch + u"\nDatabase as " + number +
+                       u" but will not be mapped into\nthe Ancestral Tree Display.",
+                   Buttons::Information);
 }
 
-void TellNothingToCopy(Program& p)
+void TellNothingToCopy(Prompts& prompts)
 {
-    p.Prompts.MsgBox(u"Copy Error"_s, u"There is no record to copy across."_s, Buttons::Information);
+    prompts.MsgBox(u"Copy Error"_s, u"There is no record to copy across."_s, Buttons::Information);
 }
 
-void Append(Program& p, const Direction& way)
+void Append(const Comparison& comparison, const Direction& way)
 {
-    Recordset& from = way.From.Records(p);
-    Recordset& to = way.To.Records(p);
-    const QString told = FreeZNumber(p);
+    Recordset& from = way.From.Records(comparison);
+    Recordset& to = way.To.Records(comparison);
+    const QString told = FreeZNumber(comparison.State);
     const std::set<QString> known = NumbersInFile(to);
     to.MoveLast();
     // The scanner may run on behind the box.
     const Bookmark checked = from.GetBookmark();
-    TellAppended(p, way, told);
+    TellAppended(comparison.Prompts, way, told);
     from.SetBookmark(checked);
     to.Edit();
     to.AddNew();
     QString number;
-    to.PutWhenWritten(Field::File, [&] { return number = NumberStillFree(p, to, known); });
+    to.PutWhenWritten(Field::File, [&] { return number = NumberStillFree(comparison.State, to, known); });
     CopyFields(from, to);
-    PersonTexts added = ReadPerson(p, way.To, NullForename::Empty);
+    PersonTexts added = ReadPerson(comparison, way.To, NullForename::Empty);
     to.Update();
     // The cursor stays on the row before.
     added.File = number;
     added.Whose.Record = to.LastModified();
-    ShowStepped(p, way.To, added);
+    ShowStepped(comparison, way.To, added);
     if (number != told)
-        TellAppended(p, way, number);
+        TellAppended(comparison.Prompts, way, number);
 }
 } // namespace
 
-void CopyField(Program& p)
+void CopyField(const Comparison& comparison)
 {
-    const Direction& way = DirectionOf(p);
-    if (!IsPairSeen(p))
+    const Direction& way = DirectionOf(*comparison.Form6);
+    if (!IsPairSeen(comparison))
         return;
     // Both have to name it: what is copied, and over what.
-    if (!IsFieldOnShow(p, CurrentSide) || !IsFieldOnShow(p, CompareSide))
-        return TellNothingToCopy(p);
-    const QString& field = p.Compare.sCompField;
+    if (!IsFieldOnShow(comparison.State, *comparison.Form6, CurrentSide) ||
+        !IsFieldOnShow(comparison.State, *comparison.Form6, CompareSide))
+        return TellNothingToCopy(comparison.Prompts);
+    const QString& field = comparison.State.sCompField;
     try {
-        ChangeOrShowAgain(p, way.To, [&](Recordset& to) {
-            const FieldValue value = way.From.Records(p).Value(field);
+        ChangeOrShowAgain(comparison, way.To, [&](Recordset& to) {
+            const FieldValue value = way.From.Records(comparison).Value(field);
             to.Put(field, value);
-            ShowField(p, way.To, value.value_or(QString()));
+            ShowField(*comparison.Form6, way.To, value.value_or(QString()));
         });
     } catch (const RuntimeError& refusal) {
         if (refusal.IsTold)
             return;
-        TellNothingToCopy(p);
+        TellNothingToCopy(comparison.Prompts);
     }
 }
 
-void CopyAllFields(Program& p)
+void CopyAllFields(const Comparison& comparison)
 {
-    if (!IsPairSeen(p))
+    if (!IsPairSeen(comparison))
         return;
-    const Direction& way = DirectionOf(p);
-    ChangeOrShowAgain(p, way.To, [&](Recordset& to) { CopyFields(way.From.Records(p), to); });
+    const Direction& way = DirectionOf(*comparison.Form6);
+    ChangeOrShowAgain(comparison, way.To, [&](Recordset& to) { CopyFields(way.From.Records(comparison), to); });
 }
 
 // Both directions begin with the compare recordset's first record.
@@ -189,17 +190,17 @@ void CopyAllFields(Program& p)
 // KEPT(FieldCopyTest.AppendToCurrent_LooksForTheNumberFromWhereTheCurrentBranchStands): the current branch is searched
 // from where it stands.
 // Mended, a record that stands further up would be found as well, and the append refused.
-void AppendRecord(Program& p)
+void AppendRecord(const Comparison& comparison)
 {
-    const Direction& way = DirectionOf(p);
+    const Direction& way = DirectionOf(*comparison.Form6);
     // What is appended from left to right is on show; to whom it is appended makes no difference.
-    if (&way.From == &CurrentSide && HasRecord(p, CurrentSide) && !IsOnShow(p, CurrentSide))
-        return ShowSidesAnew(p);
+    if (&way.From == &CurrentSide && HasRecord(comparison, CurrentSide) && !IsOnShow(comparison, CurrentSide))
+        return ShowSidesAnew(comparison);
     // Not kept with the map's positions: it may be one of the other branch.
-    const Bookmark before = way.To.Records(p).GetBookmark();
-    CompareRecords(p).MoveFirst();
-    if (PassThroughDestination(p, way, before))
-        Append(p, way);
+    const Bookmark before = way.To.Records(comparison).GetBookmark();
+    CompareRecords(comparison.Form6).MoveFirst();
+    if (PassThroughDestination(comparison, way, before))
+        Append(comparison, way);
 }
 
 } // namespace lineforge

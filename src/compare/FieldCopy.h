@@ -1,6 +1,6 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "compare/Comparison.h"
 
 namespace lineforge
 {
@@ -9,13 +9,13 @@ namespace lineforge
 // those that a command reads or writes aren't on show it shows them instead, see `IsSeen`.
 
 // The field on show. What fails is told.
-void CopyField(Program& p);
+void CopyField(const Comparison& comparison);
 
 // Every field of `CopyFieldList`, Null included. The number and the spouse's record stay.
-void CopyAllFields(Program& p);
+void CopyAllFields(const Comparison& comparison);
 
 // The record as a new one of the other branch, under the first "Z" number that is free; refused when the other branch
 // has the record's number. Error 9 for a number of 100 or more behind a "Z", 13 for one that is none.
-void AppendRecord(Program& p);
+void AppendRecord(const Comparison& comparison);
 
 } // namespace lineforge

@@ -69,55 +69,57 @@ struct WalkedPair {
     bool Differs() const { return Field < ComparedFields.size(); }
 };
 
-WalkedPair WalkPair(Program& p)
+WalkedPair WalkPair(const Comparison& comparison)
 {
     WalkedPair pair;
-    pair.Current = ReadPerson(p, CurrentSide, NullForename::Empty);
-    pair.Compare = ReadPerson(p, CompareSide, NullForename::Empty);
+    pair.Current = ReadPerson(comparison, CurrentSide, NullForename::Empty);
+    pair.Compare = ReadPerson(comparison, CompareSide, NullForename::Empty);
     // The record form may have gone elsewhere since the press before.
-    pair.IsOnShow = p.Compare.FieldStep > 1 && IsOnShow(p, CurrentSide) && IsOnShow(p, CompareSide);
-    for (pair.Field = static_cast<std::size_t>(std::max(0, p.Compare.FieldStep - 1)); pair.Differs(); ++pair.Field) {
-        pair.Ours = Records(p.Form3).Text(ComparedFields[pair.Field].Field);
-        pair.Theirs = CompareRecords(p).Text(ComparedFields[pair.Field].Field);
+    pair.IsOnShow =
+        comparison.State.FieldStep > 1 && IsOnShow(comparison, CurrentSide) && IsOnShow(comparison, CompareSide);
+    for (pair.Field = static_cast<std::size_t>(std::max(0, comparison.State.FieldStep - 1)); pair.Differs();
+         ++pair.Field) {
+        pair.Ours = Records(comparison.Form3).Text(ComparedFields[pair.Field].Field);
+        pair.Theirs = CompareRecords(comparison.Form6).Text(ComparedFields[pair.Field].Field);
         if (!SameText(pair.Ours, pair.Theirs))
             break;
     }
     return pair;
 }
 
-void ShowPersons(Program& p, const PersonTexts& current, const PersonTexts& compare)
+void ShowPersons(const ComparedSides& sides, const PersonTexts& current, const PersonTexts& compare)
 {
-    ShowPerson(p, CurrentSide, current);
-    ShowPerson(p, CompareSide, compare);
+    ShowPerson(sides, CurrentSide, current);
+    ShowPerson(sides, CompareSide, compare);
 }
 
-void ShowDifference(Program& p, const WalkedPair& pair)
+void ShowDifference(const Comparison& comparison, const WalkedPair& pair)
 {
     const ComparedField& field = ComparedFields[pair.Field];
-    SetFieldCaptions(p, field.Caption.toString(), field.Caption.toString());
-    p.Compare.sCompField = field.CompField.toString();
-    p.Compare.FieldStep = static_cast<int>(pair.Field) + 2;
-    ShowFields(p, pair.Ours, pair.Theirs);
-    p.Form6->Text5.Text = pair.Current.Forename;
-    p.Form6->Text6.Text = pair.Compare.Forename;
-    ShowSearchState(p, SearchState::Found);
+    SetFieldCaptions(*comparison.Form6, field.Caption.toString(), field.Caption.toString());
+    comparison.State.sCompField = field.CompField.toString();
+    comparison.State.FieldStep = static_cast<int>(pair.Field) + 2;
+    ShowFields(*comparison.Form6, pair.Ours, pair.Theirs);
+    comparison.Form6->Text5.Text = pair.Current.Forename;
+    comparison.Form6->Text6.Text = pair.Compare.Forename;
+    ShowSearchState(*comparison.Form6, SearchState::Found);
 }
 
-void ShowEndOfPair(Program& p)
+void ShowEndOfPair(const Comparison& comparison)
 {
-    EmptyFields(p);
-    SetFieldCaptions(p, u"End of Fields this Record"_s, u"End of Fields this Record"_s);
-    ShowSearchState(p, SearchState::Found);
-    p.Scratch.ScanState = ComparePair::Walked;
+    EmptyFields(*comparison.Form6);
+    SetFieldCaptions(*comparison.Form6, u"End of Fields this Record"_s, u"End of Fields this Record"_s);
+    ShowSearchState(*comparison.Form6, SearchState::Found);
+    comparison.Scratch.ScanState = ComparePair::Walked;
 }
 
 enum class NextPair { Stands, BeginsRound, Missing };
 
 // Each current record meets all compare records.
-NextPair MoveToNextPair(Program& p)
+NextPair MoveToNextPair(const Comparison& comparison)
 {
-    Recordset& current = Records(p.Form3);
-    Recordset& compare = CompareRecords(p);
+    Recordset& current = Records(comparison.Form3);
+    Recordset& compare = CompareRecords(comparison.Form6);
     compare.MoveNext();
     if (!compare.Eof())
         return NextPair::Stands;
@@ -127,52 +129,52 @@ NextPair MoveToNextPair(Program& p)
 }
 
 // Whether one side has run out before anything is compared; shows which.
-bool ShowEndIfNoPair(Program& p)
+bool ShowEndIfNoPair(const Comparison& comparison)
 {
-    const bool isCurrent = Records(p.Form3).Eof();
-    if (!isCurrent && !CompareRecords(p).Eof())
+    const bool isCurrent = Records(comparison.Form3).Eof();
+    if (!isCurrent && !CompareRecords(comparison.Form6).Eof())
         return false;
     if (isCurrent)
-        EndAtCurrent(p);
+        EndAtCurrent(comparison);
     else
-        EndAtCompare(p);
-    CaptionEndOfFieldSearch(p);
+        EndAtCompare(comparison);
+    CaptionEndOfFieldSearch(*comparison.Form6);
     return true;
 }
 
-void ShowPersons(Program& p, const WalkedPair& pair)
+void ShowPersons(const Comparison& comparison, const WalkedPair& pair)
 {
     if (!pair.IsOnShow)
-        ShowPersons(p, pair.Current, pair.Compare);
+        ShowPersons(comparison, pair.Current, pair.Compare);
 }
 
 // Whether the walk stops at the pair, which is shown then. A pair that was searched for is stopped at in any case.
-bool StopsAt(Program& p, const WalkedPair& pair)
+bool StopsAt(const Comparison& comparison, const WalkedPair& pair)
 {
     const bool isEnd = !pair.Differs();
     if (isEnd)
-        p.Compare.FieldStep = 0;
-    if (isEnd && p.Scratch.ScanState != ComparePair::InHand)
+        comparison.State.FieldStep = 0;
+    if (isEnd && comparison.Scratch.ScanState != ComparePair::InHand)
         return false;
-    ShowPersons(p, pair);
+    ShowPersons(comparison, pair);
     if (isEnd)
-        ShowEndOfPair(p);
+        ShowEndOfPair(comparison);
     else
-        ShowDifference(p, pair);
+        ShowDifference(comparison, pair);
     return true;
 }
 
 // Walks pair by pair, to a stop or to the end of a round, whose last pair is shown.
-NextPair WalkPairs(Program& p)
+NextPair WalkPairs(const Comparison& comparison)
 {
-    Meanwhile meanwhile(p.Loop);
+    Meanwhile meanwhile(comparison.Loop);
     for (;;) {
-        const WalkedPair pair = WalkPair(p);
-        if (StopsAt(p, pair))
+        const WalkedPair pair = WalkPair(comparison);
+        if (StopsAt(comparison, pair))
             return NextPair::Stands;
-        const NextPair next = MoveToNextPair(p);
+        const NextPair next = MoveToNextPair(comparison);
         if (next != NextPair::Stands) {
-            ShowPersons(p, pair);
+            ShowPersons(comparison, pair);
             return next;
         }
         meanwhile.KeepPainted();
@@ -180,22 +182,23 @@ NextPair WalkPairs(Program& p)
 }
 } // namespace
 
-void FieldDifferenceSearch(Program& p)
+void FieldDifferenceSearch(const Comparison& comparison)
 {
-    if (p.Scratch.ScanState == ComparePair::Ended || p.Compare.SearchEnded == 1 || ShowEndIfNoPair(p))
+    if (comparison.Scratch.ScanState == ComparePair::Ended || comparison.State.SearchEnded == 1 ||
+        ShowEndIfNoPair(comparison))
         return;
-    switch (WalkPairs(p)) {
+    switch (WalkPairs(comparison)) {
     case NextPair::Stands:
         return;
     case NextPair::BeginsRound:
-        ShowSearchState(p, SearchState::Ready);
-        ShowComparePair(p);
+        ShowSearchState(*comparison.Form6, SearchState::Ready);
+        ShowComparePair(comparison);
         // Those of the pair that was walked last.
-        SetFieldCaptions(p, u"Field:"_s, u"Field:"_s);
-        EmptyFields(p);
+        SetFieldCaptions(*comparison.Form6, u"Field:"_s, u"Field:"_s);
+        EmptyFields(*comparison.Form6);
         return;
     case NextPair::Missing:
-        EndOfFieldSearch(p);
+        EndOfFieldSearch(comparison);
         return;
     }
 }
@@ -206,20 +209,20 @@ QStringView FieldNamedBy(const QString& caption)
     return named == ComparedFields.end() ? QStringView() : named->Field;
 }
 
-bool IsFieldOnShow(Program& p, const Side& side)
+bool IsFieldOnShow(const CompareState& state, const forms::Form6& form, const Side& side)
 {
-    const QString& field = p.Compare.sCompField;
-    const auto isNamed = [&, caption = ((*p.Form6).*side.FieldFrame).Caption.value()](const ComparedField& row) {
+    const QString& field = state.sCompField;
+    const auto isNamed = [&, caption = (form.*side.FieldFrame).Caption.value()](const ComparedField& row) {
         return row.Caption == caption && row.CompField == field;
     };
     return field.isEmpty() || std::ranges::any_of(ComparedFields, isNamed);
 }
 
-void ShowComparePair(Program& p)
+void ShowComparePair(const ComparedSides& sides)
 {
-    const PersonTexts current = ReadPerson(p, CurrentSide, NullForename::Refused);
-    ShowPersons(p, current, ReadPerson(p, CompareSide, NullForename::Refused));
-    p.Form6->Label7.Caption = p.Compare.sCompName;
+    const PersonTexts current = ReadPerson(sides, CurrentSide, NullForename::Refused);
+    ShowPersons(sides, current, ReadPerson(sides, CompareSide, NullForename::Refused));
+    sides.Form6->Label7.Caption = sides.State.sCompName;
 }
 
 } // namespace lineforge

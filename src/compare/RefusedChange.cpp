@@ -11,46 +11,47 @@ namespace lineforge
 namespace
 {
 // Another program has it in use or has changed it: what is written over the next time has been seen.
-void ShowAsItIsNow(Program& p, const Side& side)
+void ShowAsItIsNow(const ComparedSides& sides, const Side& side)
 {
-    if (!IsOnShow(p, side))
+    if (!IsOnShow(sides, side))
         return;
-    const PersonTexts person = ReadPerson(p, side, NullForename::Empty);
-    const QStringView field = FieldNamedBy(((*p.Form6).*side.FieldFrame).Caption);
-    const FieldValue text = field.isEmpty() ? FieldValue() : side.Records(p).Text(field);
-    ShowPerson(p, side, person);
+    const PersonTexts person = ReadPerson(sides, side, NullForename::Empty);
+    const QStringView field = FieldNamedBy(((*sides.Form6).*side.FieldFrame).Caption);
+    const FieldValue text = field.isEmpty() ? FieldValue() : side.Records(sides).Text(field);
+    ShowPerson(sides, side, person);
     if (text)
-        ShowField(p, side, *text);
+        ShowField(*sides.Form6, side, *text);
 }
 
-void ChangeRecord(Program& p, const Side& side, const std::function<void(Recordset& record)>& change)
+void ChangeRecord(const ComparedSides& sides, const Side& side, const std::function<void(Recordset& record)>& change)
 {
-    const bool isOne = IsOneRecord(p);
+    const bool isOne = IsOneRecord(sides);
     if (isOne)
-        StoreTyped(p.Form3);
-    Recordset& record = side.Records(p);
+        StoreTyped(sides.Form3);
+    Recordset& record = side.Records(sides);
     record.Edit();
     change(record);
     record.Update();
     if (isOne)
-        p.Form3->Data1.GiveUpEdits();
+        sides.Form3->Data1.GiveUpEdits();
 }
 } // namespace
 
-void ChangeOrShowAgain(Program& p, const Side& side, const std::function<void(Recordset& record)>& change)
+void ChangeOrShowAgain(const ComparedSides& sides, const Side& side,
+                       const std::function<void(Recordset& record)>& change)
 {
-    forms::Form6& form = *p.Form6;
+    forms::Form6& form = *sides.Form6;
     const QString surname = (form.*side.Surname).Text;
     const QString field = (form.*side.Field).Text;
     try {
-        ChangeRecord(p, side, change);
+        ChangeRecord(sides, side, change);
     } catch (const RuntimeError& refusal) {
-        if (DataControl& data = side.Data(p); data.IsOpen())
+        if (DataControl& data = side.Data(sides); data.IsOpen())
             data.Records().CancelUpdate();
         (form.*side.Surname).Text = surname;
-        ShowField(p, side, field);
+        ShowField(*sides.Form6, side, field);
         if (refusal.IsTold)
-            p.Errors.Ignoring([&] { ShowAsItIsNow(p, side); });
+            sides.Errors.Ignoring([&] { ShowAsItIsNow(sides, side); });
         throw;
     }
 }

@@ -23,9 +23,9 @@ Colour ColourOf(SearchState state)
 }
 } // namespace
 
-void ShowSearchState(Program& p, SearchState state)
+void ShowSearchState(forms::Form6& form, SearchState state)
 {
-    p.Form6->Command1.BackColor = ColourOf(state);
+    form.Command1.BackColor = ColourOf(state);
 }
 
 } // namespace lineforge

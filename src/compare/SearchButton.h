@@ -1,6 +1,6 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "program/state/Windows.h"
 
 namespace lineforge
 {
@@ -13,6 +13,6 @@ enum class SearchState {
     ByHand, // the user steps by himself
 };
 
-void ShowSearchState(Program& p, SearchState state);
+void ShowSearchState(forms::Form6& form, SearchState state);
 
 } // namespace lineforge

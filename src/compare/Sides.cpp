@@ -14,29 +14,28 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-DataControl& CurrentData(Program& p)
+DataControl& CurrentData(const ComparedSides& sides)
 {
-    return p.Form3->Data1;
+    return sides.Form3->Data1;
 }
 
-DataControl& CompareData(Program& p)
+DataControl& CompareData(const ComparedSides& sides)
 {
-    return p.Form6->Data1;
+    return sides.Form6->Data1;
 }
 
-QString CurrentDirectory(const Program& p)
+QString CurrentDirectory(const ComparedSides& sides)
 {
-    return p.Branch.WorkDir;
+    return sides.Branch.WorkDir;
 }
 
-QString CompareDirectory(const Program& p)
+QString CompareDirectory(const ComparedSides& sides)
 {
-    return p.Compare.sCompDir.chopped(1);
+    return sides.State.sCompDir.chopped(1);
 }
 
-void MarkDifference(Program& p)
+void MarkDifference(forms::Form6& form)
 {
-    forms::Form6& form = *p.Form6;
     const auto [inCurrent, inCompare] = DifferenceOf(form.Text2.Text.value(), form.Text4.Text.value());
     form.Text2.Marked = inCurrent;
     form.Text4.Marked = inCompare;
@@ -58,9 +57,9 @@ bool IsSameRecord(const Recordset& records, const Bookmark& mark)
     }
 }
 
-ShownRecord RecordOf(Program& p, const Side& side)
+ShownRecord RecordOf(const ComparedSides& sides, const Side& side)
 {
-    return {side.Directory(p), side.Records(p).GetBookmark()};
+    return {side.Directory(sides), side.Records(sides).GetBookmark()};
 }
 } // namespace
 
@@ -73,102 +72,104 @@ const Side CompareSide{CompareData, CompareDirectory, &CompareState::ShownCompar
                        &forms::Form6::Frame6, &forms::Form6::Text4};
 // clang-format on
 
-Recordset& CompareRecords(Program& p)
+Recordset& CompareRecords(Window<forms::Form6>& window)
 {
-    return CompareSide.Records(p);
+    return window->Data1.Records();
 }
 
-void ShowNothing(Program& p, const Side& side)
+void ShowNothing(CompareState& state, forms::Form6& form, const Side& side)
 {
-    forms::Form6& form = *p.Form6;
-    p.Compare.*side.Shown = {};
+    state.*side.Shown = {};
     (form.*side.Number).Caption = QString();
     (form.*side.Picture).Picture = QImage();
     (form.*side.Surname).Text = QString();
     (form.*side.Forename).Text = QString();
     (form.*side.FieldFrame).Caption = u"Field"_s;
-    ShowField(p, side, {});
+    ShowField(form, side, {});
 }
 
-void ShowStepped(Program& p, const Side& side, NullForename null)
+void ShowStepped(const ComparedSides& sides, const Side& side, NullForename null)
 {
-    ShowStepped(p, side, ReadPerson(p, side, null));
+    ShowStepped(sides, side, ReadPerson(sides, side, null));
 }
 
-void ShowStepped(Program& p, const Side& side, const PersonTexts& person)
+void ShowStepped(const ComparedSides& sides, const Side& side, const PersonTexts& person)
 {
-    ShowPerson(p, side, person);
-    ((*p.Form6).*side.FieldFrame).Caption = u"Field:"_s;
-    ShowField(p, side, {});
+    ShowPerson(sides, side, person);
+    ((*sides.Form6).*side.FieldFrame).Caption = u"Field:"_s;
+    ShowField(*sides.Form6, side, {});
 }
 
-void ShowPicture(Program& p, const Side& side, const QString& file)
+void ShowPicture(const ComparedSides& sides, const Side& side, const QString& file)
 {
-    Image& image = (*p.Form6).*side.Picture;
+    Image& image = (*sides.Form6).*side.Picture;
     image.Picture = QImage();
-    p.Errors.Ignoring([&] { image.Picture = p.Pictures.Load(p.Files, SubjectPictureFile(side.Directory(p), file)); });
+    sides.Errors.Ignoring(
+        [&] { image.Picture = sides.Pictures.Load(sides.Files, SubjectPictureFile(side.Directory(sides), file)); });
 }
 
-PersonTexts ReadPerson(Program& p, const Side& side, NullForename null)
+PersonTexts ReadPerson(const ComparedSides& sides, const Side& side, NullForename null)
 {
-    const Recordset& record = side.Records(p);
+    const Recordset& record = side.Records(sides);
     const QString file = record.Text(Field::File);
     const FieldValue forename = record.Value(Field::Forename);
     if (!forename && null == NullForename::Refused)
-        throw RuntimeError(ErrorNumber::InvalidUseOfNull, u"Forename\nRecord "_s + file + u'\n' + side.Directory(p));
-    return {file, record.Text(Field::Surname), forename.value_or(QString()), RecordOf(p, side)};
+        throw RuntimeError(ErrorNumber::InvalidUseOfNull,
+                           u"Forename\nRecord "_s + file + u'\n' + side.Directory(sides));
+    return {file, record.Text(Field::Surname), forename.value_or(QString()), RecordOf(sides, side)};
 }
 
-void ShowPerson(Program& p, const Side& side, const PersonTexts& person)
+void ShowPerson(const ComparedSides& sides, const Side& side, const PersonTexts& person)
 {
-    forms::Form6& form = *p.Form6;
-    p.Compare.*side.Shown = person.Whose;
+    forms::Form6& form = *sides.Form6;
+    sides.State.*side.Shown = person.Whose;
     (form.*side.Number).Caption = person.File;
-    ShowPicture(p, side, person.File);
+    ShowPicture(sides, side, person.File);
     (form.*side.Surname).Text = person.Surname;
     (form.*side.Forename).Text = person.Forename;
 }
 
-bool HasRecord(Program& p, const Side& side)
+bool HasRecord(const ComparedSides& sides, const Side& side)
 {
-    return side.Data(p).IsOpen() && side.Records(p).HasRow();
+    return side.Data(sides).IsOpen() && side.Records(sides).HasRow();
 }
 
-bool IsOnShow(Program& p, const Side& side)
+bool IsOnShow(const ComparedSides& sides, const Side& side)
 {
-    const ShownRecord& shown = p.Compare.*side.Shown;
-    return HasRecord(p, side) && shown.Directory == side.Directory(p) && IsSameRecord(side.Records(p), shown.Record);
+    const ShownRecord& shown = sides.State.*side.Shown;
+    return HasRecord(sides, side) && shown.Directory == side.Directory(sides) &&
+           IsSameRecord(side.Records(sides), shown.Record);
 }
 
-bool IsOneRecord(Program& p)
+bool IsOneRecord(const ComparedSides& sides)
 {
-    return HasRecord(p, CurrentSide) && HasRecord(p, CompareSide) &&
-           CurrentSide.Directory(p) == CompareSide.Directory(p) &&
-           IsSameRecord(CurrentSide.Records(p), CompareSide.Records(p).GetBookmark());
+    return HasRecord(sides, CurrentSide) && HasRecord(sides, CompareSide) &&
+           CurrentSide.Directory(sides) == CompareSide.Directory(sides) &&
+           IsSameRecord(CurrentSide.Records(sides), CompareSide.Records(sides).GetBookmark());
 }
 
-void SetFieldCaptions(Program& p, const QString& current, const QString& compare)
+void SetFieldCaptions(forms::Form6& form, const QString& current, const QString& compare)
 {
-    p.Form6->Frame5.Caption = current;
-    p.Form6->Frame6.Caption = compare;
+    form.Frame5.Caption = current;
+    form.Frame6.Caption = compare;
 }
 
-void ShowField(Program& p, const Side& side, const QString& text)
+void ShowField(forms::Form6& form, const Side& side, const QString& text)
 {
-    ((*p.Form6).*side.Field).Text = text;
-    MarkDifference(p);
+    (form.*side.Field).Text = text;
+    MarkDifference(form);
 }
 
-void ShowFields(Program& p, const QString& current, const QString& compare)
+void ShowFields(forms::Form6& form, const QString& current, const QString& compare)
 {
-    p.Form6->Text2.Text = current;
-    p.Form6->Text4.Text = compare;
-    MarkDifference(p);
+    form.Text2.Text = current;
+    form.Text4.Text = compare;
+    MarkDifference(form);
 }
 
-void EmptyFields(Program& p)
+void EmptyFields(forms::Form6& form)
 {
-    ShowFields(p, {}, {});
+    ShowFields(form, {}, {});
 }
 
 } // namespace lineforge

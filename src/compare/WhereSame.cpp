@@ -16,11 +16,11 @@ using namespace Qt::StringLiterals;
 namespace
 {
 // From a pair whose fields have all been walked to the next. False, with a box, at the end.
-bool LeaveWalkedPair(Program& p)
+bool LeaveWalkedPair(const Comparison& comparison)
 {
-    Recordset& current = Records(p.Form3);
-    Recordset& compare = CompareRecords(p);
-    p.Scratch.ScanState = ComparePair::None;
+    Recordset& current = Records(comparison.Form3);
+    Recordset& compare = CompareRecords(comparison.Form6);
+    comparison.Scratch.ScanState = ComparePair::None;
     if (!compare.Eof())
         compare.MoveNext();
     if (compare.Eof()) {
@@ -29,21 +29,21 @@ bool LeaveWalkedPair(Program& p)
             current.MoveNext();
     }
     if (current.Eof()) {
-        EndAtCurrent(p);
+        EndAtCurrent(comparison);
         return false;
     }
     if (compare.Eof()) {
-        EndAtCompare(p);
+        EndAtCompare(comparison);
         return false;
     }
     return true;
 }
 
 // The rest of the compare records for the current one, from the pair at hand on.
-bool FindInRest(Program& p, const KeyFields& keys, Meanwhile& meanwhile)
+bool FindInRest(const Comparison& comparison, const KeyFields& keys, Meanwhile& meanwhile)
 {
-    Recordset& compare = CompareRecords(p);
-    const QString wanted = KeyOf(Records(p.Form3), keys);
+    Recordset& compare = CompareRecords(comparison.Form6);
+    const QString wanted = KeyOf(Records(comparison.Form3), keys);
     for (; !compare.Eof(); compare.MoveNext()) {
         if (!wanted.isEmpty() && KeyOf(compare, keys) == wanted)
             return true;
@@ -54,10 +54,10 @@ bool FindInRest(Program& p, const KeyFields& keys, Meanwhile& meanwhile)
 
 // All compare records for each of the current ones that follow. Looked up instead of walked: the pair is the one that
 // the walk of each through all would have met first.
-bool FindInFollowing(Program& p, const KeyFields& keys, Meanwhile& meanwhile)
+bool FindInFollowing(const Comparison& comparison, const KeyFields& keys, Meanwhile& meanwhile)
 {
-    Recordset& current = Records(p.Form3);
-    Recordset& compare = CompareRecords(p);
+    Recordset& current = Records(comparison.Form3);
+    Recordset& compare = CompareRecords(comparison.Form6);
     current.MoveNext();
     if (current.Eof())
         return false;
@@ -73,32 +73,32 @@ bool FindInFollowing(Program& p, const KeyFields& keys, Meanwhile& meanwhile)
     return false;
 }
 
-bool FindPair(Program& p)
+bool FindPair(const Comparison& comparison)
 {
-    if (Records(p.Form3).Eof())
+    if (Records(comparison.Form3).Eof())
         return false;
-    const KeyFields keys = KeysOf(p.Compare.SearchMask);
-    Meanwhile meanwhile(p.Loop);
-    return FindInRest(p, keys, meanwhile) || FindInFollowing(p, keys, meanwhile);
+    const KeyFields keys = KeysOf(comparison.State.SearchMask);
+    Meanwhile meanwhile(comparison.Loop);
+    return FindInRest(comparison, keys, meanwhile) || FindInFollowing(comparison, keys, meanwhile);
 }
 } // namespace
 
-void SearchWhereSame(Program& p)
+void SearchWhereSame(const Comparison& comparison)
 {
-    if (p.Compare.SearchEnded == 1)
+    if (comparison.State.SearchEnded == 1)
         return;
-    if (p.Scratch.ScanState == ComparePair::Walked && !LeaveWalkedPair(p))
+    if (comparison.Scratch.ScanState == ComparePair::Walked && !LeaveWalkedPair(comparison))
         return;
-    p.Form6->Show();
-    if (FindPair(p)) {
-        p.Scratch.ScanState = ComparePair::InHand;
-        p.Compare.FieldStep = 0;
-        ShowPicture(p, CompareSide, CompareRecords(p).Text(Field::File));
+    comparison.Form6->Show();
+    if (FindPair(comparison)) {
+        comparison.Scratch.ScanState = ComparePair::InHand;
+        comparison.State.FieldStep = 0;
+        ShowPicture(comparison, CompareSide, CompareRecords(comparison.Form6).Text(Field::File));
         return;
     }
-    CompareRecords(p).MoveFirst();
-    EndOfRecords(p);
-    p.Scratch.ScanState = ComparePair::Ended;
+    CompareRecords(comparison.Form6).MoveFirst();
+    EndOfRecords(comparison);
+    comparison.Scratch.ScanState = ComparePair::Ended;
 }
 
 } // namespace lineforge

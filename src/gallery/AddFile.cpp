@@ -43,25 +43,25 @@ const Addition& AdditionOf(GalleryKind kind)
     return additions[static_cast<int>(kind)];
 }
 
-void Refuse(Program& p, const Addition& addition)
+void Refuse(Prompts& prompts, const Addition& addition)
 {
-    p.Prompts.MsgBox(u"Directory Table Full."_s, addition.TableFull.toString(), Buttons::Information);
+    prompts.MsgBox(u"Directory Table Full."_s, addition.TableFull.toString(), Buttons::Information);
 }
 
 // The lowest subscript that no file has; 99 when all are taken. Nothing, after a box, when the last place is in use.
 // KEPT(AddFileTest.AllSubscriptsTaken_EndsWithoutAWord): that is asked of the one name that ends in an asterisk, so
 // that no other file in the last place brings the box.
 // Mended, a record with a file there would take no more, not even into its gaps.
-std::optional<int> FreeSubscript(Program& p, const Addition& addition, const QString& key)
+std::optional<int> FreeSubscript(const GalleryWork& work, const Addition& addition, const QString& key)
 {
     // A file numbered 0 takes no place that an addition would.
     FixedArray<bool, 0, LastSubscript> taken;
-    for (const QString& name : GalleryFiles(p, key)) {
+    for (const QString& name : GalleryFiles(work.Files, work.State, key)) {
         if (SameText(name, QString(key + u"98.*"))) {
-            Refuse(p, addition);
+            Refuse(work.Prompts, addition);
             return std::nullopt;
         }
-        Concerning(GalleryDirectory(p.Branch.WorkDir) + name, [&] { taken[SubscriptOf(name)] = true; });
+        Concerning(GalleryDirectory(work.Branch.WorkDir) + name, [&] { taken[SubscriptOf(name)] = true; });
     }
     int subscript = 1;
     while (subscript <= LastSubscript && taken[subscript])
@@ -78,67 +78,67 @@ QString SubscriptInName(int subscript)
 }
 
 // A copy that can't be shown would end the program with every page of the record from then on.
-QImage PictureOfAddedFile(Program& p, GalleryKind kind)
+QImage PictureOfAddedFile(const GalleryWork& work, GalleryKind kind)
 {
     try {
-        return LoadTilePicture(p, TilePicturePath(p.Scratch.sFileB, kind, p.Branch.HomeDir));
+        return LoadTilePicture(work, TilePicturePath(work.Scratch.sFileB, kind, work.Branch.HomeDir));
     } catch (const RuntimeError&) {
         if (kind == GalleryKind::Picture)
-            p.Files.Kill(p.Scratch.sFileB);
+            work.Files.Kill(work.Scratch.sFileB);
         throw;
     }
 }
 
-void ShowAddedFile(Program& p, int subscript, GalleryKind kind)
+void ShowAddedFile(const GalleryWork& work, int subscript, GalleryKind kind)
 {
-    Image& tile = p.Form5->Image1[subscript - 1];
-    tile.Picture = PictureOfAddedFile(p, kind);
+    Image& tile = work.Form5->Image1[subscript - 1];
+    tile.Picture = PictureOfAddedFile(work, kind);
     // It may stand there enlarged, empty since its last file was deleted; closed, it shows this one as well.
-    if (p.Gallery.EnlargedTile == subscript - 1)
-        p.Gallery.TilePicture = tile.Picture;
-    tile.Tag = p.Scratch.sFileB;
+    if (work.State.EnlargedTile == subscript - 1)
+        work.State.TilePicture = tile.Picture;
+    tile.Tag = work.Scratch.sFileB;
     tile.Visible = true;
-    p.Loop.DoEvents();
+    work.Loop.DoEvents();
 }
 
 // A cancelled dialog leaves the current directory in the gallery. The name is the command's own: under the dialog the
 // scanner goes on, and writes its records' numbers where such names are kept.
-void CopyChosenFile(Program& p, const QString& name, int subscript, const Addition& addition)
+void CopyChosenFile(const GalleryWork& work, const QString& name, int subscript, const Addition& addition)
 {
     const std::optional<QString> chosen =
-        p.Prompts.OpenFile({addition.DialogTitle.toString(), addition.Filter.toString()});
+        work.Prompts.OpenFile({addition.DialogTitle.toString(), addition.Filter.toString()});
     if (!chosen)
         return;
-    p.Scratch.sFileA = *chosen;
-    if (subscript == p.Gallery.GalleryTop + 1) {
-        p.Gallery.GalleryTop += 1;
-        ShowEmptyTile(p, p.Gallery.GalleryTop);
+    work.Scratch.sFileA = *chosen;
+    if (subscript == work.State.GalleryTop + 1) {
+        work.State.GalleryTop += 1;
+        ShowEmptyTile(*work.Form5, work.State.GalleryTop);
     }
     const QString ending = addition.Ending.isEmpty() ? chosen->right(4) : addition.Ending.toString();
-    p.Scratch.sFileB = p.Gallery.PageDirectory + name + ending;
-    p.Files.FileCopy(p.Scratch.sFileA, p.Scratch.sFileB);
-    p.Files.ChDir(p.Branch.WorkDir);
-    ShowAddedFile(p, subscript, addition.Kind);
+    work.Scratch.sFileB = work.State.PageDirectory + name + ending;
+    work.Files.FileCopy(work.Scratch.sFileA, work.Scratch.sFileB);
+    work.Files.ChDir(work.Branch.WorkDir);
+    ShowAddedFile(work, subscript, addition.Kind);
 }
 } // namespace
 
-void AddGalleryFile(Program& p, GalleryKind kind)
+void AddGalleryFile(const GalleryWork& work, GalleryKind kind)
 {
     const Addition& addition = AdditionOf(kind);
     if (kind == GalleryKind::Picture)
-        CloseGalleryItem(p);
-    if (p.Prompts.MsgBox(addition.Title.toString(), addition.Question.toString(), Buttons::QuestionOkCancel) !=
+        CloseGalleryItem(work);
+    if (work.Prompts.MsgBox(addition.Title.toString(), addition.Question.toString(), Buttons::QuestionOkCancel) !=
         Answer::Ok)
         return;
     // A file of nobody's would be found by no page.
-    if (p.Gallery.PageRecord.isEmpty())
-        return TellNoRecords(p.Prompts);
-    p.Files.ChDir(p.Gallery.PageDirectory);
-    const QString key = GalleryKey(p);
-    const std::optional<int> subscript = FreeSubscript(p, addition, key);
+    if (work.State.PageRecord.isEmpty())
+        return TellNoRecords(work.Prompts);
+    work.Files.ChDir(work.State.PageDirectory);
+    const QString key = GalleryKey(work.State);
+    const std::optional<int> subscript = FreeSubscript(work, addition, key);
     if (!subscript || *subscript > LastSubscript)
         return;
-    p.Errors.Ignoring([&] { CopyChosenFile(p, key + SubscriptInName(*subscript), *subscript, addition); });
+    work.Errors.Ignoring([&] { CopyChosenFile(work, key + SubscriptInName(*subscript), *subscript, addition); });
 }
 
 } // namespace lineforge

@@ -27,10 +27,10 @@ constexpr Ending endings[] = {
     {u"avi", GalleryKind::Video},   {u"txt", GalleryKind::Text},
 };
 
-QSize DotsOfTile(const Program& p)
+QSize DotsOfTile(const Screen& screen)
 {
     const Rectangle tile = forms::Form5::FirstTile;
-    return p.Screen.DotsOf({tile.Width, tile.Height});
+    return screen.DotsOf({tile.Width, tile.Height});
 }
 } // namespace
 
@@ -67,14 +67,14 @@ QString GalleryDirectory(const QString& workDir)
     return workDir + PathSeparator + GalleryName(BranchLetter(workDir)) + PathSeparator;
 }
 
-QString GalleryKey(const Program& p)
+QString GalleryKey(const GalleryState& gallery)
 {
-    return p.Gallery.PageRecord + u'_';
+    return gallery.PageRecord + u'_';
 }
 
-QStringList GalleryFiles(Program& p, const QString& key)
+QStringList GalleryFiles(const FileSystem& files, const GalleryState& gallery, const QString& key)
 {
-    QStringList names = p.Files.Files(p.Gallery.PageDirectory + u"*");
+    QStringList names = files.Files(gallery.PageDirectory + u"*");
     names.removeIf([&key](const QString& name) { return !SameText(QStringView(name).left(keyLength), key); });
     return names;
 }
@@ -96,9 +96,9 @@ bool IsEmptyTag(const QString& tag)
     return tag.size() <= subscriptLength;
 }
 
-QString GalleryPath(const Program& p, const QString& tag)
+QString GalleryPath(const GalleryState& gallery, const QString& tag)
 {
-    return p.Gallery.PageDirectory + tag.sliced(tag.lastIndexOf(PathSeparator) + 1);
+    return gallery.PageDirectory + tag.sliced(tag.lastIndexOf(PathSeparator) + 1);
 }
 
 QString TilePicturePath(const QString& file, GalleryKind kind, const QString& icons)
@@ -106,15 +106,16 @@ QString TilePicturePath(const QString& file, GalleryKind kind, const QString& ic
     return kind == GalleryKind::Picture ? file : QString(icons + GalleryIcon(kind));
 }
 
-QImage LoadTilePicture(Program& p, const QString& path)
+QImage LoadTilePicture(const TilePictures& pictures, const QString& path)
 {
-    Meanwhile meanwhile(p.Loop);
-    return p.Thumbnails.Load(p.Files, path, DotsOfTile(p), [&meanwhile] { meanwhile.KeepPainted(); });
+    Meanwhile meanwhile(pictures.Loop);
+    return pictures.Thumbnails.Load(pictures.Files, path, DotsOfTile(pictures.Screen),
+                                    [&meanwhile] { meanwhile.KeepPainted(); });
 }
 
-void ExpectTilePictures(Program& p, const QStringList& paths)
+void ExpectTilePictures(const TilePictures& pictures, const QStringList& paths)
 {
-    p.Thumbnails.Expect(p.Files, paths, DotsOfTile(p));
+    pictures.Thumbnails.Expect(pictures.Files, paths, DotsOfTile(pictures.Screen));
 }
 
 } // namespace lineforge

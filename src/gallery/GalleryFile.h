@@ -1,6 +1,6 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "gallery/GalleryWork.h"
 
 #include <optional>
 
@@ -26,10 +26,10 @@ QString SubscriptText(int subscript);
 QString GalleryDirectory(const QString& workDir);
 
 // What the names of the files of the page's record begin with: its number and "_".
-QString GalleryKey(const Program& p);
+QString GalleryKey(const GalleryState& gallery);
 
 // The names in the page's directory that begin with that key, sorted.
-QStringList GalleryFiles(Program& p, const QString& key);
+QStringList GalleryFiles(const FileSystem& files, const GalleryState& gallery, const QString& key);
 
 // "A001_", "07" and ".jpg" of a name, a path or a tile's tag, with whatever path stands before. The subscript may be of
 // one digit, as a file has it that was moved to an empty tile below 10.
@@ -48,14 +48,14 @@ int SubscriptOf(const QString& name);
 bool IsEmptyTag(const QString& tag);
 
 // The file's path for a tile's tag, which holds the bare name since a page build and the whole path since an addition.
-QString GalleryPath(const Program& p, const QString& tag);
+QString GalleryPath(const GalleryState& gallery, const QString& tag);
 
 // What a tile shows of a file: the picture itself, or the kind's icon out of that directory, which ends in a separator.
 QString TilePicturePath(const QString& file, GalleryKind kind, const QString& icons);
 
 // That picture, at the size of a tile. Error 53 or 481.
-QImage LoadTilePicture(Program& p, const QString& path);
+QImage LoadTilePicture(const TilePictures& pictures, const QString& path);
 // Begins to decode pictures that will be loaded, in this order.
-void ExpectTilePictures(Program& p, const QStringList& paths);
+void ExpectTilePictures(const TilePictures& pictures, const QStringList& paths);
 
 } // namespace lineforge

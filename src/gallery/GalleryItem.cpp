@@ -29,98 +29,97 @@ const PlayerPanel& PanelOf(GalleryKind kind)
     return kind == GalleryKind::Sound ? soundPanel : videoPanel;
 }
 
-Image& SelectedTile(Program& p)
+Image& SelectedTile(const GalleryWork& work)
 {
-    return p.Form5->Image1[p.Gallery.GallerySel];
+    return work.Form5->Image1[work.State.GallerySel];
 }
 
 // "of" is followed by one blank while an item is open and by two when it has been closed.
-QString ItemCaption(Program& p, QStringView of)
+QString ItemCaption(const GalleryWork& work, QStringView of)
 {
-    TakePageNames(p);
-    const GalleryState& gallery = p.Gallery;
+    TakePageNames(work.State, work.Branch, work.Form3);
+    const GalleryState& gallery = work.State;
     return gallery.PageRecord + u" Gallery " + of + gallery.PageForename + u"  " + gallery.PageSurname;
 }
 
-void ShowPage(Program& p, bool isShown)
+void ShowPage(const GalleryWork& work, bool isShown)
 {
-    forms::Form5& form = *p.Form5;
+    forms::Form5& form = *work.Form5;
     form.Command1.Visible = isShown;
     form.Command2.Visible = isShown;
-    for (int index = 0; index <= p.Gallery.GalleryTop; ++index)
+    for (int index = 0; index <= work.State.GalleryTop; ++index)
         form.Image1[index].Visible = isShown && IsBuilt(form.Image1[index]);
 }
 
 // A tile keeps a small picture only. The whole one is read first, so that one that can't be leaves the page as it is.
 // The tile of a file that has just been deleted has none, and opens empty.
-QImage WholePicture(Program& p, const Image& tile)
+QImage WholePicture(const GalleryWork& work, const Image& tile)
 {
-    return tile.Picture.value().isNull() ? QImage() : LoadPicture(p.Files, GalleryPath(p, tile.Tag));
+    return tile.Picture.value().isNull() ? QImage() : LoadPicture(work.Files, GalleryPath(work.State, tile.Tag));
 }
 
-void PutPictureAway(Program& p)
+void PutPictureAway(GalleryState& gallery, forms::Form5& form)
 {
-    if (!p.Gallery.EnlargedTile)
+    if (!gallery.EnlargedTile)
         return;
-    Image& tile = p.Form5->Image1[*p.Gallery.EnlargedTile];
-    p.Gallery.EnlargedTile.reset();
+    Image& tile = form.Image1[*gallery.EnlargedTile];
+    gallery.EnlargedTile.reset();
     tile.Visible = false;
-    tile.Top = p.Gallery.GalSaveTop;
-    tile.Left = ToInteger(p.Gallery.GalSaveLeft);
-    tile.Height = p.Gallery.GalSaveHeight;
-    tile.Width = p.Gallery.GalSaveWidth;
-    tile.Picture = p.Gallery.TilePicture;
+    tile.Top = gallery.GalSaveTop;
+    tile.Left = ToInteger(gallery.GalSaveLeft);
+    tile.Height = gallery.GalSaveHeight;
+    tile.Width = gallery.GalSaveWidth;
+    tile.Picture = gallery.TilePicture;
     tile.Stretch = true;
 }
 
-void OpenPicture(Program& p)
+void OpenPicture(const GalleryWork& work)
 {
-    Image& tile = SelectedTile(p);
-    const QImage picture = WholePicture(p, tile);
+    Image& tile = SelectedTile(work);
+    const QImage picture = WholePicture(work, tile);
     // Where something else has taken the state word, one stands open still.
-    PutPictureAway(p);
-    p.Scratch.ScanState = GalleryScan::ItemOpen;
-    ShowPage(p, false);
-    p.Gallery.EnlargedTile = p.Gallery.GallerySel;
-    p.Gallery.GalSaveTop = tile.Top;
-    p.Gallery.GalSaveLeft = QString::number(tile.Left);
-    p.Gallery.GalSaveHeight = tile.Height;
-    p.Gallery.GalSaveWidth = tile.Width;
-    p.Gallery.TilePicture = tile.Picture;
+    PutPictureAway(work.State, *work.Form5);
+    work.Scratch.ScanState = GalleryScan::ItemOpen;
+    ShowPage(work, false);
+    work.State.EnlargedTile = work.State.GallerySel;
+    work.State.GalSaveTop = tile.Top;
+    work.State.GalSaveLeft = QString::number(tile.Left);
+    work.State.GalSaveHeight = tile.Height;
+    work.State.GalSaveWidth = tile.Width;
+    work.State.TilePicture = tile.Picture;
     tile.Stretch = false;
     if (!picture.isNull()) {
-        const Size size = p.Screen.SizeOf(picture);
+        const Size size = work.Screen.SizeOf(picture);
         tile.Width = size.Width;
         tile.Height = size.Height;
         tile.Picture = picture;
     }
-    const Size area = p.Form5->ScaleSize();
+    const Size area = work.Form5->ScaleSize();
     tile.Left = (area.Width - tile.Width) / 2;
     tile.Top = (area.Height - tile.Height) / 2;
     tile.Visible = true;
 }
 
-void OpenPlayer(Program& p, const PlayerPanel& panel)
+void OpenPlayer(const GalleryWork& work, const PlayerPanel& panel)
 {
-    forms::Form5& form = *p.Form5;
+    forms::Form5& form = *work.Form5;
     MultimediaControl& player = form.*panel.Player;
-    p.Scratch.ScanState = GalleryScan::ItemOpen;
-    ShowPage(p, false);
+    work.Scratch.ScanState = GalleryScan::ItemOpen;
+    ShowPage(work, false);
     (form.*panel.Panel).Visible = true;
     player.Notify = false;
     player.Wait = true;
     player.Shareable = false;
     player.DeviceType = panel.DeviceType.toString();
-    player.FileName = p.Files.Resolve(GalleryPath(p, SelectedTile(p).Tag));
+    player.FileName = work.Files.Resolve(GalleryPath(work.State, SelectedTile(work).Tag));
     if (panel.ShowsBeforeOpen)
         player.Visible = true;
     player.Command(u"Open");
     player.Visible = true;
 }
 
-void PutPlayerAway(Program& p, const PlayerPanel& panel)
+void PutPlayerAway(forms::Form5& form, const PlayerPanel& panel)
 {
-    forms::Form5& form = *p.Form5;
     if (!(form.*panel.Panel).Visible)
         return;
     (form.*panel.Panel).Visible = false;
@@ -129,74 +128,75 @@ void PutPlayerAway(Program& p, const PlayerPanel& panel)
 }
 
 // The editor runs beside the program, and the tiles stay.
-void OpenText(Program& p)
+void OpenText(const GalleryWork& work)
 {
-    p.Scratch.sNewDir = ApplicationDirectory(p.Branch.WorkDir);
-    p.Gallery.EditorTask = p.Processes.Shell(p.Files.Resolve(p.Scratch.sNewDir + PathSeparator + u"Notepad.exe"),
-                                             p.Files.Resolve(GalleryPath(p, SelectedTile(p).Tag)));
+    work.Scratch.sNewDir = ApplicationDirectory(work.Branch.WorkDir);
+    work.State.EditorTask =
+        work.Processes.Shell(work.Files.Resolve(work.Scratch.sNewDir + PathSeparator + u"Notepad.exe"),
+                             work.Files.Resolve(GalleryPath(work.State, SelectedTile(work).Tag)));
 }
 
-void ExitPlayer(Program& p, const PlayerPanel& panel)
+void ExitPlayer(const GalleryWork& work, const PlayerPanel& panel)
 {
-    if (p.Scratch.ScanState == GalleryScan::Deleting)
-        CancelDeletion(p);
-    else if (((*p.Form5).*panel.Panel).Visible)
-        CloseGalleryItem(p);
+    if (work.Scratch.ScanState == GalleryScan::Deleting)
+        CancelDeletion(work.Scratch);
+    else if (((*work.Form5).*panel.Panel).Visible)
+        CloseGalleryItem(work);
 }
 } // namespace
 
-void OpenGalleryItem(Program& p)
+void OpenGalleryItem(const GalleryWork& work)
 {
     constexpr int captionTail = 11;
-    const QString tag = SelectedTile(p).Tag;
-    p.Form5->Caption = ItemCaption(p, u"of ") + u"   " + tag.right(captionTail);
+    const QString tag = SelectedTile(work).Tag;
+    work.Form5->Caption = ItemCaption(work, u"of ") + u"   " + tag.right(captionTail);
     const std::optional<GalleryKind> kind = KindOf(tag);
     if (!kind)
         return;
     switch (*kind) {
     case GalleryKind::Picture:
-        return OpenPicture(p);
+        return OpenPicture(work);
     case GalleryKind::Sound:
     case GalleryKind::Video:
-        return OpenPlayer(p, PanelOf(*kind));
+        return OpenPlayer(work, PanelOf(*kind));
     case GalleryKind::Text:
-        return OpenText(p);
+        return OpenText(work);
     }
 }
 
-void PutItemAway(Program& p)
+void PutItemAway(GalleryState& gallery, forms::Form5& form)
 {
-    PutPlayerAway(p, soundPanel);
-    PutPlayerAway(p, videoPanel);
-    PutPictureAway(p);
-    p.Form5->Command1.Visible = true;
-    p.Form5->Command2.Visible = true;
+    PutPlayerAway(form, soundPanel);
+    PutPlayerAway(form, videoPanel);
+    PutPictureAway(gallery, form);
+    form.Command1.Visible = true;
+    form.Command2.Visible = true;
 }
 
-void CloseGalleryItem(Program& p)
+void CloseGalleryItem(const GalleryWork& work)
 {
-    if (p.Scratch.ScanState != GalleryScan::ItemOpen)
+    if (work.Scratch.ScanState != GalleryScan::ItemOpen)
         return;
-    p.Form5->Caption = ItemCaption(p, u"of  ");
-    PutItemAway(p);
-    ShowPage(p, true);
-    p.Scratch.ScanState = GalleryScan::Browsing;
+    work.Form5->Caption = ItemCaption(work, u"of  ");
+    PutItemAway(work.State, *work.Form5);
+    ShowPage(work, true);
+    work.Scratch.ScanState = GalleryScan::Browsing;
 }
 
-void ExitSoundPlayer(Program& p)
+void ExitSoundPlayer(const GalleryWork& work)
 {
-    ExitPlayer(p, soundPanel);
+    ExitPlayer(work, soundPanel);
 }
 
-void ExitVideoPlayer(Program& p)
+void ExitVideoPlayer(const GalleryWork& work)
 {
-    ExitPlayer(p, videoPanel);
+    ExitPlayer(work, videoPanel);
 }
 
-void CancelDeletion(Program& p)
+void CancelDeletion(ScratchState& scratch)
 {
-    if (p.Scratch.ScanState == GalleryScan::Deleting)
-        p.Scratch.ScanState = GalleryScan::Browsing;
+    if (scratch.ScanState == GalleryScan::Deleting)
+        scratch.ScanState = GalleryScan::Browsing;
 }
 
 } // namespace lineforge

@@ -41,101 +41,99 @@ void PlaceTile(forms::Form5& form, int index)
     tile.Top = above.Top + above.Height + gap;
 }
 
-void PlacePlayers(Program& p, forms::Form5& form)
+void PlacePlayers(const Screen& screen, forms::Form5& form)
 {
     for (PictureBox* panel : {&form.Picture1, &form.Picture2}) {
-        panel->Left = (p.Screen.Width - panel->Width) / 2;
+        panel->Left = (screen.Width - panel->Width) / 2;
         panel->Top = forms::Form5::FirstTile.Top;
     }
 }
 
-void ClearPage(Program& p)
+void ClearPage(forms::Form5& form)
 {
     for (int index = 0; index <= forms::Form5::LastTile; ++index) {
-        Image& tile = p.Form5->Image1[index];
+        Image& tile = form.Image1[index];
         tile.Visible = false;
         tile.Tag = QString();
         tile.Picture = QImage();
     }
 }
 
-void TellWrongEnding(Program& p, const QString& name)
+void TellWrongEnding(Prompts& prompts, const QString& name)
 {
-    p.Prompts.MsgBox(u"File access error."_s,
-                     u"Incorrect File Subscript Found in Gallery \nDirectory : "_s + name.right(3),
-                     Buttons::Information);
+    prompts.MsgBox(u"File access error."_s,
+                   u"Incorrect File Subscript Found in Gallery \nDirectory : "_s + name.right(3), Buttons::Information);
 }
 
 // False when the file has an ending that no gallery has. Error 9 for a place that no page has, whatever the ending, and
 // before the page counts it.
-bool PutOnPage(Program& p, const QString& name, PageFiles& files)
+bool PutOnPage(const GalleryWork& work, const QString& name, PageFiles& files)
 {
     const int subscript = SubscriptOf(name);
     PageFile& place = files[subscript];
-    p.Gallery.GalleryTop = std::max<int>(p.Gallery.GalleryTop, subscript);
+    work.State.GalleryTop = std::max<int>(work.State.GalleryTop, subscript);
     const std::optional<GalleryKind> kind = KindOf(name);
     if (!kind)
         return false;
-    const QString icons = p.Scratch.sNewDir + PathSeparator;
-    place = {name, TilePicturePath(p.Gallery.PageDirectory + name, *kind, icons)};
+    const QString icons = work.Scratch.sNewDir + PathSeparator;
+    place = {name, TilePicturePath(work.State.PageDirectory + name, *kind, icons)};
     return true;
 }
 
 // The files of the record; of two with one subscript the later name holds the tile. Nothing, after a box, when one
 // doesn't belong there.
-std::optional<PageFiles> ListPage(Program& p)
+std::optional<PageFiles> ListPage(const GalleryWork& work)
 {
     PageFiles files;
-    for (const QString& name : GalleryFiles(p, GalleryKey(p))) {
-        if (!Concerning(p.Gallery.PageDirectory + name, [&] { return PutOnPage(p, name, files); })) {
-            TellWrongEnding(p, name);
+    for (const QString& name : GalleryFiles(work.Files, work.State, GalleryKey(work.State))) {
+        if (!Concerning(work.State.PageDirectory + name, [&] { return PutOnPage(work, name, files); })) {
+            TellWrongEnding(work.Prompts, name);
             return std::nullopt;
         }
     }
     return files;
 }
 
-void ShowFile(Program& p, int index, const PageFile& file)
+void ShowFile(const GalleryWork& work, int index, const PageFile& file)
 {
-    Image& tile = p.Form5->Image1[index];
+    Image& tile = work.Form5->Image1[index];
     tile.Tag = file.Name;
-    tile.Picture = LoadTilePicture(p, file.ImagePath);
+    tile.Picture = LoadTilePicture(work, file.ImagePath);
     tile.Visible = true;
 }
 
-void ExpectPictures(Program& p, const PageFiles& files)
+void ExpectPictures(const GalleryWork& work, const PageFiles& files)
 {
     QStringList paths;
     for (int subscript = 1; subscript <= LastSubscript; ++subscript)
         if (!files[subscript].ImagePath.isEmpty())
             paths.append(files[subscript].ImagePath);
-    ExpectTilePictures(p, paths);
+    ExpectTilePictures(work, paths);
 }
 
 // A user who has gone on to another record's page meanwhile must not find this one's files on its tiles; and a file
 // that he has added meanwhile has its tile already.
-void ShowTiles(Program& p, const PageFiles& files, int page)
+void ShowTiles(const GalleryWork& work, const PageFiles& files, int page)
 {
-    for (int index = 0; p.Gallery.Page == page && index <= p.Gallery.GalleryTop; ++index) {
+    for (int index = 0; work.State.Page == page && index <= work.State.GalleryTop; ++index) {
         const int subscript = index + 1;
         const bool hasFile = subscript <= LastSubscript && !files[subscript].ImagePath.isEmpty();
-        if (IsBuilt(p.Form5->Image1[index]))
+        if (IsBuilt(work.Form5->Image1[index]))
             continue;
         if (hasFile)
-            ShowFile(p, index, files[subscript]);
+            ShowFile(work, index, files[subscript]);
         else
-            ShowEmptyTile(p, index);
-        p.Loop.DoEvents();
+            ShowEmptyTile(*work.Form5, index);
+        work.Loop.DoEvents();
     }
 }
 } // namespace
 
-void LoadImageGrid(Program& p)
+void LoadImageGrid(forms::Form5& form, const Screen& screen)
 {
-    forms::Form5& form = *p.Form5;
-    form.Width = p.Screen.Width;
-    form.Height = p.Screen.Height - 500;
-    form.Centre(p.Screen.Area(), 250);
+    form.Width = screen.Width;
+    form.Height = screen.Height - 500;
+    form.Centre(screen.Area(), 250);
     form.Image1[0].Picture = QImage();
     // The last one is never placed, and stands where the first does.
     for (int index = 1; index <= forms::Form5::LastTile; ++index) {
@@ -143,47 +141,47 @@ void LoadImageGrid(Program& p)
         if (index < forms::Form5::LastTile)
             PlaceTile(form, index);
     }
-    PlacePlayers(p, form);
+    PlacePlayers(screen, form);
 }
 
-void ForgetPage(Program& p)
+void ForgetPage(GalleryState& gallery)
 {
-    ++p.Gallery.Page;
-    p.Gallery.PageRecord.clear();
-    p.Gallery.PageDirectory.clear();
-    p.Gallery.PageForename.clear();
-    p.Gallery.PageSurname.clear();
-    p.Gallery.EnlargedTile.reset();
+    ++gallery.Page;
+    gallery.PageRecord.clear();
+    gallery.PageDirectory.clear();
+    gallery.PageForename.clear();
+    gallery.PageSurname.clear();
+    gallery.EnlargedTile.reset();
 }
 
-void BuildGalleryPage(Program& p)
+void BuildGalleryPage(const GalleryWork& work)
 {
-    const int page = ++p.Gallery.Page;
-    p.Gallery.FirstShow = 0;
-    p.Gallery.PageRecord = p.Form3->Label25.Caption;
-    p.Gallery.PageDirectory = GalleryDirectory(p.Branch.WorkDir);
-    TakePageNames(p);
-    p.Form5->Caption = p.Branch.sBranchName + u" Tree Branch. Gallery " + p.Gallery.PageRecord + u" of " +
-                       p.Gallery.PageForename + u' ' + p.Gallery.PageSurname;
-    CancelDeletion(p);
+    const int page = ++work.State.Page;
+    work.State.FirstShow = 0;
+    work.State.PageRecord = work.Form3->Label25.Caption;
+    work.State.PageDirectory = GalleryDirectory(work.Branch.WorkDir);
+    TakePageNames(work.State, work.Branch, work.Form3);
+    work.Form5->Caption = work.Branch.sBranchName + u" Tree Branch. Gallery " + work.State.PageRecord + u" of " +
+                          work.State.PageForename + u' ' + work.State.PageSurname;
+    CancelDeletion(work.Scratch);
     // Not what is known of it.
     // KEPT(GalleryItemTest.NewPageBehindAnOpenPicture_HasAllTilesInTheirPlaces_AndTheNextClickCloses): the next click
     // on a tile closes it once more, and opens nothing.
     // Mended, that click would open what is on its tile.
-    PutItemAway(p);
-    ClearPage(p);
-    p.Form5->Show();
-    p.Loop.DoEvents();
-    if (p.Gallery.Page != page)
+    PutItemAway(work.State, *work.Form5);
+    ClearPage(*work.Form5);
+    work.Form5->Show();
+    work.Loop.DoEvents();
+    if (work.State.Page != page)
         return;
-    p.Gallery.GalleryTop = 0;
-    p.Files.ChDir(p.Branch.WorkDir);
-    p.Scratch.sNewDir = ApplicationDirectory(p.Branch.WorkDir);
-    const std::optional<PageFiles> files = ListPage(p);
+    work.State.GalleryTop = 0;
+    work.Files.ChDir(work.Branch.WorkDir);
+    work.Scratch.sNewDir = ApplicationDirectory(work.Branch.WorkDir);
+    const std::optional<PageFiles> files = ListPage(work);
     if (!files)
         return;
-    ExpectPictures(p, *files);
-    ShowTiles(p, *files, page);
+    ExpectPictures(work, *files);
+    ShowTiles(work, *files, page);
 }
 
 } // namespace lineforge

@@ -10,9 +10,9 @@ bool IsBuilt(const Image& tile)
     return !tile.Tag.value().isEmpty();
 }
 
-void ShowEmptyTile(Program& p, int index)
+void ShowEmptyTile(forms::Form5& form, int index)
 {
-    Image& tile = p.Form5->Image1[index];
+    Image& tile = form.Image1[index];
     tile.Tag = QString::number(index + 1);
     tile.Visible = true;
 }

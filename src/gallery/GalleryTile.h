@@ -1,6 +1,7 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "platform/controls/Controls.h"
+#include "program/state/Windows.h"
 
 namespace lineforge
 {
@@ -9,6 +10,6 @@ namespace lineforge
 bool IsBuilt(const Image& tile);
 
 // Shows an empty tile, which stands for the subscript behind its index.
-void ShowEmptyTile(Program& p, int index);
+void ShowEmptyTile(forms::Form5& form, int index);
 
 } // namespace lineforge

@@ -7,18 +7,18 @@
 namespace lineforge
 {
 
-bool IsPageOfRecord(Program& p)
+bool IsPageOfRecord(const GalleryState& gallery, const BranchState& branch, Window<forms::Form3>& recordForm)
 {
-    return p.Gallery.PageDirectory == GalleryDirectory(p.Branch.WorkDir) &&
-           SameText(p.Gallery.PageRecord, p.Form3->Label25.Caption.value());
+    return gallery.PageDirectory == GalleryDirectory(branch.WorkDir) &&
+           SameText(gallery.PageRecord, recordForm->Label25.Caption.value());
 }
 
-void TakePageNames(Program& p)
+void TakePageNames(GalleryState& gallery, const BranchState& branch, Window<forms::Form3>& recordForm)
 {
-    if (!p.Form3.IsLoaded() || !IsPageOfRecord(p))
+    if (!recordForm.IsLoaded() || !IsPageOfRecord(gallery, branch, recordForm))
         return;
-    p.Gallery.PageForename = p.Form3->Text3.Text;
-    p.Gallery.PageSurname = p.Form3->Text2.Text;
+    gallery.PageForename = recordForm->Text3.Text;
+    gallery.PageSurname = recordForm->Text2.Text;
 }
 
 } // namespace lineforge

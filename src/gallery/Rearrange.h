@@ -1,6 +1,6 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "gallery/GalleryWork.h"
 
 namespace lineforge
 {
@@ -10,6 +10,6 @@ namespace lineforge
 // KEPT(RearrangeTest.FromAPageBuild_TheNamesAreNotFound_AndTheProgramEnds): a bare name, which a page build leaves
 // there, is looked for in the current directory, and that is not the gallery then: error 53.
 // Mended, files would move where the program ends now.
-void RearrangeTiles(Program& p, Image& source, Image& target);
+void RearrangeTiles(const GalleryWork& work, Image& source, Image& target);
 
 } // namespace lineforge

@@ -14,39 +14,39 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-void ClickTile(Program& p, int index)
+void ClickTile(const GalleryWork& work, Window<forms::Form1>& mainWindow, int index)
 {
-    p.Gallery.GallerySel = index;
-    p.Form1->MMControl1.Command(u"Sound");
-    p.Loop.DoEvents();
-    if (p.Scratch.ScanState == GalleryScan::Deleting) {
+    work.State.GallerySel = index;
+    mainWindow->MMControl1.Command(u"Sound");
+    work.Loop.DoEvents();
+    if (work.Scratch.ScanState == GalleryScan::Deleting) {
         // KEPT(DeleteFileTest.HighestFile_TakesTheTrailingTileAway_AndItsOwnTileOpensEmpty): the click on the highest
         // file goes on into the opening, although the file has gone.
         // Mended, the page would stay, without the empty picture that one more click closes.
-        const bool goesOn = index == p.Gallery.GalleryTop - 1 && !IsEmptyTag(p.Form5->Image1[index].Tag);
-        DeleteFileOfTile(p, index);
+        const bool goesOn = index == work.State.GalleryTop - 1 && !IsEmptyTag(work.Form5->Image1[index].Tag);
+        DeleteFileOfTile(work, index);
         if (!goesOn)
             return;
     }
-    if (p.Scratch.ScanState == GalleryScan::ItemOpen) {
-        CloseGalleryItem(p);
+    if (work.Scratch.ScanState == GalleryScan::ItemOpen) {
+        CloseGalleryItem(work);
         return;
     }
     try {
-        OpenGalleryItem(p);
+        OpenGalleryItem(work);
     } catch (const RuntimeError&) {
-        p.Prompts.MsgBox(u"File not Accessable."_s, u"Problem with File Path"_s, Buttons::Information);
+        work.Prompts.MsgBox(u"File not Accessable."_s, u"Problem with File Path"_s, Buttons::Information);
     }
 }
 } // namespace
 
-void DropOnTile(Program& p, int index, Image& source)
+void DropOnTile(const GalleryWork& work, Window<forms::Form1>& mainWindow, int index, Image& source)
 {
-    Image& target = p.Form5->Image1[index];
+    Image& target = work.Form5->Image1[index];
     if (&source == &target)
-        ClickTile(p, index);
+        ClickTile(work, mainWindow, index);
     else
-        RearrangeTiles(p, source, target);
+        RearrangeTiles(work, source, target);
 }
 
 } // namespace lineforge

@@ -19,18 +19,18 @@ QString DatabaseFile(const QString& path)
     return path.right(databaseNameLength);
 }
 
-std::optional<QString> AskDatabase(Program& p, const QString& title)
+std::optional<QString> AskDatabase(Prompts& prompts, const QString& title)
 {
-    return p.Prompts.OpenFile({title, u"DataBase *.mdb|*.mdb|All Files|*.*|"_s});
+    return prompts.OpenFile({title, u"DataBase *.mdb|*.mdb|All Files|*.*|"_s});
 }
 
-bool IsBranchDatabase(Program& p, const QString& path, const QString& notDatabase)
+bool IsBranchDatabase(const FileSystem& files, Prompts& prompts, const QString& path, const QString& notDatabase)
 {
-    const auto refuse = [&p](const QString& title, const QString& text) {
-        p.Prompts.MsgBox(title, text, Buttons::Information);
+    const auto refuse = [&prompts](const QString& title, const QString& text) {
+        prompts.MsgBox(title, text, Buttons::Information);
         return false;
     };
-    if (p.Files.Dir(path).isEmpty())
+    if (files.Dir(path).isEmpty())
         return refuse(u"File not present."_s, u"File not found."_s);
     if (!SameText(path.right(3), u"mdb"))
         return refuse(u"Database not selected."_s, notDatabase);
@@ -39,10 +39,10 @@ bool IsBranchDatabase(Program& p, const QString& path, const QString& notDatabas
     return true;
 }
 
-void CopyDirectory(Program& p, const QString& from, const QString& to)
+void CopyDirectory(const FileSystem& files, EventLoop& loop, const QString& from, const QString& to)
 {
-    Meanwhile meanwhile(p.Loop);
-    CopyFiles(p.Files.Resolve(from), p.Files.Resolve(to), [&meanwhile] { meanwhile.KeepPainted(); });
+    Meanwhile meanwhile(loop);
+    CopyFiles(files.Resolve(from), files.Resolve(to), [&meanwhile] { meanwhile.KeepPainted(); });
 }
 
 } // namespace lineforge

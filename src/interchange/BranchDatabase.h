@@ -1,6 +1,7 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "platform/files/FileSystem.h"
+#include "platform/machine/Platform.h"
 
 namespace lineforge
 {
@@ -9,16 +10,16 @@ namespace lineforge
 // ".../LfgDat_X/LfgDat_X.mdb".
 
 // The path chosen; nothing for Cancel.
-std::optional<QString> AskDatabase(Program& p, const QString& title);
+std::optional<QString> AskDatabase(Prompts& prompts, const QString& title);
 
 // Whether that can be the database of a branch; tells the user why it can't. `notDatabase` is the text for a file of
 // another kind.
-bool IsBranchDatabase(Program& p, const QString& path, const QString& notDatabase);
+bool IsBranchDatabase(const FileSystem& files, Prompts& prompts, const QString& path, const QString& notDatabase);
 
 // "LfgDat_X.mdb" of such a path.
 QString DatabaseFile(const QString& path);
 
 // Copies the files of a directory, what can't be copied left out; the windows stay painted meanwhile.
-void CopyDirectory(Program& p, const QString& from, const QString& to);
+void CopyDirectory(const FileSystem& files, EventLoop& loop, const QString& from, const QString& to);
 
 } // namespace lineforge

@@ -6,6 +6,7 @@
 #include "platform/files/Drives.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/MakeDirectory.h"
+#include "program/state/Program.h"
 #include "program/ui/BranchUi.h"
 
 #include <QDir>
@@ -20,94 +21,103 @@ namespace
 {
 // The open database is known by its bare name or by its path. A branch of the same letter in another home counts as
 // open, too.
-bool TellIfOpen(Program& p, const QString& database)
+bool TellIfOpen(const BranchState& branch, Prompts& prompts, const QString& database)
 {
-    const QString& open = p.Branch.sDbaseName;
+    const QString& open = branch.sDbaseName;
     if (!SameText(open, database) && !SameText(open, DatabaseFile(database)))
         return false;
-    p.Prompts.MsgBox(u"Database Open."_s, u"Must close this database to Export Files."_s, Buttons::Information);
+    prompts.MsgBox(u"Database Open."_s, u"Must close this database to Export Files."_s, Buttons::Information);
     return true;
 }
 
-void TellExists(Program& p, const QString& text)
+void TellExists(Prompts& prompts, const QString& text)
 {
-    p.Prompts.MsgBox(u"Error Creating New Directory"_s, text, Buttons::Information);
+    prompts.MsgBox(u"Error Creating New Directory"_s, text, Buttons::Information);
 }
 
-bool Confirm(Program& p, const QString& directory)
+bool Confirm(Prompts& prompts, const QString& directory)
 {
-    return p.Prompts.MsgBox(u"Export Directory and Files"_s,
-                            u"Database and files will be placed in\n"_s + directory + u"\ndirectory. ",
-                            Buttons::InformationOkCancel) == Answer::Ok;
+    return prompts.MsgBox(u"Export Directory and Files"_s,
+                          u"Database and files will be placed in\n"_s + directory + u"\ndirectory. ",
+                          Buttons::InformationOkCancel) == Answer::Ok;
 }
 
 // False when the gallery's directory is there already; told when the hourglass has gone. Error 75 or 76 when it can't
 // be made.
-bool CopyBranch(Program& p, const QString& source, const QString& directory, const QString& gallery)
+bool CopyBranch(const BranchExport& work, const QString& source, const QString& directory, const QString& gallery)
 {
-    p.Screen.Pointer = MousePointer::Hourglass;
-    const auto pointerBack = qScopeGuard([&p] { p.Screen.Pointer = MousePointer::Default; });
-    CopyDirectory(p, source, directory);
+    work.Screen.Pointer = MousePointer::Hourglass;
+    const auto pointerBack = qScopeGuard([&work] { work.Screen.Pointer = MousePointer::Default; });
+    CopyDirectory(work.Files, work.Loop, source, directory);
     // KEPT(BranchExportTest.NameOfThePicture_IsEmptyAfterTheListing_AndInAGedcomFile): it has gone through the names of
     // the files, and ends behind the last.
     // Mended, a GEDCOM file after an export would name the picture that was shown.
-    p.Record.sPicFile.clear();
-    if (!MakeDirectory(p.Files, gallery))
+    work.Record.sPicFile.clear();
+    if (!MakeDirectory(work.Files, gallery))
         return false;
-    CopyDirectory(p, source + GalleryName(source.right(2).left(1)), gallery);
+    CopyDirectory(work.Files, work.Loop, source + GalleryName(source.right(2).left(1)), gallery);
     return true;
 }
 
 // Into a directory that is made here.
-void PutBranch(Program& p, const QString& database, const QString& directory)
+void PutBranch(const BranchExport& work, const QString& database, const QString& directory)
 {
-    if (!MakeDirectory(p.Files, directory))
-        return TellExists(p, directory + u" directory already exists.\nYou must first delete this Directory.");
-    if (!Confirm(p, directory))
+    if (!MakeDirectory(work.Files, directory))
+        return TellExists(work.Prompts,
+                          directory + u" directory already exists.\nYou must first delete this Directory.");
+    if (!Confirm(work.Prompts, directory))
         return;
     const QString gallery = directory + PathSeparator + GalleryName(directory.right(1));
-    if (!CopyBranch(p, database.chopped(DatabaseFile(database).size()), directory, gallery))
-        TellExists(p, gallery + u" Directory already exists.\nYou must first move or delete this Directory.");
+    if (!CopyBranch(work, database.chopped(DatabaseFile(database).size()), directory, gallery))
+        TellExists(work.Prompts,
+                   gallery + u" Directory already exists.\nYou must first move or delete this Directory.");
 }
 } // namespace
 
-void ChooseExport(Program& p)
+BranchExport::BranchExport(Program& p)
+    : State(p.Export), Branch(p.Branch), Record(p.Record), Scratch(p.Scratch), Files(p.Files), Prompts(p.Prompts),
+      Screen(p.Screen), Loop(p.Loop), Errors(p.Errors), Form4(p.Form4)
 {
-    const std::optional<QString> database = AskDatabase(p, u"Select Export Database source File"_s);
+}
+
+void ChooseExport(const BranchExport& work)
+{
+    const std::optional<QString> database = AskDatabase(work.Prompts, u"Select Export Database source File"_s);
     if (!database)
         return;
-    p.Export.sExportSource = *database;
-    if (!IsBranchDatabase(p, *database, u" Must select a database"_s) || TellIfOpen(p, *database))
+    work.State.sExportSource = *database;
+    if (!IsBranchDatabase(work.Files, work.Prompts, *database, u" Must select a database"_s) ||
+        TellIfOpen(work.Branch, work.Prompts, *database))
         return;
-    p.Form4->Dir1.GoTo(p.Branch.HomeDir);
-    p.Files.ChDir(p.Branch.HomeDir);
+    work.Form4->Dir1.GoTo(work.Branch.HomeDir);
+    work.Files.ChDir(work.Branch.HomeDir);
     // Volumes come and go.
-    p.Form4->Drive1.Drives = Drives();
-    p.Form4->Drive1.Drive = DriveOf(p.Form4->Dir1.Path, p.Form4->Drive1.Drives);
-    p.Form4->Show();
+    work.Form4->Drive1.Drives = Drives();
+    work.Form4->Drive1.Drive = DriveOf(work.Form4->Dir1.Path, work.Form4->Drive1.Drives);
+    work.Form4->Show();
 }
 
-void LoadExportWindow(Program& p)
+void LoadExportWindow(forms::Form4& form, const Screen& screen, const FileSystem& files)
 {
-    p.Form4->Centre(p.Screen.Area());
+    form.Centre(screen.Area());
     // Where a list stands from the beginning is no change: `sPath` keeps what it last held.
-    p.Form4->Dir1.Path = QDir::cleanPath(p.Files.CurDir());
+    form.Dir1.Path = QDir::cleanPath(files.CurDir());
 }
 
-void ChooseExportDrive(Program& p)
+void ChooseExportDrive(forms::Form4& form)
 {
-    p.Form4->Dir1.GoTo(p.Form4->Drive1.Drive);
+    form.Dir1.GoTo(form.Drive1.Drive);
 }
 
-void TakeExportDirectory(Program& p)
+void TakeExportDirectory(ScratchState& scratch, const forms::Form4& form)
 {
-    p.Scratch.sPath = p.Form4->Dir1.Path;
+    scratch.sPath = form.Dir1.Path;
 }
 
-void CancelExport(Program& p)
+void CancelExport(Window<forms::Form4>& window, EventLoop& loop)
 {
-    p.Form4.Unload();
-    p.Loop.PaintWindows();
+    window.Unload();
+    loop.PaintWindows();
 }
 
 QString ExportDirectory(const QString& beneath, const QString& database)
@@ -118,19 +128,19 @@ QString ExportDirectory(const QString& beneath, const QString& database)
     return beneath + database.right(tail).left(isRoot ? directory - 1 : directory);
 }
 
-void ExportBranch(Program& p)
+void ExportBranch(const BranchExport& work)
 {
-    const QString& database = p.Export.sExportSource;
-    const QString directory = ExportDirectory(p.Scratch.sPath, database);
-    p.Form4->Hide();
-    p.Loop.PaintWindows();
+    const QString& database = work.State.sExportSource;
+    const QString directory = ExportDirectory(work.Scratch.sPath, database);
+    work.Form4->Hide();
+    work.Loop.PaintWindows();
     // The window has left the others free.
-    if (TellIfOpen(p, database))
+    if (TellIfOpen(work.Branch, work.Prompts, database))
         return;
     try {
-        PutBranch(p, database, directory);
+        PutBranch(work, database, directory);
     } catch (const RuntimeError& refusal) {
-        ReportError(p.Errors, p.Prompts, refusal);
+        ReportError(work.Errors, work.Prompts, refusal);
     }
 }
 

@@ -1,25 +1,50 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "platform/base/RuntimeError.h"
+#include "platform/files/FileSystem.h"
+#include "platform/machine/Platform.h"
+#include "program/state/BranchState.h"
+#include "program/state/OutputState.h"
+#include "program/state/RecordState.h"
+#include "program/state/ScratchState.h"
+#include "program/state/Windows.h"
 
 namespace lineforge
 {
 
+struct Program;
+
+// What an export works with.
+struct BranchExport {
+    BranchExport(Program& p);
+
+    ExportState& State;
+    const BranchState& Branch;
+    RecordState& Record;
+    ScratchState& Scratch;
+    FileSystem& Files;
+    lineforge::Prompts& Prompts;
+    lineforge::Screen& Screen;
+    EventLoop& Loop;
+    ErrorState& Errors;
+    Window<forms::Form4>& Form4;
+};
+
 // A whole branch that isn't open goes, with its gallery, into a directory of its own name elsewhere.
 
 // First stage: asks for the branch's database, and shows the window for the destination.
-void ChooseExport(Program& p);
+void ChooseExport(const BranchExport& work);
 
 // That window: its lists when it is made, and what the user does with them.
-void LoadExportWindow(Program& p);
-void ChooseExportDrive(Program& p);
-void TakeExportDirectory(Program& p);
-void CancelExport(Program& p);
+void LoadExportWindow(forms::Form4& form, const Screen& screen, const FileSystem& files);
+void ChooseExportDrive(forms::Form4& form);
+void TakeExportDirectory(ScratchState& scratch, const forms::Form4& form);
+void CancelExport(Window<forms::Form4>& window, EventLoop& loop);
 
 // Second stage: makes the directory that `sPath` leads to, asks, and copies. A directory of that name, or its gallery,
 // that is there already ends it with a box, one that can't be made by `ReportError`; a file that can't be copied is
 // left out without a word.
-void ExportBranch(Program& p);
+void ExportBranch(const BranchExport& work);
 
 // The directory that an export of that database goes to: the path, and what the last 22 characters of the database's
 // begin with, which is its directory where that has the name of a branch.

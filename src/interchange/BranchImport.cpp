@@ -8,6 +8,7 @@
 #include "program/branch/AliasList.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/MakeDirectory.h"
+#include "program/state/Program.h"
 #include "program/ui/BranchUi.h"
 
 #include <QScopeGuard>
@@ -20,16 +21,16 @@ using namespace Qt::StringLiterals;
 namespace
 {
 // "LfgDat_X", or "Import_X" where the registry has that; what stands on the disk isn't asked.
-QString ChooseDirectory(Program& p, const QString& letter)
+QString ChooseDirectory(const AliasState& alias, Prompts& prompts, const QString& letter)
 {
     const QString ordinary = u"LfgDat_"_s + letter;
-    if (!IsDirectoryListed(p.Alias, ordinary))
+    if (!IsDirectoryListed(alias, ordinary))
         return ordinary;
     const QString imported = u"Import_"_s + letter;
-    p.Prompts.MsgBox(u"Import database name in use"_s,
-                     u"This database is already present in the Home Directory and will be placed in: "_s + imported +
-                         u" Directory",
-                     Buttons::Information);
+    prompts.MsgBox(u"Import database name in use"_s,
+                   u"This database is already present in the Home Directory and will be placed in: "_s + imported +
+                       u" Directory",
+                   Buttons::Information);
     return imported;
 }
 
@@ -62,8 +63,8 @@ void CopyBranch(Program& p, const QString& source, const QString& directory, con
     p.Screen.Pointer = MousePointer::Hourglass;
     const QString gallery = PathSeparator + GalleryName(letter);
     p.Errors.Ignoring([&] { p.Files.MkDir(target + gallery); });
-    CopyDirectory(p, source + PathSeparator, target); // which is the root where nothing stands before
-    CopyDirectory(p, source + gallery, target + gallery);
+    CopyDirectory(p.Files, p.Loop, source + PathSeparator, target); // which is the root where nothing stands before
+    CopyDirectory(p.Files, p.Loop, source + gallery, target + gallery);
 }
 
 // A database that can't be opened ends it as it ends Open: with a box, and with the branch named all the same. Tools
@@ -84,15 +85,15 @@ void OpenImported(Program& p, const QString& name, const QString& directory)
 void ImportBranch(Program& p)
 {
     p.Form4.Load(); // whose dialog it is
-    const std::optional<QString> database = AskDatabase(p, u"Select Import Database File"_s);
-    if (!database || !IsBranchDatabase(p, *database, u" Must select a database *.mdb file"_s))
+    const std::optional<QString> database = AskDatabase(p.Prompts, u"Select Import Database File"_s);
+    if (!database || !IsBranchDatabase(p.Files, p.Prompts, *database, u" Must select a database *.mdb file"_s))
         return;
     const QString file = DatabaseFile(*database);
     const QString letter = file.mid(7, 1);
     const QString source = database->chopped(file.size() + 1);
     p.Files.ChDir(p.Branch.HomeDir);
 
-    const QString directory = ChooseDirectory(p, letter);
+    const QString directory = ChooseDirectory(p.Alias, p.Prompts, letter);
     const QString name = AskBranchName(p.Alias, p.Prompts, u"Imported Tree Branch alternate name"_s,
                                        u"Enter alternate user friendly name for this imported Tree Branch Map."_s);
     if (name.isEmpty() || !Confirm(p, name, directory))

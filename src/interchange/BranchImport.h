@@ -1,9 +1,9 @@
 #pragma once
 
-#include "program/state/Program.h"
-
 namespace lineforge
 {
+
+struct Program;
 
 // A branch directory from elsewhere comes into the home under a friendly name of its own, and is opened. It keeps its
 // letter, which every record's number holds: where a branch of that letter is listed it goes into "Import_X". The

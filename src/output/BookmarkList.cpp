@@ -44,88 +44,90 @@ private:
     bool isHalfFull_ = false;
 };
 
-void PutOutRecord(Program& p, Pairs& pairs)
+void PutOutRecord(const RecordOutput& output, Pairs& pairs)
 {
-    if (p.Output.OutputMode == OutputMode::ListToFile) {
-        WriteRecordToFile(p);
+    if (output.State.OutputMode == OutputMode::ListToFile) {
+        WriteRecordToFile(Records(output.Form3), output.State, output.Scratch);
         return;
     }
-    p.Output.OutputMode = OutputMode::SingleToPrinter;
-    PrintRecord(p);
+    output.State.OutputMode = OutputMode::SingleToPrinter;
+    PrintRecord(Records(output.Form3), output.State, output.Printer, output.Scratch);
     pairs.Add();
 }
 
 // A record of a branch that isn't there, or can't be opened, is passed over as one that is gone. False when what stands
 // for the branch's records is no database.
-bool PutOutRecordOfSibling(Program& p, const QString& entry, Pairs& pairs)
+bool PutOutRecordOfSibling(const RecordOutput& output, const QString& entry, Pairs& pairs)
 {
     try {
-        SwitchToSibling(p, entry.left(1));
+        SwitchToSibling(output, entry.left(1));
     } catch (const RuntimeError& refusal) {
-        p.Errors.Last = refusal;
+        output.Errors.Last = refusal;
         return refusal.Number != ErrorNumber::NotADatabase;
     }
-    const auto goBack = qScopeGuard([&p] { p.Errors.Ignoring([&p] { ReturnFromSibling(p); }); });
+    const auto goBack = qScopeGuard([&output] { output.Errors.Ignoring([&output] { ReturnFromSibling(output); }); });
     bool isThere = false;
-    p.Errors.Ignoring([&] { isThere = Records(p.Form3).Seek(Field::File, entry); });
+    output.Errors.Ignoring([&] { isThere = Records(output.Form3).Seek(Field::File, entry); });
     if (isThere)
-        PutOutRecord(p, pairs);
+        PutOutRecord(output, pairs);
     return true;
 }
 
-void PutOutEntries(Program& p, Pairs& pairs)
+void PutOutEntries(const RecordOutput& output, Pairs& pairs)
 {
-    Meanwhile meanwhile(p.Loop);
+    Meanwhile meanwhile(output.Loop);
     // Letters that aren't gone to again: a damaged database of an older installation is asked about once.
-    QString passedOver = BranchLetter(p.Branch.WorkDir);
-    for (int entry = 0; entry <= BookmarkState::Last && !p.Bookmarks.BookmarkList[entry].isEmpty(); ++entry) {
-        const QString file = p.Bookmarks.BookmarkList[entry];
-        if (Records(p.Form3).Seek(Field::File, file))
-            PutOutRecord(p, pairs);
-        else if (!passedOver.contains(file.left(1), Qt::CaseInsensitive) && !PutOutRecordOfSibling(p, file, pairs))
+    QString passedOver = BranchLetter(output.Branch.WorkDir);
+    for (int entry = 0; entry <= BookmarkState::Last && !output.Bookmarks.BookmarkList[entry].isEmpty(); ++entry) {
+        const QString file = output.Bookmarks.BookmarkList[entry];
+        if (Records(output.Form3).Seek(Field::File, file))
+            PutOutRecord(output, pairs);
+        else if (!passedOver.contains(file.left(1), Qt::CaseInsensitive) && !PutOutRecordOfSibling(output, file, pairs))
             passedOver += file.left(1);
         meanwhile.KeepPainted();
     }
 }
 } // namespace
 
-void AddBookmark(Program& p)
+void AddBookmark(BookmarkState& bookmarks, const BranchState& branch, Window<forms::Form3>& recordForm,
+                 Prompts& prompts)
 {
-    if (TellIfNoBranch(p.Branch, p.Form3, p.Prompts) || !Records(p.Form3).HasRow())
+    if (TellIfNoBranch(branch, recordForm, prompts) || !Records(recordForm).HasRow())
         return;
-    p.Bookmarks.BookmarkList[p.Bookmarks.BookmarkCount] = Records(p.Form3).Text(Field::File);
-    p.Bookmarks.BookmarkCount += 1;
+    bookmarks.BookmarkList[bookmarks.BookmarkCount] = Records(recordForm).Text(Field::File);
+    bookmarks.BookmarkCount += 1;
 }
 
-void ClearBookmarks(Program& p)
+void ClearBookmarks(BookmarkState& bookmarks)
 {
-    p.Bookmarks.BookmarkList.Erase();
-    p.Bookmarks.BookmarkCount = 0;
+    bookmarks.BookmarkList.Erase();
+    bookmarks.BookmarkCount = 0;
 }
 
-void PutOutBookmarks(Program& p)
+void PutOutBookmarks(const RecordOutput& output)
 {
-    if (p.Branch.IsSiblingShown())
-        ReturnFromSibling(p);
-    Pairs pairs(p.Printer);
-    PutOutEntries(p, pairs);
-    ClearBookmarks(p);
-    if (p.Output.OutputMode == OutputMode::ListToFile)
-        CloseTextFile(p);
+    if (output.Branch.IsSiblingShown())
+        ReturnFromSibling(output);
+    Pairs pairs(output.Printer);
+    PutOutEntries(output, pairs);
+    ClearBookmarks(output.Bookmarks);
+    if (output.State.OutputMode == OutputMode::ListToFile)
+        CloseTextFile(output.State);
     else
         pairs.Finish();
-    p.Output.OutputMode = OutputMode::None;
-    Records(p.Form3).MoveFirst();
+    output.State.OutputMode = OutputMode::None;
+    Records(output.Form3).MoveFirst();
 }
 
-void PrintBookmarks(Program& p)
+void PrintBookmarks(const RecordOutput& output)
 {
-    if (TellIfNoBranch(p.Branch, p.Form3, p.Prompts))
+    if (TellIfNoBranch(output.Branch, output.Form3, output.Prompts))
         return;
-    ComeBackAfterwards(p.Branch, p.Record, p.Form3, [&] { ReportingErrors(p, [&] { PutOutBookmarks(p); }); });
+    ComeBackAfterwards(output.Branch, output.Record, output.Form3,
+                       [&] { ReportingErrors(output.Errors, output.Prompts, [&] { PutOutBookmarks(output); }); });
     // After a refusal; the list is still there then.
-    p.Printer.Abort();
-    p.Output.OutputMode = OutputMode::None;
+    output.Printer.Abort();
+    output.State.OutputMode = OutputMode::None;
 }
 
 } // namespace lineforge

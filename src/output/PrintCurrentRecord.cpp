@@ -3,18 +3,20 @@
 #include "output/OutputMode.h"
 #include "output/PrintErrors.h"
 #include "output/RecordReport.h"
+#include "program/branch/WorkDatabase.h"
 
 namespace lineforge
 {
 
-void PrintCurrentRecord(Program& p)
+void PrintCurrentRecord(const RecordOutput& output)
 {
-    if (TellIfNoBranch(p.Branch, p.Form3, p.Prompts))
+    if (TellIfNoBranch(output.Branch, output.Form3, output.Prompts))
         return;
-    p.Output.OutputMode = OutputMode::SingleToPrinter;
-    ReportingErrors(p, [&] { PrintRecord(p); });
-    ReportingErrors(p, [&] { p.Printer.EndDoc(); });
-    p.Output.OutputMode = OutputMode::None;
+    output.State.OutputMode = OutputMode::SingleToPrinter;
+    ReportingErrors(output.Errors, output.Prompts,
+                    [&] { PrintRecord(Records(output.Form3), output.State, output.Printer, output.Scratch); });
+    ReportingErrors(output.Errors, output.Prompts, [&] { output.Printer.EndDoc(); });
+    output.State.OutputMode = OutputMode::None;
 }
 
 } // namespace lineforge

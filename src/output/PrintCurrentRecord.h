@@ -1,11 +1,11 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "output/RecordOutput.h"
 
 namespace lineforge
 {
 
 // One record on a page of its own. Errors are shown.
-void PrintCurrentRecord(Program& p);
+void PrintCurrentRecord(const RecordOutput& output);
 
 } // namespace lineforge

@@ -14,30 +14,30 @@ using namespace Qt::StringLiterals;
 namespace
 {
 // Two records to a page; a page is begun only for records that follow.
-void PrintAllRecords(Program& p)
+void PrintAllRecords(const RecordOutput& output)
 {
-    Meanwhile meanwhile(p.Loop);
-    Recordset& records = Records(p.Form3);
+    Meanwhile meanwhile(output.Loop);
+    Recordset& records = Records(output.Form3);
     records.MoveFirst();
     while (!records.Eof()) {
-        PrintRecord(p);
-        PrintRecord(p);
+        PrintRecord(Records(output.Form3), output.State, output.Printer, output.Scratch);
+        PrintRecord(Records(output.Form3), output.State, output.Printer, output.Scratch);
         if (!records.Eof())
-            p.Printer.NewPage();
+            output.Printer.NewPage();
         meanwhile.KeepPainted();
     }
 }
 } // namespace
 
-void PrintDatabase(Program& p)
+void PrintDatabase(const RecordOutput& output)
 {
-    if (p.Prompts.MsgBox(u"DataBase Print"_s, u"Ready to Print Complete DataBase ?"_s, Buttons::QuestionOkCancel) !=
-        Answer::Ok)
+    if (output.Prompts.MsgBox(u"DataBase Print"_s, u"Ready to Print Complete DataBase ?"_s,
+                              Buttons::QuestionOkCancel) != Answer::Ok)
         return;
-    p.Output.OutputMode = OutputMode::None;
-    ReportingErrors(p, [&] { PrintAllRecords(p); });
-    ReportingErrors(p, [&] { p.Printer.EndDoc(); });
-    ReportingErrors(p, [&] { Records(p.Form3).MoveFirst(); });
+    output.State.OutputMode = OutputMode::None;
+    ReportingErrors(output.Errors, output.Prompts, [&] { PrintAllRecords(output); });
+    ReportingErrors(output.Errors, output.Prompts, [&] { output.Printer.EndDoc(); });
+    ReportingErrors(output.Errors, output.Prompts, [&] { Records(output.Form3).MoveFirst(); });
 }
 
 } // namespace lineforge

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "output/RecordOutput.h"
 
 namespace lineforge
 {
 
 // All records, two to a page, after a question. Ends on the first record. Errors are shown.
-void PrintDatabase(Program& p);
+void PrintDatabase(const RecordOutput& output);
 
 } // namespace lineforge

@@ -2,6 +2,7 @@
 
 #include "map/items/MapDisplay.h"
 #include "output/PrintErrors.h"
+#include "program/state/Program.h"
 
 namespace lineforge
 {
@@ -38,10 +39,10 @@ void PrintMap(Program& p)
     p.Output.PrintToPrinter = 1;
     p.Output.Page = &p.Printer;
     SetUpPage(p);
-    ReportingErrors(p, [&] { DrawOnPaper(p); });
+    ReportingErrors(p.Errors, p.Prompts, [&] { DrawOnPaper(p); });
     p.Printer.ForeColor = Black;
-    ReportingErrors(p, [&] { p.Printer.Box(frame); });
-    ReportingErrors(p, [&] { p.Printer.EndDoc(); });
+    ReportingErrors(p.Errors, p.Prompts, [&] { p.Printer.Box(frame); });
+    ReportingErrors(p.Errors, p.Prompts, [&] { p.Printer.EndDoc(); });
     p.Printer.Landscape = false;
     p.Printer.DrawWidth = 1;
     p.Output.PrintToPrinter = 0;

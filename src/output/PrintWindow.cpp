@@ -13,56 +13,56 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-bool PrintWindow(Program& p, const Form& form)
+bool PrintWindow(const Form& form, Printer& printer, ErrorState& errors)
 {
     bool isPrinted = false;
-    p.Errors.Clear();
-    p.Errors.Ignoring([&] {
-        p.Printer.PrintPicture(form.Picture(), form.ScaleSize().Width);
-        p.Printer.EndDoc();
+    errors.Clear();
+    errors.Ignoring([&] {
+        printer.PrintPicture(form.Picture(), form.ScaleSize().Width);
+        printer.EndDoc();
         isPrinted = true;
     });
     if (!isPrinted)
-        p.Printer.Abort();
+        printer.Abort();
     return isPrinted;
 }
 
-void PrintOrReport(Program& p, const Form& form)
+void PrintOrReport(const Form& form, Printer& printer, ErrorState& errors, Prompts& prompts)
 {
-    if (!PrintWindow(p, form))
-        ReportError(p.Errors, p.Prompts);
+    if (!PrintWindow(form, printer, errors))
+        ReportError(errors, prompts);
 }
 
-void PrintOrTell(Program& p, const Form& form)
+void PrintOrTell(const Form& form, Printer& printer, ErrorState& errors, Prompts& prompts)
 {
-    if (!PrintWindow(p, form))
-        p.Prompts.MsgBox(u"Lineforge"_s, u"The form could not be printed."_s, Buttons::Plain);
+    if (!PrintWindow(form, printer, errors))
+        prompts.MsgBox(u"Lineforge"_s, u"The form could not be printed."_s, Buttons::Plain);
 }
 } // namespace
 
-void PrintMainWindow(Program& p)
+void PrintMainWindow(const forms::Form1& form, Printer& printer, ErrorState& errors, Prompts& prompts)
 {
-    PrintOrReport(p, *p.Form1);
+    PrintOrReport(form, printer, errors, prompts);
 }
 
-void PrintComparisonWindow(Program& p)
+void PrintComparisonWindow(const forms::Form6& form, Printer& printer, ErrorState& errors, Prompts& prompts)
 {
-    PrintOrReport(p, *p.Form6);
+    PrintOrReport(form, printer, errors, prompts);
 }
 
-void PrintRecordWindow(Program& p)
+void PrintRecordWindow(const forms::Form3& form, Printer& printer, ErrorState& errors, Prompts& prompts)
 {
-    PrintOrTell(p, *p.Form3);
+    PrintOrTell(form, printer, errors, prompts);
 }
 
-void PrintGalleryWindow(Program& p)
+void PrintGalleryWindow(const forms::Form5& form, Printer& printer, ErrorState& errors)
 {
-    PrintWindow(p, *p.Form5);
+    PrintWindow(form, printer, errors);
 }
 
-void PrintFromPictureWindow(Program& p)
+void PrintFromPictureWindow(const forms::Form1& form, Printer& printer, ErrorState& errors, Prompts& prompts)
 {
-    PrintOrTell(p, *p.Form1);
+    PrintOrTell(form, printer, errors, prompts);
 }
 
 } // namespace lineforge

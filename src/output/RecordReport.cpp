@@ -103,16 +103,16 @@ QString LineOf(const Recordset& record, const ReportLine& line)
     return line.Label + record.Text(line.Field);
 }
 
-void WriteWrapped(Program& p, const QString& value)
+void WriteWrapped(TextWriter& file, ScratchState& scratch, const QString& value)
 {
-    for (const QString& line : Wrapped(p.Scratch, value))
-        p.Output.TextFile->Line(fileIndent, line);
+    for (const QString& line : Wrapped(scratch, value))
+        file.Line(fileIndent, line);
 }
 
-void PrintWrapped(Program& p, const QString& value)
+void PrintWrapped(Printer& printer, ScratchState& scratch, const QString& value)
 {
-    for (const QString& line : Wrapped(p.Scratch, value))
-        p.Printer.PrintLine(QString(paperIndent, u' ') + line);
+    for (const QString& line : Wrapped(scratch, value))
+        printer.PrintLine(QString(paperIndent, u' ') + line);
 }
 
 template <std::size_t Count>
@@ -131,31 +131,28 @@ void PrintOrigin(Printer& printer, const Recordset& record)
 }
 } // namespace
 
-void WriteRecordToFile(Program& p)
+void WriteRecordToFile(const Recordset& record, const OutputState& output, ScratchState& scratch)
 {
-    const Recordset& record = Records(p.Form3);
     if (record.Eof())
         return;
-    TextWriter& file = *p.Output.TextFile;
+    TextWriter& file = *output.TextFile;
     file.Line(u"     ANCESTRAL RECORD ", record.Text(Field::File));
     file.Line({});
     for (const ReportLine& line : fileLines)
         file.Line(line.Label, record.Text(line.Field));
     file.Line(u"Notes(1):       ");
-    WriteWrapped(p, record.Text(Field::Medical));
+    WriteWrapped(file, scratch, record.Text(Field::Medical));
     // KEPT(RecordReportFileTest.FullRecord_HasEveryFieldOnItsLine): one blank fewer than its sister.
     // Mended, the line would differ from that of every report written so far.
     file.Line(u"Notes(2):      ");
-    WriteWrapped(p, record.Text(Field::Notes));
+    WriteWrapped(file, scratch, record.Text(Field::Notes));
     file.Line({});
 }
 
-void PrintRecord(Program& p)
+void PrintRecord(Recordset& record, const OutputState& output, Printer& printer, ScratchState& scratch)
 {
-    Recordset& record = Records(p.Form3);
     if (record.Eof())
         return;
-    Printer& printer = p.Printer;
     printer.Font = {u"Arial"_s, 12, true};
     printer.PrintLine(u"        ANCESTRAL RECORD "_s + record.Text(Field::File));
     printer.PrintLine({});
@@ -165,25 +162,25 @@ void PrintRecord(Program& p)
     PrintOrigin(printer, record);
     PrintLines(printer, record, lifeOnPaper);
     printer.PrintLine(u"           Notes(1):      "_s);
-    PrintWrapped(p, record.Text(Field::Medical));
+    PrintWrapped(printer, scratch, record.Text(Field::Medical));
     // The empty line stands below this one only.
     printer.PrintLine(u"           Notes(2):      "_s);
     printer.PrintLine({});
-    PrintWrapped(p, record.Text(Field::Notes));
+    PrintWrapped(printer, scratch, record.Text(Field::Notes));
     printer.PrintLine({});
     printer.PrintLine({});
-    if (p.Output.OutputMode != OutputMode::SingleToPrinter)
+    if (output.OutputMode != OutputMode::SingleToPrinter)
         record.MoveNext();
 }
 
-QString RecordAsText(Program& p)
+QString RecordAsText(Window<forms::Form3>& recordForm, ScratchState& scratch)
 {
-    const Recordset& record = Records(p.Form3);
-    QString text = u"           Data Ref:      "_s + p.Form3->Label25.Caption.value() + u'\n';
+    const Recordset& record = Records(recordForm);
+    QString text = u"           Data Ref:      "_s + recordForm->Label25.Caption.value() + u'\n';
     for (const ClipboardLine& line : clipboardLines) {
         const QString value = record.Text(line.Field);
         text += line.Label;
-        text += line.IsWrapped ? Wrapped(p.Scratch, value).join(u'\n' + QString(clipboardIndent, u' ')) : value;
+        text += line.IsWrapped ? Wrapped(scratch, value).join(u'\n' + QString(clipboardIndent, u' ')) : value;
         text += u'\n';
     }
     return text;

@@ -1,6 +1,10 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "platform/machine/Printer.h"
+#include "platform/store/Recordset.h"
+#include "program/state/OutputState.h"
+#include "program/state/ScratchState.h"
+#include "program/state/Windows.h"
 
 namespace lineforge
 {
@@ -15,13 +19,13 @@ namespace lineforge
 // Mended, they would read otherwise than what has been printed before.
 
 // Lines in the text file that is open for output.
-void WriteRecordToFile(Program& p);
+void WriteRecordToFile(const Recordset& record, const OutputState& output, ScratchState& scratch);
 
 // A block on the printer's page; it neither begins nor ends a page. Moves on to the next record unless `OutputMode`
 // is 1. Error 482 without a printer.
-void PrintRecord(Program& p);
+void PrintRecord(Recordset& record, const OutputState& output, Printer& printer, ScratchState& scratch);
 
 // Text for the clipboard, a line feed after every line. Needs a current record.
-QString RecordAsText(Program& p);
+QString RecordAsText(Window<forms::Form3>& recordForm, ScratchState& scratch);
 
 } // namespace lineforge

@@ -8,16 +8,16 @@ namespace
 constexpr int fileNameLength = 12; // of "LfgDat_A.txt"
 } // namespace
 
-void OpenTextFile(Program& p, const QString& file, const QString& before)
+void OpenTextFile(OutputState& output, FileSystem& files, const QString& file, const QString& before)
 {
-    if (p.Files.LookUpGivesTail(file, fileNameLength))
-        p.Files.FileCopy(file, before);
-    p.Output.TextFile = std::make_unique<TextWriter>(p.Files, file);
+    if (files.LookUpGivesTail(file, fileNameLength))
+        files.FileCopy(file, before);
+    output.TextFile = std::make_unique<TextWriter>(files, file);
 }
 
-void CloseTextFile(Program& p)
+void CloseTextFile(OutputState& output)
 {
-    const std::unique_ptr<TextWriter> file = std::move(p.Output.TextFile);
+    const std::unique_ptr<TextWriter> file = std::move(output.TextFile);
     file->Close();
 }
 

@@ -23,7 +23,7 @@ namespace
 struct TextReport {
     QStringView Announcement;
     int Mode;
-    void (*Write)(Program& p);
+    void (*Write)(const RecordOutput& output);
 };
 
 // KEPT(TextReportTest.List_IsWrittenInItsOrder_FromAllItsBranches_AndEmptied): the second lacks its "to".
@@ -33,50 +33,51 @@ constexpr TextReport database{u"Database will be Copied to the Text File located
 constexpr TextReport bookmarks{u"The Bookmark list will be copied Text File located at\n", OutputMode::ListToFile,
                                PutOutBookmarks};
 
-void WriteReport(Program& p, const TextReport& report, const QString& stem)
+void WriteReport(const RecordOutput& output, const TextReport& report, const QString& stem)
 {
-    if (TellIfNoBranch(p.Branch, p.Form3, p.Prompts))
+    if (TellIfNoBranch(output.Branch, output.Form3, output.Prompts))
         return;
-    ComeBackAfterwards(p.Branch, p.Record, p.Form3, [&] {
+    ComeBackAfterwards(output.Branch, output.Record, output.Form3, [&] {
         // Where the user gives up, the old file stays.
-        const auto closed = qScopeGuard([&p] {
-            p.Output.TextFile.reset();
-            p.Output.OutputMode = OutputMode::None;
+        const auto closed = qScopeGuard([&output] {
+            output.State.TextFile.reset();
+            output.State.OutputMode = OutputMode::None;
         });
-        p.Scratch.sFileA = p.Branch.WorkDir + PathSeparator + stem + u".txt";
-        p.Scratch.sFileB = p.Branch.WorkDir + PathSeparator + stem + u".~tx";
-        p.Prompts.MsgBox(u"Make a Text File."_s, report.Announcement + p.Scratch.sFileA, Buttons::Information);
-        p.Output.OutputMode = report.Mode;
-        OpenTextFile(p, p.Scratch.sFileA, p.Scratch.sFileB);
-        report.Write(p);
+        output.Scratch.sFileA = output.Branch.WorkDir + PathSeparator + stem + u".txt";
+        output.Scratch.sFileB = output.Branch.WorkDir + PathSeparator + stem + u".~tx";
+        output.Prompts.MsgBox(u"Make a Text File."_s, report.Announcement + output.Scratch.sFileA,
+                              Buttons::Information);
+        output.State.OutputMode = report.Mode;
+        OpenTextFile(output.State, output.Files, output.Scratch.sFileA, output.Scratch.sFileB);
+        report.Write(output);
     });
 }
 } // namespace
 
-void WriteDatabaseText(Program& p)
+void WriteDatabaseText(const RecordOutput& output)
 {
-    WriteReport(p, database, DirectoryName(p.Branch.WorkDir));
+    WriteReport(output, database, DirectoryName(output.Branch.WorkDir));
 }
 
 // The two names differ in an imported branch only.
-void WriteBookmarksText(Program& p)
+void WriteBookmarksText(const RecordOutput& output)
 {
-    WriteReport(p, bookmarks, u"LfgDat_"_s + BranchLetter(p.Branch.WorkDir));
+    WriteReport(output, bookmarks, u"LfgDat_"_s + BranchLetter(output.Branch.WorkDir));
 }
 
-void WriteAllRecords(Program& p)
+void WriteAllRecords(const RecordOutput& output)
 {
-    if (p.Branch.IsSiblingShown())
-        ReturnFromSibling(p);
-    Meanwhile meanwhile(p.Loop);
-    Recordset& records = Records(p.Form3);
+    if (output.Branch.IsSiblingShown())
+        ReturnFromSibling(output);
+    Meanwhile meanwhile(output.Loop);
+    Recordset& records = Records(output.Form3);
     for (records.MoveFirst(); !records.Eof(); records.MoveNext()) {
-        if (p.Output.OutputMode == OutputMode::DatabaseToFile)
-            WriteRecordToFile(p);
+        if (output.State.OutputMode == OutputMode::DatabaseToFile)
+            WriteRecordToFile(Records(output.Form3), output.State, output.Scratch);
         meanwhile.KeepPainted();
     }
-    CloseTextFile(p);
-    p.Output.OutputMode = OutputMode::None;
+    CloseTextFile(output.State);
+    output.State.OutputMode = OutputMode::None;
     records.MoveFirst();
 }
 

@@ -1,16 +1,16 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "output/RecordOutput.h"
 
 namespace lineforge
 {
 
 // The open branch, or the list of bookmarks, as a plain text file in the branch directory. Both have the same name; the
 // file before is kept as the previous generation. Errors of the disk; the old file then stays.
-void WriteDatabaseText(Program& p);
-void WriteBookmarksText(Program& p);
+void WriteDatabaseText(const RecordOutput& output);
+void WriteBookmarksText(const RecordOutput& output);
 
 // Every record to the open text file, in storage order; ends on the first.
-void WriteAllRecords(Program& p);
+void WriteAllRecords(const RecordOutput& output);
 
 } // namespace lineforge

@@ -25,19 +25,18 @@ QString NumberAfter(const QString& last)
 }
 
 // There is no last row to number on from.
-bool IsTableEmpty(Program& p)
+bool IsTableEmpty(const Recordset& records, Prompts& prompts)
 {
-    if (!Records(p.Form3).IsEmpty())
+    if (!records.IsEmpty())
         return false;
-    TellNoRecords(p.Prompts);
+    TellNoRecords(prompts);
     return true;
 }
 
-QString AppendRow(Program& p)
+QString AppendRow(Recordset& records, RecordState& state)
 {
-    Recordset& records = Records(p.Form3);
     records.MoveLast();
-    p.Record.SavedBookmark = records.GetBookmark();
+    state.SavedBookmark = records.GetBookmark();
     QString file;
     records.AddNew();
     // The last of all that stand in the file when nobody else can add one.
@@ -52,44 +51,45 @@ QString AppendRow(Program& p)
 }
 } // namespace
 
-void AddRecord(Program& p)
+void AddRecord(const SubjectPictures& pictures)
 {
-    if (TellIfAlternate(p.Branch, p.Prompts, u"Addition of Subject Records"_s,
+    if (TellIfAlternate(pictures.Branch, pictures.Prompts, u"Addition of Subject Records"_s,
                         u"This Record is from another Tree Branch. You must open\n"
                         u" that Tree Branch first to Add a new unmapped record. "_s))
         return;
-    const Answer add = p.Prompts.MsgBox(u"New Database Record"_s,
-                                        u"Adding a new Record here will not \nbe mapped into the Tree system."_s,
-                                        Buttons::InformationOkCancel);
-    if (add != Answer::Ok || IsTableEmpty(p))
+    const Answer add = pictures.Prompts.MsgBox(u"New Database Record"_s,
+                                               u"Adding a new Record here will not \nbe mapped into the Tree system."_s,
+                                               Buttons::InformationOkCancel);
+    if (add != Answer::Ok || IsTableEmpty(Records(pictures.Form3), pictures.Prompts))
         return;
-    const QString file = AppendRow(p);
-    const QString picture = SubjectPictureFile(p.Branch.WorkDir, file);
-    p.Files.FileCopy(p.Branch.HomeDir + u"Tree99.jpg", picture);
-    PutRecordPicture(p, p.Pictures.Load(p.Files, picture));
-    p.Prompts.MsgBox(u"New Blank Record Created"_s, u"New Record "_s + file + u" created.", Buttons::Information);
+    const QString file = AppendRow(Records(pictures.Form3), pictures.Record);
+    const QString picture = SubjectPictureFile(pictures.Branch.WorkDir, file);
+    pictures.Files.FileCopy(pictures.Branch.HomeDir + u"Tree99.jpg", picture);
+    PutRecordPicture(pictures.Branch, pictures.Form3, pictures.Pictures.Load(pictures.Files, picture));
+    pictures.Prompts.MsgBox(u"New Blank Record Created"_s, u"New Record "_s + file + u" created.",
+                            Buttons::Information);
 }
 
-void ChangeSubjectPicture(Program& p)
+void ChangeSubjectPicture(const SubjectPictures& pictures)
 {
-    if (TellIfAlternate(p.Branch, p.Prompts, u"Change to Subject Picture."_s,
+    if (TellIfAlternate(pictures.Branch, pictures.Prompts, u"Change to Subject Picture."_s,
                         u"This Record is from another Tree Branch. You must \n"
                         u"open that Tree Branch to change the Subject Picture. "_s))
         return;
-    const Bookmark asked = Records(p.Form3).HasRow() ? Records(p.Form3).GetBookmark() : Bookmark();
-    const Answer change = p.Prompts.MsgBox(u"Subject Picture Change."_s, u"Change or add the Subject Picture ?"_s,
-                                           Buttons::QuestionOkCancel);
+    const Bookmark asked = Records(pictures.Form3).HasRow() ? Records(pictures.Form3).GetBookmark() : Bookmark();
+    const Answer change = pictures.Prompts.MsgBox(u"Subject Picture Change."_s,
+                                                  u"Change or add the Subject Picture ?"_s, Buttons::QuestionOkCancel);
     if (change != Answer::Ok || !asked)
         return;
     const std::optional<QString> chosen =
-        p.Prompts.OpenFile({u"Select Picture Source File"_s, u"Graphics|*.jpg|All Files|*.*|"_s});
+        pictures.Prompts.OpenFile({u"Select Picture Source File"_s, u"Graphics|*.jpg|All Files|*.*|"_s});
     if (!chosen)
         return;
-    p.Errors.Ignoring([&] {
-        StandOn(Records(p.Form3), asked);
-        const QString picture = SubjectPictureFile(p.Branch.WorkDir, p.Form3->Label25.Caption);
-        p.Files.FileCopy(*chosen, picture);
-        PutRecordPicture(p, p.Pictures.Load(p.Files, picture));
+    pictures.Errors.Ignoring([&] {
+        StandOn(Records(pictures.Form3), asked);
+        const QString picture = SubjectPictureFile(pictures.Branch.WorkDir, pictures.Form3->Label25.Caption);
+        pictures.Files.FileCopy(*chosen, picture);
+        PutRecordPicture(pictures.Branch, pictures.Form3, pictures.Pictures.Load(pictures.Files, picture));
     });
 }
 

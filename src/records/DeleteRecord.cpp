@@ -9,6 +9,7 @@
 #include "program/branch/BranchPaths.h"
 #include "program/branch/ComeBackAfterwards.h"
 #include "program/branch/SiblingBranch.h"
+#include "program/state/Program.h"
 #include "program/ui/BranchUi.h"
 #include "records/RecordPicture.h"
 

@@ -20,44 +20,44 @@ constexpr std::array<TextBox Form3::*, 22> boxes{
     &Form3::Text13, &Form3::Text14, &Form3::Text15, &Form3::Text16, &Form3::Text17, &Form3::Text18,
     &Form3::Text19, &Form3::Text20, &Form3::Text21, &Form3::Text22};
 
-void ReplaceInClickedBox(Program& p, const QString& text)
+void ReplaceInClickedBox(const RecordState& record, forms::Form3& form, const QString& text)
 {
-    const int number = p.Record.ClipSource;
+    const int number = record.ClipSource;
     if (number >= 1 && number <= static_cast<int>(boxes.size()))
-        ((*p.Form3).*boxes[static_cast<std::size_t>(number - 1)]).ReplaceSelection(text);
+        (form.*boxes[static_cast<std::size_t>(number - 1)]).ReplaceSelection(text);
 }
 
-void PutOnClipboard(Program& p)
+void PutOnClipboard(const RecordState& record, Clipboard& clipboard)
 {
-    p.Clipboard.Clear();
-    p.Clipboard.SetText(p.Record.sClipText);
+    clipboard.Clear();
+    clipboard.SetText(record.sClipText);
 }
 } // namespace
 
-void CopySelection(Program& p)
+void CopySelection(const RecordState& record, Clipboard& clipboard)
 {
-    PutOnClipboard(p);
+    PutOnClipboard(record, clipboard);
 }
 
-void CutSelection(Program& p)
+void CutSelection(const RecordState& record, forms::Form3& form, Clipboard& clipboard)
 {
-    PutOnClipboard(p);
-    ReplaceInClickedBox(p, {});
+    PutOnClipboard(record, clipboard);
+    ReplaceInClickedBox(record, form, {});
 }
 
-void PasteOverSelection(Program& p)
+void PasteOverSelection(const RecordState& record, forms::Form3& form, Clipboard& clipboard)
 {
-    if (p.Clipboard.HasText())
-        ReplaceInClickedBox(p, p.Clipboard.GetText());
+    if (clipboard.HasText())
+        ReplaceInClickedBox(record, form, clipboard.GetText());
 }
 
-void CopyRecord(Program& p)
+void CopyRecord(RecordState& record, ScratchState& scratch, Window<forms::Form3>& recordForm, Clipboard& clipboard)
 {
-    if (!Records(p.Form3).HasRow())
+    if (!Records(recordForm).HasRow())
         return;
-    p.Record.ClipSource = 0;
-    p.Record.sClipText = RecordAsText(p);
-    PutOnClipboard(p);
+    record.ClipSource = 0;
+    record.sClipText = RecordAsText(recordForm, scratch);
+    PutOnClipboard(record, clipboard);
 }
 
 } // namespace lineforge

@@ -15,6 +15,7 @@
 #include "platform/store/Fields.h"
 #include "program/branch/ComeBackAfterwards.h"
 #include "program/branch/SiblingBranch.h"
+#include "program/state/Program.h"
 #include "program/ui/BranchUi.h"
 #include "records/RecordPicture.h"
 
@@ -97,16 +98,16 @@ void KeepGender(Program& p)
 }
 } // namespace
 
-void LoadRecordForm(Program& p)
+void LoadRecordForm(forms::Form3& form, const Screen& screen, Window<forms::Form8>& listOfBranches,
+                    const BranchState& branch)
 {
-    forms::Form3& form = *p.Form3;
-    form.Width = p.Screen.Width;
-    form.Height = p.Screen.Height - 400;
-    form.Centre(p.Screen.Area(), 200);
-    form.Caption = p.Form8->List1.Text() + u" Ancestral Records.";
+    form.Width = screen.Width;
+    form.Height = screen.Height - 400;
+    form.Centre(screen.Area(), 200);
+    form.Caption = listOfBranches->List1.Text() + u" Ancestral Records.";
     // A backup makes the form anew on whatever record is shown.
-    if (p.Branch.IsSiblingShown())
-        DisableTransport(*p.Form3);
+    if (branch.IsSiblingShown())
+        DisableTransport(form);
 }
 
 void ShowRecordForm(Program& p)
@@ -161,28 +162,29 @@ void EnlargeSubjectPicture(Program& p)
         // is emptied, not the window that was to show the picture.
         // Mended, the panel would keep its picture.
         p.Form1->Image1.Picture = QImage();
-        TellPictureMissing(p);
+        TellPictureMissing(p.Record, p.Prompts);
     }
 }
 
-void OpenRecordMenu(Program& p)
+void OpenRecordMenu(ToolState& tools, Screen& screen, Window<forms::Form3>& recordForm)
 {
-    ClearMapCursor(p.Tools, p.Screen);
-    p.Form3->Data1.Enabled = false;
+    ClearMapCursor(tools, screen);
+    recordForm->Data1.Enabled = false;
 }
 
-void OpenSearchMenu(Program& p)
+void OpenSearchMenu(const BranchState& branch, Prompts& prompts, ToolState& tools, Screen& screen,
+                    Window<forms::Form3>& recordForm)
 {
-    if (!TellIfAlternate(p.Branch, p.Prompts, u"Search Alternate Tree Branch Records."_s,
+    if (!TellIfAlternate(branch, prompts, u"Search Alternate Tree Branch Records."_s,
                          u"This Record is from another Tree Branch. You must open \n"
                          u"that Tree Branch to Search the Records of the Database. "_s))
-        OpenRecordMenu(p);
+        OpenRecordMenu(tools, screen, recordForm);
 }
 
-void RememberSelection(Program& p, const TextBox& box, int number)
+void RememberSelection(RecordState& record, const TextBox& box, int number)
 {
-    p.Record.sClipText = box.SelText;
-    p.Record.ClipSource = number;
+    record.sClipText = box.SelText;
+    record.ClipSource = number;
 }
 
 } // namespace lineforge

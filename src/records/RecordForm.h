@@ -1,12 +1,20 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "platform/machine/Platform.h"
+#include "program/state/BranchState.h"
+#include "program/state/RecordState.h"
+#include "program/state/ToolState.h"
+#include "program/state/Windows.h"
 
 namespace lineforge
 {
 
+struct Program;
+struct TextBox;
+
 // The record form's load: its size and place, and the selected branch in its caption.
-void LoadRecordForm(Program& p);
+void LoadRecordForm(forms::Form3& form, const Screen& screen, Window<forms::Form8>& listOfBranches,
+                    const BranchState& branch);
 
 // Shows the form at the current record: the Records button and the View Records entry of the main window.
 void ShowRecordForm(Program& p);
@@ -22,12 +30,13 @@ bool CarryRecordToMap(Program& p);
 void EnlargeSubjectPicture(Program& p);
 
 // A menu is opened whose commands work on the records by themselves: the data control's bar goes off.
-void OpenRecordMenu(Program& p);
+void OpenRecordMenu(ToolState& tools, Screen& screen, Window<forms::Form3>& recordForm);
 
 // The same for the searches, which are refused with a box while a record of another branch is shown.
-void OpenSearchMenu(Program& p);
+void OpenSearchMenu(const BranchState& branch, Prompts& prompts, ToolState& tools, Screen& screen,
+                    Window<forms::Form3>& recordForm);
 
 // A click in one of `Text2` to `Text19`, which may have ended a selection: remembers what is selected there.
-void RememberSelection(Program& p, const TextBox& box, int number);
+void RememberSelection(RecordState& record, const TextBox& box, int number);
 
 } // namespace lineforge

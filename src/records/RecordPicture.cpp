@@ -10,32 +10,33 @@ namespace lineforge
 
 using namespace Qt::StringLiterals;
 
-void ShowRecordPicture(Program& p, const QString& directory)
+void ShowRecordPicture(const SubjectPictures& pictures, const QString& directory)
 {
-    p.Record.sCurFile = p.Form3->Label25.Caption;
-    p.Record.sPicSuffix = u"Sub.jpg"_s;
-    p.Record.sPicFile = p.Record.sCurFile + p.Record.sPicSuffix;
-    PutRecordPicture(p, PictureOrNone(p, directory + p.Record.sPicFile));
+    pictures.Record.sCurFile = pictures.Form3->Label25.Caption;
+    pictures.Record.sPicSuffix = u"Sub.jpg"_s;
+    pictures.Record.sPicFile = pictures.Record.sCurFile + pictures.Record.sPicSuffix;
+    PutRecordPicture(pictures.Branch, pictures.Form3,
+                     PictureOrNone(pictures.Pictures, pictures.Files, directory + pictures.Record.sPicFile));
 }
 
-void ShowRecordPicture(Program& p)
+void ShowRecordPicture(const SubjectPictures& pictures)
 {
-    ShowRecordPicture(p, p.Branch.WorkDir + PathSeparator);
+    ShowRecordPicture(pictures, pictures.Branch.WorkDir + PathSeparator);
 }
 
-void ShowNamedPicture(Program& p)
+void ShowNamedPicture(const SubjectPictures& pictures)
 {
-    const QString file = p.Branch.WorkDir + PathSeparator + p.Record.sPicFile;
-    PutRecordPicture(p, PictureOrNone(p, file));
+    const QString file = pictures.Branch.WorkDir + PathSeparator + pictures.Record.sPicFile;
+    PutRecordPicture(pictures.Branch, pictures.Form3, PictureOrNone(pictures.Pictures, pictures.Files, file));
     // It names whoever it was put together for.
-    p.Form3->Image1.Tag = file;
+    pictures.Form3->Image1.Tag = file;
 }
 
-void FollowStep(Program& p)
+void FollowStep(const SubjectPanel& panel)
 {
-    p.Form3->Data1.Settle();
-    FollowSubject(p);
-    FollowWithRecordPicture(p);
+    panel.Form3->Data1.Settle();
+    FollowSubject(panel);
+    FollowWithRecordPicture(panel);
 }
 
 } // namespace lineforge

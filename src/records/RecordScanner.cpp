@@ -5,6 +5,7 @@
 #include "map/subjects/SubjectPanel.h"
 #include "platform/store/OtherPrograms.h"
 #include "program/branch/WorkDatabase.h"
+#include "program/state/Program.h"
 #include "records/RecordPicture.h"
 
 namespace lineforge

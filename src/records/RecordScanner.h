@@ -1,9 +1,9 @@
 #pragma once
 
-#include "program/state/Program.h"
-
 namespace lineforge
 {
+
+struct Program;
 
 // The record scanner: five buttons like those of a tape recorder, and a timer that steps through the records while one
 // of the four moving ones is down. The map stays behind until the scan ends.

@@ -27,33 +27,32 @@ struct PatternSearch {
 };
 
 // The menu has told that the records of another branch aren't searched.
-QString Ask(Program& p, const QString& prompt)
+QString Ask(const BranchState& branch, Prompts& prompts, const QString& prompt)
 {
-    if (p.Branch.IsSiblingShown())
+    if (branch.IsSiblingShown())
         return {};
-    return p.Prompts.InputBox(u"Search Database"_s, prompt);
+    return prompts.InputBox(u"Search Database"_s, prompt);
 }
 
 // Looked for where `sNewDir` says, whoever wrote that last.
 // KEPT(RecordSearchTest.AfterATransportClick_TheHitHasNoPicture): elsewhere than in the branch it isn't found, and none
 // is shown.
 // Mended, a hit would show its picture after a scan and after a page of the gallery as well.
-void ShowPictureOfHit(Program& p)
+void ShowPictureOfHit(const SubjectPictures& pictures, const ScratchState& scratch)
 {
-    ShowRecordPicture(p, p.Scratch.sNewDir);
+    ShowRecordPicture(pictures, scratch.sNewDir);
 }
 
-void TellNoMatch(Program& p, const QString& text)
+void TellNoMatch(const SubjectPictures& pictures, const QString& text)
 {
-    PutRecordPicture(p, QImage());
-    p.Prompts.MsgBox(u"Database Result"_s, text, Buttons::Information);
+    PutRecordPicture(pictures.Branch, pictures.Form3, QImage());
+    pictures.Prompts.MsgBox(u"Database Result"_s, text, Buttons::Information);
 }
 
 // From the current record on; false at the end.
-bool WalkToMatch(Program& p, const std::vector<int>& columns, const LikePattern& pattern)
+bool WalkToMatch(Recordset& records, EventLoop& loop, const std::vector<int>& columns, const LikePattern& pattern)
 {
-    Recordset& records = Records(p.Form3);
-    Meanwhile meanwhile(p.Loop);
+    Meanwhile meanwhile(loop);
     const auto matches = [&](int column) { return records.IsLike(column, pattern); };
     while (!records.Eof() && !std::ranges::any_of(columns, matches)) {
         records.MoveNext();
@@ -62,89 +61,92 @@ bool WalkToMatch(Program& p, const std::vector<int>& columns, const LikePattern&
     return !records.Eof();
 }
 
-bool AskToContinue(Program& p)
+bool AskToContinue(Prompts& prompts)
 {
-    return p.Prompts.MsgBox(u"Search Word Found"_s, u"Continue this Search ?"_s, Buttons::QuestionYesNo) == Answer::Yes;
+    return prompts.MsgBox(u"Search Word Found"_s, u"Continue this Search ?"_s, Buttons::QuestionYesNo) == Answer::Yes;
 }
 
 // Whether the search goes on from this hit.
-bool ShowHit(Program& p, Picture shown)
+bool ShowHit(const SubjectPictures& pictures, const ScratchState& scratch, Picture shown)
 {
     if (shown == Picture::BeforeTheQuestion)
-        ShowPictureOfHit(p);
-    const bool goesOn = AskToContinue(p);
+        ShowPictureOfHit(pictures, scratch);
+    const bool goesOn = AskToContinue(pictures.Prompts);
     if (shown == Picture::AfterTheQuestion)
-        ShowPictureOfHit(p);
+        ShowPictureOfHit(pictures, scratch);
     return goesOn;
 }
 
-void Run(Program& p, const PatternSearch& search)
+void Run(const SubjectPictures& pictures, const ScratchState& scratch, EventLoop& loop, const PatternSearch& wanted)
 {
-    const QString answer = Ask(p, search.Prompt);
+    const QString answer = Ask(pictures.Branch, pictures.Prompts, wanted.Prompt);
     if (answer.isEmpty())
         return;
     const QString pattern = u'*' + answer + u'*';
     const LikePattern compiled(pattern);
     std::vector<int> columns;
-    for (const QStringView field : search.Fields)
-        columns.push_back(Records(p.Form3).Column(field));
+    for (const QStringView field : wanted.Fields)
+        columns.push_back(Records(pictures.Form3).Column(field));
 
-    Records(p.Form3).MoveFirst();
+    Records(pictures.Form3).MoveFirst();
     for (;;) {
-        p.Record.sCurFile = pattern;
-        if (!WalkToMatch(p, columns, compiled)) {
+        pictures.Record.sCurFile = pattern;
+        if (!WalkToMatch(Records(pictures.Form3), loop, columns, compiled)) {
             // Also at the end of a search that has had its hits.
-            TellNoMatch(p, search.NoMatch + answer);
+            TellNoMatch(pictures, wanted.NoMatch + answer);
             return;
         }
-        if (!ShowHit(p, search.Shown))
+        if (!ShowHit(pictures, scratch, wanted.Shown))
             return;
-        Records(p.Form3).MoveNext();
+        Records(pictures.Form3).MoveNext();
     }
 }
 } // namespace
 
-void SearchByDataRef(Program& p)
+void SearchByDataRef(const SubjectPictures& pictures, const ScratchState& scratch)
 {
-    const QString answer = Ask(p, u"Enter the Data Reference number"_s);
+    const QString answer = Ask(pictures.Branch, pictures.Prompts, u"Enter the Data Reference number"_s);
     if (answer.isEmpty())
         return;
-    p.Record.sCurFile = answer;
-    if (Records(p.Form3).Seek(Field::File, answer))
-        ShowPictureOfHit(p);
+    pictures.Record.sCurFile = answer;
+    if (Records(pictures.Form3).Seek(Field::File, answer))
+        ShowPictureOfHit(pictures, scratch);
     else
-        TellNoMatch(p, u"No Match Found for Data Ref: "_s + answer);
+        TellNoMatch(pictures, u"No Match Found for Data Ref: "_s + answer);
 }
 
-void SearchBySurname(Program& p)
+void SearchBySurname(const SubjectPictures& pictures, const ScratchState& scratch, EventLoop& loop)
 {
-    Run(p, {u"Enter the Surname or partial Surname"_s,
-            u"No Match Found for Surname: "_s,
-            {Field::Surname},
-            Picture::BeforeTheQuestion});
+    Run(pictures, scratch, loop,
+        {u"Enter the Surname or partial Surname"_s,
+         u"No Match Found for Surname: "_s,
+         {Field::Surname},
+         Picture::BeforeTheQuestion});
 }
 
-void SearchByBirthPlace(Program& p)
+void SearchByBirthPlace(const SubjectPictures& pictures, const ScratchState& scratch, EventLoop& loop)
 {
-    Run(p, {u"Enter the BirthPlace"_s,
-            u"No Match Found for BirthPlace: "_s,
-            {Field::BirthPlace},
-            Picture::AfterTheQuestion});
+    Run(pictures, scratch, loop,
+        {u"Enter the BirthPlace"_s,
+         u"No Match Found for BirthPlace: "_s,
+         {Field::BirthPlace},
+         Picture::AfterTheQuestion});
 }
 
-void SearchByWord(Program& p)
+void SearchByWord(const SubjectPictures& pictures, const ScratchState& scratch, EventLoop& loop)
 {
-    Run(p, {u"Enter the search Word or partial Word "_s,
-            u"No Match Found for search Word: "_s,
-            {WordFields.begin(), WordFields.end()},
-            Picture::BeforeTheQuestion});
+    Run(pictures, scratch, loop,
+        {u"Enter the search Word or partial Word "_s,
+         u"No Match Found for search Word: "_s,
+         {WordFields.begin(), WordFields.end()},
+         Picture::BeforeTheQuestion});
 }
 
-void ShowFirstRecord(Program& p)
+void ShowFirstRecord(const SubjectPictures& pictures, const ScratchState& scratch)
 {
-    Records(p.Form3).MoveFirst();
-    p.Form3->Data1.Enabled = true;
-    ShowPictureOfHit(p);
+    Records(pictures.Form3).MoveFirst();
+    pictures.Form3->Data1.Enabled = true;
+    ShowPictureOfHit(pictures, scratch);
 }
 
 } // namespace lineforge

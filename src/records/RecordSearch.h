@@ -1,12 +1,15 @@
 #pragma once
 
+#include "map/subjects/SubjectPanel.h"
 #include "platform/store/Fields.h"
-#include "program/state/Program.h"
+#include "program/state/ScratchState.h"
 
 #include <array>
 
 namespace lineforge
 {
+
+class EventLoop;
 
 // What the search by word looks at, in the order in which it is tested. The number, the gender and the spouse's number
 // are left out.
@@ -26,14 +29,14 @@ inline constexpr std::array<QStringView, 22> WordFields{
 
 // The four searches of the record form. Each asks for a text, walks all records from the first, case ignored, and
 // leaves the cursor on a hit, or behind the last record. The map isn't told.
-void SearchByDataRef(Program& p);
+void SearchByDataRef(const SubjectPictures& pictures, const ScratchState& scratch);
 
 // With wildcards; each hit asks whether to go on.
-void SearchBySurname(Program& p);
-void SearchByBirthPlace(Program& p);
-void SearchByWord(Program& p);
+void SearchBySurname(const SubjectPictures& pictures, const ScratchState& scratch, EventLoop& loop);
+void SearchByBirthPlace(const SubjectPictures& pictures, const ScratchState& scratch, EventLoop& loop);
+void SearchByWord(const SubjectPictures& pictures, const ScratchState& scratch, EventLoop& loop);
 
 // Back to the first record, with its picture.
-void ShowFirstRecord(Program& p);
+void ShowFirstRecord(const SubjectPictures& pictures, const ScratchState& scratch);
 
 } // namespace lineforge

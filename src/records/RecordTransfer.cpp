@@ -16,6 +16,7 @@
 #include "program/branch/BranchPaths.h"
 #include "program/branch/ComeBackAfterwards.h"
 #include "program/branch/SiblingBranch.h"
+#include "program/state/Program.h"
 #include "program/state/RecordFields.h"
 
 #include <QScopeGuard>
@@ -158,7 +159,7 @@ bool FindDestination(Program& p, const QString& file, const QString& told)
 {
     if (Records(p.Form3).Seek(Field::File, file))
         return true;
-    PutRecordPicture(p, QImage());
+    PutRecordPicture(p.Branch, p.Form3, QImage());
     p.Prompts.MsgBox(u"Database Result"_s, u"No Match Found for Data Ref: "_s + told, Buttons::Information);
     return false;
 }
@@ -175,7 +176,7 @@ void WriteFields(Program& p, const FieldTexts& texts)
 void ShowOverwritten(Program& p)
 {
     FindBoxOfRecord(p);
-    FillSubjectLabels(p);
+    FillSubjectLabels(p.Form1, p.Form3);
     FitForename(p);
     if (const int row = p.Scratch.IdxA; row <= LastFiledBox)
         RenameBox(p, row, Records(p.Form3).Text(Field::Forename));

@@ -147,7 +147,7 @@ class LockedCompareTest : public CompactedCompareTest
 protected:
     void GiveUp(const Event& command)
     {
-        CompareRecords(P).Rest();
+        CompareRecords(P.Form6).Rest();
         const auto other = LockDatabase(u'B');
         ExpectDatabaseInUse(Answer::Cancel);
         Click(command);

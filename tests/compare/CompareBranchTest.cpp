@@ -408,7 +408,7 @@ TEST_F(CompareBranchTest, SameBranch_IsAccepted_AndAnEditOnOneSideIsSeenOnTheOth
     Records(P.Form3).Edit();
     Records(P.Form3).Put(u"Surname", u"Changed"_s);
     Records(P.Form3).Update();
-    EXPECT_EQ(CompareRecords(P).Text(u"Surname"), u"Changed"_s);
+    EXPECT_EQ(CompareRecords(P.Form6).Text(u"Surname"), u"Changed"_s);
 }
 
 TEST_F(CompareBranchTest, AnotherCompareBranch_ReplacesTheFirst)
@@ -604,7 +604,7 @@ TEST_F(CompareBranchTest, RecordBar_ShowsTheRecordThatItGoesTo)
     GivenOpenBranch();
     Compare();
     ChooseCompare(u"Jones");
-    CompareRecords(P).MoveNext();
+    CompareRecords(P.Form6).MoveNext();
     P.Scratch.ScanState = 2;
     P.Compare.FieldStep = 5;
     Click(P.Form6->Data1.Stepped);
@@ -622,7 +622,7 @@ TEST_F(CompareBranchTest, RecordBar_OnARecordWithANullForename_ShowsItWithout)
     Compare();
     ChooseCompare(u"Jones");
     ChangeOutside(u'B', "UPDATE Tree99 SET Forename = NULL WHERE File = 'B002'");
-    CompareRecords(P).MoveNext();
+    CompareRecords(P.Form6).MoveNext();
     Click(P.Form6->Data1.Stepped);
     EXPECT_EQ(ExitCode(), std::nullopt);
     EXPECT_EQ(ShownPair(), u"A001 B002"_s);

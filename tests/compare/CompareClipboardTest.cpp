@@ -290,7 +290,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Emptied{"SteppedByTheBar",
                             [](UnnamedFieldTest& test, Program& p) {
                                 test.NextCurrent();
-                                CompareRecords(p).MoveNext();
+                                CompareRecords(p.Form6).MoveNext();
                                 test.Click(p.Form6->Data1.Stepped);
                             },
                             u"Field:|Field:"},

@@ -36,7 +36,7 @@ TEST_F(CompareSearchTest, Reset_BeginsWithBothFirstRecords)
 {
     Search();
     Records(P.Form3).MoveLast();
-    CompareRecords(P).MoveLast();
+    CompareRecords(P.Form6).MoveLast();
     P.Compare.SearchEnded = 1;
     Reset();
     EXPECT_EQ(Pair(), u"A001 B001"_s);
@@ -58,8 +58,8 @@ TEST_F(CompareSearchTest, Reset_BeginsWithBothFirstRecords)
 TEST_F(CompareSearchTest, FirstSearchAfterReset_SaysThatItSearches)
 {
     Reset();
-    CompareRecords(P).MoveLast();
-    CompareRecords(P).MoveNext();
+    CompareRecords(P.Form6).MoveLast();
+    CompareRecords(P.Form6).MoveNext();
     Prompts.Expect(u"Compare Database End of File", u"End of Compare Database Records", Buttons::Information,
                    Answer::Ok, [&] { EXPECT_EQ(Captions(), u"Searching Record Fields|Searching Record Fields"_s); });
     Search();
@@ -120,8 +120,8 @@ TEST_F(CompareSearchTest, NextAtTheEnd_IsTold_AndEndsTheSearch)
 
 TEST_F(CompareSearchTest, NextBehindTheEnd_IsToldToo)
 {
-    CompareRecords(P).MoveLast();
-    CompareRecords(P).MoveNext();
+    CompareRecords(P.Form6).MoveLast();
+    CompareRecords(P.Form6).MoveNext();
     ExpectEndOfCompare();
     NextCompare();
     EXPECT_EQ(ExitCode(), std::nullopt);
@@ -175,9 +175,9 @@ TEST_F(CompareSearchTest, NullForenameOnAStep_LeavesTheRecordBeforeInTheWindow)
 
 TEST_F(CompareSearchTest, NullForenameAtReset_LeavesTheSidesAsTheyWere)
 {
-    CompareRecords(P).Edit();
-    CompareRecords(P).Put(u"Forename", std::nullopt);
-    CompareRecords(P).Update();
+    CompareRecords(P.Form6).Edit();
+    CompareRecords(P.Form6).Put(u"Forename", std::nullopt);
+    CompareRecords(P.Form6).Update();
     NextCurrent();
     NextCompare();
     const QString text = u"Run-time error '94':\n\nInvalid use of Null\n\n"

@@ -73,7 +73,7 @@ protected:
 
     static QString NumberAt(const Recordset& records) { return records.Eof() ? u"end"_s : records.Text(u"File"); }
     // Where the two cursors stand.
-    QString Pair() { return NumberAt(Records(P.Form3)) + u' ' + NumberAt(CompareRecords(P)); }
+    QString Pair() { return NumberAt(Records(P.Form3)) + u' ' + NumberAt(CompareRecords(P.Form6)); }
     // The numbers that the window shows.
     QString ShownPair() { return P.Form6->Label4.Caption.value() + u' ' + P.Form6->Label9.Caption.value(); }
     QString Captions() { return P.Form6->Frame5.Caption.value() + u'|' + P.Form6->Frame6.Caption.value(); }
@@ -132,7 +132,7 @@ protected:
     void ChangeOutside(QChar branch, const QByteArray& sql)
     {
         Records(P.Form3).Rest();
-        CompareRecords(P).Rest();
+        CompareRecords(P.Form6).Rest();
         SqliteFile(DatabaseOf(branch)).Execute(sql);
     }
 

@@ -118,7 +118,7 @@ TEST_F(FieldCopyTest, Null_StaysNull_AndTheBoxIsEmpty)
 TEST_F(FieldCopyTest, WithoutARecordOrABranch_IsTold)
 {
     GivenPair();
-    CompareRecords(P).MoveNext();
+    CompareRecords(P.Form6).MoveNext();
     ExpectCopyError();
     CopyOne();
     Reset();
@@ -160,7 +160,7 @@ TEST_F(FieldCopyTest, AllFieldsToCurrent_NullIncluded)
 TEST_F(FieldCopyTest, AllFieldsWithoutARecord_TakesTheFatalPath)
 {
     GivenPair();
-    CompareRecords(P).MoveNext();
+    CompareRecords(P.Form6).MoveNext();
     ExpectFatalBox(u"Run-time error '3021':\n\nNo current record.",
                    u"No record is on show of this database:\n"_s + Home.Path(u"LfgDat_B/LfgDat_B.mdb"));
     CopyAll();
@@ -333,9 +333,9 @@ TEST_F(FieldCopyTest, CopyThatTheDatabaseRefuses_LeavesNothingForTheNextSaving)
     ExpectCopyError();
     CopyOne();
     EXPECT_EQ(Texts(), u"our Surname|their Surname"_s);
-    CompareRecords(P).Rest();
+    CompareRecords(P.Form6).Rest();
     ChangeOutside(u'B', "DROP TRIGGER Refusal");
-    EXPECT_EQ(RefusalOf([&] { CompareRecords(P).Update(); }), ErrorNumber::UpdateWithoutEdit);
+    EXPECT_EQ(RefusalOf([&] { CompareRecords(P.Form6).Update(); }), ErrorNumber::UpdateWithoutEdit);
     EXPECT_EQ(Stored(u'B', "Surname", "B001"), u"their Surname"_s);
 }
 
@@ -402,7 +402,7 @@ protected:
                         {PersonOf(u"B001", u"their first"), PersonOf(u"B002", u"their second")});
         Search();
         P.Scratch.ScanState = 2;
-        GetParam().IsCurrentMoved ? Records(P.Form3).MoveNext() : CompareRecords(P).MoveNext();
+        GetParam().IsCurrentMoved ? Records(P.Form3).MoveNext() : CompareRecords(P.Form6).MoveNext();
         moved_ = Pair();
     }
     void Press() { Click(((*P.Form6).*GetParam().Command).Click); }
@@ -506,7 +506,7 @@ TEST_F(FieldCopyTest, WithoutACurrentRecord_WhateverIsOnShow_IsTold)
     SearchTimes(22);
     ExpectEndOfRecords();
     Search();
-    CompareRecords(P).MoveLast();
+    CompareRecords(P.Form6).MoveLast();
     P.Compare.sCompField = u"Surname"_s;
     NameTheSurname();
     ExpectCopyError();
@@ -546,7 +546,7 @@ TEST_F(FieldCopyTest, NumberThatTheBranchHas_IsRefused_AndTheCursorComesBack)
 {
     GivenComparison({PersonOf(u"A001", u"our")},
                     {PersonOf(u"B001", u"x"), PersonOf(u"a001", u"x"), PersonOf(u"B003", u"x")});
-    CompareRecords(P).MoveLast();
+    CompareRecords(P.Form6).MoveLast();
     Tell(u"Append Error", u"Record already exists in Compare Database.\n"
                           u"Delete the record before appending or else copy \n"
                           u"the details to the existing record.");

@@ -219,7 +219,7 @@ TEST_F(FieldDifferenceTest, NullForename_IsShownEmptyAtADifference)
 {
     GivenComparison({{{u"File", u"A001"}, {u"Surname", u"Smith"}, {u"Forename", u"John"}}},
                     {{{u"File", u"B001"}, {u"Surname", u"Smith"}, {u"Forename", u"John"}}});
-    Recordset& compare = CompareRecords(P);
+    Recordset& compare = CompareRecords(P.Form6);
     compare.Edit();
     compare.Put(u"Forename", std::nullopt);
     compare.Put(u"Surname", u"Brown"_s);
@@ -247,7 +247,7 @@ TEST_F(FieldDifferenceTest, NullForenameOfTheNextRound_EndsTheProgram_OverThePai
 TEST_F(FieldDifferenceTest, CursorBehindTheLastRecord_IsTold)
 {
     GivenComparison({Plain(u"A001")}, {Plain(u"B001", u"Jack")});
-    CompareRecords(P).MoveNext();
+    CompareRecords(P.Form6).MoveNext();
     ExpectEndOfCompare();
     Search();
     EXPECT_EQ(Captions(), u"End of Records Field search |End of Records Field search"_s);

@@ -61,8 +61,8 @@ TEST_P(MaskTest, PairAgreesOnAllThatIsTicked)
     Tick(GetParam().Number, GetParam().Surname, GetParam().Birth);
     Search();
     EXPECT_EQ(State(), 2);
-    EXPECT_EQ(CompareRecords(P).Text(u"File") + u' ' + CompareRecords(P).Text(u"Surname") + u' ' +
-                  CompareRecords(P).Text(u"BirthDate"),
+    EXPECT_EQ(CompareRecords(P.Form6).Text(u"File") + u' ' + CompareRecords(P.Form6).Text(u"Surname") + u' ' +
+                  CompareRecords(P.Form6).Text(u"BirthDate"),
               GetParam().Found.toString());
 }
 
@@ -87,7 +87,7 @@ TEST_F(WhereSameTest, AllTicked_FindTheOneThatAgreesInAll)
                     {Person(u"A001", u"Smith", u"1902"), Person(u"A001", u"Smith", u"1901")});
     Tick(true, true, true);
     Search();
-    EXPECT_EQ(CompareRecords(P).Text(u"BirthDate"), u"1901"_s);
+    EXPECT_EQ(CompareRecords(P.Form6).Text(u"BirthDate"), u"1901"_s);
     EXPECT_EQ(State(), 1);
 }
 

@@ -62,15 +62,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     p.Record.ClipSource = field.Number;
     home.Clipboard.Text = QString::fromUtf8(BytesOf(data + head, size - head));
 
-    PasteOverSelection(p);
+    PasteOverSelection(p.Record, *p.Form3, p.Clipboard);
     const QString shown = box.Text;
     Require(box.MaxLength == 0 || shown.size() <= box.MaxLength);
     RequireStored(p, field, shown);
-    CopyRecord(p);
+    CopyRecord(p.Record, p.Scratch, p.Form3, p.Clipboard);
     p.Record.ClipSource = field.Number;
     box.SelStart = 0;
     box.SelText = box.Text;
-    CutSelection(p);
+    CutSelection(p.Record, *p.Form3, p.Clipboard);
     RequireStored(p, field, {});
     return 0;
 }

@@ -80,7 +80,7 @@ private:
         p_.Scratch.ScanState = GalleryScan::Browsing;
         Require(GrowthBy([&] { ShowRecordPicture(p_); }) == 0);
         Require(GrowthBy([&] { BuildGalleryPage(p_); }) == 0);
-        Require(GrowthBy([&] { DropOnTile(p_, 0, Tile(0)); }) == 0);
+        Require(GrowthBy([&] { DropOnTile(p_, p_.Form1, 0, Tile(0)); }) == 0);
         CloseGalleryItem(p_);
         Require(GrowthBy([&] { RearrangeTiles(p_, Tile(0), Tile(1)); }) == 0);
         Require(GrowthBy([&] { RearrangeTiles(p_, Tile(2), Tile(0)); }) == 0);

@@ -42,11 +42,11 @@ TEST_F(GalleryPathTest, TakesTheNameFromTheEndOfATag)
 {
     OpenGallery();
     const QString path = GalleryPathOf(u"A001_04.jpg");
-    EXPECT_EQ(GalleryPath(P, u"A001_04.jpg"_s), path);
-    EXPECT_EQ(GalleryPath(P, path), path);
-    EXPECT_EQ(GalleryPath(P, u"A001_4.jpg"_s), GalleryPathOf(u"A001_4.jpg"));
-    EXPECT_EQ(GalleryPath(P, GalleryPathOf(u"A001_4.jpg")), GalleryPathOf(u"A001_4.jpg"));
-    EXPECT_EQ(GalleryPath(P, u"A001_01 Été à la mer.jpg"_s), GalleryPathOf(u"A001_01 Été à la mer.jpg"));
+    EXPECT_EQ(GalleryPath(P.Gallery, u"A001_04.jpg"_s), path);
+    EXPECT_EQ(GalleryPath(P.Gallery, path), path);
+    EXPECT_EQ(GalleryPath(P.Gallery, u"A001_4.jpg"_s), GalleryPathOf(u"A001_4.jpg"));
+    EXPECT_EQ(GalleryPath(P.Gallery, GalleryPathOf(u"A001_4.jpg")), GalleryPathOf(u"A001_4.jpg"));
+    EXPECT_EQ(GalleryPath(P.Gallery, u"A001_01 Été à la mer.jpg"_s), GalleryPathOf(u"A001_01 Été à la mer.jpg"));
 }
 
 } // namespace

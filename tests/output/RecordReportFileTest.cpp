@@ -216,9 +216,9 @@ TEST_F(RecordReportFileTest, Record_LeavesTheCursorWhereItIs)
     GoTo(u"A002");
     P.Output.TextFile = std::make_unique<TextWriter>(P.Files, Home.Path(u"report.txt"));
 
-    WriteRecordToFile(P);
-    WriteRecordToFile(P);
-    CloseTextFile(P);
+    WriteRecordToFile(Records(P.Form3), P.Output, P.Scratch);
+    WriteRecordToFile(Records(P.Form3), P.Output, P.Scratch);
+    CloseTextFile(P.Output);
 
     EXPECT_EQ(Current(), u"A002"_s);
     EXPECT_EQ(RecordsIn(u"report.txt"), QStringList({u"A002"_s, u"A002"_s}));
@@ -230,8 +230,8 @@ TEST_F(RecordReportFileTest, BehindTheLastRecord_NothingIsWritten)
     Records(P.Form3).MoveNext();
     P.Output.TextFile = std::make_unique<TextWriter>(P.Files, Home.Path(u"report.txt"));
 
-    WriteRecordToFile(P);
-    CloseTextFile(P);
+    WriteRecordToFile(Records(P.Form3), P.Output, P.Scratch);
+    CloseTextFile(P.Output);
 
     EXPECT_EQ(Home.ReadFile(u"report.txt"), QByteArray());
 }

@@ -387,7 +387,7 @@ TEST_F(RecordSearchTest, ShowFirstRecord_GoesThere_WithItsPicture_AndTheBarOn)
     P.Form3->Image1.Picture = QImage();
     P.Form3->Data1.Enabled = false;
 
-    ShowFirstRecord(P);
+    ShowFirstRecord(P, P.Scratch);
 
     EXPECT_EQ(Current(), u"A001"_s);
     EXPECT_EQ(Picture(), u"red"_s);

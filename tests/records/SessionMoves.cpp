@@ -167,7 +167,7 @@ SessionMove Refuse(Session& session)
                 if (p.Form3.IsLoaded() && p.Form3->Data1.IsOpen())
                     Records(p.Form3).Rest();
                 if (p.Form6.IsLoaded() && p.Form6->Data1.IsOpen())
-                    CompareRecords(p).Rest();
+                    CompareRecords(p.Form6).Rest();
                 SqliteFile file(database);
                 for (const QByteArray event : {"UPDATE", "INSERT", "DELETE"}) {
                     if (refuses && (event != "DELETE" || deletions))
@@ -300,7 +300,7 @@ SessionMove StepCompare(Session& session)
     const int direction = Direction(session);
     return {QString::number(direction), [direction](Session& s) { s.StepCompareByBar(direction); },
             [direction](Program& p) {
-                StepBy(CompareRecords(p), direction);
+                StepBy(CompareRecords(p.Form6), direction);
                 Fire(p.Form6->Data1.Stepped);
             }};
 }
@@ -363,7 +363,8 @@ std::vector<MoveKind> MovesOfRecords()
         Command(u"stop"_s, 3, WithScanner, &Session::StopScan, [](Program& p) { Fire(p.Form3->Picture3.Click); }),
         Command(u"tick"_s, 30, WhileScanning, &Session::Tick, [](Program& p) { Fire(p.Form3->Timer1.Tick); }),
         {u"search"_s, 8, OnRecords, SearchRecords},
-        Command(u"first record"_s, 1, Always, &Session::ShowFirstRecord, ShowFirstRecord),
+        Command(u"first record"_s, 1, Always, &Session::ShowFirstRecord,
+                [](Program& p) { ShowFirstRecord(p, p.Scratch); }),
         EditEntry(u"add"_s, 4, &Session::AddRecord, &Form3::mnuAdd),
         EditEntry(u"delete"_s, 6, &Session::DeleteRecord, &Form3::mnuDelete),
         EditEntry(u"subject picture"_s, 2, &Session::ChangePicture, &Form3::mnuSubPicture),

@@ -10,16 +10,16 @@ namespace lineforge
 
 namespace
 {
-void Seek(Program& p, const QByteArray& tag)
+void Seek(const GedReport& report, const QByteArray& tag)
 {
-    p.Gedcom.sSeekFor = tag;
-    GedSeek(p);
+    report.State.sSeekFor = tag;
+    GedSeek(report);
 }
 
-void PutAndStep(Program& p, ReportLine line, QByteArrayView content = {})
+void PutAndStep(const GedReport& report, ReportLine line, QByteArrayView content = {})
 {
-    PutLine(p, line, content);
-    ConvertStep(p);
+    PutLine(report, line, content);
+    ConvertStep(report);
 }
 
 // Value and rest of a line are the text that the parsing has cut in two.
@@ -28,156 +28,156 @@ QByteArray WholeValue(const GedcomState& gedcom)
     return QByteArray(gedcom.sGedValue + gedcom.sGedRest);
 }
 
-void ReportName(Program& p)
+void ReportName(const GedReport& report)
 {
-    Seek(p, "NAME");
-    Seek(p, "GIVN");
-    const QByteArray given = p.Gedcom.sGedValue;
-    Seek(p, "SURN");
-    PutAndStep(p, ReportLine::Name, QByteArray(given + "  " + p.Gedcom.sGedValue));
+    Seek(report, "NAME");
+    Seek(report, "GIVN");
+    const QByteArray given = report.State.sGedValue;
+    Seek(report, "SURN");
+    PutAndStep(report, ReportLine::Name, QByteArray(given + "  " + report.State.sGedValue));
 }
 
-void ReportGender(Program& p)
+void ReportGender(const GedReport& report)
 {
-    Seek(p, "SEX");
-    PutAndStep(p, SameBytes(p.Gedcom.sGedValue, "M") ? ReportLine::Male : ReportLine::Female);
+    Seek(report, "SEX");
+    PutAndStep(report, SameBytes(report.State.sGedValue, "M") ? ReportLine::Male : ReportLine::Female);
 }
 
-void ReportBirth(Program& p)
+void ReportBirth(const GedReport& report)
 {
-    Seek(p, "BIRT");
-    if (SameBytes(p.Gedcom.sGedTag, "BIRT")) {
-        Seek(p, "DATE");
-        PutLine(p, ReportLine::BirthDate, WholeValue(p.Gedcom));
-        Seek(p, "PLAC");
-        PutLine(p, ReportLine::BirthPlace, WholeValue(p.Gedcom));
+    Seek(report, "BIRT");
+    if (SameBytes(report.State.sGedTag, "BIRT")) {
+        Seek(report, "DATE");
+        PutLine(report, ReportLine::BirthDate, WholeValue(report.State));
+        Seek(report, "PLAC");
+        PutLine(report, ReportLine::BirthPlace, WholeValue(report.State));
     } else {
-        CloseGedSource(p);
-        OpenGedSource(p);
-        p.Scratch.ScanState = GedRecord::Outside;
-        Seek(p, p.Gedcom.sGedIndi);
+        CloseGedSource(report.State);
+        OpenGedSource(report);
+        report.Scratch.ScanState = GedRecord::Outside;
+        Seek(report, report.State.sGedIndi);
     }
-    ConvertStep(p);
+    ConvertStep(report);
 }
 
-void ReportChristening(Program& p)
+void ReportChristening(const GedReport& report)
 {
-    Seek(p, "CHR");
-    if (!SameBytes(p.Gedcom.sGedTag, "CHR"))
+    Seek(report, "CHR");
+    if (!SameBytes(report.State.sGedTag, "CHR"))
         return;
-    Seek(p, "DATE");
-    PutAndStep(p, ReportLine::ChristeningDate, WholeValue(p.Gedcom));
-    Seek(p, "PLAC");
-    PutAndStep(p, ReportLine::ChristeningPlace, WholeValue(p.Gedcom));
+    Seek(report, "DATE");
+    PutAndStep(report, ReportLine::ChristeningDate, WholeValue(report.State));
+    Seek(report, "PLAC");
+    PutAndStep(report, ReportLine::ChristeningPlace, WholeValue(report.State));
 }
 
 // The one whose reference the last seek has found.
 // KEPT(GedcomReportTest.ANameWithoutItsParts_IsTakenFromTheRecordsBehind): each seek goes on where the one before has
 // stopped, into the next record where a line was missing.
 // Mended, a report would leave empty what it takes from the next person now.
-void ReportIndividual(Program& p)
+void ReportIndividual(const GedReport& report)
 {
-    CloseGedSource(p);
-    p.Gedcom.sGedIndi = p.Gedcom.sGedValue;
-    OpenGedSource(p);
-    Seek(p, p.Gedcom.sGedIndi);
-    ReportName(p);
-    ReportGender(p);
-    ReportBirth(p);
-    ReportChristening(p);
-    PutLine(p, ReportLine::EndOfIndividual);
+    CloseGedSource(report.State);
+    report.State.sGedIndi = report.State.sGedValue;
+    OpenGedSource(report);
+    Seek(report, report.State.sGedIndi);
+    ReportName(report);
+    ReportGender(report);
+    ReportBirth(report);
+    ReportChristening(report);
+    PutLine(report, ReportLine::EndOfIndividual);
 }
 
 // False: what the stage is about isn't in the family.
-bool SeekStage(Program& p, int family, int occurrence)
+bool SeekStage(const GedReport& report, int family, int occurrence)
 {
-    GedcomState& gedcom = p.Gedcom;
+    GedcomState& gedcom = report.State;
     gedcom.sSeekFor = gedcom.GedFamList[family];
-    OpenGedSource(p);
-    p.Scratch.ScanState = GedRecord::Outside;
-    GedSeek(p);
+    OpenGedSource(report);
+    report.Scratch.ScanState = GedRecord::Outside;
+    GedSeek(report);
     gedcom.sSeekFor = gedcom.sGedStage;
     if (occurrence > 1)
-        GedSeekChild(p, occurrence);
+        GedSeekChild(report, occurrence);
     else
-        GedSeek(p);
-    return !(gedcom.sGedLine.startsWith('0') && p.Scratch.ScanState == GedRecord::Inside);
+        GedSeek(report);
+    return !(gedcom.sGedLine.startsWith('0') && report.Scratch.ScanState == GedRecord::Inside);
 }
 
-void PutMarriage(Program& p)
+void PutMarriage(const GedReport& report)
 {
-    Seek(p, "DATE");
-    PutAndStep(p, ReportLine::Marriage);
-    PutAndStep(p, ReportLine::MarriageDate, WholeValue(p.Gedcom));
-    Seek(p, "PLAC");
-    PutAndStep(p, ReportLine::MarriagePlace, WholeValue(p.Gedcom));
+    Seek(report, "DATE");
+    PutAndStep(report, ReportLine::Marriage);
+    PutAndStep(report, ReportLine::MarriageDate, WholeValue(report.State));
+    Seek(report, "PLAC");
+    PutAndStep(report, ReportLine::MarriagePlace, WholeValue(report.State));
 }
 
 // Head of the family. He may be missing, the lines above him never.
-void ReportHusband(Program& p, int family)
+void ReportHusband(const GedReport& report, int family)
 {
-    const bool isThere = SeekStage(p, family, 1);
-    PutLine(p, ReportLine::FamilyRule);
-    PutAndStep(p, ReportLine::Family, QByteArray::number(family));
+    const bool isThere = SeekStage(report, family, 1);
+    PutLine(report, ReportLine::FamilyRule);
+    PutAndStep(report, ReportLine::Family, QByteArray::number(family));
     if (isThere)
-        ReportIndividual(p);
-    CloseGedSource(p);
-    p.Gedcom.sGedStage = "WIFE";
-    PutAndStep(p, ReportLine::Spouse);
+        ReportIndividual(report);
+    CloseGedSource(report.State);
+    report.State.sGedStage = "WIFE";
+    PutAndStep(report, ReportLine::Spouse);
 }
 
-bool ReportWife(Program& p, int family)
+bool ReportWife(const GedReport& report, int family)
 {
-    const bool isThere = SeekStage(p, family, 1);
+    const bool isThere = SeekStage(report, family, 1);
     if (isThere)
-        ReportIndividual(p);
-    CloseGedSource(p);
-    p.Gedcom.sGedStage = "MARR";
+        ReportIndividual(report);
+    CloseGedSource(report.State);
+    report.State.sGedStage = "MARR";
     return isThere;
 }
 
-void ReportMarriage(Program& p, int family)
+void ReportMarriage(const GedReport& report, int family)
 {
-    if (SeekStage(p, family, 1))
-        PutMarriage(p);
-    CloseGedSource(p);
-    p.Gedcom.sGedStage = "CHIL";
+    if (SeekStage(report, family, 1))
+        PutMarriage(report);
+    CloseGedSource(report.State);
+    report.State.sGedStage = "CHIL";
 }
 
-void ReportChildren(Program& p, int family)
+void ReportChildren(const GedReport& report, int family)
 {
-    for (Integer16 occurrence{1}; SeekStage(p, family, occurrence); occurrence += 1) {
+    for (Integer16 occurrence{1}; SeekStage(report, family, occurrence); occurrence += 1) {
         if (occurrence == 1)
-            PutAndStep(p, ReportLine::Children);
-        ReportIndividual(p);
-        CloseGedSource(p);
+            PutAndStep(report, ReportLine::Children);
+        ReportIndividual(report);
+        CloseGedSource(report.State);
     }
-    CloseGedSource(p);
+    CloseGedSource(report.State);
 }
 } // namespace
 
-void OpenGedSource(Program& p)
+void OpenGedSource(const GedReport& report)
 {
-    GedcomState& gedcom = p.Gedcom;
+    GedcomState& gedcom = report.State;
     if (!gedcom.Source)
-        gedcom.Source = std::make_shared<GedSource>(p.Files.Read(gedcom.sGedFile));
+        gedcom.Source = std::make_shared<GedSource>(report.Files.Read(gedcom.sGedFile));
     gedcom.Source->Open();
 }
 
-void CloseGedSource(Program& p)
+void CloseGedSource(GedcomState& gedcom)
 {
-    if (p.Gedcom.Source)
-        p.Gedcom.Source->Close();
+    if (gedcom.Source)
+        gedcom.Source->Close();
 }
 
-void ReportFamily(Program& p, int family)
+void ReportFamily(const GedReport& report, int family)
 {
-    GedcomState& gedcom = p.Gedcom;
+    GedcomState& gedcom = report.State;
     gedcom.sGedStage = "HUSB";
-    ReportHusband(p, family);
-    if (ReportWife(p, family)) {
-        ReportMarriage(p, family);
-        ReportChildren(p, family);
+    ReportHusband(report, family);
+    if (ReportWife(report, family)) {
+        ReportMarriage(report, family);
+        ReportChildren(report, family);
     }
     gedcom.sGedStage = "HUSB";
     gedcom.sGedValue.clear();

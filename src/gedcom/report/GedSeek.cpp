@@ -133,15 +133,15 @@ void GedParseLine(GedcomState& gedcom)
     gedcom.sGedRest.removeIf(IsLineEnd);
 }
 
-void GedSeek(Program& p)
+void GedSeek(const GedReport& report)
 {
-    GedcomState& gedcom = p.Gedcom;
+    GedcomState& gedcom = report.State;
     gedcom.sGedLine.clear();
     gedcom.sGedValue.clear();
     GedSource& source = SourceOf(gedcom);
     const GedLines& lines = source.Lines();
     const qsizetype from = source.Line();
-    const bool endsWithRecord = SeeksChild(gedcom) || p.Scratch.ScanState == GedRecord::Inside;
+    const bool endsWithRecord = SeeksChild(gedcom) || report.Scratch.ScanState == GedRecord::Inside;
     const qsizetype record = endsWithRecord ? lines.NextRecord(from) : lines.Count();
     const qsizetype tagged = lines.NextTagged(gedcom.sSeekFor, from);
     const qsizetype stop = std::min(record, tagged);
@@ -153,34 +153,32 @@ void GedSeek(Program& p)
     TakeLines(gedcom, lines, from, stop);
     source.GoToLine(stop + 1);
     if (stop == record && SeeksChild(gedcom)) {
-        PutLine(p, ReportLine::Empty);
-        p.Scratch.ScanState = GedRecord::Inside;
+        PutLine(report, ReportLine::Empty);
+        report.Scratch.ScanState = GedRecord::Inside;
     } else if (stop == tagged) {
-        p.Scratch.ScanState = IsReference(gedcom.sGedTag) ? GedRecord::Outside : GedRecord::Inside;
+        report.Scratch.ScanState = IsReference(gedcom.sGedTag) ? GedRecord::Outside : GedRecord::Inside;
     }
 }
 
-void GedSeekChild(Program& p, int times)
+void GedSeekChild(const GedReport& report, int times)
 {
-    GedSource& source = SourceOf(p.Gedcom);
+    GedSource& source = SourceOf(report.State);
     const GedLines& lines = source.Lines();
     // Seeks that find a line leave nothing behind that the next one doesn't set anew; only the last have to be made.
     qsizetype passed = 0;
-    source.GoToLine(lines.BehindTagged(p.Gedcom.sSeekFor, source.Line(), times - 1, passed));
+    source.GoToLine(lines.BehindTagged(report.State.sSeekFor, source.Line(), times - 1, passed));
     for (int left = times - static_cast<int>(passed); left > 0; --left) {
         const bool nothingLeft = source.Line() > lines.Count();
-        GedSeek(p);
+        GedSeek(report);
         // Every further seek would leave the same.
         if (nothingLeft)
             return;
     }
 }
 
-bool GedIndexFile(Program& p)
+bool GedIndexFile(GedcomState& gedcom, Integer16& scanState)
 {
-    GedcomState& gedcom = p.Gedcom;
     GedSource& source = SourceOf(gedcom);
-    Integer16& scanState = p.Scratch.ScanState;
     while (SkipPast(source, gedcom.sGedLevel)) {
         switch (ReadStretch(gedcom, source, scanState)) {
         case Stretch::CutOff:

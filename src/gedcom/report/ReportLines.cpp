@@ -1,6 +1,7 @@
 #include "gedcom/report/ReportLines.h"
 
 #include "forms/Form11.h"
+#include "platform/files/TextFile.h"
 #include "program/ui/ProgressPanel.h"
 
 #include <array>
@@ -54,28 +55,28 @@ QByteArray Filled(const char* form, QByteArrayView content)
 }
 } // namespace
 
-void PutLine(Program& p, ReportLine line, QByteArrayView content)
+void PutLine(const GedReport& report, ReportLine line, QByteArrayView content)
 {
     const LineForms& forms = lineForms[static_cast<std::size_t>(line)];
     if (forms.File) {
-        if (!p.Gedcom.Report)
+        if (!report.State.Report)
             throw RuntimeError(ErrorNumber::BadFileNumber);
-        p.Gedcom.Report->ByteLine(Filled(forms.File, content));
+        report.State.Report->ByteLine(Filled(forms.File, content));
     }
     // A window that the user has closed meanwhile stays closed.
-    if (forms.Panel && p.Form11.IsLoaded())
-        p.Form11->Picture1.Print(DecodeText(Filled(forms.Panel, content)));
+    if (forms.Panel && report.Form11.IsLoaded())
+        report.Form11->Picture1.Print(DecodeText(Filled(forms.Panel, content)));
 }
 
 // What is done meanwhile uses the state word as well, on which the next seek decides where it stops.
-void ConvertStep(Program& p)
+void ConvertStep(const GedReport& report)
 {
-    const Integer16 scanState = p.Scratch.ScanState;
-    if (p.Form11.IsLoaded())
-        StepPanel(p.Loop, p.Form11->Picture1, p.Form11->VScroll1);
+    const Integer16 scanState = report.Scratch.ScanState;
+    if (report.Form11.IsLoaded())
+        StepPanel(report.Loop, report.Form11->Picture1, report.Form11->VScroll1);
     else
-        p.Loop.DoEvents();
-    p.Scratch.ScanState = scanState;
+        report.Loop.DoEvents();
+    report.Scratch.ScanState = scanState;
 }
 
 } // namespace lineforge

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "gedcom/report/GedReport.h"
 
 #include <QByteArrayView>
 
@@ -33,9 +33,9 @@ enum class ReportLine {
 
 // Writes the line to the report's file and shows it in the panel, each where the line belongs there; the panel only as
 // long as its window is open. Error 52 when the file isn't open, and errors of the disk.
-void PutLine(Program& p, ReportLine line, QByteArrayView content = {});
+void PutLine(const GedReport& report, ReportLine line, QByteArrayView content = {});
 
 // Yields, and lets the panel follow its text.
-void ConvertStep(Program& p);
+void ConvertStep(const GedReport& report);
 
 } // namespace lineforge

@@ -16,16 +16,16 @@ using namespace Qt::StringLiterals;
 namespace
 {
 template <TextBox forms::Form12::*Box>
-QString TextOf(Program& p)
+QString TextOf(const GedcomWriting& writing)
 {
-    return ((*p.Form12).*Box).Text;
+    return ((*writing.Form12).*Box).Text;
 }
 
 enum class When { Always, IfFilled, IfFilledThenStep };
 
 struct FileLine {
     QStringView Text;
-    QString (*Value)(Program& p) = nullptr; // what follows it
+    QString (*Value)(const GedcomWriting& writing) = nullptr; // what follows it
     When Condition = When::Always;
     QStringView Shown = {}; // in the panel, where that differs
 };
@@ -47,7 +47,7 @@ constexpr FileLine head[] = {
     {u"1 DEST PAF"},
     {u"1 DATE "},
     {u"2 TIME "},
-    {u"1 FILE ", [](Program& p) { return p.Record.sPicFile; }},
+    {u"1 FILE ", [](const GedcomWriting& writing) { return writing.Record.sPicFile; }},
     {u"1 GEDC"},
     {u"2 VERS GEDCOM 5.5"},
     {u"2 FORM LINEAGE-LINKED"},
@@ -64,26 +64,26 @@ constexpr FileLine head[] = {
 
 constexpr FileLine tail[] = {
     {u"0 @N01@ SUBN"},
-    {u"1 DESC ", [](Program& p) { return p.Lineage.sLineageCount; }},
+    {u"1 DESC ", [](const GedcomWriting& writing) { return writing.State.sLineageCount; }},
     {u"1 ORDI N"},
     {u"0 TRLR"},
 };
 
-void PutLine(Program& p, const FileLine& line)
+void PutLine(const GedcomWriting& writing, const FileLine& line)
 {
-    const QString value = line.Value ? line.Value(p) : QString();
+    const QString value = line.Value ? line.Value(writing) : QString();
     if (line.Condition != When::Always && value.isEmpty())
         return;
-    p.Lineage.File->Line(QString(line.Text + value));
-    p.Form12->Picture1.Print(QString((line.Shown.isEmpty() ? line.Text : line.Shown) + value));
+    writing.State.File->Line(QString(line.Text + value));
+    writing.Form12->Picture1.Print(QString((line.Shown.isEmpty() ? line.Text : line.Shown) + value));
     if (line.Condition == When::IfFilledThenStep)
-        LineageStep(p);
+        LineageStep(writing);
 }
 
-void PutLines(Program& p, std::span<const FileLine> lines)
+void PutLines(const GedcomWriting& writing, std::span<const FileLine> lines)
 {
     for (const FileLine& line : lines)
-        PutLine(p, line);
+        PutLine(writing, line);
 }
 
 struct Requirement {
@@ -104,47 +104,46 @@ constexpr Requirement requirements[] = {
 };
 
 // Tells of the first that isn't met; false when all are.
-bool TellIfIncomplete(Program& p)
+bool TellIfIncomplete(const GedcomWriting& writing)
 {
     for (const Requirement& requirement : requirements)
-        if (!requirement.IsMet(*p.Form12)) {
-            p.Prompts.MsgBox(requirement.Title.toString(), requirement.Text.toString(), Buttons::Information);
+        if (!requirement.IsMet(*writing.Form12)) {
+            writing.Prompts.MsgBox(requirement.Title.toString(), requirement.Text.toString(), Buttons::Information);
             return true;
         }
     return false;
 }
 
-void CloseGedcomFile(Program& p)
+void CloseGedcomFile(LineageState& lineage)
 {
-    const std::unique_ptr<SequentialFile> file = std::move(p.Lineage.File);
+    const std::unique_ptr<SequentialFile> file = std::move(lineage.File);
     file->Close();
 }
 
 // Without its last lines it would pass for a whole one; with the branch it may have gone already.
-void KillUnfinished(Program& p, const QString& path)
+void KillUnfinished(const GedcomWriting& writing, const QString& path)
 {
-    p.Lineage.File.reset();
-    p.Errors.Ignoring([&] { p.Files.Kill(path); });
+    writing.State.File.reset();
+    writing.Errors.Ignoring([&] { writing.Files.Kill(path); });
 }
 
-void DropUnfinished(Program& p, const QString& path)
+void DropUnfinished(const GedcomWriting& writing, const QString& path)
 {
-    KillUnfinished(p, path);
-    p.Prompts.MsgBox(u"GedCom File"_s, u"The Tree Branch was left before the GedCom file was complete."_s,
-                     Buttons::Information);
+    KillUnfinished(writing, path);
+    writing.Prompts.MsgBox(u"GedCom File"_s, u"The Tree Branch was left before the GedCom file was complete."_s,
+                           Buttons::Information);
 }
 } // namespace
 
-void ShowGedcomForm(Program& p)
+void ShowGedcomForm(Window<forms::Form12>& window)
 {
-    p.Form12->Show();
-    p.Form12->Picture1.Cls();
+    window->Show();
+    window->Picture1.Cls();
 }
 
-void LoadGedcomForm(Program& p)
+void LoadGedcomForm(forms::Form12& form, const Screen& screen, Window<forms::Form3>& recordForm)
 {
-    forms::Form12& form = *p.Form12;
-    FillScreen(form, p.Screen, p.Form3, 700);
+    FillScreen(form, screen, recordForm, 700);
     form.Caption = u"Create GEDCOM file"_s;
 }
 
@@ -154,44 +153,44 @@ void ResetGedcomForm(forms::Form12& form)
         box->Text = QString();
 }
 
-void CreateGedcomFile(Program& p)
+void CreateGedcomFile(const GedcomWriting& writing)
 {
-    if (p.Lineage.File)
+    if (writing.State.File)
         return;
-    p.Form12->Picture1.Cls();
-    p.Form12->VScroll1.Value = 0;
-    if (TellIfIncomplete(p) || TellIfNoBranch(p.Branch, p.Form3, p.Prompts))
+    writing.Form12->Picture1.Cls();
+    writing.Form12->VScroll1.Value = 0;
+    if (TellIfIncomplete(writing) || TellIfNoBranch(writing.Branch, writing.Form3, writing.Prompts))
         return;
     // A deletion has left the branch's name, and no more.
-    if (!ReadsOpenBranch(p))
-        return TellNoBranch(p.Prompts);
-    WriteGedcomFile(p);
+    if (!ReadsOpenBranch(writing.Branch, writing.Form3))
+        return TellNoBranch(writing.Prompts);
+    WriteGedcomFile(writing);
 }
 
-void WriteGedcomFile(Program& p)
+void WriteGedcomFile(const GedcomWriting& writing)
 {
-    const QString path = p.Branch.WorkDir + PathSeparator + u"Gedcom.tmp";
-    p.Scratch.sFileA = path;
-    p.Form12->Picture1.Cls();
-    p.Form12->Picture1.Print(QString(u"   Data placed in directory " + path));
-    p.Form12->Picture1.Print();
-    p.Lineage.File = std::make_unique<SequentialFile>(p.Files, path);
+    const QString path = writing.Branch.WorkDir + PathSeparator + u"Gedcom.tmp";
+    writing.Scratch.sFileA = path;
+    writing.Form12->Picture1.Cls();
+    writing.Form12->Picture1.Print(QString(u"   Data placed in directory " + path));
+    writing.Form12->Picture1.Print();
+    writing.State.File = std::make_unique<SequentialFile>(writing.Files, path);
     try {
-        PutLines(p, head);
-        CollectLineage(p);
-        PutLines(p, tail);
-        KeepLastLineInView(p.Form12->Picture1, p.Form12->VScroll1);
-        CloseGedcomFile(p);
+        PutLines(writing, head);
+        CollectLineage(writing);
+        PutLines(writing, tail);
+        KeepLastLineInView(writing.Form12->Picture1, writing.Form12->VScroll1);
+        CloseGedcomFile(writing.State);
     } catch (const LineageAbandoned&) {
-        DropUnfinished(p, path);
+        DropUnfinished(writing, path);
     } catch (const RuntimeError& refusal) {
         if (refusal.IsTold)
-            KillUnfinished(p, path);
+            KillUnfinished(writing, path);
         throw;
     } catch (const ProgramEnded&) {
         // After an unmet error the file has been closed, and stays with what it holds.
-        if (p.Lineage.File)
-            KillUnfinished(p, path);
+        if (writing.State.File)
+            KillUnfinished(writing, path);
         throw;
     }
 }

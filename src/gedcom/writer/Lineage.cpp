@@ -26,31 +26,31 @@ constexpr int offspring = 6;
 // No father or no mother, in the first and the third section; the fourth has an empty text for that.
 const QString BlankRec(4, u' ');
 
-Row& RowAt(Program& p, int row)
+Row& RowAt(LineageState& lineage, int row)
 {
-    return p.Lineage.LineageArr[row];
+    return lineage.LineageArr[row];
 }
 
-void Print(Program& p, QStringView line)
+void Print(const LineageSearch& search, QStringView line)
 {
-    p.Form12->Picture1.Print(line);
+    search.Form12->Picture1.Print(line);
 }
 
-void PrintAndStep(Program& p, QStringView line)
+void PrintAndStep(const LineageSearch& search, QStringView line)
 {
-    Print(p, line);
-    LineageStep(p);
+    Print(search, line);
+    LineageStep(search);
 }
 
-bool SeekRecord(Program& p)
+bool SeekRecord(const LineageSearch& search)
 {
-    return Records(p.Form3).Seek(Field::File, p.Record.sCurFile);
+    return Records(search.Form3).Seek(Field::File, search.Record.sCurFile);
 }
 
 // Of the record that was found.
-void TakeParents(Program& p, Row& row, const QString& none)
+void TakeParents(const LineageSearch& search, Row& row, const QString& none)
 {
-    const Recordset& records = Records(p.Form3);
+    const Recordset& records = Records(search.Form3);
     row[Pa] = records.Value(Field::FatherRec).value_or(none);
     row[Ma] = records.Value(Field::MotherRec).value_or(none);
 }
@@ -59,33 +59,33 @@ void TakeParents(Program& p, Row& row, const QString& none)
 // KEPT(LineageTest.StartWithAMotherOnly_HasARowOfBlanksBehindIt_AndTheOffspringOfBlanks): a mother without a father
 // isn't followed, but the line has one more row then, of blanks.
 // Mended, the count in the file would be another for such a line.
-void FillLine(Program& p)
+void FillLine(const LineageSearch& search)
 {
-    Print(p, u"SECTION1:First fill array with lineage individuals");
-    int& row = p.Scratch.LenScratch;
+    Print(search, u"SECTION1:First fill array with lineage individuals");
+    int& row = search.Scratch.LenScratch;
     row = 0;
-    p.Record.sCurFile = RowAt(p, row)[Indi] = p.Form12->Text7.Text.value();
-    while (SeekRecord(p)) {
-        Row& individual = RowAt(p, row);
-        TakeParents(p, individual, BlankRec);
-        Print(p, QString(u"Rec " + individual[Indi] + u" Pa " + individual[Pa] + u" Ma " + individual[Ma]));
+    search.Record.sCurFile = RowAt(search.State, row)[Indi] = search.Form12->Text7.Text.value();
+    while (SeekRecord(search)) {
+        Row& individual = RowAt(search.State, row);
+        TakeParents(search, individual, BlankRec);
+        Print(search, QString(u"Rec " + individual[Indi] + u" Pa " + individual[Pa] + u" Ma " + individual[Ma]));
         if (individual[Pa] == BlankRec && individual[Ma] == BlankRec)
             break;
         ++row;
-        p.Record.sCurFile = RowAt(p, row)[Indi] = individual[Pa];
+        search.Record.sCurFile = RowAt(search.State, row)[Indi] = individual[Pa];
     }
-    p.Lineage.sLineageCount = QString::number(row + 1);
+    search.State.sLineageCount = QString::number(row + 1);
 }
 
 // Whoever has `sCurFile` for a father, as many as there are cells left.
-void FindOffspring(Program& p, Row& row)
+void FindOffspring(const LineageSearch& search, Row& row)
 {
-    int& count = p.Scratch.IdxA;
-    Meanwhile meanwhile(p.Loop);
-    Recordset& records = Records(p.Form3);
+    int& count = search.Scratch.IdxA;
+    Meanwhile meanwhile(search.Loop);
+    Recordset& records = Records(search.Form3);
     for (records.MoveFirst(); !records.Eof(); records.MoveNext()) {
         meanwhile.KeepPainted();
-        if (!records.FieldIs(Field::FatherRec, p.Record.sCurFile))
+        if (!records.FieldIs(Field::FatherRec, search.Record.sCurFile))
             continue;
         if (count >= offspring)
             break;
@@ -101,42 +101,42 @@ void FindOffspring(Program& p, Row& row)
 // KEPT(LineageTest.LastThreeOffspring_AreThoseOfTheRowThatAnEarlierSearchEndedAt): the line of each row shows the last
 // three of its offspring from the row that `IdxB` was left at.
 // Mended, the panel would show those of the row itself.
-void AddOffspringOfLine(Program& p)
+void AddOffspringOfLine(const LineageSearch& search)
 {
-    Print(p, u"SECTION2:Search for Records who's Pa is = Subject & add offspring to array");
-    int& row = p.Scratch.LenScratch;
+    Print(search, u"SECTION2:Search for Records who's Pa is = Subject & add offspring to array");
+    int& row = search.Scratch.LenScratch;
     row = 0;
     do {
-        p.Record.sCurFile = RowAt(p, row)[Indi];
-        FindOffspring(p, RowAt(p, row));
-        PrintAndStep(p, IndividualLine(RowAt(p, row), RowAt(p, p.Scratch.IdxB)));
-        p.Scratch.IdxA = 0;
+        search.Record.sCurFile = RowAt(search.State, row)[Indi];
+        FindOffspring(search, RowAt(search.State, row));
+        PrintAndStep(search, IndividualLine(RowAt(search.State, row), RowAt(search.State, search.Scratch.IdxB)));
+        search.Scratch.IdxA = 0;
         ++row;
-    } while (row != LineageState::LastRow && !RowAt(p, row)[Indi].isEmpty());
+    } while (row != LineageState::LastRow && !RowAt(search.State, row)[Indi].isEmpty());
 }
 
 // To the first cell of the next row; false behind the last row.
-bool GoToNextRow(Program& p)
+bool GoToNextRow(const LineageSearch& search)
 {
-    p.Scratch.IdxA = 0;
-    ++p.Scratch.LenScratch;
-    return !RowAt(p, p.Scratch.LenScratch)[Indi].isEmpty();
+    search.Scratch.IdxA = 0;
+    ++search.Scratch.LenScratch;
+    return !RowAt(search.State, search.Scratch.LenScratch)[Indi].isEmpty();
 }
 
 // The offspring at hand.
-const QString& OffspringCell(Program& p)
+const QString& OffspringCell(const LineageSearch& search)
 {
-    return RowAt(p, p.Scratch.LenScratch)[Sib1 + p.Scratch.IdxA];
+    return RowAt(search.State, search.Scratch.LenScratch)[Sib1 + search.Scratch.IdxA];
 }
 
 enum class Place { Present, Free, None };
 
 // Leaves `IdxB` at the individual's row or else at the first free one; behind the table when it is full.
-Place FindIndividual(Program& p, const QString& number)
+Place FindIndividual(const LineageSearch& search, const QString& number)
 {
-    int& row = p.Scratch.IdxB;
+    int& row = search.Scratch.IdxB;
     for (row = 0; row <= LineageState::LastRow; ++row) {
-        const QString& individual = RowAt(p, row)[Indi];
+        const QString& individual = RowAt(search.State, row)[Indi];
         if (SameText(individual, number))
             return Place::Present;
         if (individual.isEmpty())
@@ -145,165 +145,165 @@ Place FindIndividual(Program& p, const QString& number)
     return Place::None;
 }
 
-void AddIndividual(Program& p, Row& row, const QString& number)
+void AddIndividual(const LineageSearch& search, Row& row, const QString& number)
 {
-    p.Record.sCurFile = row[Indi] = number;
-    if (SeekRecord(p))
-        TakeParents(p, row, BlankRec);
-    PrintAndStep(p, IndividualLine(row, row));
+    search.Record.sCurFile = row[Indi] = number;
+    if (SeekRecord(search))
+        TakeParents(search, row, BlankRec);
+    PrintAndStep(search, IndividualLine(row, row));
 }
 
 // SECTION3. The rows that it appends have no offspring themselves: the table ends one generation below the line.
-void AddOffspringAsIndividuals(Program& p)
+void AddOffspringAsIndividuals(const LineageSearch& search)
 {
-    PrintAndStep(p, u"SECTION3:search for offspring of indi's & add new array data if not in already");
-    p.Scratch.LenScratch = p.Scratch.IdxA = 0;
+    PrintAndStep(search, u"SECTION3:search for offspring of indi's & add new array data if not in already");
+    search.Scratch.LenScratch = search.Scratch.IdxA = 0;
     do {
-        for (; !OffspringCell(p).isEmpty(); ++p.Scratch.IdxA) {
-            const QString number = OffspringCell(p);
-            const Place place = FindIndividual(p, number);
+        for (; !OffspringCell(search).isEmpty(); ++search.Scratch.IdxA) {
+            const QString number = OffspringCell(search);
+            const Place place = FindIndividual(search, number);
             if (place == Place::None)
                 return;
             if (place == Place::Free)
-                AddIndividual(p, RowAt(p, p.Scratch.IdxB), number);
+                AddIndividual(search, RowAt(search.State, search.Scratch.IdxB), number);
         }
-    } while (GoToNextRow(p));
+    } while (GoToNextRow(search));
 }
 
 // False when one of the row's offspring has no record.
-bool CollectMothers(Program& p)
+bool CollectMothers(const LineageSearch& search)
 {
-    for (int& index = p.Scratch.IdxA; !OffspringCell(p).isEmpty(); ++index) {
-        p.Record.sCurFile = OffspringCell(p);
-        if (!SeekRecord(p))
+    for (int& index = search.Scratch.IdxA; !OffspringCell(search).isEmpty(); ++index) {
+        search.Record.sCurFile = OffspringCell(search);
+        if (!SeekRecord(search))
             return false;
-        p.Lineage.MaArray[index] = Records(p.Form3).Text(Field::MotherRec);
+        search.State.MaArray[index] = Records(search.Form3).Text(Field::MotherRec);
     }
     return true;
 }
 
-void PrintMothers(Program& p)
+void PrintMothers(const LineageSearch& search)
 {
-    Print(p, u"MaArray..........");
-    for (int index = 0; index <= LineageState::LastMother && !p.Lineage.MaArray[index].isEmpty(); ++index)
-        PrintAndStep(p, p.Lineage.MaArray[index]);
+    Print(search, u"MaArray..........");
+    for (int index = 0; index <= LineageState::LastMother && !search.State.MaArray[index].isEmpty(); ++index)
+        PrintAndStep(search, search.State.MaArray[index]);
 }
 
-void CountDifferentMothers(Program& p)
+void CountDifferentMothers(LineageState& lineage)
 {
-    const auto& mothers = p.Lineage.MaArray;
-    p.Lineage.MaDiffer = 0;
+    const auto& mothers = lineage.MaArray;
+    lineage.MaDiffer = 0;
     for (int index = 0; index <= LineageState::LastMother && !mothers[index + 1].isEmpty(); ++index)
         if (!SameText(mothers[index], mothers[index + 1]))
-            p.Lineage.MaDiffer += 1;
+            lineage.MaDiffer += 1;
 }
 
 // KEPT(LineageTest.ChildrenOfTwoMothers_GiveNeitherSpouseNorMark): offspring of different mothers leave the row as it
 // is, whatever the panel says.
 // Mended, the table would have mothers that it doesn't have now.
-void MarkFamily(Program& p)
+void MarkFamily(const LineageSearch& search)
 {
-    CountDifferentMothers(p);
-    if (p.Lineage.MaDiffer == 0) {
-        Row& row = RowAt(p, p.Scratch.LenScratch);
-        row[Spse] = p.Lineage.MaArray[0];
+    CountDifferentMothers(search.State);
+    if (search.State.MaDiffer == 0) {
+        Row& row = RowAt(search.State, search.Scratch.LenScratch);
+        row[Spse] = search.State.MaArray[0];
         row[Fam] = u"Fam"_s;
     }
-    p.Lineage.MaArray.Erase();
+    search.State.MaArray.Erase();
 }
 
 // KEPT(LineageSectionsTest.OffspringGoneMeanwhile_HasNoParents_AndEndsTheMarkingOfAllRowsBehindIt): an offspring
 // without a record ends the marking for all rows behind it as well.
 // Mended, those rows would have marks and spouses.
-void MarkFamilies(Program& p)
+void MarkFamilies(const LineageSearch& search)
 {
-    p.Scratch.LenScratch = p.Scratch.IdxA = 0;
+    search.Scratch.LenScratch = search.Scratch.IdxA = 0;
     do {
-        if (OffspringCell(p).isEmpty())
+        if (OffspringCell(search).isEmpty())
             continue;
-        if (!CollectMothers(p))
+        if (!CollectMothers(search))
             return;
-        PrintMothers(p);
-        MarkFamily(p);
-    } while (GoToNextRow(p));
+        PrintMothers(search);
+        MarkFamily(search);
+    } while (GoToNextRow(search));
 }
 
 // KEPT(LineageSectionsTest.SpouseWithoutARecord_FillsAllFreeRows): a spouse without a record is put into every free
 // row.
 // Mended, there would be room for the spouses behind that one.
-void AddSpouse(Program& p, const Row& partner)
+void AddSpouse(const LineageSearch& search, const Row& partner)
 {
     const QString number = partner[Spse];
     const QString individual = partner[Indi];
     for (int at = 0; at <= LineageState::LastRow; ++at) {
-        Row& row = RowAt(p, at);
+        Row& row = RowAt(search.State, at);
         if (SameText(row[Indi], number))
             return;
         if (!row[Indi].isEmpty())
             continue;
-        p.Record.sCurFile = row[Indi] = number;
+        search.Record.sCurFile = row[Indi] = number;
         row[Spse] = individual;
-        if (SeekRecord(p)) {
-            TakeParents(p, row, QString());
+        if (SeekRecord(search)) {
+            TakeParents(search, row, QString());
             return;
         }
     }
 }
 
-void AddSpouses(Program& p)
+void AddSpouses(const LineageSearch& search)
 {
     for (int row = 0; row <= LineageState::LastRow; ++row)
-        if (!RowAt(p, row)[Spse].isEmpty())
-            AddSpouse(p, RowAt(p, row));
+        if (!RowAt(search.State, row)[Spse].isEmpty())
+            AddSpouse(search, RowAt(search.State, row));
 }
 
-void PrintListing(Program& p)
+void PrintListing(const LineageSearch& search)
 {
-    for (int row = 0; row <= LineageState::LastRow && !RowAt(p, row)[Indi].isEmpty(); ++row)
-        PrintAndStep(p, ListingLine(RowAt(p, row)));
+    for (int row = 0; row <= LineageState::LastRow && !RowAt(search.State, row)[Indi].isEmpty(); ++row)
+        PrintAndStep(search, ListingLine(RowAt(search.State, row)));
 }
 
 // SECTION4.
-void AddMothers(Program& p)
+void AddMothers(const LineageSearch& search)
 {
     for (const QStringView line :
          {u"SECTION4:", u"Now search array for individuals with offspring, test each for same recs Ma",
           u"If any are different test array for this as an individual and add in if not",
           u"present. If all Ma's same rec then goto Pa in array and add in Ma as spouse"})
-        Print(p, line);
-    LineageStep(p);
-    MarkFamilies(p);
-    AddSpouses(p);
-    PrintListing(p);
+        Print(search, line);
+    LineageStep(search);
+    MarkFamilies(search);
+    AddSpouses(search);
+    PrintListing(search);
 }
 } // namespace
 
-void CollectLineage(Program& p)
+void CollectLineage(const LineageSearch& search)
 {
-    p.Lineage.LineageArr.Erase();
-    p.Lineage.MaArray.Erase();
-    FillLine(p);
-    AddOffspringOfLine(p);
-    AddOffspringAsIndividuals(p);
-    AddMothers(p);
+    search.State.LineageArr.Erase();
+    search.State.MaArray.Erase();
+    FillLine(search);
+    AddOffspringOfLine(search);
+    AddOffspringAsIndividuals(search);
+    AddMothers(search);
 }
 
-bool ReadsOpenBranch(Program& p)
+bool ReadsOpenBranch(const BranchState& branch, Window<forms::Form3>& recordForm)
 {
-    return p.Form3.IsLoaded() && p.Form3->Data1.IsOpen() &&
-           SameText(p.Form3->Data1.DatabaseName, DatabasePath(p.Branch.WorkDir));
+    return recordForm.IsLoaded() && recordForm->Data1.IsOpen() &&
+           SameText(recordForm->Data1.DatabaseName, DatabasePath(branch.WorkDir));
 }
 
 // What is done meanwhile uses the shared indexes as well. Other walks of the program let them be changed; this one
 // keeps its own place, since a click on the map would end it at a wrong row.
-void LineageStep(Program& p)
+void LineageStep(const LineageSearch& search)
 {
-    const QString branch = p.Branch.WorkDir;
-    ScratchState& scratch = p.Scratch;
+    const QString branch = search.Branch.WorkDir;
+    ScratchState& scratch = search.Scratch;
     const std::tuple place(scratch.IdxA, scratch.IdxB, scratch.LenScratch);
-    StepPanel(p.Loop, p.Form12->Picture1, p.Form12->VScroll1);
+    StepPanel(search.Loop, search.Form12->Picture1, search.Form12->VScroll1);
     std::tie(scratch.IdxA, scratch.IdxB, scratch.LenScratch) = place;
-    if (p.Branch.WorkDir != branch || !ReadsOpenBranch(p))
+    if (search.Branch.WorkDir != branch || !ReadsOpenBranch(search.Branch, search.Form3))
         throw LineageAbandoned{};
 }
 

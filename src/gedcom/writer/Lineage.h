@@ -1,6 +1,6 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "gedcom/writer/LineageSearch.h"
 
 namespace lineforge
 {
@@ -12,12 +12,12 @@ struct LineageAbandoned {
 // Fills the table of the lineage from the record number in `Text7` of `Form12`: the line of forebears, their offspring,
 // and the mothers of those; `sLineageCount` becomes the length of the line. Tells of it in the window's panel. The
 // cursor stays where the last search has left it. Error 9 where the table has no room, and those of the database.
-void CollectLineage(Program& p);
+void CollectLineage(const LineageSearch& search);
 
 // Whether the open branch's own database is what the records are read from.
-bool ReadsOpenBranch(Program& p);
+bool ReadsOpenBranch(const BranchState& branch, Window<forms::Form3>& recordForm);
 
 // What follows most of the panel's lines: yields. LineageAbandoned when the branch has been left meanwhile.
-void LineageStep(Program& p);
+void LineageStep(const LineageSearch& search);
 
 } // namespace lineforge

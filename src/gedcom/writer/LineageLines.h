@@ -1,6 +1,6 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "program/state/LineageState.h"
 
 namespace lineforge
 {

@@ -73,7 +73,7 @@ bool ShowSubject(Program& p)
     p.Errors.Ignoring([&] { SetPictureName(p.Record, *p.Form3); });
     const bool hasPicture = ShowSubjectPicture(p);
     p.Errors.Ignoring([&] { MarkCurrentBox(p); });
-    p.Errors.Ignoring([&] { FillSubjectLabels(p); });
+    p.Errors.Ignoring([&] { FillSubjectLabels(p.Form1, p.Form3); });
     return hasPicture;
 }
 } // namespace
@@ -120,7 +120,7 @@ bool EmptySubjectIfNoRecords(Program& p)
 {
     if (!TellIfEmptyTable(Records(p.Form3), p.Prompts))
         return false;
-    EmptySubjectLabels(p,
+    EmptySubjectLabels(*p.Form1,
                        {&forms::Form1::Label9, &forms::Form1::Label10, &forms::Form1::Label11, &forms::Form1::Label12,
                         &forms::Form1::Label14, &forms::Form1::Label17},
                        u"Ref  "_s);
@@ -137,7 +137,7 @@ void ShowFirstSubject(Program& p)
     p.Form3->Caption = u"Lineforge "_s + p.Branch.sBranchName + u" Records.";
     if (!hasPicture) {
         form.Shape1.Visible = false;
-        TellPictureMissing(p);
+        TellPictureMissing(p.Record, p.Prompts);
     }
 }
 

@@ -10,46 +10,46 @@ namespace lineforge
 
 namespace
 {
-bool ShowsFormerPicture(Program& p)
+bool ShowsFormerPicture(const BranchState& branch, Window<forms::Form3>& recordForm)
 {
-    if (!p.Form3.IsLoaded() || !p.Form3->Visible || !p.Form3->Data1.IsOpen())
+    if (!recordForm.IsLoaded() || !recordForm->Visible || !recordForm->Data1.IsOpen())
         return false;
-    const forms::Form3& form = *p.Form3;
-    return !SameText(form.Image1.Tag.value(), SubjectPictureFile(p.Branch.WorkDir, form.Label25.Caption.Shown()));
+    const forms::Form3& form = *recordForm;
+    return !SameText(form.Image1.Tag.value(), SubjectPictureFile(branch.WorkDir, form.Label25.Caption.Shown()));
 }
 } // namespace
 
 // The tag names the file that the record's picture would be, also where that isn't there.
-void PutRecordPicture(Program& p, const QImage& picture)
+void PutRecordPicture(const BranchState& branch, Window<forms::Form3>& recordForm, const QImage& picture)
 {
-    Image& place = p.Form3->Image1;
+    Image& place = recordForm->Image1;
     place.Picture = picture;
     place.Tag = QString();
     try {
-        place.Tag = SubjectPictureFile(p.Branch.WorkDir, p.Form3->Label25.Caption.value());
+        place.Tag = SubjectPictureFile(branch.WorkDir, recordForm->Label25.Caption.value());
     } catch (const RuntimeError&) {
         // Nobody's, as long as the record can't be read.
     }
 }
 
-void FollowWithRecordPicture(Program& p)
+void FollowWithRecordPicture(const SubjectPictures& pictures)
 {
-    if (!ShowsFormerPicture(p))
+    if (!ShowsFormerPicture(pictures.Branch, pictures.Form3))
         return;
-    PartFromFormerRecordPicture(p);
-    Image& place = p.Form3->Image1;
-    const QString number = p.Form3->Label25.Caption.Shown();
-    place.Tag = SubjectPictureFile(p.Branch.WorkDir, number);
+    PartFromFormerRecordPicture(pictures.Branch, pictures.Form3);
+    Image& place = pictures.Form3->Image1;
+    const QString number = pictures.Form3->Label25.Caption.Shown();
+    place.Tag = SubjectPictureFile(pictures.Branch.WorkDir, number);
     if (!number.isEmpty())
-        place.Picture = PictureOrNone(p, place.Tag);
+        place.Picture = PictureOrNone(pictures.Pictures, pictures.Files, place.Tag);
 }
 
-void PartFromFormerRecordPicture(Program& p)
+void PartFromFormerRecordPicture(const BranchState& branch, Window<forms::Form3>& recordForm)
 {
-    if (!ShowsFormerPicture(p))
+    if (!ShowsFormerPicture(branch, recordForm))
         return;
-    p.Form3->Image1.Picture = QImage();
-    p.Form3->Image1.Tag = QString();
+    recordForm->Image1.Picture = QImage();
+    recordForm->Image1.Tag = QString();
 }
 
 } // namespace lineforge

@@ -217,7 +217,7 @@ std::optional<QString> ChoosePicture(Program& p)
 
 void ShowPicture(Program& p, const QImage& picture)
 {
-    PutRecordPicture(p, picture);
+    PutRecordPicture(p.Branch, p.Form3, picture);
     p.Form1->Image1.Picture = picture;
 }
 
@@ -315,7 +315,7 @@ void TakeMappingOptions(Program& p)
 
 void MapNewSubject(Program& p)
 {
-    PutRecordPicture(p, QImage());
+    PutRecordPicture(p.Branch, p.Form3, QImage());
     p.Form3->Show();
     p.Mapping.sBranchLetter = BranchLetter(p.Branch.WorkDir);
     if (Records(p.Form3).IsEmpty())
@@ -323,7 +323,7 @@ void MapNewSubject(Program& p)
     else if (!MapByOption(p))
         return;
     GiveNewSubjectItsPicture(p);
-    FillSubjectLabels(p);
+    FillSubjectLabels(p.Form1, p.Form3);
     // The record form stays in front, for the new record is to be written now; one of another branch stands there
     // already.
     if (p.Branch.IsSiblingShown())

@@ -4,6 +4,7 @@
 #include "forms/Form3.h"
 #include "platform/store/Fields.h"
 #include "program/branch/BranchPaths.h"
+#include "program/state/Program.h"
 #include "program/ui/BranchUi.h"
 
 namespace lineforge
@@ -32,95 +33,105 @@ constexpr PanelField panelFields[] = {
 const QString frameWithoutNumber = u"Ref  "_s;
 
 // Whether the labels show a record that the frame above them doesn't name, or nobody beside somebody's picture.
-bool HasGoneOn(Program& p)
+bool HasGoneOn(Window<forms::Form1>& mainWindow, Window<forms::Form3>& recordForm)
 {
-    if (!p.Form1.IsLoaded() || !p.Form3.IsLoaded() || !p.Form3->Data1.IsOpen())
+    if (!mainWindow.IsLoaded() || !recordForm.IsLoaded() || !recordForm->Data1.IsOpen())
         return false;
-    const forms::Form1& form = *p.Form1;
-    const QString shown = p.Form3->Label25.Caption.Shown();
+    const forms::Form1& form = *mainWindow;
+    const QString shown = recordForm->Label25.Caption.Shown();
     const QString named = form.Frame1.Caption.value().mid(frameWithoutNumber.size());
     return shown != named || (shown.isEmpty() && !form.Image1.Picture.value().isNull());
 }
 } // namespace
 
-void BindSubjectLabels(Program& p, forms::Form3& record)
+SubjectPictures::SubjectPictures(Program& p)
+    : Branch(p.Branch), Record(p.Record), Files(p.Files), Pictures(p.Pictures), Errors(p.Errors), Prompts(p.Prompts),
+      Form3(p.Form3)
 {
-    for (const PanelField& field : panelFields)
-        record.Data1.Bind((*p.Form1).*field.Shown, field.Field.toString());
 }
 
-void FillSubjectLabels(Program& p)
+SubjectPanel::SubjectPanel(Program& p) : SubjectPictures(p), Form1(p.Form1) {}
+
+void BindSubjectLabels(forms::Form1& shown, forms::Form3& record)
 {
     for (const PanelField& field : panelFields)
-        ((*p.Form1).*field.Shown).Caption = ((*p.Form3).*field.Box).Text.value();
-    p.Form1->Frame1.Caption = frameWithoutNumber + p.Form3->Label25.Caption.value();
+        record.Data1.Bind(shown.*field.Shown, field.Field.toString());
 }
 
-void EmptySubjectLabels(Program& p, std::initializer_list<Label forms::Form1::*> labels, const QString& frame)
+void FillSubjectLabels(Window<forms::Form1>& mainWindow, Window<forms::Form3>& recordForm)
+{
+    for (const PanelField& field : panelFields)
+        ((*mainWindow).*field.Shown).Caption = ((*recordForm).*field.Box).Text.value();
+    mainWindow->Frame1.Caption = frameWithoutNumber + recordForm->Label25.Caption.value();
+}
+
+void EmptySubjectLabels(forms::Form1& form, std::initializer_list<Label forms::Form1::*> labels, const QString& frame)
 {
     for (Label forms::Form1::*label : labels)
-        ((*p.Form1).*label).Caption = QString();
-    p.Form1->Frame1.Caption = frame;
+        (form.*label).Caption = QString();
+    form.Frame1.Caption = frame;
 }
 
-void LoadSubjectPicture(Program& p, Image& target)
+void LoadSubjectPicture(const SubjectPictures& pictures, Image& target)
 {
-    target.Picture = p.Pictures.Load(p.Files, p.Branch.WorkDir + PathSeparator + p.Record.sPicFile);
+    target.Picture =
+        pictures.Pictures.Load(pictures.Files, pictures.Branch.WorkDir + PathSeparator + pictures.Record.sPicFile);
 }
 
-QImage PictureOrNone(Program& p, const QString& file)
+QImage PictureOrNone(PictureCache& pictures, const FileSystem& files, const QString& file)
 {
     try {
-        return p.Pictures.Load(p.Files, file);
+        return pictures.Load(files, file);
     } catch (const RuntimeError&) {
         return {};
     }
 }
 
-bool ShowSubjectPicture(Program& p)
+bool ShowSubjectPicture(const SubjectPanel& panel)
 {
     bool hasPicture = false;
-    p.Errors.Ignoring([&] {
-        LoadSubjectPicture(p, p.Form1->Image1);
+    panel.Errors.Ignoring([&] {
+        LoadSubjectPicture(panel, panel.Form1->Image1);
         hasPicture = true;
     });
     if (!hasPicture)
-        p.Form1->Image1.Picture = QImage();
+        panel.Form1->Image1.Picture = QImage();
     return hasPicture;
 }
 
-void ShowRecordOnMap(Program& p)
+void ShowRecordOnMap(const SubjectPanel& panel)
 {
-    SetPictureName(p.Record, *p.Form3);
-    const bool hasPicture = ShowSubjectPicture(p);
-    FillSubjectLabels(p);
+    SetPictureName(panel.Record, *panel.Form3);
+    const bool hasPicture = ShowSubjectPicture(panel);
+    FillSubjectLabels(panel.Form1, panel.Form3);
     if (!hasPicture)
-        TellPictureMissing(p);
+        TellPictureMissing(panel.Record, panel.Prompts);
 }
 
-void PartFromFormerSubject(Program& p)
+void PartFromFormerSubject(Window<forms::Form1>& mainWindow, Window<forms::Form3>& recordForm)
 {
-    if (!HasGoneOn(p))
+    if (!HasGoneOn(mainWindow, recordForm))
         return;
-    p.Form1->Frame1.Caption = frameWithoutNumber;
-    p.Form1->Image1.Picture = QImage();
+    mainWindow->Frame1.Caption = frameWithoutNumber;
+    mainWindow->Image1.Picture = QImage();
 }
 
-void FollowSubject(Program& p)
+void FollowSubject(const SubjectPanel& panel)
 {
-    if (!HasGoneOn(p))
+    if (!HasGoneOn(panel.Form1, panel.Form3))
         return;
-    PartFromFormerSubject(p);
-    const QString number = p.Form3->Label25.Caption.Shown();
+    PartFromFormerSubject(panel.Form1, panel.Form3);
+    const QString number = panel.Form3->Label25.Caption.Shown();
     if (number.isEmpty())
         return;
-    p.Form1->Frame1.Caption = frameWithoutNumber + number;
-    p.Form1->Image1.Picture = PictureOrNone(p, SubjectPictureFile(p.Branch.WorkDir, number));
+    panel.Form1->Frame1.Caption = frameWithoutNumber + number;
+    panel.Form1->Image1.Picture =
+        PictureOrNone(panel.Pictures, panel.Files, SubjectPictureFile(panel.Branch.WorkDir, number));
 }
 
-void TellPictureMissing(Program& p)
+void TellPictureMissing(const RecordState& record, Prompts& prompts)
 {
-    p.Prompts.MsgBox(u"Image not Present"_s, u"Searched Image File for "_s + p.Record.sPicFile, Buttons::Information);
+    prompts.MsgBox(u"Image not Present"_s, u"Searched Image File for "_s + record.sPicFile, Buttons::Information);
 }
 
 } // namespace lineforge

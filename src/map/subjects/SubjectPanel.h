@@ -2,47 +2,75 @@
 
 #include "forms/Form1.h"
 #include "forms/Form3.h"
-#include "program/state/Program.h"
+#include "platform/base/RuntimeError.h"
+#include "platform/drawing/PictureFile.h"
+#include "platform/files/FileSystem.h"
+#include "platform/machine/Prompts.h"
+#include "program/state/BranchState.h"
+#include "program/state/RecordState.h"
+#include "program/state/Windows.h"
 
 #include <initializer_list>
 
 namespace lineforge
 {
 
+struct Program;
+
+// What brings a subject's picture onto the record form.
+struct SubjectPictures {
+    SubjectPictures(Program& p);
+
+    const BranchState& Branch;
+    RecordState& Record;
+    FileSystem& Files;
+    PictureCache& Pictures;
+    ErrorState& Errors;
+    lineforge::Prompts& Prompts;
+    Window<forms::Form3>& Form3;
+};
+
+// And beside the map.
+struct SubjectPanel : SubjectPictures {
+    SubjectPanel(Program& p);
+
+    Window<forms::Form1>& Form1;
+};
+
 // The panel beside the map: the current record's picture and seven of its fields.
 
 // Ties the labels to the record form's data control, so that they follow its current row.
-void BindSubjectLabels(Program& p, forms::Form3& record);
+void BindSubjectLabels(forms::Form1& shown, forms::Form3& record);
 
 // Copies the record form's boxes into the labels, and the record's number into the frame's caption.
-void FillSubjectLabels(Program& p);
+void FillSubjectLabels(Window<forms::Form1>& mainWindow, Window<forms::Form3>& recordForm);
 
 // Empties those labels; which ones, and what the frame then says, differs from command to command.
-void EmptySubjectLabels(Program& p, std::initializer_list<Label forms::Form1::*> labels, const QString& frame);
+void EmptySubjectLabels(forms::Form1& form, std::initializer_list<Label forms::Form1::*> labels, const QString& frame);
 
 // The subject picture of the record in `sPicFile`. Error 53 or 481 when it can't be loaded; the panel then keeps what
 // it shows.
-void LoadSubjectPicture(Program& p, Image& target);
+void LoadSubjectPicture(const SubjectPictures& pictures, Image& target);
 
 // The picture in that file; none where it can't be loaded, which is no error of the command's.
-QImage PictureOrNone(Program& p, const QString& file);
+QImage PictureOrNone(PictureCache& pictures, const FileSystem& files, const QString& file);
 
 // The subject picture beside the map; false, and no picture there, when it can't be loaded.
-bool ShowSubjectPicture(Program& p);
+bool ShowSubjectPicture(const SubjectPanel& panel);
 
 // The current record beside the map: picture, labels, number. A picture that isn't there empties the panel's and is
 // told.
-void ShowRecordOnMap(Program& p);
+void ShowRecordOnMap(const SubjectPanel& panel);
 
 // The labels go with the cursor wherever a command, a search or the scanner takes it. Once they show another record
 // than the frame names, number and picture go along. The map itself, with its marker, stays as it was: it follows those
 // who ask for it. Reads nothing but what is shown.
-void FollowSubject(Program& p);
+void FollowSubject(const SubjectPanel& panel);
 
 // In the midst of a command, whose cursor may still be on its way: they just go.
-void PartFromFormerSubject(Program& p);
+void PartFromFormerSubject(Window<forms::Form1>& mainWindow, Window<forms::Form3>& recordForm);
 
 // Tells that the picture of `sPicFile` isn't there.
-void TellPictureMissing(Program& p);
+void TellPictureMissing(const RecordState& record, Prompts& prompts);
 
 } // namespace lineforge

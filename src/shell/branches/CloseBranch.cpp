@@ -30,7 +30,7 @@ void CloseBranch(Program& p)
     p.Branch.UsingAlternate = 0;
 
     forms::Form1& form = *p.Form1;
-    EmptySubjectLabels(p,
+    EmptySubjectLabels(*p.Form1,
                        {&forms::Form1::Label9, &forms::Form1::Label10, &forms::Form1::Label11, &forms::Form1::Label12,
                         &forms::Form1::Label14, &forms::Form1::Label17},
                        u"Ref  "_s);

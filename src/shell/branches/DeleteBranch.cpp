@@ -83,7 +83,7 @@ void RemoveDirectory(Program& p, const QString& directory)
 void ShowNoBranch(Program& p)
 {
     forms::Form1& form = *p.Form1;
-    EmptySubjectLabels(p,
+    EmptySubjectLabels(*p.Form1,
                        {&forms::Form1::Label9, &forms::Form1::Label10, &forms::Form1::Label11, &forms::Form1::Label12,
                         &forms::Form1::Label14, &forms::Form1::Label15, &forms::Form1::Label17},
                        QString());

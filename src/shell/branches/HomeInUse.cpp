@@ -7,26 +7,26 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-bool IsAskedFor(Program& p, const QString& home)
+bool IsAskedFor(Prompts& prompts, const QString& home)
 {
-    return p.Prompts.MsgBox(u"Home Directory in use"_s,
-                            u"Another Lineforge works in this Home Directory, and doesn't answer:\n"_s + home +
-                                u"\nTwo of them may write over each other's maps.\nGo on all the same ?",
-                            Buttons::QuestionYesNoDefaultNo) == Answer::Yes;
+    return prompts.MsgBox(u"Home Directory in use"_s,
+                          u"Another Lineforge works in this Home Directory, and doesn't answer:\n"_s + home +
+                              u"\nTwo of them may write over each other's maps.\nGo on all the same ?",
+                          Buttons::QuestionYesNoDefaultNo) == Answer::Yes;
 }
 } // namespace
 
-bool MayWorkIn(Program& p, const QString& home)
+bool MayWorkIn(Processes& processes, Prompts& prompts, const QString& home)
 {
-    switch (p.Processes.ClaimHome(home)) {
+    switch (processes.ClaimHome(home)) {
     case HomeOwner::ThisRun:
         return true;
     case HomeOwner::OtherOutOfReach:
-        return IsAskedFor(p, home);
+        return IsAskedFor(prompts, home);
     case HomeOwner::OtherInFront:
-        p.Prompts.MsgBox(u"Home Directory in use"_s,
-                         u"Lineforge is open in this Home Directory already, and has come to the front:\n"_s + home,
-                         Buttons::Information);
+        prompts.MsgBox(u"Home Directory in use"_s,
+                       u"Lineforge is open in this Home Directory already, and has come to the front:\n"_s + home,
+                       Buttons::Information);
         return false;
     }
     Q_UNREACHABLE();

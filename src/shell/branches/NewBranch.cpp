@@ -97,7 +97,7 @@ void ShowNoSubject(Program& p)
 {
     forms::Form1& form = *p.Form1;
     form.Shape1.Visible = false;
-    EmptySubjectLabels(p,
+    EmptySubjectLabels(*p.Form1,
                        {&forms::Form1::Label9, &forms::Form1::Label10, &forms::Form1::Label11, &forms::Form1::Label12,
                         &forms::Form1::Label14},
                        QString());

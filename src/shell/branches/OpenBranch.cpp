@@ -38,7 +38,7 @@ void ChooseBranch(Program& p)
     if (!p.Branch.WorkDir.isEmpty())
         SaveBoxes(p);
     LeaveToolsIfOpen(p);
-    WithdrawCompareRequest(p);
+    WithdrawCompareRequest(p.Compare);
     p.Form8->Show();
 }
 
@@ -68,7 +68,7 @@ void OpenSelectedBranch(Program& p)
     if (entry.isEmpty())
         return;
     if (p.Compare.IsChoosing) {
-        OpenCompareBranch(p, name, entry);
+        OpenCompareBranch(p, p, name, entry);
         return CloseBranchList(p);
     }
 
@@ -83,7 +83,7 @@ void OpenSelectedBranch(Program& p)
 
 void CloseBranchList(Program& p)
 {
-    WithdrawCompareRequest(p);
+    WithdrawCompareRequest(p.Compare);
     p.Form8->List1.ListIndex = -1;
     p.Form8.Unload();
 }
@@ -97,7 +97,7 @@ void ChangeHomeDirectory(Program& p)
 
     constexpr qsizetype fileNameLength = 13;
     const QString home = file->chopped(std::min(fileNameLength, file->size()));
-    if (!MayWorkIn(p, home))
+    if (!MayWorkIn(p.Processes, p.Prompts, home))
         return;
     const QString homeBefore = p.Branch.HomeDir;
     const QString workBefore = p.Branch.WorkDir;

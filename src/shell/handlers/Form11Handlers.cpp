@@ -1,3 +1,4 @@
+#include "forms/Form1.h"
 #include "forms/Form11.h"
 #include "gedcom/report/GedcomConversion.h"
 #include "program/ui/ProgressPanel.h"
@@ -8,7 +9,7 @@ namespace lineforge
 
 void InstallForm11(Program& p, forms::Form11& form)
 {
-    form.Load = [&p] { CentreConversion(p); };
+    form.Load = [&p, &form] { CentreConversion(form, *p.Form1); };
     form.VScroll1.Change = [&form] { ScrollPanel(form.Picture1, form.VScroll1); };
 }
 

@@ -8,7 +8,7 @@ namespace lineforge
 
 void InstallForm12(Program& p, forms::Form12& form)
 {
-    form.Load = [&p] { LoadGedcomForm(p); };
+    form.Load = [&p, &form] { LoadGedcomForm(form, p.Screen, p.Form3); };
     // The window keeps its texts between uses, however it was left.
     form.CloseByFrame = [&form] { form.Hide(); };
     form.Command1.Click = [&p] { CreateGedcomFile(p); };

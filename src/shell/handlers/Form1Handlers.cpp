@@ -44,11 +44,11 @@ void OpenFileOrHelpMenu(Program& p)
 
 void InstallOutput(Program& p, forms::Form1& form)
 {
-    form.mnuAddBkMark.Click = [&p] { AddBookmark(p); };
-    form.mnuClrList.Click = [&p] { ClearBookmarks(p); };
+    form.mnuAddBkMark.Click = [&p] { AddBookmark(p.Bookmarks, p.Branch, p.Form3, p.Prompts); };
+    form.mnuClrList.Click = [&p] { ClearBookmarks(p.Bookmarks); };
     form.mnuPrinterSetUp.Click = [&p] { p.Prompts.PickPrinter(); };
     form.mnuPrint.Click = [&p] { PrintMap(p); };
-    form.mnuPrintPage.Click = [&p] { PrintMainWindow(p); };
+    form.mnuPrintPage.Click = [&p, &form] { PrintMainWindow(form, p.Printer, p.Errors, p.Prompts); };
     form.mnuPrintRecord.Click = [&p] { PrintCurrentRecord(p); };
     form.mnuPrinList.Click = [&p] { PrintBookmarks(p); };
     form.mnuTxtFileList.Click = [&p] { WriteBookmarksText(p); };
@@ -81,7 +81,7 @@ void InstallForm1(Program& p, forms::Form1& form)
     InstallOutput(p, form);
     form.mnuBackup.Click = [&p] { BackUpBranch(p); };
     form.mnuExpSub.Click = [&p] { ChooseExport(p); };
-    form.mnuExpGedcom.Click = [&p] { ShowGedcomForm(p); };
+    form.mnuExpGedcom.Click = [&p] { ShowGedcomForm(p.Form12); };
     form.mnuImpSub.Click = [&p] { ImportBranch(p); };
     form.mnuImpGedcom.Click = [&p] { ConvertGedcom(p); };
     form.mnuCloseDB.Click = [&p] { CloseBranch(p); };
@@ -92,7 +92,7 @@ void InstallForm1(Program& p, forms::Form1& form)
     form.mnuPaste.Click = [&p] { PasteMapPicture(p); };
     form.mnuDataBase.Click = [&p] { TellIfNoBranch(p.Branch, p.Form3, p.Prompts); };
     form.mnuViewRecs.Click = [&p] { ShowRecordForm(p); };
-    form.mnuComp.Click = [&p] { OpenComparison(p); };
+    form.mnuComp.Click = [&p] { OpenComparison(p, p.Form1); };
     form.mnuDelSub.Click = [&p] { DeleteBranch(p); };
     form.mnuTreeGraphics.Click = [&p] { OpenEditingMenu(p); };
     form.mnuTreeTools.Click = [&p] { OpenTools(p); };
@@ -100,8 +100,8 @@ void InstallForm1(Program& p, forms::Form1& form)
     form.mnuRemap.Click = [&p] { RemapSubject(p); };
 
     form.mnuHelp.Click = [&p] { OpenFileOrHelpMenu(p); };
-    form.mnuConts.Click = [&p] { ShowHelpContents(p); };
-    form.MnuAbout.Click = [&p] { ShowAbout(p); };
+    form.mnuConts.Click = [&p] { ShowHelpContents(p.Prompts, p.Branch); };
+    form.MnuAbout.Click = [&p] { ShowAbout(p.Prompts); };
 
     form.VScroll1.Change = [&form] { form.Picture1.Top = -form.VScroll1.Value; };
     form.Picture1.MouseDown = [&p](int, int shift, double x, double y) { PressMap(p, shift, x, y); };
@@ -116,7 +116,7 @@ void InstallForm1(Program& p, forms::Form1& form)
     form.Command2.Click = [&p] { GoToGalleryFromMap(p); };
     form.Command3.Click = [&p] { ViewLineage(p); };
     form.Command4.Click = [&p] { ClearLineage(p); };
-    form.Command5.Click = [&p] { ReturnToComparison(p); };
+    form.Command5.Click = [&p] { ReturnToComparison(p, p.Form1); };
     InstallTools(p, form);
 }
 

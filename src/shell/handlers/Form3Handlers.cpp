@@ -1,3 +1,4 @@
+#include "forms/Form1.h"
 #include "forms/Form3.h"
 #include "map/subjects/SubjectPanel.h"
 #include "output/BookmarkList.h"
@@ -35,7 +36,7 @@ void InstallSelection(Program& p, forms::Form3& form)
     int number = 2;
     for (TextBox forms::Form3::*member : selectable) {
         TextBox& box = form.*member;
-        box.Click = [&p, &box, number] { RememberSelection(p, box, number); };
+        box.Click = [&p, &box, number] { RememberSelection(p.Record, box, number); };
         ++number;
     }
 }
@@ -52,21 +53,21 @@ void InstallScanner(Program& p, forms::Form3& form)
 
 void InstallPrinting(Program& p, forms::Form3& form)
 {
-    form.mnuAddPMark.Click = [&p] { AddBookmark(p); };
+    form.mnuAddPMark.Click = [&p] { AddBookmark(p.Bookmarks, p.Branch, p.Form3, p.Prompts); };
     form.mnuPrintSetup.Click = [&p] { p.Prompts.PickPrinter(); };
-    form.mnuPrinForm.Click = [&p] { PrintRecordWindow(p); };
+    form.mnuPrinForm.Click = [&p, &form] { PrintRecordWindow(form, p.Printer, p.Errors, p.Prompts); };
     form.mnuPrinRecord.Click = [&p] { PrintCurrentRecord(p); };
     form.mnuPrList.Click = [&p] { PrintBookmarks(p); };
-    form.mnuClrList.Click = [&p] { ClearBookmarks(p); };
+    form.mnuClrList.Click = [&p] { ClearBookmarks(p.Bookmarks); };
     form.mnuPrinDatabase.Click = [&p] { PrintDatabase(p); };
 }
 
 void InstallEditing(Program& p, forms::Form3& form)
 {
-    form.mnuCut.Click = [&p] { CutSelection(p); };
-    form.mnuCopy.Click = [&p] { CopySelection(p); };
-    form.mnuCopyRecToClip.Click = [&p] { CopyRecord(p); };
-    form.mnuPaste.Click = [&p] { PasteOverSelection(p); };
+    form.mnuCut.Click = [&p, &form] { CutSelection(p.Record, form, p.Clipboard); };
+    form.mnuCopy.Click = [&p] { CopySelection(p.Record, p.Clipboard); };
+    form.mnuCopyRecToClip.Click = [&p] { CopyRecord(p.Record, p.Scratch, p.Form3, p.Clipboard); };
+    form.mnuPaste.Click = [&p, &form] { PasteOverSelection(p.Record, form, p.Clipboard); };
     form.mnuSubPicture.Click = [&p] { ChangeSubjectPicture(p); };
     form.mnuAdd.Click = [&p] { AddRecord(p); };
     form.mnuDelete.Click = [&p] { DeleteRecord(p); };
@@ -75,29 +76,29 @@ void InstallEditing(Program& p, forms::Form3& form)
 
 void InstallSearches(Program& p, forms::Form3& form)
 {
-    form.mnuSearchDataRef.Click = [&p] { SearchByDataRef(p); };
-    form.mnuSearchSurName.Click = [&p] { SearchBySurname(p); };
-    form.mnuSearchBirthPlace.Click = [&p] { SearchByBirthPlace(p); };
-    form.mnuSearchWord.Click = [&p] { SearchByWord(p); };
+    form.mnuSearchDataRef.Click = [&p] { SearchByDataRef(p, p.Scratch); };
+    form.mnuSearchSurName.Click = [&p] { SearchBySurname(p, p.Scratch, p.Loop); };
+    form.mnuSearchBirthPlace.Click = [&p] { SearchByBirthPlace(p, p.Scratch, p.Loop); };
+    form.mnuSearchWord.Click = [&p] { SearchByWord(p, p.Scratch, p.Loop); };
 }
 
 void InstallMenus(Program& p, forms::Form3& form)
 {
-    form.mnuPrint.Click = [&p] { OpenRecordMenu(p); };
-    form.mnuEdit.Click = [&p] { OpenRecordMenu(p); };
-    form.mnuSearch.Click = [&p] { OpenSearchMenu(p); };
+    form.mnuPrint.Click = [&p] { OpenRecordMenu(p.Tools, p.Screen, p.Form3); };
+    form.mnuEdit.Click = [&p] { OpenRecordMenu(p.Tools, p.Screen, p.Form3); };
+    form.mnuSearch.Click = [&p] { OpenSearchMenu(p.Branch, p.Prompts, p.Tools, p.Screen, p.Form3); };
     InstallPrinting(p, form);
     InstallEditing(p, form);
     InstallSearches(p, form);
-    form.mnuHelp.Click = [&p] { ShowRecordHelp(p); };
+    form.mnuHelp.Click = [&p] { ShowRecordHelp(p.Prompts, p.Branch, p.Tools, p.Screen); };
     form.mnuExit.Click = [&p] { ExitFromRecords(p); };
 }
 } // namespace
 
 void InstallForm3(Program& p, forms::Form3& form)
 {
-    BindSubjectLabels(p, form);
-    form.Load = [&p] { LoadRecordForm(p); };
+    BindSubjectLabels(*p.Form1, form);
+    form.Load = [&p, &form] { LoadRecordForm(form, p.Screen, p.Form8, p.Branch); };
     // Unloaded, the form would take the open database with it: its frame leads back to the map.
     form.CloseByFrame = [&p] { ReturnToTree(p); };
 

@@ -23,7 +23,7 @@ namespace
 // must not be taken for this one's.
 bool NeedsPage(Program& p)
 {
-    return p.Gallery.FirstShow == 1 || !IsPageOfRecord(p);
+    return p.Gallery.FirstShow == 1 || !IsPageOfRecord(p.Gallery, p.Branch, p.Form3);
 }
 
 void ShowGallery(Program& p)
@@ -76,7 +76,7 @@ void GoToGalleryFromRecords(Program& p)
 
 void LeaveGalleryForTree(Program& p)
 {
-    CancelDeletion(p);
+    CancelDeletion(p.Scratch);
     p.Form1->Show();
     p.Form5->Hide();
 }
@@ -93,7 +93,7 @@ void LeaveGalleryForRecords(Program& p)
     if (p.Branch.IsSiblingShown())
         for (Button forms::Form3::*transport : forms::Form3::Transport)
             (form.*transport).Visible = false;
-    CancelDeletion(p);
+    CancelDeletion(p.Scratch);
 }
 
 } // namespace lineforge

@@ -7,26 +7,26 @@ namespace lineforge
 
 using namespace Qt::StringLiterals;
 
-void ShowHelpContents(Program& p)
+void ShowHelpContents(Prompts& prompts, const BranchState& branch)
 {
-    p.Prompts.ShowHelp(p.Branch.HomeDir + u"LfgHelp.hlp");
+    prompts.ShowHelp(branch.HomeDir + u"LfgHelp.hlp");
 }
 
-void ShowRecordHelp(Program& p)
+void ShowRecordHelp(Prompts& prompts, const BranchState& branch, ToolState& tools, Screen& screen)
 {
-    ClearMapCursor(p.Tools, p.Screen);
-    ShowHelpContents(p);
+    ClearMapCursor(tools, screen);
+    ShowHelpContents(prompts, branch);
 }
 
-void ShowAbout(Program& p)
+void ShowAbout(Prompts& prompts)
 {
-    p.Prompts.MsgBox(u"About Lineforge"_s,
-                     u"Ancestral mapping and Database program.\n"
-                     u"Created January 2001, Version 1.0\n"
-                     u"© Tarnwick Technology\n"
-                     u"Contact: the supplier of this copy.\n"
-                     u"This program may be passed on, complete and unchanged."_s,
-                     Buttons::Information);
+    prompts.MsgBox(u"About Lineforge"_s,
+                   u"Ancestral mapping and Database program.\n"
+                   u"Created January 2001, Version 1.0\n"
+                   u"© Tarnwick Technology\n"
+                   u"Contact: the supplier of this copy.\n"
+                   u"This program may be passed on, complete and unchanged."_s,
+                   Buttons::Information);
 }
 
 } // namespace lineforge

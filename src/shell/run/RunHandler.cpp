@@ -18,7 +18,7 @@ void EndWithError(Program& p, const RuntimeError& error)
     p.Errors.Last = error;
     // What was written to them stays.
     p.Lineage.File.reset();
-    CloseConversionFiles(p);
+    CloseConversionFiles(p.Gedcom, p.Errors);
     TellError(p, error);
     p.Loop.End(1);
 }
@@ -35,8 +35,8 @@ void GiveUpCommand(Program& p, const RuntimeError& error)
 // Beside the map and on the record form stands one person each.
 void SettlePictures(Program& p, bool isWithinAnother)
 {
-    isWithinAnother ? PartFromFormerSubject(p) : FollowSubject(p);
-    isWithinAnother ? PartFromFormerRecordPicture(p) : FollowWithRecordPicture(p);
+    isWithinAnother ? PartFromFormerSubject(p.Form1, p.Form3) : FollowSubject(p);
+    isWithinAnother ? PartFromFormerRecordPicture(p.Branch, p.Form3) : FollowWithRecordPicture(p);
 }
 } // namespace
 

@@ -55,7 +55,7 @@ void StartProgram(Program& p, const QString& home)
         p.FirstHome = home;
         p.Files.ChDir(home);
     }
-    if (!MayWorkIn(p, p.FirstHome))
+    if (!MayWorkIn(p.Processes, p.Prompts, p.FirstHome))
         p.Loop.End(0);
     p.form9.Load();
 }

@@ -104,7 +104,7 @@ TEST_P(GedIndexFileTest, ASource_GivesTheReferencesThatItsZerosLetSee)
     bool isAccepted = true;
     int error = 0;
     try {
-        isAccepted = GedIndexFile(P);
+        isAccepted = GedIndexFile(P.Gedcom, P.Scratch.ScanState);
     } catch (const RuntimeError& refused) {
         error = refused.Number;
     }
@@ -145,14 +145,14 @@ protected:
 TEST_P(GedIndexLimitTest, AsManyAsTheListTakes_AreStored)
 {
     GivenSource(Records(GetParam().Most, GetParam().Word));
-    EXPECT_TRUE(GedIndexFile(P));
+    EXPECT_TRUE(GedIndexFile(P.Gedcom, P.Scratch.ScanState));
     EXPECT_EQ(std::max<int>(P.Gedcom.GedIndiNext, P.Gedcom.GedFamNext), GetParam().Most + 1);
 }
 
 TEST_P(GedIndexLimitTest, OneMore_IsASubscriptError)
 {
     GivenSource(Records(GetParam().Most + 1, GetParam().Word));
-    EXPECT_EQ(RefusalOf([&] { GedIndexFile(P); }), ErrorNumber::Subscript);
+    EXPECT_EQ(RefusalOf([&] { GedIndexFile(P.Gedcom, P.Scratch.ScanState); }), ErrorNumber::Subscript);
 }
 
 INSTANTIATE_TEST_SUITE_P(Lists, GedIndexLimitTest, testing::Values(Limit{"INDI", 100}, Limit{"FAM", 20}),
@@ -164,7 +164,7 @@ TEST_F(GedIndexStateTest, AHead_IsRemembered)
 {
     P.Gedcom.sGedLevel = "0";
     GivenSource("0 HEAD\n");
-    EXPECT_TRUE(GedIndexFile(P));
+    EXPECT_TRUE(GedIndexFile(P.Gedcom, P.Scratch.ScanState));
     EXPECT_EQ(P.Gedcom.GedHeadState, GedHead::Good);
 }
 
@@ -174,7 +174,7 @@ TEST_F(GedIndexStateTest, AValueLeftOver_CountsForTheHead)
     P.Gedcom.sGedLevel = "0";
     P.Gedcom.sGedValue = "FAM";
     GivenSource("0 HEAD\n");
-    EXPECT_TRUE(GedIndexFile(P));
+    EXPECT_TRUE(GedIndexFile(P.Gedcom, P.Scratch.ScanState));
     EXPECT_EQ(P.Gedcom.GedFamList[1], "HEAD");
 }
 

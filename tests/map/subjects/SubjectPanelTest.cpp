@@ -52,7 +52,7 @@ TEST_P(SubjectFieldTest, Fill_CopiesTheBoxOfTheRecordForm)
 {
     Records(P.Form3).MoveNext();
 
-    FillSubjectLabels(P);
+    FillSubjectLabels(P.Form1, P.Form3);
 
     EXPECT_EQ(Shown(), u"second"_s);
     EXPECT_EQ(P.Form1->Frame1.Caption.value(), u"Ref  A002"_s);
@@ -71,7 +71,7 @@ TEST_F(SubjectPanelTest, Empty_EmptiesTheNamedLabelsOnly)
     P.Form1->Label10.Caption = u"Smith"_s;
     P.Form1->Label15.Caption = u"kept"_s;
 
-    EmptySubjectLabels(P, {&forms::Form1::Label9, &forms::Form1::Label10}, u"Ref  "_s);
+    EmptySubjectLabels(*P.Form1, {&forms::Form1::Label9, &forms::Form1::Label10}, u"Ref  "_s);
 
     EXPECT_EQ(P.Form1->Label9.Caption, QString());
     EXPECT_EQ(P.Form1->Label10.Caption, QString());
@@ -119,7 +119,7 @@ TEST_F(SubjectPanelTest, PictureMissing_IsToldWithItsName)
     P.Record.sPicFile = u"A001Sub.Jpg"_s;
     Prompts.Expect(u"Image not Present", u"Searched Image File for A001Sub.Jpg", Buttons::Information);
 
-    TellPictureMissing(P);
+    TellPictureMissing(P.Record, P.Prompts);
 }
 
 } // namespace
