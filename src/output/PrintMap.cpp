@@ -25,7 +25,7 @@ void DrawOnPaper(Program& p)
 {
     p.Printer.Begin();
     p.Errors.Clear();
-    RedrawMap(p);
+    RedrawMap(p, MapOnPaper(p.Printer));
     if (p.Errors.First)
         throw RuntimeError(*p.Errors.First);
 }
@@ -36,8 +36,6 @@ void PrintMap(Program& p)
     if (TellIfNoBranch(p.Branch, p.Form3, p.Prompts))
         return;
     p.Screen.Pointer = MousePointer::Hourglass;
-    p.Output.PrintToPrinter = 1;
-    p.Output.Page = &p.Printer;
     SetUpPage(p);
     ReportingErrors(p.Errors, p.Prompts, [&] { DrawOnPaper(p); });
     p.Printer.ForeColor = Black;
@@ -45,8 +43,6 @@ void PrintMap(Program& p)
     ReportingErrors(p.Errors, p.Prompts, [&] { p.Printer.EndDoc(); });
     p.Printer.Landscape = false;
     p.Printer.DrawWidth = 1;
-    p.Output.PrintToPrinter = 0;
-    p.Output.Page = nullptr;
     p.Screen.Pointer = MousePointer::Default;
 }
 

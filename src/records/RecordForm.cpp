@@ -39,7 +39,7 @@ void CaptionBoxOfRecord(Program& p)
     if (row > LastFiledBox)
         return;
     TakeBoxPosition(p, row);
-    DrawRecordInBox(p);
+    DrawRecordInBox(p, MapOnScreen(p));
     RenameBox(p, row, Records(p.Form3).Text(Field::Forename));
 }
 

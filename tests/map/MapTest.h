@@ -2,6 +2,7 @@
 
 #include "map/items/MapFile.h"
 #include "map/items/MapParse.h"
+#include "map/items/MapSheet.h"
 #include "program/branch/WorkDatabase.h"
 #include "support/BranchBuilder.h"
 #include "support/Pixels.h"
@@ -79,11 +80,9 @@ protected:
         cells[TextColumn::Colour] = static_cast<int>(colour);
     }
 
-    void givenPrinting()
-    {
-        P.Output.PrintToPrinter = 1;
-        P.Output.Page = &Page;
-    }
+    void givenPrinting() { IsPrinting = true; }
+    // What the map is drawn on: the picture, unless it is printed.
+    MapSheet Sheet() { return IsPrinting ? MapOnPaper(Page) : MapOnScreen(P); }
 
     void OpenMap()
     {
@@ -99,6 +98,8 @@ protected:
     PictureBox& Picture = LoadMainWindow();
 
 private:
+    bool IsPrinting = false;
+
     // As it stands between two operations.
     PictureBox& LoadMainWindow()
     {

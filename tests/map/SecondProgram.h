@@ -35,7 +35,7 @@ public:
     {
         P.Map = map;
         P.Form1->Picture1.Cls();
-        RedrawMap(P);
+        RedrawMap(P, MapOnScreen(P));
         return ShownBy(P.Form1->Picture1).copy();
     }
 

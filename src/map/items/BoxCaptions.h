@@ -1,5 +1,6 @@
 #pragma once
 
+#include "map/items/MapSheet.h"
 #include "platform/store/Recordset.h"
 #include "program/state/Program.h"
 
@@ -10,10 +11,6 @@ namespace lineforge
 
 // The number and the forename that stand in a box, always in black.
 
-// Where the two stand, from the corner of their box.
-inline constexpr Point NumberInBox{100, 0};
-inline constexpr Point ForenameInBox{50, 100};
-
 // A forename as a box has room for it, without what would break the map file: fewer than 8 characters stay whole,
 // blanks and all; a longer one is cut before its first blank; what still has 8 or more becomes its first five, an
 // apostrophe and its last.
@@ -23,21 +20,21 @@ QString FittedForename(const QString& forename);
 void FitForename(Program& p, const Recordset& row);
 void FitForename(Program& p);
 
-// Prints number and forename of that cursor's row in the box at `BoxX`, `BoxY`; nothing at `Eof`. While a subject is
-// being mapped or moved the box is looked for first. On paper the year of birth follows.
-void DrawRecordInBox(Program& p, const Recordset& row);
-void DrawRecordInBox(Program& p);
+// Prints number and forename of that cursor's row in the box at `BoxX`, `BoxY`, and the year of birth where the sheet
+// has a place for it; nothing at `Eof`. While a subject is being mapped or moved the box is looked for first.
+void DrawRecordInBox(Program& p, const MapSheet& sheet, const Recordset& row);
+void DrawRecordInBox(Program& p, const MapSheet& sheet);
 
 // Prints the number that row `IdxA` of the boxes holds, at `BoxX`, `BoxY`; behind the filed rows there is none. While a
 // subject is being mapped or moved it is the current record's, in its own box.
-void DrawBoxNumber(Program& p);
+void DrawBoxNumber(Program& p, const MapSheet& sheet);
 
 // Prints the number in each box that has one, and the forename too where the record is another branch's. A free row, or
 // a box at an impossible place, is passed over, here and below.
-void DrawBoxCaptions(Program& p);
+void DrawBoxCaptions(Program& p, const MapSheet& sheet);
 
 // Walks the open branch's table once and prints each record in every box that holds it; ends at `Eof`.
-void DrawOwnCaptions(Program& p);
+void DrawOwnCaptions(Program& p, const MapSheet& sheet);
 
 // Overprints in the background colour what stands in the box of that row. The row keeps its number.
 void WipeCaption(Program& p, int row);

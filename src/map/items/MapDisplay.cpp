@@ -11,30 +11,30 @@
 namespace lineforge
 {
 
-void RedrawMap(Program& p)
+void RedrawMap(Program& p, const MapSheet& sheet)
 {
     PictureBox& picture = p.Form1->Picture1;
     for (int row = 0; row <= p.Map.SBoxes; ++row)
-        p.Errors.Ignoring([&] { DrawBox(p, row); });
+        p.Errors.Ignoring([&] { DrawBox(p.Map, sheet, row); });
 
     const Colour pen = picture.ForeColor;
     const TextFont font = picture.Font;
     for (int row = 0; row <= p.Map.STexts; ++row) {
-        p.Errors.Ignoring([&] { DrawText(p, row); });
+        p.Errors.Ignoring([&] { DrawText(p, sheet, row); });
         picture.ForeColor = pen;
         picture.Font = font;
         if (!SameText(picture.Font.Name, u"Arial"))
             ResetMapFont(picture);
     }
     for (int row = 0; row <= p.Map.SLines; ++row)
-        DrawLine(p, row);
+        DrawLine(p.Map, sheet, row);
 
     // A backup that failed leaves the branch without its records.
     if (!IsBranchOpen(p.Branch, p.Form3))
         return;
     KeepPosition(p.Record, Records(p.Form3));
-    DrawOwnCaptions(p);
-    DrawBoxCaptions(p);
+    DrawOwnCaptions(p, sheet);
+    DrawBoxCaptions(p, sheet);
     ComeBack(p.Record, p.Form3);
 }
 

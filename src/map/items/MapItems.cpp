@@ -3,119 +3,63 @@
 #include "forms/Form1.h"
 #include "platform/base/Text.h"
 
-#include <algorithm>
 #include <optional>
 #include <utility>
 
 namespace lineforge
 {
 
-using namespace Qt::StringLiterals;
-
 namespace
 {
-constexpr int paperOffset = 1200; // twips to the right
-constexpr int paperPen = 2;
-
-// A spoilt file may tell any place and a text of any length. What lies this far out, in twips, can't be seen anyway,
-// nor can more characters than this, and neither overflows nor keeps the user waiting.
-constexpr int farOutside = 100'000'000;
+// A spoilt file may tell a text of any length. More characters than this can't be seen anyway, and would keep the user
+// waiting.
 constexpr qsizetype longestText = 4096;
-
-int Within(int twips)
-{
-    return std::clamp(twips, -farOutside, farOutside);
-}
-
-// 1.8 times, without a detour over fractions.
-constexpr int Stretched(int twips)
-{
-    return twips * 9 / 5;
-}
 
 Colour ColourOf(const Cell& cell)
 {
     return static_cast<Colour>(cell.Number());
 }
 
-void Pick(Surface& surface, const QString& name, double size)
-{
-    surface.Font.Name = name;
-    surface.Font.Size = size;
-}
-
 template <class Draw>
-void DrawWithPen(Program& p, Colour colour, Draw&& draw)
+void DrawWithPen(const MapSheet& sheet, Colour colour, Draw&& draw)
 {
-    Surface& surface = MapSurface(p);
-    if (OnPaper(p))
-        surface.DrawWidth = paperPen;
-    const Colour pen = std::exchange(surface.ForeColor, colour);
-    draw(surface);
-    surface.ForeColor = pen;
+    if (sheet.Pen)
+        sheet.On.DrawWidth = *sheet.Pen;
+    const Colour pen = std::exchange(sheet.On.ForeColor, colour);
+    draw(sheet.On);
+    sheet.On.ForeColor = pen;
 }
 
-// On paper an Arial text comes out in the printer's own small Courier.
-void PickTextFont(Program& p, Surface& surface, int row)
+void PickTextFont(Program& p, const MapSheet& sheet, int row)
 {
     const auto& text = p.Map.TextArr[row];
     const QString name = text[TextColumn::FontName].Text();
-    if (OnPaper(p) && SameText(name, u"Arial")) {
-        Pick(surface, u"Courier"_s, 7);
-        surface.Font.Bold = false;
+    if (sheet.InsteadOfArial && SameText(name, u"Arial")) {
+        sheet.On.Font = *sheet.InsteadOfArial;
         return;
     }
-    surface.Font.Name = name;
-    p.Errors.Ignoring([&] { surface.Font.Size = text[TextColumn::FontSize].Fraction(); });
+    sheet.On.Font.Name = name;
+    p.Errors.Ignoring([&] { sheet.On.Font.Size = text[TextColumn::FontSize].Fraction(); });
 }
 
-// After a text that isn't Arial the picture goes back to its font, on paper to Courier.
-void DropTextFont(Program& p)
+void DropTextFont(Program& p, const MapSheet& sheet)
 {
     TextFont& font = p.Form1->Picture1.Font;
-    if (SameText(font.Name, u"Arial"))
-        return;
-    if (OnPaper(p)) {
-        font.Name = u"Courier"_s;
-        font.Size = 7;
-    } else {
-        ResetMapFont(p.Form1->Picture1);
-    }
+    if (!SameText(font.Name, u"Arial"))
+        font = sheet.PictureFont;
 }
 
 // A size or colour that is spoilt leaves what is in force.
-void DrawTextWith(Program& p, int row, std::optional<Colour> pen)
+void DrawTextWith(Program& p, const MapSheet& sheet, int row, std::optional<Colour> pen)
 {
     const auto& text = p.Map.TextArr[row];
-    Surface& surface = MapSurface(p);
-    const Point place = OnMapSurface(p, {text[TextColumn::X].Number(), text[TextColumn::Y].Number()});
-    PickTextFont(p, surface, row);
-    p.Errors.Ignoring([&] { surface.ForeColor = pen ? *pen : ColourOf(text[TextColumn::Colour]); });
-    PrintOnMap(surface, place, text[TextColumn::Text].Text());
-    DropTextFont(p);
+    const Point place = sheet.At({text[TextColumn::X].Number(), text[TextColumn::Y].Number()});
+    PickTextFont(p, sheet, row);
+    p.Errors.Ignoring([&] { sheet.On.ForeColor = pen ? *pen : ColourOf(text[TextColumn::Colour]); });
+    PrintOnMap(sheet.On, place, text[TextColumn::Text].Text());
+    DropTextFont(p, sheet);
 }
 } // namespace
-
-bool OnPaper(const Program& p)
-{
-    return p.Output.PrintToPrinter == 1;
-}
-
-Surface& MapSurface(Program& p)
-{
-    if (!OnPaper(p))
-        return p.Form1->Picture1;
-    Q_ASSERT(p.Output.Page);
-    return *p.Output.Page;
-}
-
-Point OnMapSurface(const Program& p, Point place, int below)
-{
-    const Point seen{Within(place.X), Within(place.Y)};
-    if (!OnPaper(p))
-        return seen;
-    return {seen.X + paperOffset, Stretched(seen.Y) + below};
-}
 
 void PrintOnMap(Surface& surface, Point place, const QString& text)
 {
@@ -124,8 +68,7 @@ void PrintOnMap(Surface& surface, Point place, const QString& text)
 
 void ResetMapFont(Surface& surface)
 {
-    Pick(surface, u"Arial"_s, 8);
-    surface.Font.Bold = false;
+    surface.Font = {};
 }
 
 void ClearMapPicture(Program& p)
@@ -134,45 +77,45 @@ void ClearMapPicture(Program& p)
     p.Map.Captions.clear();
 }
 
-void DrawBox(Program& p, int row)
+void DrawBox(const MapState& map, const MapSheet& sheet, int row)
 {
-    const auto& box = p.Map.BoxArr[row];
+    const auto& box = map.BoxArr[row];
     if (!box[BoxColumn::X].IsZero())
-        DrawBoxIn(p, row, ColourOf(box[BoxColumn::Colour]));
+        DrawBoxIn(map, sheet, row, ColourOf(box[BoxColumn::Colour]));
 }
 
-void DrawBoxIn(Program& p, int row, Colour pen)
+void DrawBoxIn(const MapState& map, const MapSheet& sheet, int row, Colour pen)
 {
-    const auto& box = p.Map.BoxArr[row];
-    const Point corner = OnMapSurface(p, {box[BoxColumn::X].Number(), box[BoxColumn::Y].Number()});
-    const int height = OnPaper(p) ? Stretched(BoxHeight) : BoxHeight;
-    DrawWithPen(p, pen, [&](Surface& surface) { surface.Box({corner.X, corner.Y, BoxWidth, height}); });
+    const auto& box = map.BoxArr[row];
+    const Point corner = sheet.At({box[BoxColumn::X].Number(), box[BoxColumn::Y].Number()});
+    const Rectangle outline{corner.X, corner.Y, BoxWidth, sheet.Down(BoxHeight)};
+    DrawWithPen(sheet, pen, [&](Surface& surface) { surface.Box(outline); });
 }
 
-void DrawLine(Program& p, int row)
+void DrawLine(const MapState& map, const MapSheet& sheet, int row)
 {
-    const auto& line = p.Map.LineArr[row];
+    const auto& line = map.LineArr[row];
     if (line[LineColumn::X1] != 0)
-        DrawLineIn(p, row, static_cast<Colour>(line[LineColumn::Colour]));
+        DrawLineIn(map, sheet, row, static_cast<Colour>(line[LineColumn::Colour]));
 }
 
-void DrawLineIn(Program& p, int row, Colour pen)
+void DrawLineIn(const MapState& map, const MapSheet& sheet, int row, Colour pen)
 {
-    const auto& line = p.Map.LineArr[row];
-    const Point start = OnMapSurface(p, {line[LineColumn::X1], line[LineColumn::Y1]});
-    const Point end = OnMapSurface(p, {line[LineColumn::X2], line[LineColumn::Y2]});
-    DrawWithPen(p, pen, [&](Surface& surface) { surface.Line(start, end); });
+    const auto& line = map.LineArr[row];
+    const Point start = sheet.At({line[LineColumn::X1], line[LineColumn::Y1]});
+    const Point end = sheet.At({line[LineColumn::X2], line[LineColumn::Y2]});
+    DrawWithPen(sheet, pen, [&](Surface& surface) { surface.Line(start, end); });
 }
 
-void DrawText(Program& p, int row)
+void DrawText(Program& p, const MapSheet& sheet, int row)
 {
     if (!p.Map.TextArr[row][TextColumn::X].IsZero())
-        DrawTextWith(p, row, {});
+        DrawTextWith(p, sheet, row, {});
 }
 
-void DrawTextIn(Program& p, int row, Colour pen)
+void DrawTextIn(Program& p, const MapSheet& sheet, int row, Colour pen)
 {
-    DrawTextWith(p, row, pen);
+    DrawTextWith(p, sheet, row, pen);
 }
 
 Colour ColourOfBox(const MapState& map, int row)

@@ -1,31 +1,22 @@
 #pragma once
 
+#include "map/items/MapSheet.h"
 #include "platform/drawing/Surface.h"
 #include "program/state/Program.h"
 
 namespace lineforge
 {
 
-// Whether the draw routines write to the printer's page.
-bool OnPaper(const Program& p);
-
-// What the map is drawn on: the picture, or the printer's page while a branch is printed.
-Surface& MapSurface(Program& p);
-
-// The position of a box or text of the picture on that surface: on paper 1200 twips to the right, and 1.8 times as far
-// down, `below` twips lower.
-Point OnMapSurface(const Program& p, Point place, int below = 0);
-
 // One item of the arrays, in its own colour and font. A free row is not drawn. A text leaves its colour in the pen, the
 // others leave the pen as it was. Error 13 for a value that is no number.
-void DrawBox(Program& p, int row);
-void DrawLine(Program& p, int row);
-void DrawText(Program& p, int row);
+void DrawBox(const MapState& map, const MapSheet& sheet, int row);
+void DrawLine(const MapState& map, const MapSheet& sheet, int row);
+void DrawText(Program& p, const MapSheet& sheet, int row);
 
 // The same in that colour instead of the item's own, and a free row as well.
-void DrawBoxIn(Program& p, int row, Colour pen);
-void DrawLineIn(Program& p, int row, Colour pen);
-void DrawTextIn(Program& p, int row, Colour pen);
+void DrawBoxIn(const MapState& map, const MapSheet& sheet, int row, Colour pen);
+void DrawLineIn(const MapState& map, const MapSheet& sheet, int row, Colour pen);
+void DrawTextIn(Program& p, const MapSheet& sheet, int row, Colour pen);
 
 // The outline of a box in its row's colour; black for one that is no number.
 Colour ColourOfBox(const MapState& map, int row);

@@ -21,8 +21,8 @@ int HighestRow(int rows)
 void DrawAllCaptions(Program& p)
 {
     p.Errors.Ignoring([&] { KeepPosition(p.Record, Records(p.Form3)); });
-    p.Errors.Ignoring([&] { DrawBoxCaptions(p); });
-    p.Errors.Ignoring([&] { DrawOwnCaptions(p); });
+    p.Errors.Ignoring([&] { DrawBoxCaptions(p, MapOnScreen(p)); });
+    p.Errors.Ignoring([&] { DrawOwnCaptions(p, MapOnScreen(p)); });
     p.Errors.Ignoring([&] { ComeBack(p.Record, p.Form3); });
 }
 
@@ -47,13 +47,14 @@ void ParseBoxes(Program& p)
 {
     if (CountsAsEmpty(p.Map.sBoxesText))
         return;
+    const MapSheet screen = MapOnScreen(p);
     const int rows = ForEachValue(p.Map.sBoxesText, BoxColumn::Count, [&](int row, int column, const QString& value) {
         if (row > LastMapRow)
             return;
         p.Map.BoxArr[row][column] = value;
         // The outline needs no more than the columns before the record's.
         if (column == BoxColumn::File)
-            p.Errors.Ignoring([&] { DrawBox(p, row); });
+            p.Errors.Ignoring([&] { DrawBox(p.Map, screen, row); });
     });
     p.Map.SBoxes = HighestRow(rows);
     DrawAllCaptions(p);
@@ -61,13 +62,14 @@ void ParseBoxes(Program& p)
 
 void ParseLines(Program& p)
 {
-    MapSurface(p).ForeColor = Black;
+    p.Form1->Picture1.ForeColor = Black;
     if (CountsAsEmpty(p.Map.sLinesText))
         return;
+    const MapSheet screen = MapOnScreen(p);
     const int rows = ForEachValue(p.Map.sLinesText, LineColumn::Count, [&](int row, int column, const QString& value) {
         p.Map.LineArr[row][column] = ToLong(value);
         if (column == LineColumn::Colour)
-            DrawLine(p, row);
+            DrawLine(p.Map, screen, row);
     });
     p.Map.SLines = rows - 1;
 }
@@ -77,12 +79,13 @@ void ParseTexts(Program& p)
     p.Map.STexts = -1;
     if (CountsAsEmpty(p.Map.sTextsText))
         return;
+    const MapSheet screen = MapOnScreen(p);
     const int rows = ForEachValue(p.Map.sTextsText, TextColumn::Count, [&](int row, int column, const QString& value) {
         if (row > LastMapRow)
             return;
         p.Map.TextArr[row][column] = value;
         if (column == TextColumn::Colour)
-            p.Errors.Ignoring([&] { DrawText(p, row); });
+            p.Errors.Ignoring([&] { DrawText(p, screen, row); });
     });
     p.Map.STexts = HighestRow(rows);
     ResetMapFont(p.Form1->Picture1);

@@ -76,11 +76,11 @@ bool FinishTransfer(Program& p)
         p.Record.sAltName = Records(p.Form3).Text(Field::Forename);
         MoveLinkToPressedBox(p);
         TakeBoxPosition(p, p.Mouse.BoxIdx);
-        DrawRecordInBox(p);
+        DrawRecordInBox(p, MapOnScreen(p));
         SaveBoxesOfOwnBranch(p);
     } else {
         MoveLinkToPressedBox(p);
-        DrawRecordInBox(p);
+        DrawRecordInBox(p, MapOnScreen(p));
         SaveBoxes(p);
     }
     ClearMapCursor(p.Tools, p.Screen);

@@ -173,7 +173,7 @@ bool MapAlternateRecord(Program& p)
     p.Screen.Pointer = MousePointer::Hourglass;
     LinkBox(p, row, *number);
     p.Mapping.PictureOption = leaveUntilLater;
-    DrawBoxCaptions(p);
+    DrawBoxCaptions(p, MapOnScreen(p));
     SaveBoxes(p);
     SwitchToSibling(p, letter);
     return StandOnRecord(p, *number);

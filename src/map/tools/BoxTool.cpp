@@ -65,7 +65,7 @@ void PutSubjectDown(Program& p)
     p.Form1->Picture1.ForeColor = Black;
     if (HasPlace(p.Map, p.Mouse.BoxIdx)) {
         TakeBoxPosition(p, p.Mouse.BoxIdx);
-        DrawRecordInBox(p);
+        DrawRecordInBox(p, MapOnScreen(p));
     }
 }
 } // namespace
@@ -134,10 +134,11 @@ void DragBox(Program& p, const Pointing& pointing)
     const int row = p.Mouse.BoxIdx;
     TakeDelta(p, pointing.At);
     // The rubber pen takes off what it has drawn; before its first stroke the box is wiped.
-    DrawBoxIn(p, row, picture.Mode == DrawMode::NotXor ? ColourOfBox(p.Map, row) : picture.BackColor);
+    DrawBoxIn(p.Map, MapOnScreen(p), row,
+              picture.Mode == DrawMode::NotXor ? ColourOfBox(p.Map, row) : picture.BackColor);
     CarryBox(p, row);
     picture.Mode = DrawMode::NotXor;
-    DrawBoxIn(p, row, ColourOfBox(p.Map, row));
+    DrawBoxIn(p.Map, MapOnScreen(p), row, ColourOfBox(p.Map, row));
     KeepLast(p, pointing.At);
 }
 
@@ -147,7 +148,7 @@ Released DropBox(Program& p)
         return Released::Repaint;
     PictureBox& picture = p.Form1->Picture1;
     picture.Mode = DrawMode::Copy;
-    DrawBoxIn(p, p.Mouse.BoxIdx, ColourOfBox(p.Map, p.Mouse.BoxIdx));
+    DrawBoxIn(p.Map, MapOnScreen(p), p.Mouse.BoxIdx, ColourOfBox(p.Map, p.Mouse.BoxIdx));
     if (p.Tools.MapCursorMode == MapCursor::MovingSubject) {
         // A backup that has failed meanwhile has left the branch without its records.
         if (IsBranchOpen(p.Branch, p.Form3))
@@ -161,7 +162,7 @@ Released DeleteBox(Program& p)
 {
     if (p.Mouse.BoxMiss != 0)
         return Released::Repaint;
-    DrawBoxIn(p, p.Mouse.BoxIdx, p.Form1->Picture1.BackColor);
+    DrawBoxIn(p.Map, MapOnScreen(p), p.Mouse.BoxIdx, p.Form1->Picture1.BackColor);
     // The forename stays in the free row.
     auto& box = p.Map.BoxArr[p.Mouse.BoxIdx];
     for (const int column : {BoxColumn::X, BoxColumn::Y, BoxColumn::Colour, BoxColumn::File})

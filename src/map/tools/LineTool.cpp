@@ -113,10 +113,10 @@ Colour ColourOfLine(const Program& p, int row)
 void DragOne(Program& p, int row)
 {
     PictureBox& picture = p.Form1->Picture1;
-    DrawLineIn(p, row, picture.Mode == DrawMode::NotXor ? ColourOfLine(p, row) : picture.BackColor);
+    DrawLineIn(p.Map, MapOnScreen(p), row, picture.Mode == DrawMode::NotXor ? ColourOfLine(p, row) : picture.BackColor);
     CarryLine(p, row);
     picture.Mode = DrawMode::NotXor;
-    DrawLineIn(p, row, ColourOfLine(p, row));
+    DrawLineIn(p.Map, MapOnScreen(p), row, ColourOfLine(p, row));
 }
 
 // Where two lines of the chain met, both have been taken off one pixel, which shows again by that.
@@ -213,7 +213,7 @@ Released DeleteChain(Program& p)
     if (p.Tools.LineMiss != 0)
         return Released::Repaint;
     ForEachOfChain(p, [&](int row) {
-        DrawLineIn(p, row, p.Form1->Picture1.BackColor);
+        DrawLineIn(p.Map, MapOnScreen(p), row, p.Form1->Picture1.BackColor);
         p.Map.LineArr[row].Erase();
     });
     // KEPT(LineToolTest.Delete_ChainOfThree_RemovesAllThree_AndLowersTheCountByOne): once, however many lines went with

@@ -81,7 +81,7 @@ void PressTool(Program& p, const Pointing& pointing)
 void ReleaseTool(Program& p)
 {
     if (InHand(p).Release(p) == Released::Repaint)
-        RedrawMap(p);
+        RedrawMap(p, MapOnScreen(p));
     p.Tools.ToolStep = 0;
 }
 } // namespace

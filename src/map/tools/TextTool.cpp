@@ -120,7 +120,7 @@ void DragText(Program& p, const Pointing& pointing)
     if (picture.Mode == DrawMode::Xor)
         DrawRubberRectangle(p);
     else
-        DrawTextIn(p, p.Tools.TextIdx, picture.BackColor);
+        DrawTextIn(p, MapOnScreen(p), p.Tools.TextIdx, picture.BackColor);
     CarryText(p, p.Tools.TextIdx);
     picture.Mode = DrawMode::Xor;
     DrawRubberRectangle(p);
@@ -135,7 +135,7 @@ Released DropText(Program& p)
     if (picture.Mode == DrawMode::Xor)
         DrawRubberRectangle(p);
     picture.Mode = DrawMode::Copy;
-    DrawText(p, p.Tools.TextIdx);
+    DrawText(p, MapOnScreen(p), p.Tools.TextIdx);
     p.Scratch.sInput.clear();
     GiveBackPenAndFont(p);
     return Released::Repaint;
@@ -145,7 +145,7 @@ Released DeleteText(Program& p)
 {
     if (p.Tools.TextMiss != 0)
         return Released::Repaint;
-    DrawTextIn(p, p.Tools.TextIdx, p.Form1->Picture1.BackColor);
+    DrawTextIn(p, MapOnScreen(p), p.Tools.TextIdx, p.Form1->Picture1.BackColor);
     GiveBackPenAndFont(p);
     auto& cells = p.Map.TextArr[p.Tools.TextIdx];
     for (int column = 0; column < TextColumn::Count; ++column)

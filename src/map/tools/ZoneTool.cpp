@@ -58,26 +58,26 @@ void PrintBoxTexts(Program& p, int row, Colour pen)
 
 void CarryTextAlong(Program& p, int row)
 {
-    DrawTextIn(p, row, p.Form1->Picture1.BackColor);
+    DrawTextIn(p, MapOnScreen(p), row, p.Form1->Picture1.BackColor);
     CarryText(p, row);
-    DrawText(p, row);
+    DrawText(p, MapOnScreen(p), row);
 }
 
 void CarryBoxAlong(Program& p, int row)
 {
     const Colour paper = p.Form1->Picture1.BackColor;
-    DrawBoxIn(p, row, paper);
+    DrawBoxIn(p.Map, MapOnScreen(p), row, paper);
     PrintBoxTexts(p, row, paper);
     CarryBox(p, row);
-    DrawBoxIn(p, row, ColourOfBox(p.Map, row));
+    DrawBoxIn(p.Map, MapOnScreen(p), row, ColourOfBox(p.Map, row));
     PrintBoxTexts(p, row, Black);
 }
 
 void CarryLineAlong(Program& p, int row)
 {
-    DrawLineIn(p, row, p.Form1->Picture1.BackColor);
+    DrawLineIn(p.Map, MapOnScreen(p), row, p.Form1->Picture1.BackColor);
     CarryLine(p, row);
-    DrawLine(p, row);
+    DrawLine(p.Map, MapOnScreen(p), row);
 }
 } // namespace
 
@@ -163,7 +163,7 @@ Released DropZone(Program& p)
     p.Form1->Shape3.Visible = false;
     RaiseTool(p, &forms::Form1::Image2);
     ClearMapPicture(p);
-    RedrawMap(p);
+    RedrawMap(p, MapOnScreen(p));
     p.Tools.MapCursorMode = MapCursor::Normal;
     p.Screen.Pointer = MousePointer::Default;
     return Released::AsItStands;

@@ -109,12 +109,13 @@ struct MapState {
 
     // What stands in the boxes on the picture: texts by the X and Y at which they begin. To wipe one it is printed
     // again in the colour of the paper, whatever its record or row may say by then.
-    std::map<std::pair<int, int>, QStringList> Captions;
+    using CaptionTexts = std::map<std::pair<int, int>, QStringList>;
+    CaptionTexts Captions;
 
     // The picture as it was put on the clipboard last, with what stood in its boxes, for when it is shown again.
     struct {
         QImage Picture;
-        std::map<std::pair<int, int>, QStringList> Captions;
+        CaptionTexts Captions;
     } Copied;
 
     Integer16 MarkCount; // frames of the last lineage view

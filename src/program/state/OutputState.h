@@ -2,7 +2,6 @@
 
 #include "platform/base/FixedArray.h"
 #include "platform/base/Number.h"
-#include "platform/drawing/Surface.h"
 #include "platform/files/TextFile.h"
 
 #include <QString>
@@ -24,8 +23,6 @@ struct BookmarkState {
 };
 
 struct OutputState {
-    Integer16 PrintToPrinter;             // 1: the map's draw routines write to the page instead of the picture
-    Surface* Page = nullptr;              // the printer's page while that is so
     Integer16 OutputMode;                 // where records are being put out to, see output/OutputMode.h
     std::unique_ptr<TextWriter> TextFile; // the one that is open for output
 };

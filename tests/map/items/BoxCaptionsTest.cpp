@@ -85,7 +85,7 @@ TEST_F(BoxCaptionsTest, Record_NumberStands100AcrossAndForename50And100Down)
     givenRecord(u"Christopher");
     givenPosition({1000, 500});
 
-    DrawRecordInBox(P);
+    DrawRecordInBox(P, Sheet());
 
     Expected->PrintAt({1100, 500}, u"A001"_s);
     Expected->PrintAt({1050, 600}, u"Chris'r"_s);
@@ -102,7 +102,7 @@ TEST_F(BoxCaptionsTest, Record_IsBlackInArial8_WhateverWasInHand)
     Picture.ForeColor = red;
     Picture.Font = {u"Courier New"_s, 20, true};
 
-    DrawRecordInBox(P);
+    DrawRecordInBox(P, Sheet());
 
     EXPECT_EQ(CountPixels(Picture, red), 0);
     Expected->PrintAt({1100, 500}, u"A001"_s);
@@ -116,7 +116,7 @@ TEST_F(BoxCaptionsTest, Record_NullForename_ShowsOnlyItsNumber)
     givenOpen(BranchA.Row({{u"File", u"A001"}}));
     givenPosition({1000, 500});
 
-    DrawRecordInBox(P);
+    DrawRecordInBox(P, Sheet());
 
     Expected->PrintAt({1100, 500}, u"A001"_s);
     EXPECT_TRUE(SameDrawing(Picture, *Expected));
@@ -127,7 +127,7 @@ TEST_F(BoxCaptionsTest, Record_ForenameOf7CharactersWithABlank_StandsWhole)
     givenRecord(u"Jo Anne");
     givenPosition({1000, 500});
 
-    DrawRecordInBox(P);
+    DrawRecordInBox(P, Sheet());
 
     Expected->PrintAt({1100, 500}, u"A001"_s);
     Expected->PrintAt({1050, 600}, u"Jo Anne"_s);
@@ -139,7 +139,7 @@ TEST_F(BoxCaptionsTest, Record_BehindTheLastRow_DrawsNothing)
     givenRecord(u"John");
     Records(P.Form3).MoveNext();
 
-    DrawRecordInBox(P);
+    DrawRecordInBox(P, Sheet());
 
     EXPECT_TRUE(IsBlank(Picture));
     EXPECT_EQ(P.Record.sForeName, QString());
@@ -151,7 +151,7 @@ TEST_F(BoxCaptionsTest, RecordOnPaper_HasThreeLinesBelowTheStretchedTop)
     givenPosition({1000, 500});
     givenPrinting();
 
-    DrawRecordInBox(P);
+    DrawRecordInBox(P, Sheet());
 
     EXPECT_EQ(Page.Take(), QStringList({u"Print 2300,910 \"A001\" Arial 8 colour 0"_s,
                                         u"Print 2250,1030 \"Chris'r\" Arial 8 colour 0"_s,
@@ -165,7 +165,7 @@ TEST_F(BoxCaptionsTest, RecordOnPaper_ForenameWithWhatBreaksTheFile_IsPrintedAsT
     givenPosition({1000, 500});
     givenPrinting();
 
-    DrawRecordInBox(P);
+    DrawRecordInBox(P, Sheet());
 
     EXPECT_EQ(Page.Take().at(1), u"Print 2250,1030 \"Jo An\" Arial 8 colour 0"_s);
 }
@@ -178,7 +178,7 @@ TEST_F(BoxCaptionsTest, RecordOnPaper_KeepsThePagesFont)
     Page.Font = {u"Courier"_s, 7};
     Page.ForeColor = red;
 
-    DrawRecordInBox(P);
+    DrawRecordInBox(P, Sheet());
 
     EXPECT_EQ(Page.Take(), QStringList({u"Print 2300,910 \"A001\" Courier 7 colour 0"_s,
                                         u"Print 2250,1030 \"John\" Courier 7 colour 0"_s,
@@ -190,7 +190,7 @@ TEST_F(BoxCaptionsTest, RecordOnPaper_NullDate_HasNoYear)
     givenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}}));
     givenPrinting();
 
-    DrawRecordInBox(P);
+    DrawRecordInBox(P, Sheet());
 
     EXPECT_EQ(Page.Take().last(), u"Print 1250,260 \"B :\" Arial 8 colour 0"_s);
 }
@@ -203,7 +203,7 @@ TEST_F(BoxCaptionsTest, Number_IsThatOfTheRow_AtThePositionInHand)
     Picture.ForeColor = red;
     Picture.Font = {u"Courier New"_s, 20, true};
 
-    DrawBoxNumber(P);
+    DrawBoxNumber(P, Sheet());
 
     Expected->PrintAt({1100, 500}, u"A007"_s);
     EXPECT_TRUE(SameDrawing(Picture, *Expected));
@@ -217,7 +217,7 @@ TEST_F(BoxCaptionsTest, NumberOnPaper_Stands40Lower)
     givenPosition({1000, 500});
     givenPrinting();
 
-    DrawBoxNumber(P);
+    DrawBoxNumber(P, Sheet());
 
     EXPECT_EQ(Page.Take(), QStringList(u"Print 2300,940 \"A007\" Arial 8 colour 0"_s));
 }
@@ -249,7 +249,7 @@ protected:
 
 TEST_P(PlacingSubjectTest, Record_LooksForItsBoxFirst)
 {
-    DrawRecordInBox(P);
+    DrawRecordInBox(P, Sheet());
 
     Expected->PrintAt({Corner.X + 100, Corner.Y}, u"A001"_s);
     Expected->PrintAt({Corner.X + 50, Corner.Y + 100}, u"John"_s);
@@ -260,7 +260,7 @@ TEST_P(PlacingSubjectTest, Number_LooksForTheCurrentRecordsBoxFirst)
 {
     P.Scratch.IdxA = 5;
 
-    DrawBoxNumber(P);
+    DrawBoxNumber(P, Sheet());
 
     Expected->PrintAt({Corner.X + 100, Corner.Y}, GetParam().LooksForTheBox ? u"A001"_s : u"A009"_s);
     EXPECT_TRUE(SameDrawing(Picture, *Expected));
@@ -277,7 +277,7 @@ TEST_F(BoxCaptionsTest, AllNumbers_StandInTheirBoxes)
     givenBox(50, {2000, 500}, u"a002");
     givenBox(99, {3000, 500}, u"A003");
 
-    DrawBoxCaptions(P);
+    DrawBoxCaptions(P, Sheet());
 
     Expected->PrintAt({1100, 500}, u"A001"_s);
     Expected->PrintAt({2100, 500}, u"a002"_s);
@@ -294,7 +294,7 @@ TEST_F(BoxCaptionsTest, AllNumbers_BoxesWithoutARecord_AreSkipped)
     P.Map.BoxArr[3][BoxColumn::X] = 4000;
     P.Map.BoxArr[4][BoxColumn::File] = 0;
 
-    DrawBoxCaptions(P);
+    DrawBoxCaptions(P, Sheet());
 
     EXPECT_TRUE(IsBlank(Picture));
 }
@@ -304,8 +304,8 @@ TEST_F(BoxCaptionsTest, AllNumbers_BoxesBeyondTheHundredth_HaveNone)
     givenRecord(u"John");
     givenBox(100, {1000, 500}, u"A001");
 
-    DrawBoxCaptions(P);
-    DrawOwnCaptions(P);
+    DrawBoxCaptions(P, Sheet());
+    DrawOwnCaptions(P, Sheet());
 
     EXPECT_TRUE(IsBlank(Picture));
 }
@@ -316,8 +316,8 @@ TEST_F(BoxCaptionsTest, FreeRow_HasNoCaption)
     givenBox(0, {0, 500}, u"A001");
     givenBox(1, {0, 900}, u"A009");
 
-    DrawBoxCaptions(P);
-    DrawOwnCaptions(P);
+    DrawBoxCaptions(P, Sheet());
+    DrawOwnCaptions(P, Sheet());
 
     EXPECT_TRUE(IsBlank(Picture));
 }
@@ -328,8 +328,8 @@ TEST_F(BoxCaptionsTest, FreeRow_HasNoCaptionOnPaper)
     givenBox(0, {0, 500}, u"A001");
     givenPrinting();
 
-    DrawBoxCaptions(P);
-    DrawOwnCaptions(P);
+    DrawBoxCaptions(P, Sheet());
+    DrawOwnCaptions(P, Sheet());
 
     EXPECT_EQ(Page.Take(), QStringList());
 }
@@ -342,7 +342,7 @@ TEST_F(BoxCaptionsTest, AllNumbers_WhileARecordWithoutABoxIsPlaced_StandInNoOthe
     givenBox(100, {3000, 500}, u"A009");
     P.Tools.MapCursorMode = MapCursor::Mapping;
 
-    DrawBoxCaptions(P);
+    DrawBoxCaptions(P, Sheet());
 
     EXPECT_TRUE(IsBlank(Picture));
 }
@@ -353,7 +353,7 @@ TEST_F(BoxCaptionsTest, AllNumbers_BoxAtImpossiblePlace_CostsNoOtherBoxItsNumber
     givenBox(0, {99999, 500}, u"A001");
     givenBox(1, {2000, 500}, u"A002");
 
-    DrawBoxCaptions(P);
+    DrawBoxCaptions(P, Sheet());
 
     Expected->PrintAt({2100, 500}, u"A002"_s);
     EXPECT_TRUE(SameDrawing(Picture, *Expected));
@@ -369,7 +369,7 @@ TEST_F(BoxCaptionsTest, AllRecords_EveryBoxThatHoldsARecord_GetsItsCaption)
     givenBox(99, {3000, 500}, u"A001");
     givenBox(98, {4000, 500}, u"");
 
-    DrawOwnCaptions(P);
+    DrawOwnCaptions(P, Sheet());
 
     Expected->PrintAt({1100, 500}, u"A002"_s);
     Expected->PrintAt({1050, 600}, u"Anne"_s);
@@ -386,7 +386,7 @@ TEST_F(BoxCaptionsTest, AllRecords_EmptyTable_IsQuiet)
     givenOpen(BranchA);
     givenBox(0, {1000, 500}, u"A001");
 
-    DrawOwnCaptions(P);
+    DrawOwnCaptions(P, Sheet());
 
     EXPECT_TRUE(IsBlank(Picture));
 }
@@ -396,8 +396,8 @@ TEST_F(BoxCaptionsTest, BoxWhoseRecordIsNotInTheTable_ShowsOnlyItsNumber)
     givenRecord(u"John");
     givenBox(0, {1000, 500}, u"A009");
 
-    DrawBoxCaptions(P);
-    DrawOwnCaptions(P);
+    DrawBoxCaptions(P, Sheet());
+    DrawOwnCaptions(P, Sheet());
 
     Expected->PrintAt({1100, 500}, u"A009"_s);
     EXPECT_TRUE(SameDrawing(Picture, *Expected));

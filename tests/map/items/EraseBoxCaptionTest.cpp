@@ -18,8 +18,8 @@ protected:
     // The captions without their boxes, so that every pixel that stays behind is one of theirs.
     void givenCaptionOf(int row)
     {
-        DrawBoxCaptions(P);
-        DrawOwnCaptions(P);
+        DrawBoxCaptions(P, Sheet());
+        DrawOwnCaptions(P, Sheet());
         Records(P.Form3).MoveFirst();
         ASSERT_FALSE(IsBlank(Picture)) << row;
     }
@@ -42,7 +42,7 @@ TEST_F(EraseBoxCaptionTest, CaptionInItsBox_LeavesTheInsideAsItWas)
 {
     givenRecord(u"Jo Anne");
     givenBox(7, {1000, 500}, u"A001", red);
-    DrawBox(P, 7);
+    DrawBox(P.Map, Sheet(), 7);
     givenCaptionOf(7);
 
     EraseBoxCaption(P);

@@ -33,7 +33,7 @@ protected:
         const QString database = P.Branch.sDbaseName;
         const Tree before = Home.Snapshot();
 
-        DrawBoxCaptions(P);
+        DrawBoxCaptions(P, Sheet());
 
         EXPECT_EQ(P.Branch.WorkDir, workDir);
         EXPECT_EQ(P.Branch.HomeDir, homeDir);

@@ -47,7 +47,7 @@ TEST_F(RedrawMapTest, EverythingUpToTheCounts_IsPainted)
     P.Map.SLines = 0;
     P.Map.STexts = 0;
 
-    RedrawMap(P);
+    RedrawMap(P, Sheet());
 
     Expected->ForeColor = red;
     Expected->Box({1000, 500, 615, 217});
@@ -67,7 +67,7 @@ TEST_F(RedrawMapTest, LinesLieAboveTexts_AndTextsAboveBoxes)
     givenLine(0, {1000, 500}, {1300, 500}, green);
     P.Map.SBoxes = P.Map.SLines = P.Map.STexts = 0;
 
-    RedrawMap(P);
+    RedrawMap(P, Sheet());
 
     Expected->ForeColor = red;
     Expected->Box({1000, 500, 615, 217});
@@ -86,7 +86,7 @@ TEST_F(RedrawMapTest, CaptionsLieAboveEverything)
     givenLine(0, {1000, 650}, {1600, 650}, green);
     P.Map.SBoxes = P.Map.SLines = 0;
 
-    RedrawMap(P);
+    RedrawMap(P, Sheet());
 
     Expected->ForeColor = red;
     Expected->Box({1000, 500, 615, 217});
@@ -105,7 +105,7 @@ TEST_F(RedrawMapTest, BoxesOfSiblings_GetTheirCaptions)
     givenBox(0, {1000, 500}, u"B001", red);
     P.Map.SBoxes = 0;
 
-    RedrawMap(P);
+    RedrawMap(P, Sheet());
 
     Expected->ForeColor = red;
     Expected->Box({1000, 500, 615, 217});
@@ -121,7 +121,7 @@ TEST_F(RedrawMapTest, EmptyTable_BoxesShowTheirNumbers)
     givenBox(0, {1000, 500}, u"A001", red);
     P.Map.SBoxes = 0;
 
-    RedrawMap(P);
+    RedrawMap(P, Sheet());
 
     Expected->ForeColor = red;
     Expected->Box({1000, 500, 615, 217});
@@ -136,7 +136,7 @@ TEST_F(RedrawMapTest, CurrentRecord_IsTheSameAfterwards)
     givenTwoRecords();
     Records(P.Form3).MoveNext();
 
-    RedrawMap(P);
+    RedrawMap(P, Sheet());
 
     EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A002"_s);
 }
@@ -147,7 +147,7 @@ TEST_F(RedrawMapTest, CurrentRecord_PositionSavedForAnotherWalkLongAgo_DoesNotCo
     P.Record.SavedBookmark = Records(P.Form3).GetBookmark();
     Records(P.Form3).MoveNext();
 
-    RedrawMap(P);
+    RedrawMap(P, Sheet());
 
     EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A002"_s);
 }
@@ -159,7 +159,7 @@ TEST_F(RedrawMapTest, BehindTheLastRecord_GoesBackToThePositionSavedBefore)
     P.Record.SavedBookmark = Records(P.Form3).GetBookmark();
     Records(P.Form3).MoveNext();
 
-    RedrawMap(P);
+    RedrawMap(P, Sheet());
 
     EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A002"_s);
 }
@@ -172,7 +172,7 @@ TEST_F(RedrawMapTest, BehindTheLastRecord_NoPositionSavedInThisDatabase_StaysThe
     Records(P.Form3).MoveLast();
     Records(P.Form3).MoveNext();
 
-    RedrawMap(P);
+    RedrawMap(P, Sheet());
 
     EXPECT_TRUE(Records(P.Form3).Eof());
 }
@@ -182,7 +182,7 @@ TEST_F(RedrawMapTest, FreeRows_AreNotPainted)
     givenTwoRecords();
     P.Map.SBoxes = P.Map.SLines = P.Map.STexts = 200;
 
-    RedrawMap(P);
+    RedrawMap(P, Sheet());
 
     EXPECT_TRUE(IsBlank(Picture));
 }
@@ -198,7 +198,7 @@ TEST_F(RedrawMapTest, ItemsWhosePositionIsNoNumber_AreNotPainted_AndCostNoOther)
     givenText(1, {1000, 5000}, u"Second", {}, blue);
     P.Map.SBoxes = P.Map.STexts = 1;
 
-    RedrawMap(P);
+    RedrawMap(P, Sheet());
 
     Expected->ForeColor = red;
     Expected->Box({2000, 500, 615, 217});
@@ -211,7 +211,7 @@ TEST_F(RedrawMapTest, NoItemsAtAll_IsQuiet)
 {
     givenTwoRecords();
 
-    RedrawMap(P);
+    RedrawMap(P, Sheet());
 
     EXPECT_TRUE(IsBlank(Picture));
 }
@@ -225,7 +225,7 @@ TEST_F(RedrawMapTest, AfterEachText_PenAndFontAreThoseInHandBefore)
     givenText(1, {1000, 5000}, u"Second", {u"Courier New"_s, 20}, blue);
     P.Map.STexts = 1;
 
-    RedrawMap(P);
+    RedrawMap(P, Sheet());
 
     EXPECT_EQ(Picture.ForeColor, red);
     EXPECT_EQ(Picture.Font, (TextFont{u"Arial"_s, 10, true}));
@@ -243,7 +243,7 @@ TEST_F(RedrawMapTest, AfterATextAnotherFontInHand_BecomesArial8NotBold)
     givenText(0, {1000, 4000}, u"First");
     P.Map.STexts = 0;
 
-    RedrawMap(P);
+    RedrawMap(P, Sheet());
 
     EXPECT_EQ(Picture.Font, TextFont{});
 }
@@ -259,7 +259,7 @@ TEST_F(RedrawMapTest, DrawnMap_LooksLikeTheOpenedOne)
     const QImage opened = ShownBy(Picture);
     Picture.Cls();
 
-    RedrawMap(P);
+    RedrawMap(P, Sheet());
 
     EXPECT_TRUE(ShownBy(Picture) == opened);
 }

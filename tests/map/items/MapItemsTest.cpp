@@ -19,7 +19,7 @@ TEST_F(MapItemsTest, Box_IsAnOutlineInItsColour)
 {
     givenBox(0, {1000, 500}, u"0", red);
 
-    DrawBox(P, 0);
+    DrawBox(P.Map, Sheet(), 0);
 
     for (const Point side : {Point{1000, 600}, {1615, 600}, {1300, 500}, {1300, 717}, {1000, 500}, {1615, 717}})
         EXPECT_EQ(ColourAt(Picture, side), red) << side.X << ", " << side.Y;
@@ -32,7 +32,7 @@ TEST_F(MapItemsTest, Box_InsideIsNotFilled)
     Picture.Line({1100, 600}, {1500, 600});
     givenBox(0, {1000, 500}, u"0", red);
 
-    DrawBox(P, 0);
+    DrawBox(P.Map, Sheet(), 0);
 
     EXPECT_EQ(CountPixels(Picture, red, {1010, 510, 595, 195}), 0);
     EXPECT_EQ(ColourAt(Picture, {1300, 600}), blue);
@@ -43,7 +43,7 @@ TEST_F(MapItemsTest, Box_LeavesThePenAsItWas)
     Picture.ForeColor = blue;
     givenBox(0, {1000, 500}, u"0", red);
 
-    DrawBox(P, 0);
+    DrawBox(P.Map, Sheet(), 0);
 
     EXPECT_EQ(Picture.ForeColor, blue);
     EXPECT_EQ(Picture.DrawWidth, 1);
@@ -53,7 +53,7 @@ TEST_F(MapItemsTest, Box_WordForAPosition_IsTypeMismatch)
 {
     P.Map.BoxArr[0][BoxColumn::X] = u"abc"_s;
 
-    EXPECT_EQ(RefusalOf([&] { DrawBox(P, 0); }), ErrorNumber::TypeMismatch);
+    EXPECT_EQ(RefusalOf([&] { DrawBox(P.Map, Sheet(), 0); }), ErrorNumber::TypeMismatch);
     EXPECT_TRUE(IsBlank(Picture));
 }
 
@@ -61,7 +61,7 @@ TEST_F(MapItemsTest, Line_RunsStraightFromStartToEndInItsColour)
 {
     givenLine(0, {1000, 500}, {2000, 1500}, red);
 
-    DrawLine(P, 0);
+    DrawLine(P.Map, Sheet(), 0);
 
     for (const Point place : {Point{1000, 500}, {1500, 1000}, {2000, 1500}})
         EXPECT_EQ(ColourAt(Picture, place), red) << place.X << ", " << place.Y;
@@ -74,7 +74,7 @@ TEST_F(MapItemsTest, Line_LeavesThePenAsItWas)
     Picture.ForeColor = blue;
     givenLine(0, {1000, 500}, {2000, 1500}, red);
 
-    DrawLine(P, 0);
+    DrawLine(P.Map, Sheet(), 0);
 
     EXPECT_EQ(Picture.ForeColor, blue);
 }
@@ -83,7 +83,7 @@ TEST_F(MapItemsTest, Text_StandsAtItsPlaceInItsFontAndColour)
 {
     givenText(0, {1000, 500}, u"The Smiths", {u"Courier New"_s, 20}, red);
 
-    DrawText(P, 0);
+    DrawText(P, Sheet(), 0);
 
     PictureByHand expected;
     expected->Font = {u"Courier New"_s, 20};
@@ -101,7 +101,7 @@ TEST_F(MapItemsTest, Text_NotInArial_FontGoesBackToArial8NotBold)
     Picture.Font.Bold = true;
     givenText(0, {1000, 500}, u"A", {u"Courier New"_s, 20});
 
-    DrawText(P, 0);
+    DrawText(P, Sheet(), 0);
 
     EXPECT_EQ(Picture.Font, TextFont{});
 }
@@ -110,7 +110,7 @@ TEST_F(MapItemsTest, Text_InArialOfAnotherSize_KeepsItsFontInHand)
 {
     givenText(0, {1000, 500}, u"A", {u"ARIAL"_s, 14});
 
-    DrawText(P, 0);
+    DrawText(P, Sheet(), 0);
 
     EXPECT_EQ(Picture.Font, (TextFont{u"ARIAL"_s, 14}));
 }
@@ -121,13 +121,13 @@ TEST_F(MapItemsTest, FreeRows_AreNeverPainted)
     givenLine(0, {0, 500}, {2000, 1500}, red);
     givenText(0, {0, 500}, u"A", {}, red);
 
-    DrawBox(P, 0);
-    DrawLine(P, 0);
-    DrawText(P, 0);
+    DrawBox(P.Map, Sheet(), 0);
+    DrawLine(P.Map, Sheet(), 0);
+    DrawText(P, Sheet(), 0);
     // Rows in which nothing has ever been stored.
-    DrawBox(P, 200);
-    DrawLine(P, 200);
-    DrawText(P, 200);
+    DrawBox(P.Map, Sheet(), 200);
+    DrawLine(P.Map, Sheet(), 200);
+    DrawText(P, Sheet(), 200);
 
     EXPECT_TRUE(IsBlank(Picture));
 }
@@ -139,9 +139,9 @@ TEST_F(MapItemsTest, FreeRows_AreNeverPrinted)
     givenLine(0, {0, 500}, {2000, 1500}, red);
     givenText(0, {0, 500}, u"A", {}, red);
 
-    DrawBox(P, 0);
-    DrawLine(P, 0);
-    DrawText(P, 0);
+    DrawBox(P.Map, Sheet(), 0);
+    DrawLine(P.Map, Sheet(), 0);
+    DrawText(P, Sheet(), 0);
 
     EXPECT_EQ(Page.Calls, QStringList());
 }
@@ -155,24 +155,12 @@ TEST_F(MapItemsTest, MapFont_IsArial8NotBold)
     EXPECT_EQ(Picture.Font, TextFont{});
 }
 
-TEST_F(MapItemsTest, Surface_IsThePictureUnlessABranchIsPrinted)
-{
-    EXPECT_EQ(&MapSurface(P), &Picture);
-    EXPECT_EQ(OnMapSurface(P, {1000, 500}, 30), (Point{1000, 500}));
-
-    givenPrinting();
-
-    EXPECT_EQ(&MapSurface(P), &Page);
-    EXPECT_EQ(OnMapSurface(P, {1000, 500}), (Point{2200, 900}));
-    EXPECT_EQ(OnMapSurface(P, {1000, 500}, 30), (Point{2200, 930}));
-}
-
 TEST_F(MapItemsTest, BoxOnPaper_IsShiftedAndStretched_WithABroadPen)
 {
     givenPrinting();
     givenBox(0, {1000, 500}, u"0", red);
 
-    DrawBox(P, 0);
+    DrawBox(P.Map, Sheet(), 0);
 
     EXPECT_EQ(Page.Take(), QStringList(u"Box 2200,900 615x390 pen 2 colour 255 mode 13"_s));
     EXPECT_TRUE(IsBlank(Picture));
@@ -183,7 +171,7 @@ TEST_F(MapItemsTest, LineOnPaper_IsShiftedAndStretchedAtBothEnds_WithABroadPen)
     givenPrinting();
     givenLine(0, {1000, 500}, {2000, 1500}, red);
 
-    DrawLine(P, 0);
+    DrawLine(P.Map, Sheet(), 0);
 
     EXPECT_EQ(Page.Take(), QStringList(u"Line 2200,900 3200,2700 pen 2 colour 255 mode 13"_s));
     EXPECT_TRUE(IsBlank(Picture));
@@ -195,7 +183,7 @@ TEST_F(MapItemsTest, ArialTextOnPaper_IsPrintedInCourier7NotBold)
     Page.Font.Bold = true;
     givenText(0, {1000, 500}, u"The Smiths", {u"arial"_s, 14}, red);
 
-    DrawText(P, 0);
+    DrawText(P, Sheet(), 0);
 
     EXPECT_EQ(Page.Take(), QStringList(u"Print 2200,900 \"The Smiths\" Courier 7 colour 255"_s));
     EXPECT_TRUE(IsBlank(Picture));
@@ -206,7 +194,7 @@ TEST_F(MapItemsTest, OtherTextOnPaper_KeepsItsFont)
     givenPrinting();
     givenText(0, {1000, 500}, u"The Smiths", {u"Times New Roman"_s, 14}, red);
 
-    DrawText(P, 0);
+    DrawText(P, Sheet(), 0);
 
     EXPECT_EQ(Page.Take(), QStringList(u"Print 2200,900 \"The Smiths\" Times New Roman 14 colour 255"_s));
 }
@@ -215,11 +203,11 @@ TEST_F(MapItemsTest, AfterATextOnPaper_PictureFontThatIsntArial_BecomesCourier7)
 {
     givenPrinting();
     givenText(0, {1000, 500}, u"A", {u"Times New Roman"_s, 14});
-    DrawText(P, 0);
+    DrawText(P, Sheet(), 0);
     EXPECT_EQ(Picture.Font, TextFont{});
 
     Picture.Font = {u"Times New Roman"_s, 14};
-    DrawText(P, 0);
+    DrawText(P, Sheet(), 0);
     EXPECT_EQ(Picture.Font, (TextFont{u"Courier"_s, 7}));
 }
 

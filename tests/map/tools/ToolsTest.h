@@ -150,7 +150,7 @@ protected:
     QImage Afresh()
     {
         Picture.Cls();
-        RedrawMap(P);
+        RedrawMap(P, MapOnScreen(P));
         return Shown();
     }
     // Whether the picture was, until now, what that gives.
