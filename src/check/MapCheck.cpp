@@ -100,7 +100,7 @@ std::vector<std::vector<Cell>> ItemsOf(const QString& list, std::size_t columns)
 void CheckItem(Home& home, const QString& path, const ItemKind& kind, const std::vector<Cell>& item, int number)
 {
     const QString name = kind.Name + u' ' + QString::number(number);
-    if (item.front().IsZero()) {
+    if (IsFreeRow(item)) {
         home.Add(Kind::MapItem, path,
                  name + u" stands at X = 0, so that it isn't shown and is gone at the next saving");
         return;
@@ -136,7 +136,7 @@ QStringList PeopleOf(const MapState& map)
     QStringList people;
     for (const std::vector<Cell>& box : ItemsOf(map.sBoxesText, BoxColumn::Count))
         if (people.size() <= LastFiledBox)
-            people += box[BoxColumn::X].IsZero() ? QString() : box[BoxColumn::File].Text();
+            people += IsFreeRow(box) ? QString() : box[BoxColumn::File].Text();
     return people;
 }
 

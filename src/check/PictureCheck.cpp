@@ -4,6 +4,7 @@
 #include "platform/base/Text.h"
 #include "platform/drawing/PictureFile.h"
 #include "program/branch/BranchPaths.h"
+#include "program/state/PictureNames.h"
 
 #include <algorithm>
 
@@ -14,8 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-constexpr QStringView pictureEnding = u"Sub.jpg";
-
 // A decoder that knows how little is wanted saves itself most of the work.
 QSize Smaller(QSize size)
 {
@@ -28,10 +27,10 @@ QSet<QString> CheckPictures(Home& home, const Branch& branch)
 {
     QSet<QString> shown;
     for (const QString& name : home.FilesOf(branch.Path)) {
-        if (!SameText(name.right(pictureEnding.size()), pictureEnding))
+        if (!SameText(name.right(SubjectPictureEnding.size()), SubjectPictureEnding))
             continue;
         const QString path = branch.Path + PathSeparator + name;
-        const QString number = name.chopped(pictureEnding.size());
+        const QString number = name.chopped(SubjectPictureEnding.size());
         ++home.Report.Seen.Pictures;
         shown.insert(Folded(number));
         if (branch.Records && !branch.Numbers.contains(Folded(number)))

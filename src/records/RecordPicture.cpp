@@ -4,16 +4,15 @@
 #include "map/subjects/RecordFormPicture.h"
 #include "map/subjects/SubjectPanel.h"
 #include "program/branch/BranchPaths.h"
+#include "program/state/PictureNames.h"
 
 namespace lineforge
 {
 
-using namespace Qt::StringLiterals;
-
 void ShowRecordPicture(const SubjectPictures& pictures, const QString& directory)
 {
     pictures.Record.sCurFile = pictures.Form3->Label25.Caption;
-    pictures.Record.sPicSuffix = u"Sub.jpg"_s;
+    pictures.Record.sPicSuffix = SubjectPictureEnding.toString();
     pictures.Record.sPicFile = pictures.Record.sCurFile + pictures.Record.sPicSuffix;
     PutRecordPicture(pictures.Branch, pictures.Form3,
                      PictureOrNone(pictures.Pictures, pictures.Files, directory + pictures.Record.sPicFile));

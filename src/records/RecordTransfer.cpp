@@ -16,6 +16,7 @@
 #include "program/branch/BranchPaths.h"
 #include "program/branch/ComeBackAfterwards.h"
 #include "program/branch/SiblingBranch.h"
+#include "program/state/PictureNames.h"
 #include "program/state/Program.h"
 #include "program/state/RecordFields.h"
 
@@ -80,7 +81,7 @@ std::optional<Source> ReadSource(Program& p, const Bookmark& asked)
 
 QString PictureFile(const QString& workDir, const QString& file)
 {
-    return workDir + PathSeparator + file + u"sub.jpg";
+    return workDir + PathSeparator + file + TransferredPictureEnding;
 }
 
 // False when that branch isn't there, or can't be opened: the own one is then as it was.

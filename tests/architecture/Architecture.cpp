@@ -80,7 +80,7 @@ const QList<Room>& Rooms()
           u"qt/text"_s, u"qt/views"_s}},
         {u"check"_s,
          {u"gallery"_s, u"map/items"_s, u"platform/base"_s, u"platform/drawing"_s, u"platform/files"_s,
-          u"platform/store"_s, u"program/branch"_s}},
+          u"platform/store"_s, u"program/branch"_s, u"program/state"_s}},
         {u"map/subjects"_s,
          {u"forms"_s, u"map/items"_s, u"platform/base"_s, u"platform/drawing"_s, u"platform/files"_s,
           u"platform/machine"_s, u"platform/store"_s, u"program/branch"_s, u"program/state"_s, u"program/ui"_s}},

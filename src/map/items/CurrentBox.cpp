@@ -46,7 +46,7 @@ int RowOfRecord(const MapState& map, const FieldValue& file)
 bool HasPlace(const MapState& map, int row)
 {
     const auto& box = map.BoxArr[row];
-    return !box[BoxColumn::X].IsZero() && FitsPlace(box[BoxColumn::X], BoxCentreX - markerOffset) &&
+    return !IsFreeRow(box) && FitsPlace(box[BoxColumn::X], BoxCentreX - markerOffset) &&
            FitsPlace(box[BoxColumn::Y], BoxCentreY - markerOffset);
 }
 

@@ -19,11 +19,6 @@ bool IsBetween(int value, int one, int other)
     return value > std::min(one, other) && value < std::max(one, other);
 }
 
-bool IsFree(const LineRow& line)
-{
-    return line[LineColumn::X1] == 0;
-}
-
 Point StartOf(const LineRow& line)
 {
     return {line[LineColumn::X1], line[LineColumn::Y1]};
@@ -63,7 +58,7 @@ void AddNeighbours(Program& p, const LineRow& line)
 {
     for (int row = 0; row <= p.Map.SLines && !IsChainFull(p); ++row) {
         const LineRow& other = p.Map.LineArr[row];
-        if (IsFree(other))
+        if (IsFreeRow(other))
             continue;
         if (StartOf(line) == EndOf(other) || StartOf(line) == StartOf(other))
             AddToChain(p, row);
@@ -92,7 +87,7 @@ void FindLine(Program& p)
     for (int entry = 0; entry <= lastOfChain; ++entry)
         p.Map.LineChain[entry] = 0;
     int row = 0;
-    while (row <= p.Map.SLines && (IsFree(p.Map.LineArr[row]) || !IsLineHit(p.Map.LineArr[row], press)))
+    while (row <= p.Map.SLines && (IsFreeRow(p.Map.LineArr[row]) || !IsLineHit(p.Map.LineArr[row], press)))
         ++row;
     p.Tools.LineMiss = row > p.Map.SLines ? 1 : 0;
     p.Tools.ChainTop = 0;
@@ -126,7 +121,7 @@ void HitLine(Program& p)
 bool FindsLine(Program& p)
 {
     HitLine(p);
-    if (p.Tools.LineMiss == 0 && IsFree(p.Map.LineArr[p.Map.LineChain[0]]))
+    if (p.Tools.LineMiss == 0 && IsFreeRow(p.Map.LineArr[p.Map.LineChain[0]]))
         p.Tools.LineMiss = 1;
     return p.Tools.LineMiss == 0;
 }

@@ -197,7 +197,7 @@ QString ListOfBoxes(const MapState& map)
     QString list;
     for (int row = 0; row <= LastFiledBox; ++row) {
         const auto& box = map.BoxArr[row];
-        if (box[BoxColumn::X].IsZero())
+        if (IsFreeRow(box))
             continue;
         for (int column = 0; column < BoxColumn::File; ++column)
             list += box[column].Text() + u',';
@@ -210,7 +210,7 @@ QString ListOfLines(const MapState& map)
 {
     QString list;
     for (int row = 0; row <= LastFiledLine; ++row) {
-        if (map.LineArr[row][LineColumn::X1] == 0)
+        if (IsFreeRow(map.LineArr[row]))
             continue;
         for (int column = 0; column < LineColumn::Count; ++column)
             list += QString::number(map.LineArr[row][column]) + u',';
@@ -222,7 +222,7 @@ QString ListOfTexts(const MapState& map)
 {
     QString list;
     for (int row = 0; row <= map.STexts; ++row) {
-        if (map.TextArr[row][TextColumn::X].IsZero())
+        if (IsFreeRow(map.TextArr[row]))
             continue;
         for (int column = 0; column < TextColumn::Count; ++column)
             list += map.TextArr[row][column].Text() + u',';

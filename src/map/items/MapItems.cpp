@@ -80,7 +80,7 @@ void ClearMapPicture(Program& p)
 void DrawBox(const MapState& map, const MapSheet& sheet, int row)
 {
     const auto& box = map.BoxArr[row];
-    if (!box[BoxColumn::X].IsZero())
+    if (!IsFreeRow(box))
         DrawBoxIn(map, sheet, row, ColourOf(box[BoxColumn::Colour]));
 }
 
@@ -95,7 +95,7 @@ void DrawBoxIn(const MapState& map, const MapSheet& sheet, int row, Colour pen)
 void DrawLine(const MapState& map, const MapSheet& sheet, int row)
 {
     const auto& line = map.LineArr[row];
-    if (line[LineColumn::X1] != 0)
+    if (!IsFreeRow(line))
         DrawLineIn(map, sheet, row, static_cast<Colour>(line[LineColumn::Colour]));
 }
 
@@ -109,7 +109,7 @@ void DrawLineIn(const MapState& map, const MapSheet& sheet, int row, Colour pen)
 
 void DrawText(Program& p, const MapSheet& sheet, int row)
 {
-    if (!p.Map.TextArr[row][TextColumn::X].IsZero())
+    if (!IsFreeRow(p.Map.TextArr[row]))
         DrawTextWith(p, sheet, row, {});
 }
 

@@ -120,12 +120,8 @@ bool EmptySubjectIfNoRecords(Program& p)
 {
     if (!TellIfEmptyTable(Records(p.Form3), p.Prompts))
         return false;
-    EmptySubjectLabels(*p.Form1,
-                       {&forms::Form1::Label9, &forms::Form1::Label10, &forms::Form1::Label11, &forms::Form1::Label12,
-                        &forms::Form1::Label14, &forms::Form1::Label17},
-                       u"Ref  "_s);
     // The picture of the branch before would stand for nobody here.
-    p.Form1->Image1.Picture = QImage();
+    EmptySubjectPanel(*p.Form1, EmptiedBy::BranchWithoutRecords);
     return true;
 }
 

@@ -7,6 +7,10 @@
 #include "program/state/Program.h"
 #include "program/ui/BranchUi.h"
 
+#include <algorithm>
+#include <array>
+#include <iterator>
+
 namespace lineforge
 {
 
@@ -30,7 +34,20 @@ constexpr PanelField panelFields[] = {
     {&forms::Form1::Label17, &forms::Form3::Text23, Field::Gender},
 };
 
-const QString frameWithoutNumber = u"Ref  "_s;
+constexpr QStringView frameWithoutNumber = u"Ref  ";
+
+struct Emptying {
+    EmptiedBy Command;
+    QStringView Frame;
+    std::array<Label forms::Form1::*, 2> Kept; // the other labels are emptied
+};
+
+constexpr Emptying emptyings[] = {
+    {EmptiedBy::NewBranch, {}, {&forms::Form1::Label15, &forms::Form1::Label17}},
+    {EmptiedBy::BranchWithoutRecords, frameWithoutNumber, {&forms::Form1::Label15}},
+    {EmptiedBy::CloseBranch, frameWithoutNumber, {&forms::Form1::Label15}},
+    {EmptiedBy::DeleteBranch, {}, {}},
+};
 
 // Whether the labels show a record that the frame above them doesn't name, or nobody beside somebody's picture.
 bool HasGoneOn(Window<forms::Form1>& mainWindow, Window<forms::Form3>& recordForm)
@@ -65,11 +82,15 @@ void FillSubjectLabels(Window<forms::Form1>& mainWindow, Window<forms::Form3>& r
     mainWindow->Frame1.Caption = frameWithoutNumber + recordForm->Label25.Caption.value();
 }
 
-void EmptySubjectLabels(forms::Form1& form, std::initializer_list<Label forms::Form1::*> labels, const QString& frame)
+void EmptySubjectPanel(forms::Form1& form, EmptiedBy command)
 {
-    for (Label forms::Form1::*label : labels)
-        (form.*label).Caption = QString();
-    form.Frame1.Caption = frame;
+    const auto* emptying = std::ranges::find(emptyings, command, &Emptying::Command);
+    Q_ASSERT(emptying != std::end(emptyings));
+    for (const PanelField& field : panelFields)
+        if (std::ranges::find(emptying->Kept, field.Shown) == std::end(emptying->Kept))
+            (form.*field.Shown).Caption = QString();
+    form.Frame1.Caption = emptying->Frame.toString();
+    form.Image1.Picture = QImage();
 }
 
 void LoadSubjectPicture(const SubjectPictures& pictures, Image& target)
@@ -112,7 +133,7 @@ void PartFromFormerSubject(Window<forms::Form1>& mainWindow, Window<forms::Form3
 {
     if (!HasGoneOn(mainWindow, recordForm))
         return;
-    mainWindow->Frame1.Caption = frameWithoutNumber;
+    mainWindow->Frame1.Caption = frameWithoutNumber.toString();
     mainWindow->Image1.Picture = QImage();
 }
 

@@ -10,8 +10,6 @@
 #include "program/state/RecordState.h"
 #include "program/state/Windows.h"
 
-#include <initializer_list>
-
 namespace lineforge
 {
 
@@ -45,8 +43,11 @@ void BindSubjectLabels(forms::Form1& shown, forms::Form3& record);
 // Copies the record form's boxes into the labels, and the record's number into the frame's caption.
 void FillSubjectLabels(Window<forms::Form1>& mainWindow, Window<forms::Form3>& recordForm);
 
-// Empties those labels; which ones, and what the frame then says, differs from command to command.
-void EmptySubjectLabels(forms::Form1& form, std::initializer_list<Label forms::Form1::*> labels, const QString& frame);
+// The commands that leave nobody in the panel.
+enum class EmptiedBy { NewBranch, BranchWithoutRecords, CloseBranch, DeleteBranch };
+
+// Empties the panel. Which labels keep their text, and what the frame then says, differs from command to command.
+void EmptySubjectPanel(forms::Form1& form, EmptiedBy command);
 
 // The subject picture of the record in `sPicFile`. Error 53 or 481 when it can't be loaded; the panel then keeps what
 // it shows.

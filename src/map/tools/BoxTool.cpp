@@ -73,8 +73,7 @@ void PutSubjectDown(Program& p)
 Pressed BeginBox(Program& p, const Pointing& pointing)
 {
     PictureBox& picture = p.Form1->Picture1;
-    p.Tools.NewRow =
-        TakeRow(p.Map.SBoxes, LastFiledBox, [&](int row) { return p.Map.BoxArr[row][BoxColumn::X].IsZero(); });
+    p.Tools.NewRow = TakeRow(p.Map.BoxArr, p.Map.SBoxes, LastFiledBox);
     p.Tools.PenSave = picture.ForeColor;
     picture.ForeColor = p.Form1->CommonDialog1.Color;
     DrawNewOutline(p);

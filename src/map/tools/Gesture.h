@@ -21,15 +21,15 @@ enum class Pressed { No, Yes };
 // Whether a release is followed by a full repainting of the map.
 enum class Released { AsItStands, Repaint };
 
-// The row of a new item, which the count covers from now on: the first free one above it. After a deletion there are
-// items above the count, whose rows they keep. Where that would be no row that is saved it is the first free row of
-// all; none of those above the count is free then, and they count again. Only on a full map it is one that isn't saved,
-// or the one behind the last.
-template <class IsFree>
-int TakeRow(int& count, int lastSaved, IsFree&& isFree)
+// The row of a new item among those, which the count covers from now on: the first free one above it. After a deletion
+// there are items above the count, whose rows they keep. Where that would be no row that is saved it is the first free
+// row of all; none of those above the count is free then, and they count again. Only on a full map it is one that isn't
+// saved, or the one behind the last.
+template <class Rows>
+int TakeRow(const Rows& rows, int& count, int lastSaved)
 {
     const auto firstFree = [&](int row) {
-        while (row <= LastMapRow && !isFree(row))
+        while (row <= LastMapRow && !IsFreeRow(rows[row]))
             ++row;
         return row;
     };

@@ -21,19 +21,14 @@ FixedArray<int, 0, 4>& NewLine(Program& p)
     return p.Map.LineArr[p.Tools.NewRow];
 }
 
-bool IsFree(const Program& p, int row)
-{
-    return p.Map.LineArr[row][LineColumn::X1] == 0;
-}
-
 // Of the line drawn last, wherever its row is; where there is none any more, of the one nearest before the new line,
 // which is the highest of all for one in a low row. Negative before the first of all.
 int RowOfLineBefore(const Program& p)
 {
-    if (p.Tools.LineRow >= 0 && !IsFree(p, p.Tools.LineRow))
+    if (p.Tools.LineRow >= 0 && !IsFreeRow(p.Map.LineArr[p.Tools.LineRow]))
         return p.Tools.LineRow;
     int row = p.Tools.NewRow < p.Map.SLines ? p.Map.SLines : p.Tools.NewRow - 1;
-    while (row >= 0 && IsFree(p, row))
+    while (row >= 0 && IsFreeRow(p.Map.LineArr[row]))
         --row;
     return row;
 }
@@ -138,7 +133,7 @@ void WipeWhereTheChainLay(Program& p)
 Pressed BeginLine(Program& p, const Pointing& pointing)
 {
     p.Tools.CountSave = p.Map.SLines;
-    p.Tools.NewRow = TakeRow(p.Map.SLines, LastFiledLine, [&](int row) { return IsFree(p, row); });
+    p.Tools.NewRow = TakeRow(p.Map.LineArr, p.Map.SLines, LastFiledLine);
     if (pointing.Holds(ShiftMask::Ctrl)) {
         const Point end = EndOfLineBefore(p);
         p.Mouse.DownX = end.X;

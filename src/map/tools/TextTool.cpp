@@ -84,8 +84,7 @@ void HitText(Program& p)
 Pressed PlaceText(Program& p, const Pointing& pointing)
 {
     PictureBox& picture = p.Form1->Picture1;
-    const int row =
-        TakeRow(p.Map.STexts, LastMapRow, [&](int at) { return p.Map.TextArr[at][TextColumn::X].IsZero(); });
+    const int row = TakeRow(p.Map.TextArr, p.Map.STexts, LastMapRow);
     p.Scratch.sInput = p.Prompts.InputBox(u"New Text Input"_s, u"Enter the Text for display on the Tree Map"_s);
     const Point place{pointing.At.X, pointing.At.Y - abovePress};
     KeepPenAndFont(p);

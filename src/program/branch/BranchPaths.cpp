@@ -2,6 +2,7 @@
 
 #include "platform/base/Text.h"
 #include "platform/files/FileSystem.h"
+#include "program/state/PictureNames.h"
 
 #include <algorithm>
 
@@ -64,7 +65,7 @@ QString DatabasePath(const QString& workDir)
 
 QString SubjectPictureFile(const QString& workDir, const QString& file)
 {
-    return workDir + PathSeparator + file + u"Sub.jpg";
+    return workDir + PathSeparator + file + SubjectPictureEnding;
 }
 
 QString MapFileToRead(const QString& workDir)

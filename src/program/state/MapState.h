@@ -82,6 +82,18 @@ inline constexpr int Colour = 5;
 inline constexpr int Count = 6; // column 6 of the array is never used
 } // namespace TextColumn
 
+// Whether a row of one of the three is free.
+template <class Row>
+bool IsFreeRow(const Row& row)
+{
+    static_assert(BoxColumn::X == 0 && LineColumn::X1 == 0 && TextColumn::X == 0);
+    const auto& x = row[0];
+    if constexpr (requires { x.IsZero(); })
+        return x.IsZero();
+    else
+        return x == 0;
+}
+
 inline constexpr int LastMapRow = 200;
 // The map file holds the boxes of rows 0 to 99 only, and all look-ups of records go no further.
 inline constexpr int LastFiledBox = 99;

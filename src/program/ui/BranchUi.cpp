@@ -2,6 +2,7 @@
 
 #include "forms/Form1.h"
 #include "forms/Form3.h"
+#include "program/state/PictureNames.h"
 
 namespace lineforge
 {
@@ -52,7 +53,7 @@ void ClearMapCursor(ToolState& tools, Screen& screen)
 void SetPictureName(RecordState& record, const forms::Form3& form)
 {
     record.sCurFile = form.Label25.Caption;
-    record.sPicFile = record.sCurFile + u"Sub.Jpg";
+    record.sPicFile = record.sCurFile + ToldPictureEnding;
 }
 
 void TellNoBranch(Prompts& prompts)

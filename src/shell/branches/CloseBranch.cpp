@@ -17,8 +17,6 @@
 namespace lineforge
 {
 
-using namespace Qt::StringLiterals;
-
 void CloseBranch(Program& p)
 {
     LeaveToolsIfOpen(p);
@@ -30,14 +28,10 @@ void CloseBranch(Program& p)
     p.Branch.UsingAlternate = 0;
 
     forms::Form1& form = *p.Form1;
-    EmptySubjectLabels(*p.Form1,
-                       {&forms::Form1::Label9, &forms::Form1::Label10, &forms::Form1::Label11, &forms::Form1::Label12,
-                        &forms::Form1::Label14, &forms::Form1::Label17},
-                       u"Ref  "_s);
+    EmptySubjectPanel(*p.Form1, EmptiedBy::CloseBranch);
     // It is meant to keep its text, whatever has been stored meanwhile.
     form.Label15.Caption = maidenName;
     form.Picture1.Cls();
-    form.Image1.Picture = QImage();
     form.Shape1.Visible = false;
 
     p.Branch.sDbaseName.clear();

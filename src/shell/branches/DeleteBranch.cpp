@@ -83,11 +83,7 @@ void RemoveDirectory(Program& p, const QString& directory)
 void ShowNoBranch(Program& p)
 {
     forms::Form1& form = *p.Form1;
-    EmptySubjectLabels(*p.Form1,
-                       {&forms::Form1::Label9, &forms::Form1::Label10, &forms::Form1::Label11, &forms::Form1::Label12,
-                        &forms::Form1::Label14, &forms::Form1::Label15, &forms::Form1::Label17},
-                       QString());
-    form.Image1.Picture = QImage();
+    EmptySubjectPanel(*p.Form1, EmptiedBy::DeleteBranch);
     form.Shape1.Visible = false;
     form.Caption = u"Lineforge. "_s;
 }

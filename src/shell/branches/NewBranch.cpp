@@ -95,13 +95,8 @@ bool MakeDirectories(Program& p)
 
 void ShowNoSubject(Program& p)
 {
-    forms::Form1& form = *p.Form1;
-    form.Shape1.Visible = false;
-    EmptySubjectLabels(*p.Form1,
-                       {&forms::Form1::Label9, &forms::Form1::Label10, &forms::Form1::Label11, &forms::Form1::Label12,
-                        &forms::Form1::Label14},
-                       QString());
-    form.Image1.Picture = QImage();
+    p.Form1->Shape1.Visible = false;
+    EmptySubjectPanel(*p.Form1, EmptiedBy::NewBranch);
     p.Form4->Hide();
 }
 

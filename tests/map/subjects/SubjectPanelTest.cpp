@@ -65,19 +65,48 @@ INSTANTIATE_TEST_SUITE_P(
            PanelField{u"Spouse"_s, &forms::Form1::Label14}, PanelField{u"Maiden"_s, &forms::Form1::Label15},
            PanelField{u"Gender"_s, &forms::Form1::Label17}));
 
-TEST_F(SubjectPanelTest, Empty_EmptiesTheNamedLabelsOnly)
+// What a command leaves in the panel.
+struct Emptied {
+    EmptiedBy Command;
+    QStringView MaidenName;
+    QStringView Gender;
+    QStringView Frame;
+};
+
+void PrintTo(const Emptied& emptied, std::ostream* out)
 {
-    P.Form1->Label9.Caption = u"John"_s;
-    P.Form1->Label10.Caption = u"Smith"_s;
-    P.Form1->Label15.Caption = u"kept"_s;
-
-    EmptySubjectLabels(*P.Form1, {&forms::Form1::Label9, &forms::Form1::Label10}, u"Ref  "_s);
-
-    EXPECT_EQ(P.Form1->Label9.Caption, QString());
-    EXPECT_EQ(P.Form1->Label10.Caption, QString());
-    EXPECT_EQ(P.Form1->Label15.Caption, u"kept"_s);
-    EXPECT_EQ(P.Form1->Frame1.Caption.value(), u"Ref  "_s);
+    constexpr const char* commands[] = {"NewBranch", "BranchWithoutRecords", "CloseBranch", "DeleteBranch"};
+    *out << commands[static_cast<int>(emptied.Command)];
 }
+
+class EmptiedPanelTest : public SubjectPanelTest, public WithParamInterface<Emptied>
+{
+};
+
+TEST_P(EmptiedPanelTest, HoldsNoPicture_AndOnlyTheTextsThatTheCommandLeaves)
+{
+    forms::Form1& form = *P.Form1;
+    for (Label* label :
+         {&form.Label9, &form.Label10, &form.Label11, &form.Label12, &form.Label14, &form.Label15, &form.Label17})
+        label->Caption = u"kept"_s;
+    form.Frame1.Caption = u"Ref  A001"_s;
+    form.Image1.Picture = QImage(1, 1, QImage::Format_RGB32);
+
+    EmptySubjectPanel(*P.Form1, GetParam().Command);
+
+    for (const Label* label : {&form.Label9, &form.Label10, &form.Label11, &form.Label12, &form.Label14})
+        EXPECT_EQ(label->Caption.value(), QString());
+    EXPECT_EQ(form.Label15.Caption.value(), GetParam().MaidenName.toString());
+    EXPECT_EQ(form.Label17.Caption.value(), GetParam().Gender.toString());
+    EXPECT_EQ(form.Frame1.Caption.value(), GetParam().Frame.toString());
+    EXPECT_TRUE(form.Image1.Picture.value().isNull());
+}
+
+INSTANTIATE_TEST_SUITE_P(Commands, EmptiedPanelTest,
+                         Values(Emptied{EmptiedBy::NewBranch, u"kept", u"kept", u""},
+                                Emptied{EmptiedBy::BranchWithoutRecords, u"kept", u"", u"Ref  "},
+                                Emptied{EmptiedBy::CloseBranch, u"kept", u"", u"Ref  "},
+                                Emptied{EmptiedBy::DeleteBranch, u"", u"", u""}));
 
 TEST_F(SubjectPanelTest, Picture_OfTheRecord_IsShown)
 {
