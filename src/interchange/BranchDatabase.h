@@ -10,7 +10,7 @@ namespace lineforge
 // ".../LfgDat_X/LfgDat_X.mdb".
 
 // The path chosen; nothing for Cancel.
-std::optional<QString> AskDatabase(Prompts& prompts, const QString& title);
+[[nodiscard]] std::optional<QString> AskDatabase(Prompts& prompts, const QString& title);
 
 // Whether that can be the database of a branch; tells the user why it can't. `notDatabase` is the text for a file of
 // another kind.

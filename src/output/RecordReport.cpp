@@ -135,6 +135,7 @@ void WriteRecordToFile(const Recordset& record, const OutputState& output, Scrat
 {
     if (record.Eof())
         return;
+    Q_ASSERT(output.TextFile);
     TextWriter& file = *output.TextFile;
     file.Line(u"     ANCESTRAL RECORD ", record.Text(Field::File));
     file.Line({});
@@ -176,6 +177,7 @@ void PrintRecord(Recordset& record, const OutputState& output, Printer& printer,
 QString RecordAsText(Window<forms::Form3>& recordForm, ScratchState& scratch)
 {
     const Recordset& record = Records(recordForm);
+    Q_ASSERT(record.HasRow());
     QString text = u"           Data Ref:      "_s + recordForm->Label25.Caption.value() + u'\n';
     for (const ClipboardLine& line : clipboardLines) {
         const QString value = record.Text(line.Field);

@@ -24,7 +24,7 @@ void ShowRecordForm(Program& p);
 void ReturnToTree(Program& p);
 
 // The first half of that, without ending a mapping. False when the database refuses to tell the current record.
-bool CarryRecordToMap(Program& p);
+[[nodiscard]] bool CarryRecordToMap(Program& p);
 
 // Shows the subject picture by itself; a picture that isn't there is told, and empties the main window's panel.
 void EnlargeSubjectPicture(Program& p);

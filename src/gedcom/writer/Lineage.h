@@ -15,7 +15,7 @@ struct LineageAbandoned {
 void CollectLineage(const LineageSearch& search);
 
 // Whether the open branch's own database is what the records are read from.
-bool ReadsOpenBranch(const BranchState& branch, Window<forms::Form3>& recordForm);
+[[nodiscard]] bool ReadsOpenBranch(const BranchState& branch, Window<forms::Form3>& recordForm);
 
 // What follows most of the panel's lines: yields. LineageAbandoned when the branch has been left meanwhile.
 void LineageStep(const LineageSearch& search);

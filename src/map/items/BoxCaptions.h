@@ -48,7 +48,7 @@ void TieBox(Program& p, int row, const QString& file, const QString& forename);
 void RenameBox(Program& p, int row, const QString& forename);
 
 // The row of the current record's box, for `EmptyBox`; nothing without a box, or where it is the last.
-std::optional<int> RowToErase(Program& p);
+[[nodiscard]] std::optional<int> RowToErase(Program& p);
 
 // Wipes the caption of that row's box and empties the box. The pen is black afterwards.
 void EmptyBox(Program& p, int row);

@@ -19,7 +19,7 @@ bool PressIsInBox(const Program& p, int row);
 
 // The first box of the rows 0 to `SBoxes` that the last press lies inside; with `SBoxes` 0 there is none. Nothing is
 // kept.
-std::optional<int> PressedRow(const Program& p);
+[[nodiscard]] std::optional<int> PressedRow(const Program& p);
 
 // Looks for the first box under the last press, rows 0 to `SBoxes`. `BoxIdx` becomes its row, or the row behind
 // `SBoxes`, and `BoxMiss` tells which. With `SBoxes` 0 both stay as they were.
@@ -27,6 +27,6 @@ void HitBox(Program& p);
 
 // The same, and whether there is a box where it was found: with `SBoxes` 0 the hit before stands, maybe on one that is
 // gone or at no possible place, which is a miss.
-bool FindsBox(Program& p);
+[[nodiscard]] bool FindsBox(Program& p);
 
 } // namespace lineforge

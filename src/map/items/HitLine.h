@@ -12,7 +12,7 @@ void HitLine(Program& p);
 
 // The same, and whether there is a line where it was found: with `SLines` 0 the hit before stands, maybe on one that is
 // gone, which is a miss.
-bool FindsLine(Program& p);
+[[nodiscard]] bool FindsLine(Program& p);
 
 // Whether a press there hits that line: the rule for lines is no distance. A level or upright line is met within 20
 // twips of either side, a slanted one in parts of its rectangle, other parts when it falls than when it rises.

@@ -8,6 +8,7 @@
 #include <QScopeGuard>
 
 #include <algorithm>
+#include <tuple>
 
 namespace lineforge
 {
@@ -151,7 +152,7 @@ void ReadMapFile(Program& p)
                          u"You need to create a new Ancestral Map for this Database."_s, Buttons::Information);
         return;
     }
-    ReadMapLists(p.Files, file, p.Map);
+    std::ignore = ReadMapLists(p.Files, file, p.Map); // what is missing comes out empty
     WarnOfFirstEmptyList(p);
 }
 

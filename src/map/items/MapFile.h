@@ -27,7 +27,7 @@ void ReadMapFile(Program& p);
 
 // Fills the three lists from that file; false when it lacks one of them. Error 53 or 70 when it can't be read, 62 as
 // above; the lists then hold what was read.
-bool ReadMapLists(const FileSystem& files, const QString& path, MapState& map);
+[[nodiscard]] bool ReadMapLists(const FileSystem& files, const QString& path, MapState& map);
 
 // Writes the three lists, the old file becoming the previous generation. The file goes to the branch whose map is in
 // memory, also while a record of another branch is shown; lists of no branch, or of another one, are not written.

@@ -19,6 +19,7 @@ inline bool CountsAsEmpty(const QString& list)
 template <class Store>
 int ForEachValue(const QString& list, int columns, Store&& store)
 {
+    Q_ASSERT(columns > 0);
     int row = 0;
     int column = 0;
     qsizetype start = 0;

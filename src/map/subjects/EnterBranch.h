@@ -16,14 +16,14 @@ void ReturnToOwnSubject(Program& p);
 // its map. The menus stay as they are. False, and a box, when the database can't be opened: name and directory are
 // those of the branch all the same, and no records are open any more. Whatever fails after that costs only its own part
 // of the map. What is typed is stored before, or told and given up.
-bool EnterBranch(Program& p, const QString& name, const QString& directory);
+[[nodiscard]] bool EnterBranch(Program& p, const QString& name, const QString& directory);
 
 // The current record, which must be there, beside the map, and the branch's name in the captions. A picture that isn't
 // there is told.
 void ShowFirstSubject(Program& p);
 
 // Whether the branch that has been entered has no records: the panel beside the map is emptied then, and the user told.
-bool EmptySubjectIfNoRecords(Program& p);
+[[nodiscard]] bool EmptySubjectIfNoRecords(Program& p);
 
 // Reads the map of the branch in `WorkDir` and draws it.
 void DrawBranchMap(Program& p);

@@ -54,10 +54,10 @@ void EmptySubjectPanel(forms::Form1& form, EmptiedBy command);
 void LoadSubjectPicture(const SubjectPictures& pictures, Image& target);
 
 // The picture in that file; none where it can't be loaded, which is no error of the command's.
-QImage PictureOrNone(PictureCache& pictures, const FileSystem& files, const QString& file);
+[[nodiscard]] QImage PictureOrNone(PictureCache& pictures, const FileSystem& files, const QString& file);
 
 // The subject picture beside the map; false, and no picture there, when it can't be loaded.
-bool ShowSubjectPicture(const SubjectPanel& panel);
+[[nodiscard]] bool ShowSubjectPicture(const SubjectPanel& panel);
 
 // The current record beside the map: picture, labels, number. A picture that isn't there empties the panel's and is
 // told.

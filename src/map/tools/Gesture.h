@@ -26,8 +26,9 @@ enum class Released { AsItStands, Repaint };
 // row of all; none of those above the count is free then, and they count again. Only on a full map it is one that isn't
 // saved, or the one behind the last.
 template <class Rows>
-int TakeRow(const Rows& rows, int& count, int lastSaved)
+[[nodiscard]] int TakeRow(const Rows& rows, int& count, int lastSaved)
 {
+    Q_ASSERT(lastSaved <= LastMapRow);
     const auto firstFree = [&](int row) {
         while (row <= LastMapRow && !IsFreeRow(rows[row]))
             ++row;
@@ -51,7 +52,7 @@ void KeepLast(Program& p, Point pointer);
 void TakeDelta(Program& p, Point pointer);
 
 // A place that has gone along with the drag; error 6 when that is outside 32 bits.
-int Carried(int place, int delta);
+[[nodiscard]] int Carried(int place, int delta);
 
 // Adds the step of the drag to an item's ends or corner.
 void CarryBox(Program& p, int row);

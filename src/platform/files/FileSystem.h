@@ -31,7 +31,7 @@ public:
 
     // Whether a look-up of the path gives back the last `length` characters of that path, case ignored. That is how
     // the program asks whether a file is there, and it is not the same as existence for names of another length.
-    bool LookUpGivesTail(const QString& path, int length) const;
+    [[nodiscard]] bool LookUpGivesTail(const QString& path, int length) const;
 
     // An existing file is overwritten; the copy keeps the source's time. It appears whole or not at all.
     void FileCopy(const QString& source, const QString& destination) const;

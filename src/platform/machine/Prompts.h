@@ -41,14 +41,14 @@ public:
     // The text entered, empty for none and for Cancel.
     virtual QString InputBox(const QString& title, const QString& prompt) = 0;
     // The path of an existing file, nothing for Cancel.
-    virtual std::optional<QString> OpenFile(const FileQuestion& question) = 0;
+    [[nodiscard]] virtual std::optional<QString> OpenFile(const FileQuestion& question) = 0;
     // The path of a file to be written, which may exist; nothing for Cancel. A name without an ending gets that of the
     // filter's first pattern.
-    virtual std::optional<QString> SaveFile(const FileQuestion& question) = 0;
+    [[nodiscard]] virtual std::optional<QString> SaveFile(const FileQuestion& question) = 0;
     // The colour chosen, nothing for Cancel. The dialog opens on the present one.
-    virtual std::optional<Colour> PickColour(Colour present) = 0;
+    [[nodiscard]] virtual std::optional<Colour> PickColour(Colour present) = 0;
     // The font chosen, nothing for Cancel. The dialog opens on the present one.
-    virtual std::optional<TextFont> PickFont(const TextFont& present) = 0;
+    [[nodiscard]] virtual std::optional<TextFont> PickFont(const TextFont& present) = 0;
     // Which printer, or file, print jobs go to from now on.
     virtual void PickPrinter() = 0;
     // Opens the help file on its contents page.

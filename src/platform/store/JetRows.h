@@ -21,7 +21,7 @@ public:
     using Row = std::array<QByteArrayView, jetstream::fields.size()>;
 
     // Nothing when the bytes are any other than a whole stream, whose tally and texts are sound.
-    static std::optional<JetRows> Parse(const QByteArray& stream);
+    [[nodiscard]] static std::optional<JetRows> Parse(const QByteArray& stream);
 
     std::size_t Count() const { return starts_.size(); }
     Row At(std::size_t row) const;

@@ -70,7 +70,7 @@ public:
     };
 
     // A stretch in which nobody is asked: what is locked is refused, untold.
-    class Quiet
+    class [[nodiscard]] Quiet
     {
     public:
         explicit Quiet(OtherPrograms& others);

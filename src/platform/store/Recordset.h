@@ -194,7 +194,7 @@ private:
 };
 
 // While it lives no other program changes the file, and the cursor has followed what they did before.
-class Recordset::Look
+class [[nodiscard]] Recordset::Look
 {
 public:
     explicit Look(const Recordset& cursor)

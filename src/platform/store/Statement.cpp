@@ -105,27 +105,32 @@ int Statement::Columns() const
 
 QByteArray Statement::ColumnName(int column) const
 {
+    Q_ASSERT(column >= 0 && column < Columns());
     return sqlite3_column_name(statement_, column);
 }
 
 std::int64_t Statement::Integer(int column) const
 {
+    Q_ASSERT(column >= 0 && column < Columns());
     return sqlite3_column_int64(statement_, column);
 }
 
 QByteArrayView Statement::Text(int column) const
 {
+    Q_ASSERT(column >= 0 && column < Columns());
     const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement_, column));
     return text ? QByteArrayView(text, sqlite3_column_bytes(statement_, column)) : QByteArrayView();
 }
 
 bool Statement::IsNull(int column) const
 {
+    Q_ASSERT(column >= 0 && column < Columns());
     return sqlite3_column_type(statement_, column) == SQLITE_NULL;
 }
 
 QByteArrayView Statement::Bytes(int column) const
 {
+    Q_ASSERT(column >= 0 && column < Columns());
     const auto* bytes = static_cast<const char*>(sqlite3_column_blob(statement_, column));
     return {bytes, sqlite3_column_bytes(statement_, column)};
 }

@@ -59,7 +59,7 @@ public:
     // While it lives no other program can change the file. When it begins, what one did before has been noticed; where
     // nobody will remember a row when it ends, that can be left out.
     enum class Notices { Yes, No };
-    class Hold
+    class [[nodiscard]] Hold
     {
     public:
         explicit Hold(TableRows& rows, Notices notices = Notices::Yes);

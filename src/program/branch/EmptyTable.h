@@ -7,6 +7,6 @@ namespace lineforge
 {
 
 // Whether the open branch, whose records these are, has none; tells the user so.
-bool TellIfEmptyTable(const Recordset& records, Prompts& prompts);
+[[nodiscard]] bool TellIfEmptyTable(const Recordset& records, Prompts& prompts);
 
 } // namespace lineforge

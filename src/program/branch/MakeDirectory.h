@@ -7,6 +7,6 @@ namespace lineforge
 
 // Makes a directory. False where one of that name is there already; whatever else stands in its way is an error of the
 // disk, 75 or 76.
-bool MakeDirectory(FileSystem& files, const QString& directory);
+[[nodiscard]] bool MakeDirectory(FileSystem& files, const QString& directory);
 
 } // namespace lineforge

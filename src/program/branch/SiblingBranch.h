@@ -13,11 +13,11 @@ void SwapBranchDirs(BranchState& branch);
 
 // Whether the database of the sibling branch of that letter is there; shows a box with its path when it isn't. One of
 // an older installation is taken; shows the box of a refused opening when it can't be.
-bool RequireSibling(const BranchAccess& access, QStringView letter);
+[[nodiscard]] bool RequireSibling(const BranchAccess& access, QStringView letter);
 
 // Takes the sibling's database if it is one of an older installation. False, with the box of a refused opening, when it
 // can't be taken; any other database is left to whoever opens it.
-bool TakeOldSibling(const BranchAccess& access, QStringView letter);
+[[nodiscard]] bool TakeOldSibling(const BranchAccess& access, QStringView letter);
 
 // Keeps the open branch's directories as the saved ones, before the program points elsewhere. From one sibling to
 // another the way back still leads to the open branch.
@@ -44,6 +44,7 @@ void EndAlternate(BranchState& branch, Window<forms::Form3>& recordForm);
 void ReturnFromSibling(const BranchAccess& access);
 
 // Tells, while a record of another branch is shown, why a command refuses it; false when none is.
-bool TellIfAlternate(const BranchState& branch, Prompts& prompts, const QString& title, const QString& text);
+[[nodiscard]] bool TellIfAlternate(const BranchState& branch, Prompts& prompts, const QString& title,
+                                   const QString& text);
 
 } // namespace lineforge

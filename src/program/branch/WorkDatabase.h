@@ -8,7 +8,8 @@ namespace lineforge
 
 // Opens a database that is to be pointed at later, so that no other program's lock can come in between; null when it
 // can't be opened at all. 3260, told, when the user doesn't wait for it any longer.
-std::shared_ptr<Database> ReachDatabase(Databases& databases, const FileSystem& files, const QString& path);
+[[nodiscard]] std::shared_ptr<Database> ReachDatabase(Databases& databases, const FileSystem& files,
+                                                      const QString& path);
 
 // Points a data control at that database file, first row current. Errors as `DataControl::Refresh`; it stays with what
 // it had then.

@@ -31,7 +31,7 @@ bool IsBranchOpen(const BranchState& branch, Window<forms::Form3>& recordForm);
 // Tells that no branch is open.
 void TellNoBranch(Prompts& prompts);
 // The same if none is; false when one is.
-bool TellIfNoBranch(const BranchState& branch, Window<forms::Form3>& recordForm, Prompts& prompts);
+[[nodiscard]] bool TellIfNoBranch(const BranchState& branch, Window<forms::Form3>& recordForm, Prompts& prompts);
 
 // Tells that the open database has no records.
 void TellNoRecords(Prompts& prompts);

@@ -19,7 +19,7 @@ struct SoundFile {
 };
 
 // Nothing when there is no such sound.
-std::optional<SoundFile> ParseSound(const QByteArray& file);
-std::optional<SoundFile> ReadSound(const QString& path);
+[[nodiscard]] std::optional<SoundFile> ParseSound(const QByteArray& file);
+[[nodiscard]] std::optional<SoundFile> ReadSound(const QString& path);
 
 } // namespace lineforge

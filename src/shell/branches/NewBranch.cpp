@@ -18,6 +18,8 @@
 
 #include <QScopeGuard>
 
+#include <tuple>
+
 namespace lineforge
 {
 
@@ -143,7 +145,7 @@ void MakeBranch(Program& p, const QString& name, const QString& directory)
         ParseTexts(p);
     });
     EnableBranchUI(*p.Form1);
-    TellIfEmptyTable(Records(p.Form3), p.Prompts);
+    std::ignore = TellIfEmptyTable(Records(p.Form3), p.Prompts); // nothing is left to be done
 }
 } // namespace
 

@@ -31,6 +31,8 @@
 #include "shell/run/Help.h"
 #include "shell/run/StartUp.h"
 
+#include <tuple>
+
 namespace lineforge
 {
 
@@ -90,7 +92,7 @@ void InstallForm1(Program& p, forms::Form1& form)
     form.mnuEdit.Click = [&p] { OpenEditingMenu(p); };
     form.mnuCopy.Click = [&p] { CopyMapPicture(p); };
     form.mnuPaste.Click = [&p] { PasteMapPicture(p); };
-    form.mnuDataBase.Click = [&p] { TellIfNoBranch(p.Branch, p.Form3, p.Prompts); };
+    form.mnuDataBase.Click = [&p] { std::ignore = TellIfNoBranch(p.Branch, p.Form3, p.Prompts); };
     form.mnuViewRecs.Click = [&p] { ShowRecordForm(p); };
     form.mnuComp.Click = [&p] { OpenComparison(p, p.Form1); };
     form.mnuDelSub.Click = [&p] { DeleteBranch(p); };
