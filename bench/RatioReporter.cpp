@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iomanip>
 #include <iostream>
+#include <optional>
 
 namespace lineforge::bench
 {
@@ -30,6 +31,16 @@ double Seconds(const benchmark::BenchmarkReporter::Run& run)
     const bool isByClock = type.ends_with("real_time") || type.ends_with("manual_time");
     return (isByClock ? run.real_accumulated_time : run.cpu_accumulated_time) / static_cast<double>(run.iterations);
 }
+
+// Why a run has no figures. Newer versions of the library tell it by another name.
+template <class Run>
+std::optional<std::string> WhyWithoutFigures(const Run& run)
+{
+    if constexpr (requires { run.skipped; })
+        return run.skipped ? std::optional(run.skip_message) : std::nullopt;
+    else
+        return run.error_occurred ? std::optional(run.error_message) : std::nullopt;
+}
 } // namespace
 
 RatioReporter::RatioReporter(std::vector<Limit> limits) : limits_(std::move(limits)) {}
@@ -43,8 +54,8 @@ bool RatioReporter::ReportContext(const Context& context)
 void RatioReporter::ReportRuns(const std::vector<Run>& runs)
 {
     for (const Run& run : runs) {
-        if (run.error_occurred) {
-            GetErrorStream() << run.benchmark_name() << ": " << run.error_message << '\n';
+        if (const auto why = WhyWithoutFigures(run)) {
+            GetErrorStream() << run.benchmark_name() << ": " << *why << '\n';
             allKept_ = false;
         } else if (run.run_type == Run::RT_Iteration) {
             runs_[run.run_name.function_name].push_back(Seconds(run));

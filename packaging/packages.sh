@@ -13,7 +13,7 @@ foreign_packages="gramps" # which reads what we hand on
 compositor_packages="weston" # whose screen nobody sees
 rule_packages="appstream desktop-file-utils lintian" # which judge what is given away
 test_packages="libgtest-dev libgmock-dev $rule_packages $cpack_packages $screen_packages $queue_packages $reader_packages $compositor_packages $foreign_packages"
-fuzz_packages="clang libclang-rt-14-dev"
+fuzz_packages="clang libclang-rt-dev"
 
 # From Debian 13 on some libraries are called otherwise.
 is_installed() {
