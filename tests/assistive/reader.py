@@ -9,6 +9,8 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, Gio, GLib
 
+Role = Atspi.Role  # whose names in words aren't the same in every version
+
 PATIENCE = 30  # seconds that no machine is so busy to need for one step
 AT_ONCE = 2  # seconds in which a program answers that isn't held up by a question to its user
 
@@ -92,17 +94,17 @@ class Reader:
         being shown."""
         def look():
             for node in below(within) if within is not None else self._everything():
-                if node.get_name() == name and node.get_role_name() == role:
-                    if role == "menu item" or is_shown(node):
+                if node.get_name() == name and node.get_role() == role:
+                    if role == Role.MENU_ITEM or is_shown(node):
                         return node
             return None
-        return self.wait_for(f"{role} '{name}'", look)
+        return self.wait_for(f"{Atspi.role_get_name(role)} '{name}'", look)
 
     def wait_until_gone(self, name, role):
         def is_gone():
-            return not any(node.get_name() == name and node.get_role_name() == role and is_shown(node)
+            return not any(node.get_name() == name and node.get_role() == role and is_shown(node)
                            for node in self._everything())
-        self.wait_for(f"the end of {role} '{name}'", is_gone)
+        self.wait_for(f"the end of {Atspi.role_get_name(role)} '{name}'", is_gone)
 
     def act(self, node, action="Press"):
         """Does what the node offers, and gives back the seconds until the answer."""
@@ -114,14 +116,14 @@ class Reader:
                 return time.monotonic() - begin
         raise AssertionError(f"'{node.get_name()}' offers no '{action}'")
 
-    def press(self, name, role="push button", within=None):
+    def press(self, name, role=Role.PUSH_BUTTON, within=None):
         return self.act(self.find(name, role, within))
 
     def choose(self, *path, within):
         """An entry of a window's menus, by the captions that lead there."""
         node = within
         for caption in path:
-            node = self.find(caption, "menu item", node)
+            node = self.find(caption, Role.MENU_ITEM, node)
         return self.act(node)
 
     def enter(self, node, text):

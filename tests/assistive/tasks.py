@@ -7,7 +7,7 @@ import sys
 import tempfile
 import unittest
 
-from reader import AT_ONCE, Atspi, Reader, announce_reader, below, is_shown, text_of
+from reader import AT_ONCE, Reader, Role, announce_reader, below, is_shown, text_of
 
 INSTALLED = None
 BRANCH = "Victoria and Albert"
@@ -30,21 +30,21 @@ class Task(unittest.TestCase):
 
     def open_branch(self):
         reader = self.reader
-        menus = reader.find("Tree Graphics", "menu item").get_parent()
+        menus = reader.find("Tree Graphics", Role.MENU_ITEM).get_parent()
         self.assertLess(reader.choose("File", "Open", within=menus), AT_ONCE)
-        window = reader.find("Open Tree Branch", "frame")
-        reader.act(reader.find(BRANCH, "list item", window), "Toggle")
+        window = reader.find("Open Tree Branch", Role.FRAME)
+        reader.act(reader.find(BRANCH, Role.LIST_ITEM, window), "Toggle")
         reader.press("Open", within=window)
-        self.main = reader.find(MAIN_WINDOW, "frame")
-        reader.wait_until_gone("Open Tree Branch", "frame")
+        self.main = reader.find(MAIN_WINDOW, Role.FRAME)
+        reader.wait_until_gone("Open Tree Branch", Role.FRAME)
 
     def open_records(self):
         self.reader.press("Records", within=self.main)
-        return self.reader.find(RECORDS, "frame")
+        return self.reader.find(RECORDS, Role.FRAME)
 
     def answer(self, box, button):
-        self.reader.press(button, within=self.reader.find(box, "alert"))
-        self.reader.wait_until_gone(box, "alert")
+        self.reader.press(button, within=self.reader.find(box, Role.ALERT))
+        self.reader.wait_until_gone(box, Role.ALERT)
 
 
 class ReadARecord(Task):
@@ -52,11 +52,11 @@ class ReadARecord(Task):
         reader = self.reader
         records = self.open_records()
         self.assertLess(reader.choose("Search By", "Surname", within=records), AT_ONCE)
-        question = reader.find("Search Database", "dialog")
-        reader.enter(reader.find("Enter the Surname or partial Surname", "text", question), "hesse")
+        question = reader.find("Search Database", Role.DIALOG)
+        reader.enter(reader.find("Enter the Surname or partial Surname", Role.TEXT, question), "hesse")
         reader.press("OK", within=question)
         self.answer("Search Word Found", "No")
-        read = {name: text_of(reader.find(name, "text", records)) for name in ("Surname", "Forenames", "BirthPlace")}
+        read = {name: text_of(reader.find(name, Role.TEXT, records)) for name in ("Surname", "Forenames", "BirthPlace")}
         self.assertEqual(read, {"Surname": "Hesse", "Forenames": "Alice", "BirthPlace": "Buckingham Palace, London"})
 
 
@@ -64,8 +64,8 @@ class ChangeARecord(Task):
     def test_what_is_entered_in_either_kind_of_box_is_kept(self):
         reader = self.reader
         records = self.open_records()
-        one_line = reader.find("Education", "text", records)
-        several_lines = reader.find("Notes(2)", "text", records)
+        one_line = reader.find("Education", Role.TEXT, records)
+        several_lines = reader.find("Notes(2)", Role.TEXT, records)
         for box in (one_line, several_lines):
             reader.enter(box, "by ear")
         reader.press("Next record", within=records)
@@ -78,8 +78,8 @@ class ChangeARecord(Task):
 
 class WorkTheMap(Task):
     def boxes(self):
-        return [node for node in below(self.reader.find("Family tree map", "canvas", self.main))
-                if node.get_role_name() == "push button"]
+        return [node for node in below(self.reader.find("Family tree map", Role.CANVAS, self.main))
+                if node.get_role() == Role.PUSH_BUTTON]
 
     def test_the_boxes_are_read_and_pressed(self):
         reader = self.reader
@@ -88,14 +88,14 @@ class WorkTheMap(Task):
         self.assertRegex(alice.get_description(), r"^\d+, \d+$")
         self.assertTrue(is_shown(alice))
         reader.act(alice)
-        reader.find("Ref  A007", "panel", self.main)
-        reader.find("Alice", "label", self.main)
+        reader.find("Ref  A007", Role.PANEL, self.main)
+        reader.find("Alice", Role.LABEL, self.main)
 
     def test_a_tool_that_asks_answers_first(self):
         reader = self.reader
         reader.choose("Tree Graphics", "TreeTools", within=self.main)
         self.assertLess(reader.press("Colour", within=self.main), AT_ONCE)
-        reader.press("Cancel", within=reader.find("Select Color", "dialog"))
+        reader.press("Cancel", within=reader.find("Select Color", Role.DIALOG))
 
 
 if __name__ == "__main__":
