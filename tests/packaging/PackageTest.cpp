@@ -220,8 +220,11 @@ TEST(BundleTest, IsTheTarWithTheToolkitBesideIt)
     const QRegularExpression broughtAlong(u"^(lib|plugins)/"_s);
     EXPECT_THAT(files.filter(broughtAlong),
                 IsSupersetOf({u"lib/libQt6Core.so.6"_s, u"lib/libQt6Widgets.so.6"_s, u"lib/libsqlite3.so.0"_s,
-                              u"plugins/imageformats/libqjpeg.so"_s, u"plugins/multimedia/libgstreamermediaplugin.so"_s,
-                              u"plugins/platforms/libqxcb.so"_s, u"plugins/platforms/libqwayland-generic.so"_s}));
+                              u"plugins/imageformats/libqjpeg.so"_s, u"plugins/platforms/libqxcb.so"_s,
+                              u"plugins/platforms/libqwayland-generic.so"_s}));
+    // Which one, is the toolkit's choice.
+    EXPECT_FALSE(
+        files.filter(QRegularExpression(u"^plugins/multimedia/lib(gstreamer|ffmpeg)mediaplugin\\.so$"_s)).isEmpty());
     files.removeIf([&](const QString& name) { return broughtAlong.match(name).hasMatch(); });
     EXPECT_EQ(files, Sorted(FilesBelow(tar) + QStringList{u"qt.conf"_s}));
 }
@@ -304,13 +307,16 @@ TEST(DebTest, DesktopEntry_IsValid_AndStartsTheLauncherUnderTheIcon)
                 IsSupersetOf({"Exec=lineforge %f", "TryExec=lineforge", "Icon=lineforge"}));
 }
 
-// That its vendor's domain might be none is a mere guess of the check.
+// That its vendor's domain might be none is a mere guess of the check. The developer has a new tag, which the check
+// of Debian 12 doesn't know yet and without which that of Debian 13 isn't content. The program has no page on the net.
 TEST(DebTest, Metainfo_LeavesNothingToWishFor_AndTellsOfThisVersionFirst)
 {
     const Outcome verdict = RunCommand(u"appstreamcli"_s, {u"validate"_s, u"--no-net"_s, u"--pedantic"_s, metainfo});
-    EXPECT_EQ(verdict.ExitCode, 0) << qUtf8Printable(verdict.Output);
-    for (const QString& remark : verdict.Output.split(u'\n').filter(QRegularExpression(u"^[EWIP]: "_s)))
-        EXPECT_THAT(remark.toStdString(), HasSubstr("cid-maybe-not-rdns"));
+    const QStringList remarks = verdict.Output.split(u'\n').filter(QRegularExpression(u"^[EWIP]: "_s));
+    EXPECT_FALSE(remarks.isEmpty()) << qUtf8Printable(verdict.Output);
+    for (const QString& remark : remarks)
+        EXPECT_THAT(remark.toStdString(), AnyOf(HasSubstr("cid-maybe-not-rdns"), HasSubstr("unknown-tag developer"),
+                                                HasSubstr("url-homepage-missing")));
     const QString text = QString::fromUtf8(Contents(metainfo));
     const QString first = text.mid(text.indexOf(u"<release ")).section(u'>', 0, 0);
     EXPECT_THAT(first.toStdString(), testing::HasSubstr("version=\"" LINEFORGE_VERSION "\""));
