@@ -6,14 +6,30 @@
 set -eu
 
 package=$(dirname "$(readlink -f "$0")")/../lib/lineforge
-case ${1:-} in
---help | --version) exec "$package/lineforge" "$1" ;;
-esac
-home=${1:-${HOME:?}/Lineforge}
-if [ $# -gt 1 ] || [ "${home#-}" != "$home" ]; then
-    echo "Usage: lineforge [--help] [--version] [directory]" >&2
+usage="Usage: lineforge [--help] [--version] [directory]"
+
+refuse() {
+    echo "${1:+lineforge: $1
+}$usage" >&2
     exit 2
-fi
+}
+
+# As the program itself reads them, whose own home, however, is another one than the launcher's.
+for argument in "$@"; do
+    case $argument in
+    --version) exec "$package/lineforge" --version ;;
+    --help)
+        echo "$usage
+
+Draws your family tree and keeps its records: those of the home in that directory, or, where
+none is named, of the one in ~/Lineforge. The directory is made where there is none yet."
+        exit 0
+        ;;
+    -*) refuse "unrecognized option '$argument'" ;;
+    esac
+done
+[ $# -le 1 ] || refuse ""
+home=${1:-${HOME:?}/Lineforge}
 
 mkdir -p "$home"
 home=$(readlink -f "$home")

@@ -170,22 +170,38 @@ TEST_F(LauncherTest, FileThatCannotBePutInPlace_StopsTheStart_AndLeavesNothingHa
 
 TEST_F(LauncherTest, WhatIsNoDirectory_IsToldHowToStart_AndMakesNothing)
 {
-    for (const QStringList& arguments : {QStringList{u"--halp"_s}, QStringList{u"one"_s, u"two"_s}}) {
+    const QString usage = u"Usage: lineforge [--help] [--version] [directory]\n"_s;
+    const QString unknown = u"lineforge: unrecognized option '%1'\n"_s;
+    const std::pair<QStringList, QString> calls[]{
+        {{u"--halp"_s}, unknown.arg(u"--halp"_s) + usage},
+        {{u"one"_s, u"-x"_s}, unknown.arg(u"-x"_s) + usage},
+        {{u"one"_s, u"two"_s}, usage},
+    };
+    for (const auto& [arguments, told] : calls) {
         const Outcome outcome = Launch(arguments);
         EXPECT_EQ(outcome.ExitCode, 2);
-        EXPECT_EQ(outcome.Output, u"Usage: lineforge [--help] [--version] [directory]\n");
+        EXPECT_EQ(outcome.Output, told);
     }
     EXPECT_TRUE(FilesBelow(User({})).isEmpty());
 }
 
-TEST_F(LauncherTest, QuestionsAboutTheProgram_AreTheProgramsToAnswer_AndMakeNothing)
+TEST_F(LauncherTest, Version_IsTheProgramsToTell_AndMakesNothing)
 {
-    for (const QString& question : {u"--help"_s, u"--version"_s}) {
-        PackageProgram("asked $1");
-        const Outcome outcome = Launch({question});
-        EXPECT_EQ(outcome.ExitCode, 0);
-        EXPECT_TRUE(outcome.Output.startsWith(u"asked "_s + question)) << qUtf8Printable(outcome.Output);
-    }
+    PackageProgram("asked $1");
+    const Outcome outcome = Launch({u"--version"_s});
+    EXPECT_EQ(outcome.ExitCode, 0);
+    EXPECT_TRUE(outcome.Output.startsWith(u"asked --version"_s)) << qUtf8Printable(outcome.Output);
+    EXPECT_TRUE(FilesBelow(User({})).isEmpty());
+}
+
+// The program itself works where it stands.
+TEST_F(LauncherTest, Help_TellsTheLaunchersOwnHome_AndMakesNothing)
+{
+    const Outcome outcome = Launch({u"--help"_s});
+    EXPECT_EQ(outcome.ExitCode, 0);
+    EXPECT_TRUE(outcome.Output.startsWith(u"Usage: lineforge [--help] [--version] [directory]\n\n"))
+        << qUtf8Printable(outcome.Output);
+    EXPECT_TRUE(outcome.Output.contains(u"of the one in ~/Lineforge.")) << qUtf8Printable(outcome.Output);
     EXPECT_TRUE(FilesBelow(User({})).isEmpty());
 }
 
