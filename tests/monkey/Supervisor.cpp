@@ -141,10 +141,20 @@ QStringList Supervisor::CheckHomes(const Scratch& scratch) const
 
 void Supervisor::Play(std::uint64_t seed)
 {
+    constexpr int mostAttempts = 5;
+    for (int attempt = 1; !PlayOnce(seed, attempt == mostAttempts); ++attempt)
+        Tell(u"seed %1: the sanitizer itself has stumbled, once more"_s.arg(seed));
+}
+
+// False when nothing is known of the session: what looks for leaks has stumbled over a thread that was just ending.
+bool Supervisor::PlayOnce(std::uint64_t seed, bool isLast)
+{
     const Session session(pristine_);
     const Scratch& scratch = session.Files;
     const int code =
         Start(scratch, {u"--play"_s, QString::number(seed), QString::number(plan_.Steps), scratch.Directory()})->Wait();
+    if (!isLast && LinesOf(scratch.ErrorsFile()).join(u'\n').contains(u"LeakSanitizer has encountered a fatal error"))
+        return false;
     const Story story(scratch.JournalFile());
     QStringList findings = story.Findings + CheckHomes(scratch);
     if (code < 0)
@@ -158,6 +168,7 @@ void Supervisor::Play(std::uint64_t seed)
     }
     steps_ += story.Steps;
     Close(seed, scratch, findings);
+    return true;
 }
 
 // The moment is the clock's, and no seed's: it can't be had again.

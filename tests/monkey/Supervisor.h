@@ -35,6 +35,7 @@ public:
 private:
     struct Session;
     void Play(std::uint64_t seed);
+    bool PlayOnce(std::uint64_t seed, bool isLast);
     void Kill(std::uint64_t seed);
     std::unique_ptr<ChildProcess> Start(const Scratch& scratch, const QStringList& arguments) const;
     void NoteHomes(const Scratch& scratch);
