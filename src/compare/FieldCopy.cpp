@@ -94,19 +94,19 @@ bool PassThroughDestination(const Comparison& comparison, const Direction& way, 
     return true;
 }
 
-std::set<QString> NumbersInFile(const Recordset& records)
+std::set<QString> NumbersIn(Recordset& records)
 {
     std::set<QString> numbers;
-    const auto all = records.Afresh();
-    for (; !all->Eof(); all->MoveNext())
-        numbers.insert(all->Text(Field::File));
+    for (records.MoveFirst(); !records.Eof(); records.MoveNext())
+        numbers.insert(records.Text(Field::File));
     return numbers;
 }
 
-// What another program has added behind the box has a number of its own.
+// What stands in the file and isn't known to the cursor has a number of its own: another program has added it behind
+// the box, or the record form.
 QString NumberStillFree(CompareState& state, const Recordset& to, const std::set<QString>& known)
 {
-    for (const QString& file : NumbersInFile(to))
+    for (const QString& file : NumbersIn(*to.Afresh()))
         if (!known.contains(file))
             NoteZNumber(state, file);
     return FreeZNumber(state);
@@ -130,7 +130,7 @@ void Append(const Comparison& comparison, const Direction& way)
     Recordset& from = way.From.Records(comparison);
     Recordset& to = way.To.Records(comparison);
     const QString told = FreeZNumber(comparison.State);
-    const std::set<QString> known = NumbersInFile(to);
+    const std::set<QString> known = NumbersIn(to);
     to.MoveLast();
     // The scanner may run on behind the box.
     const Bookmark checked = from.GetBookmark();

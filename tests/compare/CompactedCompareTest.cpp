@@ -103,6 +103,22 @@ TEST_F(CompactedCompareTest, RecordChangedSinceItWasShown_IsNotWritten_AndTold)
     EXPECT_EQ(Stored(u'B', "Notes", "B002"), u"elsewhere"_s);
 }
 
+TEST_F(CompactedCompareTest, CurrentRecordChangedSinceItWasShown_IsNotWritten_AndTold)
+{
+    P.Form3->Data1.Settle();
+    ToCurrent();
+    ChangeOutside(u'A', "UPDATE Tree99 SET Notes = 'elsewhere' WHERE File = 'A002'");
+    Tell(u"Record changed", u"Record A002 has been changed by another program.\n"
+                            u"Nothing was stored. The Record is shown as it is now.");
+    Click(P.Form6->Command7.Click);
+
+    EXPECT_EQ(ExitCode(), std::nullopt);
+    EXPECT_EQ(Stored(u'A', "Surname", "A002"), u"our Surname"_s);
+    EXPECT_EQ(Stored(u'A', "Notes", "A002"), u"elsewhere"_s);
+    Click(P.Form6->Command7.Click);
+    EXPECT_EQ(Stored(u'A', "Surname", "A002"), u"their Surname"_s);
+}
+
 TEST_F(CompactedCompareTest, FieldNotCopiedForThatReason_GetsNoSecondBox)
 {
     Search();

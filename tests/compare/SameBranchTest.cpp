@@ -109,5 +109,31 @@ TEST_F(SameBranchTest, BackInTheWindow_BothSidesShowWhatIsTypedMeanwhile)
     EXPECT_EQ(Surnames(), u"Typed|Typed"_s);
 }
 
+TEST_F(SameBranchTest, NumberThatTheRecordFormHasGivenMeanwhile_IsNotGivenAgain)
+{
+    ChangeOutside(u'A', "INSERT INTO Tree99 (File) VALUES ('Z001')");
+    P.Form6.Unload();
+    Click(P.Form1->mnuComp.Click);
+    ChooseCompare(u"Smiths");
+    Home.WriteFile(u"Tree99.jpg", PictureBytes(Qt::blue));
+    Prompts.Expect(u"New Database Record", u"Adding a new Record here will not \nbe mapped into the Tree system.",
+                   Buttons::InformationOkCancel, Answer::Ok);
+    Tell(u"New Blank Record Created", u"New Record Z002 created.");
+    Click(P.Form3->mnuAdd.Click);
+    // It isn't on show yet.
+    Click(P.Form6->Command8.Click);
+
+    for (const QString& number : {u"Z002"_s, u"Z003"_s})
+        Tell(u"Append Record to Database.",
+             QString(u"This Record will be Appended to the Compare\nDatabase as "_s + number +
+                     u" but will not be mapped into\nthe Ancestral Tree Display."));
+    Click(P.Form6->Command8.Click);
+
+    QStringList numbers;
+    for (const SqliteFile::Row& row : Rows(u'A', "File"))
+        numbers += row.front().value_or(QString());
+    EXPECT_EQ(numbers, QStringList({u"A001"_s, u"A002"_s, u"Z001"_s, u"Z002"_s, u"Z003"_s}));
+}
+
 } // namespace
 } // namespace lineforge

@@ -17,7 +17,7 @@ struct Told {
     std::uint8_t Ratio;
 };
 
-constexpr int longest = 2048; // dots, for the sake of speed
+constexpr int longest = 512; // dots, for the sake of speed
 
 QImage PictureOf(const Told& told, const QByteArray& dots)
 {

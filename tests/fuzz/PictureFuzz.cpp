@@ -44,7 +44,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     constexpr int tile = 57;
     constexpr int small = 256;
-    constexpr int oneInSoMany = 32;
+    constexpr int oneInSoMany = 256;
     const bool takesLarge = size > 0 && data[size - 1] % oneInSoMany == 0;
     const auto passOverLarge = [takesLarge](QSize stored) {
         if (!takesLarge && std::max(stored.width(), stored.height()) > small)

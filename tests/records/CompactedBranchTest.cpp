@@ -252,17 +252,59 @@ TEST_F(OvertakenRecordTest, RemovedByAnotherProgram_IsTold_AndTheProgramGoesOn)
     EXPECT_EQ(Stored("Surname", "A003"), std::nullopt);
 }
 
-TEST_F(OvertakenRecordTest, RecordRemovedUnderTheQuestions_KeepsItsFiles)
+class DeletionOfOvertakenTest : public OvertakenRecordTest
 {
-    P.Form3->Data1.Refresh(P.Databases, P.Files);
-    Records(P.Form3).MoveNext();
-    P.Form3->Data1.Settle();
-    Prompts.Expect(u"Delete Record", u"Do you really want to delete this record?", Buttons::QuestionYesNo, Answer::Yes);
-    Prompts.Expect(u"Deletion of Subject Records",
-                   u"All information in this record will be deleted\n"
-                   u"including any Subject and Gallery graphic files.\n"
-                   u"Are you sure this is what you want ? ",
-                   Buttons::ErrorYesNo, Answer::Yes, [this] { Execute("DELETE FROM Tree99 WHERE File = 'A002'"); });
+protected:
+    DeletionOfOvertakenTest()
+    {
+        P.Form3->Data1.Refresh(P.Databases, P.Files);
+        Records(P.Form3).MoveNext();
+        P.Form3->Data1.Settle();
+    }
+    void ExpectQuestions(const std::function<void()>& meanwhile = {})
+    {
+        Prompts.Expect(u"Delete Record", u"Do you really want to delete this record?", Buttons::QuestionYesNo,
+                       Answer::Yes);
+        Prompts.Expect(u"Deletion of Subject Records",
+                       u"All information in this record will be deleted\n"
+                       u"including any Subject and Gallery graphic files.\n"
+                       u"Are you sure this is what you want ? ",
+                       Buttons::ErrorYesNo, Answer::Yes, meanwhile);
+    }
+    void ChangeOutside() { Execute("UPDATE Tree99 SET Notes = 'elsewhere' WHERE File = 'A002'"); }
+    void ExpectLeftAlone()
+    {
+        EXPECT_EQ(ExitCode(), std::nullopt);
+        EXPECT_EQ(Stored("Notes", "A002"), u"elsewhere"_s);
+        EXPECT_EQ(P.Form3->Text11.Text.value(), u"elsewhere"_s);
+        EXPECT_TRUE(Home.Exists(u"LfgDat_A/A002Sub.jpg"));
+    }
+};
+
+TEST_F(DeletionOfOvertakenTest, RecordThatHasBeenChangedUnseen_IsShown_AndMayBeDeletedThen)
+{
+    ChangeOutside();
+    ExpectQuestions();
+    ExpectChanged();
+    Click(P.Form3->mnuDelete.Click);
+    ExpectLeftAlone();
+
+    ExpectQuestions();
+    Click(P.Form3->mnuDelete.Click);
+    EXPECT_FALSE(Home.Exists(u"LfgDat_A/A002Sub.jpg"));
+}
+
+TEST_F(DeletionOfOvertakenTest, RecordChangedUnderTheQuestions_IsNotDeleted)
+{
+    ExpectQuestions([this] { ChangeOutside(); });
+    ExpectChanged();
+    Click(P.Form3->mnuDelete.Click);
+    ExpectLeftAlone();
+}
+
+TEST_F(DeletionOfOvertakenTest, RecordRemovedUnderTheQuestions_KeepsItsFiles)
+{
+    ExpectQuestions([this] { Execute("DELETE FROM Tree99 WHERE File = 'A002'"); });
     Prompts.Expect(u"Record removed", u"Record A002 has been removed by another program.\nNothing was stored.",
                    Buttons::Information);
 

@@ -233,6 +233,7 @@ TEST_P(RubbishTest, DatabaseVanished_WhatWasTypedCostsNothingElse)
     P.Form3->Text3.Text = u"Anne"_s;
     P.Form3->Text23.Text = u"Female"_s;
     QFile::remove(Home.Path(database));
+    ExpectDatabaseInUse(Answer::Cancel);
 
     Press();
 

@@ -99,5 +99,47 @@ TEST_F(ReplacedBranchTest, FieldsOfTheNewFile_AreWrittenToFromThenOn)
     EXPECT_EQ(ExitCode(), std::nullopt);
 }
 
+// Between taking the old file away and putting the new one in its place.
+class AbsentBranchTest : public ReplacedBranchTest
+{
+protected:
+    AbsentBranchTest()
+    {
+        P.Form3->Text2.Text = u"Typed"_s;
+        Move(Database, away_);
+    }
+
+    void BringBack() { Move(away_, Database); }
+
+private:
+    static void Move(const QString& from, const QString& to) { ASSERT_TRUE(QFile::rename(from, to)); }
+
+    const QString away_ = Home.Path(u"away.mdb");
+};
+
+TEST_F(AbsentBranchTest, IsAskedAbout_AndWrittenToWhenItIsBack)
+{
+    ExpectDatabaseInUse(Answer::Retry, [this] { BringBack(); });
+
+    ScanOn();
+
+    EXPECT_EQ(Stored("Surname"), u"Typed"_s);
+    EXPECT_EQ(Current(), u"A002"_s);
+}
+
+TEST_F(AbsentBranchTest, GivenUp_TheTextStaysInTheBox_AndIsStoredLater)
+{
+    ExpectDatabaseInUse(Answer::Cancel);
+    ScanOn();
+    EXPECT_EQ(ExitCode(), std::nullopt);
+    EXPECT_EQ(P.Form3->Text2.Text.value(), u"Typed"_s);
+
+    BringBack();
+    ScanOn();
+
+    EXPECT_EQ(Stored("Surname"), u"Typed"_s);
+    EXPECT_EQ(ExitCode(), std::nullopt);
+}
+
 } // namespace
 } // namespace lineforge

@@ -20,7 +20,14 @@ public:
     static constexpr int Last() { return Hi; }
 
     // Back to the state before anything was stored.
-    void Erase() { items_.fill(T{}); }
+    void Erase()
+    {
+        for (T& item : items_)
+            if constexpr (requires { item.Erase(); })
+                item.Erase();
+            else
+                item = T{};
+    }
 
     friend bool operator==(const FixedArray&, const FixedArray&) = default;
 

@@ -198,6 +198,8 @@ void DataControl::Settle()
         throw;
     }
     show();
+    if (records_)
+        records_->Shown();
 }
 
 void DataControl::Release()

@@ -90,6 +90,11 @@ bool Connection::IsStillThere() const
     return identity.File != 0 && identity.Device == device_ && identity.File == inode_;
 }
 
+bool Connection::MayComeBack() const
+{
+    return QFileInfo(QFileInfo(path_).path()).isDir();
+}
+
 void Connection::FollowFile()
 {
     const bool isInTransaction = sqlite3_get_autocommit(handle_) == 0;
@@ -106,7 +111,8 @@ Transaction::Transaction(Connection& connection) : connection_(connection)
 {
     connection.FollowFile();
     if (!connection.IsStillThere())
-        throw RuntimeError(ErrorNumber::DatabaseNotFound, connection.Path());
+        throw RuntimeError(connection.MayComeBack() ? ErrorNumber::DatabaseBusy : ErrorNumber::DatabaseNotFound,
+                           connection.Path());
     connection.Prepare("BEGIN IMMEDIATE")->Step();
 }
 

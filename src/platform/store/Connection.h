@@ -35,6 +35,8 @@ public:
 
     // Whether the file's name still leads to the very file that is open here.
     bool IsStillThere() const;
+    // Whoever keeps directories alike on several machines takes a file away to put another one in its place.
+    bool MayComeBack() const;
 
     // How long the engine waits for a lock from now on.
     void BePatient(int milliseconds);
@@ -61,8 +63,8 @@ private:
 };
 
 // A change of a file that takes place whole or not at all: taken back by its end unless it was committed. No other
-// program can write meanwhile. 3260 when one is at it already, or still reads when it is to be committed; 3024 when the
-// file has lost its name.
+// program can write meanwhile. 3260 when one is at it already, or still reads when it is to be committed, and when the
+// file has lost its name; 3024 when its directory has, too.
 class Transaction
 {
 public:

@@ -118,8 +118,20 @@ void Recordset::Follow(const Renumbering& step) const
     gone_ = place_.Fate == RowFate::Gone;
     if (gone_)
         takenAway_ = record;
-    if (place_.Fate != RowFate::Same && (!ShowAnew() || gone_))
-        fate_ = place_.Fate;
+    if (place_.Fate != RowFate::Same)
+        NoteFate(place_.Fate);
+}
+
+void Recordset::NoteFate(RowFate fate) const
+{
+    fate_ = fate;
+    willBeShown_ = fate == RowFate::Changed && ShowAnew();
+}
+
+void Recordset::Shown()
+{
+    if (std::exchange(willBeShown_, false))
+        fate_ = RowFate::Same;
 }
 
 // What other programs have added is seen; what other cursors of this process have, is not.
@@ -149,7 +161,10 @@ void Recordset::StandOn(const RowPlace& place)
     place_ = place;
     bof_ = eof_ = false;
     gone_ = place.Fate == RowFate::Gone;
-    fate_ = gone_ ? RowFate::Gone : RowFate::Same;
+    NoteFate(place.Fate);
+    // Whoever shows nothing reads it now.
+    if (!gone_ && !willBeShown_)
+        fate_ = RowFate::Same;
     if (gone_)
         takenAway_ = u"A record"_s;
     pending_ = Pending::None;

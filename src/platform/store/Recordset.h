@@ -92,6 +92,9 @@ public:
     // A cursor of its own on all rows that stand in the file now.
     std::unique_ptr<Recordset> Afresh() const;
 
+    // The user sees the current row as it stands.
+    void Shown();
+
     // The walk is over for now: gives back the read lock that it holds on the file.
     void Rest() const;
 
@@ -102,7 +105,8 @@ protected:
     virtual void Arrived() {}
     // Before `Update` writes; may begin an edit and put values.
     virtual void Updating() {}
-    // Another program has changed the current row. True when its user sees it anew, so that it may be written to.
+    // Another program has changed the current row. True when its user will see it anew: from `Shown` on it may be
+    // written to.
     virtual bool ShowAnew() const { return false; }
 
     // 3167, of which the user is told once, when another program has deleted the current row.
@@ -125,6 +129,7 @@ private:
     void FollowOthers() const;
     void Follow(const Renumbering& step) const;
     void FollowRowSet(const Renumbering& step) const;
+    void NoteFate(RowFate fate) const;
     std::int64_t Number() const { return place_.After; }
     Bookmark Mark(std::int64_t row) const;
     void StandOn(const RowPlace& place);
@@ -168,7 +173,8 @@ private:
     mutable std::uint32_t numbering_ = 0;
     mutable RowPlace place_;
     mutable bool gone_ = false;
-    mutable RowFate fate_ = RowFate::Same; // what others have done to the current row since the cursor came to it
+    mutable RowFate fate_ = RowFate::Same; // what others have done to the current row since its user has seen it
+    mutable bool willBeShown_ = false;     // and he will see that
     mutable QString takenAway_;            // that row in words, until its deletion has been told
     mutable std::int64_t lastRowAtOpening_ = 0;
     mutable std::set<std::int64_t> added_;

@@ -37,6 +37,12 @@ public:
     int NumberOr(int otherwise) const { return IsNumber() ? Number() : otherwise; }
     // A fraction counts; a text that is no number isn't zero.
     bool IsZero() const { return number_ == 0; }
+    // Back to the state before anything was stored.
+    void Erase()
+    {
+        if (holds_ != Holding::Nothing)
+            *this = Cell();
+    }
     QString Text() const { return holds_ == Holding::Number ? QString::number(Number()) : text_; }
 
     friend bool operator==(const Cell& a, const Cell& b) { return a.Text() == b.Text(); }

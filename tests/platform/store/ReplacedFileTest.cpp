@@ -178,7 +178,7 @@ TEST_F(ReplacedFileTest, FileOfAnotherTable_IsRefused)
     EXPECT_EQ(RefusalOf([&] { Rename(people, u"Sid"_s); }), ErrorNumber::TableNotFound);
 }
 
-TEST_F(ReplacedFileTest, FileThatHasGone_IsReadOn_AndNotWritten)
+TEST_F(ReplacedFileTest, FileThatHasGone_IsReadOn_AndCountsAsLockedForWhoWrites)
 {
     Recordset people = Open();
     OnBob(people);
@@ -186,7 +186,7 @@ TEST_F(ReplacedFileTest, FileThatHasGone_IsReadOn_AndNotWritten)
 
     people.MoveNext();
     EXPECT_EQ(people.Text(u"Name"), u"Cid");
-    EXPECT_EQ(RefusalOf([&] { Rename(people, u"Sid"_s); }), ErrorNumber::DatabaseNotFound);
+    EXPECT_EQ(RefusalOf([&] { Rename(people, u"Sid"_s); }), ErrorNumber::DatabaseBusy);
 }
 
 TEST_F(ReplacedFileTest, OldFile_IsLetGo)
