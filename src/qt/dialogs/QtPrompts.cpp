@@ -251,8 +251,7 @@ void QtPrompts::ShowHelp(const QString& helpFile)
         MsgBox(u"Lineforge"_s, u"The help file can't be found.\n"_s + helpFile, Buttons::Information);
         return;
     }
-    help_->show();
-    BringToFront(*help_->windowHandle());
+    ShowInFront(*help_);
 }
 
 } // namespace lineforge

@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <QScreen>
 #include <QTimer>
+#include <QWidget>
 #include <QWindow>
 
 #include <utility>
@@ -117,6 +118,18 @@ void BringToFront(QWindow& window)
         QTimer::singleShot(patience, &window, [&window] { ShowAnewUnlessGranted(window); });
     else
         AwaitArrival(window);
+}
+
+void ShowRestored(QWidget& window)
+{
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+}
+
+void ShowInFront(QWidget& window)
+{
+    ShowRestored(window);
+    BringToFront(*window.windowHandle());
 }
 
 } // namespace lineforge

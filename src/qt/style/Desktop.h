@@ -4,6 +4,7 @@
 
 #include <QSize>
 
+class QWidget;
 class QWindow;
 
 namespace lineforge
@@ -21,5 +22,11 @@ Scale ScaleForRoom(Size client, QSize room, double dots = 1);
 
 // Brings a window that is on the screen before the others.
 void BringToFront(QWindow& window);
+
+// Puts a window on the screen, also one that is minimised there.
+void ShowRestored(QWidget& window);
+
+// The same, before the others.
+void ShowInFront(QWidget& window);
 
 } // namespace lineforge

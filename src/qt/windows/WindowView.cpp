@@ -117,14 +117,12 @@ void WindowView::Maximise(QSize otherwise)
 
 void WindowView::Show()
 {
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    show();
+    ShowRestored(*this);
 }
 
 void WindowView::Appear()
 {
-    Show();
-    BringToFront(*windowHandle());
+    ShowInFront(*this);
 }
 
 QImage WindowView::Picture() const

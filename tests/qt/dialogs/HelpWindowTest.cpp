@@ -57,6 +57,16 @@ TEST_F(HelpWindowTest, OpenedAgain_ItIsTheSameWindow_OnTheContentsPage)
     EXPECT_EQ(Place(), u"index.html#"_s);
 }
 
+TEST_F(HelpWindowTest, Minimised_ItComesBackWhenItIsOpenedAgain)
+{
+    OpenHelp(SmallManual);
+    QWidget& help = Window();
+    help.showMinimized();
+    OpenHelp(SmallManual);
+    EXPECT_FALSE(help.isMinimized());
+    EXPECT_TRUE(help.isVisible());
+}
+
 TEST_F(HelpWindowTest, AnotherManual_TakesThePlaceOfTheOneBefore)
 {
     OpenHelp(SmallManual);
