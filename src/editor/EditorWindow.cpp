@@ -6,6 +6,7 @@
 #include "platform/base/RuntimeError.h"
 #include "platform/files/MemoryFile.h"
 #include "platform/files/WholeFile.h"
+#include "printing/PrintServer.h"
 
 #include <QCloseEvent>
 #include <QDateTime>
@@ -209,10 +210,16 @@ void EditorWindow::Print()
     if (dialog.exec() != QDialog::Accepted)
         return;
     if (printer.outputFormat() == QPrinter::NativeFormat)
-        area_->print(&printer);
+        PrintOnQueue(printer);
     else
         PrintToFile(printer);
-    if (printer.printerState() == QPrinter::Error)
+}
+
+void EditorWindow::PrintOnQueue(QPrinter& printer)
+{
+    TellOrderOfPages(printer);
+    area_->print(&printer);
+    if (!HasServerTakenJob())
         Tell(this, u"The text couldn't be printed."_s);
 }
 

@@ -58,6 +58,7 @@ private:
 
     bool MayLeaveText();
     bool WriteTo(const QString& path);
+    void PrintOnQueue(QPrinter& printer);
     void PrintToFile(QPrinter& printer);
     void ShowFile();
     void ShowPosition();

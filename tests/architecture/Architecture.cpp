@@ -29,7 +29,8 @@ const QList<Room>& Rooms()
     static const QList<Room> rooms{
         {u"platform/base"_s, {}},
         {u"platform/files"_s, {u"platform/base"_s}},
-        {u"editor"_s, {u"platform/base"_s, u"platform/files"_s}},
+        {u"printing"_s, {}},
+        {u"editor"_s, {u"platform/base"_s, u"platform/files"_s, u"printing"_s}},
         {u"platform/drawing"_s, {u"platform/base"_s, u"platform/files"_s}},
         {u"platform/store"_s, {u"platform/base"_s, u"platform/files"_s}},
         {u"jet"_s, {u"platform/base"_s, u"platform/store"_s}},
@@ -43,7 +44,8 @@ const QList<Room>& Rooms()
          {u"forms"_s, u"platform/base"_s, u"platform/controls"_s, u"platform/drawing"_s, u"platform/files"_s,
           u"platform/machine"_s, u"platform/store"_s}},
         {u"qt/events"_s, {u"platform/controls"_s, u"platform/machine"_s}},
-        {u"qt/machine"_s, {u"platform/base"_s, u"platform/files"_s, u"platform/machine"_s, u"qt/style"_s}},
+        {u"qt/machine"_s,
+         {u"platform/base"_s, u"platform/files"_s, u"platform/machine"_s, u"printing"_s, u"qt/style"_s}},
         {u"program/ui"_s,
          {u"forms"_s, u"platform/base"_s, u"platform/controls"_s, u"platform/machine"_s, u"program/state"_s}},
         {u"qt/dialogs"_s,
@@ -238,7 +240,7 @@ QStringList WidgetsBelowTheLine(const Sources& sources)
         u"\\b(?:QtWidgets|QWidget|QMessageBox|QFileDialog|QPrinter|QApplication|QtMultimedia|QtPrintSupport|QMedia\\w*)\\b"_s);
     QStringList findings;
     for (auto source = sources.begin(); source != sources.end(); ++source) {
-        if (QStringList{u"qt"_s, u"editor"_s, u"main"_s}.contains(WingOf(source.key())))
+        if (QStringList{u"qt"_s, u"editor"_s, u"printing"_s, u"main"_s}.contains(WingOf(source.key())))
             continue;
         if (const auto match = words.match(source.value()); match.hasMatch())
             findings.push_back(source.key() + u" names "_s + match.captured());

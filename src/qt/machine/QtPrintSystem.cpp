@@ -2,15 +2,13 @@
 
 #include "platform/base/RuntimeError.h"
 #include "platform/files/WholeFile.h"
+#include "printing/PrintServer.h"
 
 #include <QFileInfo>
-#include <QLibrary>
 #include <QLineEdit>
 #include <QPrintDialog>
-#include <QPrintEngine>
 #include <QPrinterInfo>
 
-#include <cups/cups.h>
 #include <utility>
 
 namespace lineforge
@@ -40,28 +38,6 @@ void CopySettings(const QPrinter& from, QPrinter& to)
     to.setDuplex(from.duplex());
     to.setPrintRange(from.printRange());
     to.setPageRanges(from.pageRanges());
-}
-
-// What the print server answered last. Its library isn't linked, for it brings some twenty others, which nobody needs
-// who starts the program and doesn't print. The toolkit loads it with its first printer.
-ipp_status_t LastAnswer()
-{
-    constexpr int libraryVersion = 2;
-    static const auto lastAnswer =
-        reinterpret_cast<decltype(&cupsLastError)>(QLibrary::resolve(u"cups"_s, libraryVersion, "cupsLastError"));
-    return lastAnswer ? lastAnswer() : IPP_STATUS_ERROR_INTERNAL;
-}
-
-// The toolkit's dialog asks for the order of the pages, but its jobs don't tell the server of it.
-void TellOrderOfPages(const QPrinter& printer)
-{
-    if (printer.outputFormat() != QPrinter::NativeFormat || printer.pageOrder() == QPrinter::FirstPageFirst)
-        return;
-    // Where the dialog leaves what it has to tell the server, names and values in turn.
-    constexpr auto serverOptions = static_cast<QPrintEngine::PrintEnginePropertyKey>(0xFE00);
-    QPrintEngine& engine = *printer.printEngine();
-    const QStringList inReverse{u"outputorder"_s, u"reverse"_s};
-    engine.setProperty(serverOptions, engine.property(serverOptions).toStringList() + inReverse);
 }
 
 // The toolkit proposes a directory, and a name in it only under X11.
@@ -118,7 +94,7 @@ void QtPrintSystem::HandOver()
 {
     if (!file_.isEmpty())
         WriteWholeFile(file_, std::exchange(paper_, nullptr)->Bytes());
-    else if (LastAnswer() > IPP_STATUS_OK_EVENTS_COMPLETE)
+    else if (!HasServerTakenJob())
         throw RuntimeError(ErrorNumber::PrinterError);
 }
 
@@ -143,6 +119,7 @@ void QtPrintSystem::SetChosen(std::unique_ptr<QPrinter> printer)
     chosenOrientation_ = chosen_ ? chosen_->pageLayout().orientation() : QPageLayout::Portrait;
     chosenFile_ = chosen_ ? chosen_->outputFileName() : QString();
     jobsToFile_ = 0;
+    setup_ = {};
     if (chosen_)
         TellOrderOfPages(*chosen_);
 }
@@ -161,8 +138,12 @@ void QtPrintSystem::Choose(QWidget* parent)
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
                       QAbstractPrintDialog::PrintShowPageSize | QAbstractPrintDialog::PrintCollateCopies);
     ProposeFile(dialog);
-    if (dialog.exec() == QDialog::Accepted)
-        SetChosen(std::move(printer));
+    const QueueDialog queue(dialog, setup_);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    QueueSetup setup = queue.Taken(*printer);
+    SetChosen(std::move(printer));
+    setup_ = std::move(setup);
 }
 
 } // namespace lineforge

@@ -2,6 +2,7 @@
 
 #include "platform/files/MemoryFile.h"
 #include "platform/machine/Printer.h"
+#include "qt/machine/QueueDialog.h"
 
 #include <QPageLayout>
 #include <QPrinter>
@@ -45,6 +46,7 @@ private:
     std::shared_ptr<QPrinter> chosen_;
     QPageLayout::Orientation chosenOrientation_ = QPageLayout::Portrait;
     QString chosenFile_;
+    QueueSetup setup_; // as the dialog has been left; nothing where the printer has been chosen without it
     int jobsToFile_ = 0;
 
     // Of the last job; no file when it went to a queue.
