@@ -35,7 +35,12 @@ public:
         const QString record = parts.Stem.chopped(1);
         if (branch_.Records && !branch_.Numbers.contains(Folded(record)))
             Tell(Kind::GalleryFile, name, u"the file of a record that isn't there"_s, record);
-        CheckTile(name, record);
+        if (parts.Tail.startsWith(u"Temp"))
+            Tell(Kind::GalleryFile, name,
+                 u"left by a swap of two tiles that was cut off; tile "_s + parts.Subscript + u" was its own before",
+                 record);
+        else
+            CheckTile(name, record);
         CheckKind(name, record);
     }
 

@@ -6,7 +6,9 @@
 #include <QDir>
 #include <QFile>
 
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 
 namespace
 {
@@ -19,7 +21,13 @@ constexpr const char* purpose =
     "one object for scripts.\n"
     "\n"
     "Ends with 0 when nothing is wrong, with 1 when something is, and with 2 when the home or a part\n"
-    "of it couldn't be looked at.\n";
+    "of it couldn't be looked at, or when the report can't be written.\n";
+
+bool Tell(const QByteArray& report)
+{
+    const auto size = static_cast<std::size_t>(report.size());
+    return std::fwrite(report.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
+}
 } // namespace
 
 int main(int argc, char* argv[])
@@ -41,6 +49,9 @@ int main(int argc, char* argv[])
     const QString home = QDir::cleanPath(QDir().absoluteFilePath(QFile::decodeName(line.Operands.front().c_str())));
     const check::Report report = check::CheckHome(home);
     const QByteArray told = line.HasFlag ? check::ReportJson(report, home) : check::ReportText(report, home);
-    std::fwrite(told.constData(), 1, static_cast<std::size_t>(told.size()), stdout);
+    if (!Tell(told)) {
+        std::fprintf(stderr, "lineforge-check: the report can't be written: %s\n", std::strerror(errno));
+        return static_cast<int>(check::Verdict::NotWhole);
+    }
     return static_cast<int>(check::VerdictOf(report));
 }

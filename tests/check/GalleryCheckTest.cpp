@@ -71,6 +71,17 @@ TEST_F(GalleryCheckTest, TwoFilesOnOneTile_AreTold)
                                    u"hidden by A001_01.wav, which stands on the same tile")});
 }
 
+// The first tile's file has gone out of the way; whether or not the second's has come in its place.
+TEST_F(GalleryCheckTest, SwapOfTilesThatWasCutOff_IsToldByTheFileThatItHasLeft)
+{
+    const Finding left = Of(Kind::GalleryFile, In(u"A001_01Temp.jpg"), u"A001",
+                            u"left by a swap of two tiles that was cut off; tile 01 was its own before");
+    home.WriteFile(In(u"A001_01Temp.jpg"), PictureBytes(Qt::blue));
+    EXPECT_EQ(Findings(), Found{left});
+    ASSERT_TRUE(QFile::remove(home.Path(In(u"A001_01.jpg"))));
+    EXPECT_EQ(Findings(), Found{left});
+}
+
 TEST_F(GalleryCheckTest, PictureThatNoReaderTakes_IsTold)
 {
     home.WriteFile(In(u"A002_01.bmp"), "BM, it says");

@@ -28,9 +28,11 @@ protected:
     QJsonObject Json() const { return Object(ReportJson(CheckHome(home.Path()), home.Path())); }
 
     // The program itself, on a machine without a display.
-    Outcome RunProgram(const QStringList& arguments) const
+    Outcome RunProgram(const QStringList& arguments, const QString& output = {}) const
     {
         QProcess process;
+        if (!output.isEmpty())
+            process.setStandardOutputFile(output);
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         for (const QString& name : {u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"QT_QPA_PLATFORM"_s})
             environment.remove(name);
@@ -57,6 +59,16 @@ protected:
         return document.object();
     }
 };
+
+// What nobody has read can't tell that all is well.
+TEST_F(ReportTest, ReportThatCantBeWritten_EndsWith2_AndALineOnTheErrorOutput)
+{
+    for (const QStringList& arguments : {QStringList{home.Path()}, QStringList{u"--json"_s, home.Path()}}) {
+        const Outcome outcome = RunProgram(arguments, u"/dev/full"_s);
+        EXPECT_EQ(outcome.Status, 2);
+        EXPECT_EQ(outcome.Errors, u"lineforge-check: the report can't be written: No space left on device\n");
+    }
+}
 
 TEST_F(ReportTest, HomeInOrder_IsToldInWords)
 {
