@@ -90,4 +90,10 @@ bool Story::TellsOfExportTo(const QString& directory) const
     });
 }
 
+bool Story::TellsOfDeletionOf(const QString& directory) const
+{
+    const QString question = u"Database, Gallery and Files\": All files in "_s + directory + u'|';
+    return std::ranges::any_of(Lines, [&](const QString& line) { return line.contains(question); });
+}
+
 } // namespace lineforge::monkey

@@ -44,6 +44,8 @@ struct Story {
     QStringList Last(qsizetype lines) const;
     // Whether the user was asked about an export into that directory, by the name that the journal has for it.
     bool TellsOfExportTo(const QString& directory) const;
+    // Whether he was asked the last question before the branch in that directory is deleted.
+    bool TellsOfDeletionOf(const QString& directory) const;
 
     QStringList Lines;
     int Steps = 0;

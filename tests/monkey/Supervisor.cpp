@@ -1,9 +1,9 @@
 #include "monkey/Supervisor.h"
 
 #include "monkey/ChosenFiles.h"
-#include "monkey/Journal.h"
 #include "monkey/Ledger.h"
 #include "monkey/Verdict.h"
+#include "program/branch/AliasFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -96,9 +96,13 @@ Supervisor::Supervisor(QString program, const Plan& plan) : program_(std::move(p
 
 void Supervisor::NoteHomes(const Scratch& scratch)
 {
-    for (const QString& home : Homes())
-        for (const check::Finding& finding : check::CheckHome(scratch.Directory() + home).Findings)
+    for (const QString& home : Homes()) {
+        const QString directory = scratch.Directory() + home;
+        for (const check::Finding& finding : check::CheckHome(directory).Findings)
             before_[home].Findings.push_back(finding);
+        ReadAliasSection(FileSystem(directory), u"AliasList.cfg"_s, AliasSection::Branches,
+                         [&](const QString& entry) { listed_[home] += entry.section(u'=', -1); });
+    }
 }
 
 int Supervisor::Run()
@@ -116,10 +120,14 @@ std::unique_ptr<ChildProcess> Supervisor::Start(const Scratch& scratch, const QS
     return std::make_unique<ChildProcess>([&] { return Become(program_, arguments, scratch); });
 }
 
-check::Report Supervisor::Checked(const QString& home) const
+// A deletion takes the branch out of the list before its directory goes.
+check::Report Supervisor::WithoutWhatAKillMayLeave(const check::Report& report, const QString& home,
+                                                   const Story& story) const
 {
-    const check::Report report = check::CheckHome(home);
-    return plan_.Kills ? WithoutUnfinished(report) : report;
+    return WithoutUnfinished(report, [&](const QString& name) {
+        return listed_[home].contains(name, Qt::CaseInsensitive) &&
+               !story.TellsOfDeletionOf(u"~"_s + home + u'/' + name);
+    });
 }
 
 QStringList Supervisor::CheckHomes(const Scratch& scratch) const
@@ -132,7 +140,10 @@ QStringList Supervisor::CheckHomes(const Scratch& scratch) const
         const auto isTheUsers = [&](const QString& file) { return chosen.Hold(directory + u'/' + file); };
         const auto isExport = [&](const QString& name) { return story.TellsOfExportTo(u"~"_s + home + u'/' + name); };
         const auto isEmpty = [&](const QString& name) { return QDir(directory + u'/' + name).isEmpty(); };
-        const check::Report report = WithoutExports(WithoutChosen(Checked(directory), isTheUsers), isExport, isEmpty);
+        check::Report report = check::CheckHome(directory);
+        if (plan_.Kills)
+            report = WithoutWhatAKillMayLeave(report, home, story);
+        report = WithoutExports(WithoutChosen(report, isTheUsers), isExport, isEmpty);
         for (const QString& finding : NewFindings(before_[home], report))
             findings += home + u'/' + finding;
     }

@@ -2,6 +2,7 @@
 
 #include "check/HomeCheck.h"
 #include "monkey/Chance.h"
+#include "monkey/Journal.h"
 #include "monkey/Scratch.h"
 #include "support/ChildProcess.h"
 
@@ -39,7 +40,7 @@ private:
     void Kill(std::uint64_t seed);
     std::unique_ptr<ChildProcess> Start(const Scratch& scratch, const QStringList& arguments) const;
     void NoteHomes(const Scratch& scratch);
-    check::Report Checked(const QString& home) const;
+    check::Report WithoutWhatAKillMayLeave(const check::Report& report, const QString& home, const Story& story) const;
     QStringList CheckHomes(const Scratch& scratch) const;
     void Close(std::uint64_t seed, const Scratch& scratch, const QStringList& findings);
     void TellFigures() const;
@@ -48,6 +49,7 @@ private:
     const Plan plan_;
     Pristine pristine_;
     QMap<QString, check::Report> before_; // by the home: what is found before anything is played
+    QMap<QString, QStringList> listed_;   // likewise: the directories of the branches in its list
     QMap<QString, int> ends_;
     int steps_ = 0;
     int failures_ = 0;

@@ -24,6 +24,13 @@ bool IsUnlisted(const check::Finding& finding)
     return finding.Kind == check::Kind::Registry && finding.Text.contains(u"isn't in the list of branches");
 }
 
+// A journal that the engine had not got as far as to fill stays until the next change.
+bool IsCutOff(const check::Finding& finding)
+{
+    return (finding.Kind == check::Kind::Leftover && finding.File.endsWith(u"-journal")) ||
+           (finding.Kind == check::Kind::GalleryFile && finding.Text.startsWith(u"left by a swap of two tiles"));
+}
+
 // A branch takes what is wrong with it along to another directory, and a new record its number from those before it.
 bool AreSame(const check::Finding& one, const check::Finding& other)
 {
@@ -60,16 +67,14 @@ check::Report WithoutExports(check::Report report, const OfDirectory& isExport, 
     return report;
 }
 
-check::Report WithoutUnfinished(check::Report report)
+check::Report WithoutUnfinished(check::Report report, const OfDirectory& mustBeListed)
 {
     QStringList unfinished;
     for (const check::Finding& finding : report.Findings)
-        if (IsUnlisted(finding))
+        if (IsUnlisted(finding) && !mustBeListed(finding.File))
             unfinished += finding.File;
-    // A journal that the engine had not got as far as to fill stays until the next change.
     std::erase_if(report.Findings, [&](const check::Finding& finding) {
-        return unfinished.contains(finding.File.section(u'/', 0, 0)) ||
-               (finding.Kind == check::Kind::Leftover && finding.File.endsWith(u"-journal"));
+        return unfinished.contains(finding.File.section(u'/', 0, 0)) || IsCutOff(finding);
     });
     return report;
 }

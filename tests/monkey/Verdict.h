@@ -19,11 +19,12 @@ check::Report WithoutChosen(check::Report report, const std::function<bool(const
 
 // Without the directories of exports that `isExport` knows by their names, where they were put beside the branches of a
 // home: an export enters nothing in its list, and one that is given up leaves its directory, which `isEmpty` then.
-using OfDirectory = std::function<bool(const QString&)>;
+using OfDirectory = std::function<bool(const QString& name)>;
 check::Report WithoutExports(check::Report report, const OfDirectory& isExport, const OfDirectory& isEmpty);
 
-// Without branches that aren't in the list: whatever makes a branch tells the list last, and may be killed before.
-// Without the journals of changes that were cut off.
-check::Report WithoutUnfinished(check::Report report);
+// Without what a kill may leave. Branches that aren't in the list: whatever makes a branch tells the list last, and may
+// be killed before; but one that `mustBeListed` can only have been lost from it. The journals of changes that were cut
+// off, and the one file that a swap of tiles had out of the way.
+check::Report WithoutUnfinished(check::Report report, const OfDirectory& mustBeListed);
 
 } // namespace lineforge::monkey

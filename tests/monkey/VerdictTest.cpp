@@ -20,6 +20,7 @@ check::Report With(std::vector<check::Finding> findings)
 }
 
 const check::Finding torn{Kind::MapFile, u"LfgDat_A/LfgDat_A.cfg"_s, {}, u"it ends too early"_s};
+const auto none = [](const QString&) { return false; };
 const check::Finding leftover{Kind::Leftover, u"LfgDat_A/.lineforge-x"_s, {}, u"left"_s};
 
 TEST(VerdictTest, WhatWasNotThereBefore_IsTold)
@@ -101,8 +102,31 @@ TEST(VerdictTest, BranchThatIsntInTheList_IsUnfinished_TheOthersAreNot)
 {
     const check::Finding unlisted{Kind::Registry, u"LfgDat_G"_s, {}, u"this branch isn't in the list of branches"_s};
     const check::Finding empty{Kind::MapFile, u"LfgDat_G/LfgDat_G.cfg"_s, {}, u"the map isn't there"_s};
-    EXPECT_EQ(WithoutUnfinished(With({unlisted, torn, empty})).Findings, std::vector{torn});
-    EXPECT_EQ(WithoutUnfinished(With({torn, empty})).Findings.size(), 2U);
+    EXPECT_EQ(WithoutUnfinished(With({unlisted, torn, empty}), none).Findings, std::vector{torn});
+    EXPECT_EQ(WithoutUnfinished(With({torn, empty}), none).Findings.size(), 2U);
+}
+
+TEST(VerdictTest, BranchThatTheListHasLost_IsAFinding_WithAllThatIsWrongInIt)
+{
+    const check::Finding lost{Kind::Registry, u"LfgDat_A"_s, {}, u"this branch isn't in the list of branches"_s};
+    const check::Finding made{Kind::Registry, u"LfgDat_G"_s, {}, u"this branch isn't in the list of branches"_s};
+    const auto isA = [](const QString& directory) { return directory == u"LfgDat_A"; };
+    EXPECT_EQ(WithoutUnfinished(With({lost, torn, made}), isA).Findings, (std::vector{lost, torn}));
+}
+
+TEST(VerdictTest, JournalTellsWhichBranchTheUserWasAskedToDelete)
+{
+    const TemporaryHome home;
+    {
+        Journal journal(home.Path(u"journal"), {{u"/tmp/x"_s, u"~"_s}});
+        journal.Note(
+            u"\"Deletion of 'Smiths' Database, Gallery and Files\": All files in /tmp/x/home/LfgDat_A\n'Smiths' "
+            u"Ancestral Tree Branch will be deleted."_s);
+    }
+    const Story story(home.Path(u"journal"));
+    EXPECT_TRUE(story.TellsOfDeletionOf(u"~/home/LfgDat_A"_s));
+    EXPECT_FALSE(story.TellsOfDeletionOf(u"~/home/LfgDat_"_s));
+    EXPECT_FALSE(story.TellsOfDeletionOf(u"~/other-home/LfgDat_A"_s));
 }
 
 TEST(VerdictTest, ExportThatWasPutBesideTheBranches_IsNoFinding_WhatIsWrongInItIs)
@@ -139,8 +163,17 @@ TEST(VerdictTest, AKillMayLeaveAJournal_ButNoOtherLeftover)
 {
     const check::Finding journal{Kind::Leftover, u"LfgDat_A/LfgDat_A.mdb-journal"_s, {}, u"left by a change"_s};
     const check::Finding copy{Kind::Leftover, u"LfgDat_A/.lineforge-abc"_s, {}, u"left by a copy"_s};
-    EXPECT_EQ(WithoutUnfinished(With({journal, copy})).Findings, std::vector{copy});
+    EXPECT_EQ(WithoutUnfinished(With({journal, copy}), none).Findings, std::vector{copy});
     EXPECT_EQ(NewFindings({}, With({journal})).size(), 1);
+}
+
+TEST(VerdictTest, AKillMayCutASwapOfTilesOff_ButLoseNoFile)
+{
+    const check::Finding swap{Kind::GalleryFile, u"LfgDat_A/LfgGal_A/A001_01Temp.jpg"_s, u"A001"_s,
+                              u"left by a swap of two tiles that was cut off; tile 01 was its own before"_s};
+    const check::Finding hidden{Kind::GalleryFile, u"LfgDat_A/LfgGal_A/A001_01.jpg"_s, u"A001"_s, u"hidden by"_s};
+    EXPECT_EQ(WithoutUnfinished(With({swap, hidden}), none).Findings, std::vector{hidden});
+    EXPECT_EQ(NewFindings({}, With({swap})).size(), 1);
 }
 
 TEST(VerdictTest, NotesAreNoFindings)
