@@ -95,6 +95,7 @@ void CopyLargeBranch(benchmark::State& state)
 {
     CopyAgainAndAgain(state, [](const QString& place) {
         QProcess::execute(u"cp"_s, {u"-r"_s, Large().Branch(), place});
+        QProcess::execute(u"sync"_s, {u"-f"_s, place});
     });
 }
 

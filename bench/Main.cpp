@@ -48,7 +48,8 @@ int main(int argc, char* argv[])
         {"a run that ends when the children can't be counted any more, likewise", "ConvertWithoutEnd",
          "PassSourceWithoutEnd", 1.5},
         {"the memory that it takes, by that of the lines that it shows", "MemoryWithoutEnd", "MemoryOfReport", 1.5},
-        {"the export of a branch of 2,000 files of 1 MB, by cp -r", "ExportLargeBranch", "CopyLargeBranch", 1.3},
+        {"the export of a branch of 2,000 files of 1 MB, by cp -r and sync", "ExportLargeBranch", "CopyLargeBranch",
+         1.3},
         {"50,000 records of an older installation, by the export of their library", "ConvertOldDatabase",
          "ExportOldDatabase", 3.0},
     });

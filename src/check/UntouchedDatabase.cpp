@@ -2,6 +2,7 @@
 
 #include "platform/base/RuntimeError.h"
 #include "platform/files/FileRefusal.h"
+#include "platform/store/DatabaseFormat.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -20,13 +21,10 @@ constexpr int busyMilliseconds = 2000;
 constexpr QStringView changesBeside[] = {u"-journal", u"-wal"};
 
 // In that mode the engine makes files beside a database even to read it.
-bool KeepsChangesBeside(const QString& path)
+bool HasFilesBeside(const QString& path)
 {
-    constexpr qint64 versionsPlace = 18; // of the two that may write and read the file
     QFile file(path);
-    if (!file.open(QFile::ReadOnly) || !file.seek(versionsPlace))
-        return false;
-    return file.read(2).contains('\2');
+    return file.open(QFile::ReadOnly) && KeepsChangesBeside(file.read(databaseFormatBytes).toStdString());
 }
 
 void Copy(const QString& from, const QString& to)
@@ -55,7 +53,7 @@ UntouchedDatabase::UntouchedDatabase(const QString& file)
 {
     if (QFileInfo::exists(file + u"-wal"))
         OpenCopy(file);
-    else if (KeepsChangesBeside(file))
+    else if (HasFilesBeside(file))
         // Without such a file beside it nobody has it open, so that it can't change while it is read without a lock.
         Open(file, "mode=ro&immutable=1");
     else

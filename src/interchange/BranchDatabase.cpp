@@ -1,8 +1,12 @@
 #include "interchange/BranchDatabase.h"
 
+#include "platform/base/RuntimeError.h"
 #include "platform/base/Text.h"
 #include "platform/files/DirectoryFiles.h"
+#include "platform/store/DatabaseBytes.h"
 #include "program/ui/Meanwhile.h"
+
+#include <QFileInfo>
 
 namespace lineforge
 {
@@ -39,10 +43,36 @@ bool IsBranchDatabase(const FileSystem& files, Prompts& prompts, const QString& 
     return true;
 }
 
+DatabaseToCopy TakeDatabase(OtherPrograms& others, const FileSystem& files, const QString& path)
+{
+    const QString file = files.Resolve(path);
+    try {
+        return {file, DatabaseBytes(others, file)};
+    } catch (const RuntimeError& refusal) {
+        if (refusal.IsTold)
+            throw;
+        // It goes with what is kept beside it.
+        return {file, {}};
+    }
+}
+
 void CopyDirectory(const FileSystem& files, EventLoop& loop, const QString& from, const QString& to)
 {
+    CopyDirectory(files, loop, {}, from, to);
+}
+
+void CopyDirectory(const FileSystem& files, EventLoop& loop, const DatabaseToCopy& database, const QString& from,
+                   const QString& to)
+{
+    QStringList without;
+    if (database.Bytes) {
+        const QFileInfo file(database.File);
+        without = ChangesBeside(file.fileName()) + QStringList(file.fileName());
+        CopyReadFile(database.File, *database.Bytes, files.Resolve(to) + PathSeparator + file.fileName());
+    }
     Meanwhile meanwhile(loop);
-    CopyFiles(files.Resolve(from), files.Resolve(to), [&meanwhile] { meanwhile.KeepPainted(); });
+    const auto step = [&meanwhile] { meanwhile.KeepPainted(); };
+    CopyFiles(files.Resolve(from), files.Resolve(to), step, without);
 }
 
 } // namespace lineforge

@@ -3,8 +3,14 @@
 #include "platform/files/FileSystem.h"
 #include "platform/machine/Platform.h"
 
+#include <QByteArray>
+
+#include <optional>
+
 namespace lineforge
 {
+
+class OtherPrograms;
 
 // How a user names a branch that isn't in the program's own list: by the path of its database,
 // ".../LfgDat_X/LfgDat_X.mdb".
@@ -19,7 +25,20 @@ bool IsBranchDatabase(const FileSystem& files, Prompts& prompts, const QString& 
 // "LfgDat_X.mdb" of such a path.
 QString DatabaseFile(const QString& path);
 
-// Copies the files of a directory, what can't be copied left out; the windows stay painted meanwhile.
+// A branch's database as it is when no other program is just changing it; without its bytes where it can only be copied
+// as it stands.
+struct DatabaseToCopy {
+    QString File;
+    std::optional<QByteArray> Bytes;
+};
+// The database at that path; waits for other programs as long as the user wants to, and is refused with 3260, told,
+// when he doesn't.
+DatabaseToCopy TakeDatabase(OtherPrograms& others, const FileSystem& files, const QString& path);
+
+// Copies a directory's files, what can't be copied left out; the windows stay painted meanwhile.
 void CopyDirectory(const FileSystem& files, EventLoop& loop, const QString& from, const QString& to);
+// The same of the directory of a branch whose database was taken before.
+void CopyDirectory(const FileSystem& files, EventLoop& loop, const DatabaseToCopy& database, const QString& from,
+                   const QString& to);
 
 } // namespace lineforge

@@ -3,6 +3,7 @@
 #include "forms/Form4.h"
 #include "interchange/BranchDatabase.h"
 #include "platform/base/Text.h"
+#include "platform/files/DiskFlush.h"
 #include "platform/files/Drives.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/MakeDirectory.h"
@@ -44,11 +45,13 @@ bool Confirm(Prompts& prompts, const QString& directory)
 
 // False when the gallery's directory is there already; told when the hourglass has gone. Error 75 or 76 when it can't
 // be made.
-bool CopyBranch(const BranchExport& work, const QString& source, const QString& directory, const QString& gallery)
+bool CopyBranch(const BranchExport& work, const QString& chosen, const QString& directory, const QString& gallery)
 {
+    const DatabaseToCopy database = TakeDatabase(work.Databases.Others(), work.Files, chosen);
+    const QString source = chosen.chopped(DatabaseFile(chosen).size());
     work.Screen.Pointer = MousePointer::Hourglass;
     const auto pointerBack = qScopeGuard([&work] { work.Screen.Pointer = MousePointer::Default; });
-    CopyDirectory(work.Files, work.Loop, source, directory);
+    CopyDirectory(work.Files, work.Loop, database, source, directory);
     // KEPT(BranchExportTest.NameOfThePicture_IsEmptyAfterTheListing_AndInAGedcomFile): it has gone through the names of
     // the files, and ends behind the last.
     // Mended, a GEDCOM file after an export would name the picture that was shown.
@@ -56,6 +59,7 @@ bool CopyBranch(const BranchExport& work, const QString& source, const QString& 
     if (!MakeDirectory(work.Files, gallery))
         return false;
     CopyDirectory(work.Files, work.Loop, source + GalleryName(source.right(2).left(1)), gallery);
+    FlushDisk(work.Files.Resolve(directory));
     return true;
 }
 
@@ -68,15 +72,15 @@ void PutBranch(const BranchExport& work, const QString& database, const QString&
     if (!Confirm(work.Prompts, directory))
         return;
     const QString gallery = directory + PathSeparator + GalleryName(directory.right(1));
-    if (!CopyBranch(work, database.chopped(DatabaseFile(database).size()), directory, gallery))
+    if (!CopyBranch(work, database, directory, gallery))
         TellExists(work.Prompts,
                    gallery + u" Directory already exists.\nYou must first move or delete this Directory.");
 }
 } // namespace
 
 BranchExport::BranchExport(Program& p)
-    : State(p.Export), Branch(p.Branch), Record(p.Record), Scratch(p.Scratch), Files(p.Files), Prompts(p.Prompts),
-      Screen(p.Screen), Loop(p.Loop), Errors(p.Errors), Form4(p.Form4)
+    : State(p.Export), Branch(p.Branch), Record(p.Record), Scratch(p.Scratch), Files(p.Files), Databases(p.Databases),
+      Prompts(p.Prompts), Screen(p.Screen), Loop(p.Loop), Errors(p.Errors), Form4(p.Form4)
 {
 }
 

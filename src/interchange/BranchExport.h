@@ -3,6 +3,7 @@
 #include "platform/base/RuntimeError.h"
 #include "platform/files/FileSystem.h"
 #include "platform/machine/Platform.h"
+#include "platform/store/Database.h"
 #include "program/state/BranchState.h"
 #include "program/state/OutputState.h"
 #include "program/state/RecordState.h"
@@ -23,6 +24,7 @@ struct BranchExport {
     RecordState& Record;
     ScratchState& Scratch;
     FileSystem& Files;
+    lineforge::Databases& Databases;
     lineforge::Prompts& Prompts;
     lineforge::Screen& Screen;
     EventLoop& Loop;
@@ -43,7 +45,8 @@ void CancelExport(Window<forms::Form4>& window, EventLoop& loop);
 
 // Second stage: makes the directory that `sPath` leads to, asks, and copies. A directory of that name, or its gallery,
 // that is there already ends it with a box, one that can't be made by `ReportError`; a file that can't be copied is
-// left out without a word.
+// left out without a word. What was copied is on the disk at the end. A user who doesn't wait for another program that
+// works on the database has an empty directory.
 void ExportBranch(const BranchExport& work);
 
 // The directory that an export of that database goes to: the path, and what the last 22 characters of the database's

@@ -5,6 +5,7 @@
 #include "interchange/BranchDatabase.h"
 #include "map/subjects/EnterBranch.h"
 #include "map/tools/LeaveTools.h"
+#include "platform/files/DiskFlush.h"
 #include "program/branch/AliasList.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/MakeDirectory.h"
@@ -57,14 +58,18 @@ bool MakeTarget(Program& p, const QString& directory)
     return false;
 }
 
-void CopyBranch(Program& p, const QString& source, const QString& directory, const QString& letter)
+// The list names no branch whose files a power cut could still take back.
+void CopyBranch(Program& p, const DatabaseToCopy& database, const QString& source, const QString& directory,
+                const QString& letter)
 {
     const QString target = p.Branch.HomeDir + directory;
     p.Screen.Pointer = MousePointer::Hourglass;
     const QString gallery = PathSeparator + GalleryName(letter);
     p.Errors.Ignoring([&] { p.Files.MkDir(target + gallery); });
-    CopyDirectory(p.Files, p.Loop, source + PathSeparator, target); // which is the root where nothing stands before
+    // Which is the root where nothing stands before.
+    CopyDirectory(p.Files, p.Loop, database, source + PathSeparator, target);
     CopyDirectory(p.Files, p.Loop, source + gallery, target + gallery);
+    p.Errors.Ignoring([&] { FlushDisk(p.Files.Resolve(target)); });
 }
 
 // A database that can't be opened ends it as it ends Open: with a box, and with the branch named all the same. Tools
@@ -85,12 +90,12 @@ void OpenImported(Program& p, const QString& name, const QString& directory)
 void ImportBranch(Program& p)
 {
     p.Form4.Load(); // whose dialog it is
-    const std::optional<QString> database = AskDatabase(p.Prompts, u"Select Import Database File"_s);
-    if (!database || !IsBranchDatabase(p.Files, p.Prompts, *database, u" Must select a database *.mdb file"_s))
+    const std::optional<QString> chosen = AskDatabase(p.Prompts, u"Select Import Database File"_s);
+    if (!chosen || !IsBranchDatabase(p.Files, p.Prompts, *chosen, u" Must select a database *.mdb file"_s))
         return;
-    const QString file = DatabaseFile(*database);
+    const QString file = DatabaseFile(*chosen);
     const QString letter = file.mid(7, 1);
-    const QString source = database->chopped(file.size() + 1);
+    const QString source = chosen->chopped(file.size() + 1);
     p.Files.ChDir(p.Branch.HomeDir);
 
     const QString directory = ChooseDirectory(p.Alias, p.Prompts, letter);
@@ -101,9 +106,11 @@ void ImportBranch(Program& p)
 
     const auto pointerBack = qScopeGuard([&p] { p.Screen.Pointer = MousePointer::Default; });
     p.Scratch.sNewDir = directory;
+    // Before anything is made: the user may not wait for another program that works on it.
+    const DatabaseToCopy database = TakeDatabase(p.Databases.Others(), p.Files, *chosen);
     if (!MakeTarget(p, directory))
         return;
-    CopyBranch(p, source, directory, letter);
+    CopyBranch(p, database, source, directory, letter);
     AddAlias(p, name, directory, Refusals::CostTheirStep);
     OpenImported(p, name, directory);
 }

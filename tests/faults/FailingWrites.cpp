@@ -116,4 +116,9 @@ extern "C" {
 {
     return lineforge::Flushed(descriptor, SYS_fdatasync);
 }
+
+[[gnu::visibility("default")]] int syncfs(int descriptor)
+{
+    return lineforge::Flushed(descriptor, SYS_syncfs);
+}
 }

@@ -113,6 +113,19 @@ void Dress(int to, const struct stat& source)
     futimens(to, times);
 }
 
+// Under its name only when `fill` has done all of it.
+template <class Fill>
+void MakeFile(const fs::path& destination, const Fill& fill)
+{
+    std::string part = destination.parent_path() / (std::string(partPrefix) + "XXXXXX");
+    FileHandle to(mkostemp(part.data(), O_CLOEXEC));
+    if (to < 0)
+        return;
+    const bool isWhole = fill(to);
+    if (!to.Close() || !isWhole || !RenameIfFree(part.c_str(), destination.c_str()))
+        unlink(part.c_str());
+}
+
 void CopyFile(const fs::path& source, const fs::path& destination, const std::function<void()>& step)
 {
     // Opening something that is no file may wait for ever.
@@ -121,14 +134,11 @@ void CopyFile(const fs::path& source, const fs::path& destination, const std::fu
     };
     if (from < 0 || fstat(from, &status) != 0 || !S_ISREG(status.st_mode))
         return;
-    std::string part = destination.parent_path() / (std::string(partPrefix) + "XXXXXX");
-    FileHandle to(mkostemp(part.data(), O_CLOEXEC));
-    if (to < 0)
-        return;
-    const bool isWhole = CopyContent(from, to, status.st_size, step);
-    Dress(to, status);
-    if (!to.Close() || !isWhole || !RenameIfFree(part.c_str(), destination.c_str()))
-        unlink(part.c_str());
+    MakeFile(destination, [&](int to) {
+        const bool isWhole = CopyContent(from, to, status.st_size, step);
+        Dress(to, status);
+        return isWhole;
+    });
 }
 
 // Whether the directory really stands where its path says.
@@ -142,15 +152,29 @@ bool IsReached(const fs::path& directory, const fs::path& home)
 }
 } // namespace
 
-void CopyFiles(const QString& from, const QString& to, const std::function<void()>& step)
+void CopyFiles(const QString& from, const QString& to, const std::function<void()>& step, const QStringList& without)
 {
     const fs::path destination = PathOf(to);
     for (const fs::path& source : EntriesOf(PathOf(from))) {
+        const std::string name = source.filename();
         // What a copy that was cut off has left behind is nobody's file.
-        if (!source.filename().native().starts_with(partPrefix))
+        if (!name.starts_with(partPrefix) && !without.contains(QFile::decodeName(name.c_str())))
             CopyFile(source, destination / source.filename(), step);
         step();
     }
+}
+
+void CopyReadFile(const QString& from, const QByteArray& bytes, const QString& to)
+{
+    struct stat status {
+    };
+    if (stat(QFile::encodeName(from).constData(), &status) != 0)
+        return;
+    MakeFile(PathOf(to), [&](int file) {
+        const bool isWhole = WriteAll(file, bytes.constData(), bytes.size());
+        Dress(file, status);
+        return isWhole;
+    });
 }
 
 void RemoveWithFiles(const QString& directory, const QString& home)

@@ -11,4 +11,8 @@ namespace lineforge
 void FlushContent(QFileDevice& file);
 void FlushName(const QString& path);
 
+// The same of everything that has been written to the disk on which that directory stands: of many files at once, which
+// one after the other would take many times as long.
+void FlushDisk(const QString& directory);
+
 } // namespace lineforge

@@ -8,13 +8,15 @@
 namespace lineforge
 {
 
-void WriteWholeFile(const QString& file, const QByteArray& bytes)
+void WriteWholeFile(const QString& file, const QByteArray& bytes, const QDateTime& time)
 {
     RequireReplaceable(file);
     QSaveFile output(file);
     if (!output.open(QFile::WriteOnly) || output.write(bytes) != bytes.size())
         Refuse(output);
     FlushContent(output);
+    if (time.isValid())
+        output.setFileTime(time, QFileDevice::FileModificationTime);
     PutInPlace(output);
 }
 

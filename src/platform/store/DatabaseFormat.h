@@ -41,4 +41,11 @@ constexpr DatabaseFormat FormatOf(std::string_view beginning)
     }
 }
 
+// Whether a database of ours, by the same bytes of it, has its newest changes in a file beside it.
+constexpr bool KeepsChangesBeside(std::string_view beginning)
+{
+    constexpr std::size_t versionsPlace = 18; // of the two that may write and read the file
+    return beginning.size() > versionsPlace && beginning.substr(versionsPlace, 2).find('\2') != std::string_view::npos;
+}
+
 } // namespace lineforge

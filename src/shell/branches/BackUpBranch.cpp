@@ -2,9 +2,14 @@
 
 #include "forms/Form3.h"
 #include "map/items/MapFile.h"
+#include "platform/files/WholeFile.h"
+#include "platform/store/DatabaseBytes.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/WorkDatabase.h"
 #include "program/ui/BranchUi.h"
+
+#include <QDateTime>
+#include <QFileInfo>
 
 namespace lineforge
 {
@@ -29,12 +34,22 @@ QString OpenDatabasePath(const Program& p)
     return name.contains(PathSeparator) ? name : QString(p.Branch.WorkDir + PathSeparator + name);
 }
 
+// Another program may be at it. What can't be opened is copied all the same.
+void CopyDatabase(Program& p, const QString& copy)
+{
+    const QString database = p.Files.Resolve(DatabasePath(p.Branch.WorkDir));
+    if (const std::optional<QByteArray> bytes = DatabaseBytes(p.Databases.Others(), database))
+        WriteWholeFile(p.Files.Resolve(copy), *bytes, QFileInfo(database).lastModified());
+    else
+        p.Files.FileCopy(database, copy);
+}
+
 // The map goes along as it is read at the next opening: in an imported branch that is the file which came with it.
 void WriteBackup(Program& p, const QString& chosen)
 {
     p.Form3.Unload(); // closes the database
     const QString stem = StemOf(chosen);
-    p.Files.FileCopy(DatabasePath(p.Branch.WorkDir), stem + u".~md");
+    CopyDatabase(p, stem + u".~md");
     p.Files.FileCopy(MapFileToRead(p.Branch.WorkDir), stem + u".~cf");
     PointAtDatabase(p, OpenDatabasePath(p));
 }

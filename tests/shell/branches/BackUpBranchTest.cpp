@@ -156,6 +156,53 @@ TEST_F(BackUpBranchTest, OlderBackupThatCantBeReplaced_StaysWhole)
     EXPECT_FALSE(Home.Exists(u"safe/x.~cf"));
 }
 
+// What stands in the file while another program commits is half of this and half of that.
+TEST_F(BackUpBranchTest, CommitOfAnotherProgram_IsWaitedFor)
+{
+    std::unique_ptr<SqliteFile> other;
+    ExpectIntroduction();
+    Prompts.ExpectSaveFile(u"Select Backup Destination Directory", u"DataBase *.mdb|*.mdb|All Files|*.*|",
+                           Home.Path(u"safe/x.mdb"), [&] { other = LockDatabase(u'A'); });
+    ExpectDatabaseInUse(Answer::Retry, [&] {
+        other->Execute("UPDATE Tree99 SET Forename = 'Johnny' WHERE File = 'A001'; COMMIT");
+        other.reset();
+    });
+
+    Click(P.Form1->mnuBackup.Click);
+
+    EXPECT_EQ(Home.ReadFile(u"safe/x.~md"), Home.ReadFile(u"LfgDat_A/LfgDat_A.mdb"));
+    EXPECT_TRUE(Home.ReadFile(u"safe/x.~md").contains("Johnny"));
+    EXPECT_EQ(Records(P.Form3).Text(u"Forename"), u"Johnny"_s);
+}
+
+TEST_F(BackUpBranchTest, CommitThatIsntWaitedFor_EndsIt_AsAPlaceThatCantBeWrittenDoes)
+{
+    std::unique_ptr<SqliteFile> other;
+    ExpectIntroduction();
+    Prompts.ExpectSaveFile(u"Select Backup Destination Directory", u"DataBase *.mdb|*.mdb|All Files|*.*|",
+                           Home.Path(u"safe/x.mdb"), [&] { other = LockDatabase(u'A'); });
+    ExpectDatabaseInUse(Answer::Cancel);
+
+    Click(P.Form1->mnuBackup.Click);
+
+    EXPECT_TRUE(QDir(Home.Path(u"safe")).isEmpty());
+    EXPECT_FALSE(P.Form3.IsLoaded());
+    EXPECT_EQ(ExitCode(), std::nullopt);
+}
+
+TEST_F(BackUpBranchTest, ChangesThatAnotherProgramKeepsBesideTheDatabase_GoIntoTheBackup)
+{
+    std::unique_ptr<SqliteFile> other;
+    BackUpAs(Home.Path(u"safe/x.mdb"), [&] {
+        other = std::make_unique<SqliteFile>(Home.Path(u"LfgDat_A/LfgDat_A.mdb"));
+        other->Execute("PRAGMA journal_mode = WAL; UPDATE Tree99 SET Forename = 'Johnny' WHERE File = 'A001'");
+    });
+
+    SqliteFile backup(Home.Path(u"safe/x.~md"));
+    EXPECT_EQ(backup.Value("SELECT Forename FROM Tree99 WHERE File = 'A001'"), u"Johnny"_s);
+    EXPECT_EQ(backup.Value("PRAGMA integrity_check"), u"ok"_s);
+}
+
 TEST_F(BackUpBranchTest, MissingMap_LeavesTheDatabaseAlone)
 {
     BackUpAs(Home.Path(u"safe/x.mdb"), [this] { QFile::remove(Home.Path(u"LfgDat_A/LfgDat_A.cfg")); });
