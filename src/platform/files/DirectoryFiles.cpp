@@ -113,17 +113,19 @@ void Dress(int to, const struct stat& source)
     futimens(to, times);
 }
 
-// Under its name only when `fill` has done all of it.
+// Under its name only when `fill` has done all of it; whether it is.
 template <class Fill>
-void MakeFile(const fs::path& destination, const Fill& fill)
+bool MakeFile(const fs::path& destination, const Fill& fill)
 {
     std::string part = destination.parent_path() / (std::string(partPrefix) + "XXXXXX");
     FileHandle to(mkostemp(part.data(), O_CLOEXEC));
     if (to < 0)
-        return;
+        return false;
     const bool isWhole = fill(to);
-    if (!to.Close() || !isWhole || !RenameIfFree(part.c_str(), destination.c_str()))
-        unlink(part.c_str());
+    if (to.Close() && isWhole && RenameIfFree(part.c_str(), destination.c_str()))
+        return true;
+    unlink(part.c_str());
+    return false;
 }
 
 void CopyFile(const fs::path& source, const fs::path& destination, const std::function<void()>& step)
@@ -170,11 +172,16 @@ void CopyReadFile(const QString& from, const QByteArray& bytes, const QString& t
     };
     if (stat(QFile::encodeName(from).constData(), &status) != 0)
         return;
-    MakeFile(PathOf(to), [&](int file) {
-        const bool isWhole = WriteAll(file, bytes.constData(), bytes.size());
-        Dress(file, status);
-        return isWhole;
-    });
+    const auto make = [&] {
+        return MakeFile(PathOf(to), [&](int file) {
+            const bool isWhole = WriteAll(file, bytes.constData(), bytes.size());
+            Dress(file, status);
+            return isWhole;
+        });
+    };
+    // A disk that has refused a file once gets it a second time, as it does when files are copied.
+    if (!make())
+        make();
 }
 
 void RemoveWithFiles(const QString& directory, const QString& home)
