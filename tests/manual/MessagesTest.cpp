@@ -19,8 +19,8 @@ struct TitledRoutine {
     int Title;
 };
 const TitledRoutine titledRoutines[] = {
-    {u"MsgBox"_s, 0},        {u"InputBox"_s, 0},      {u"Tell"_s, 1},   {u"TellIfAlternate"_s, 1},
-    {u"AskBranchName"_s, 1}, {u"MakeDirectory"_s, 2}, {u"refuse"_s, 0},
+    {u"MsgBox"_s, 0},          {u"InputBox"_s, 0},      {u"Tell"_s, 1},
+    {u"TellIfAlternate"_s, 2}, {u"AskBranchName"_s, 2}, {u"refuse"_s, 0},
 };
 
 // Where a box gets its title by a name, the titles that stand behind the name: none where the name is an argument of
@@ -69,8 +69,8 @@ protected:
     {
         // The text editor's boxes share one title, and are described by their texts.
         const bool isEditor = call.File.startsWith(u"editor/");
-        // The widgets of the map tell of the mouse by a routine of that name.
-        const bool isOther = argument > 0 && call.Arguments.first() != u"p";
+        // The widgets of the map tell of the mouse by a routine of that name, and the check of its findings.
+        const bool isOther = call.File.startsWith(u"qt/") || call.File.startsWith(u"check/");
         if (isEditor || isOther || argument >= call.Arguments.size())
             return;
         const QString expression = call.Arguments[argument];

@@ -39,15 +39,19 @@ std::vector<Stretch> RowsOf(const Tour& tour, const ScreenWindow& popup)
 }
 } // namespace
 
-QRect PlaceInMenuBar(const Tour& tour, const MenuItem& menu)
+QRect PlaceInMenuBar(Tour& tour, const MenuItem& menu)
 {
     constexpr double points = 8;
     const int blankBetweenWords = tour.Places.Pixels().FontPixels(points) / 2;
     const std::vector<MenuItem*>& menus = tour.MainForm.Menus;
     const QRect window = tour.MainWindow().Place;
     const QRect bar = Inside(QRect(window.topLeft(), QSize(window.width(), tour.MenuBarHeight())));
-    const std::vector<Stretch> captions = InkedColumns(tour.PictureOf(bar), blankBetweenWords);
-    Expect(captions.size() == menus.size(), u"%1 menus in the menu bar"_s.arg(menus.size()));
+    // What has covered it may just have gone.
+    std::vector<Stretch> captions;
+    tour.Await(u"%1 menus in the menu bar"_s.arg(menus.size()), [&] {
+        captions = InkedColumns(tour.PictureOf(bar), blankBetweenWords);
+        return captions.size() == menus.size();
+    });
     const Stretch& caption = captions[IndexOf(menus, menu)];
     return QRect(bar.x() + caption.First, bar.y(), caption.Length(), bar.height());
 }

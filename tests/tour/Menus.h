@@ -7,7 +7,7 @@ namespace lineforge::tour
 
 // The main window's menus, by mouse: a menu in the bar, and an entry in a menu that lies open. Their places are seen on
 // the screen; nothing but their order is known beforehand.
-QRect PlaceInMenuBar(const Tour& tour, const MenuItem& menu);
+QRect PlaceInMenuBar(Tour& tour, const MenuItem& menu);
 ScreenWindow OpenMenu(Tour& tour, const MenuItem& menu);
 QRect PlaceInMenu(Tour& tour, const ScreenWindow& popup, const MenuItem& menu, const MenuItem& entry);
 
