@@ -1,7 +1,5 @@
 #include "interchange/InterchangeTest.h"
-#include "support/ChildProcess.h"
-
-#include <unistd.h>
+#include "support/CutOffChange.h"
 
 // Another program works on the database of a branch while it is copied.
 namespace lineforge
@@ -27,22 +25,10 @@ protected:
         other_ = std::make_unique<SqliteFile>(Home.Path(database));
         other_->Execute(sql);
     }
-    // What another program has begun, and the system has cut off in the middle of the file.
     void CutOff(QStringView database)
     {
-        const Pipe pipe;
-        ChildProcess child([&] {
-            SqliteFile file(Home.Path(database));
-            file.Execute("PRAGMA cache_size = 1; BEGIN; UPDATE Tree99 SET Forename = 'half'");
-            for (int row = 0; row < 500; ++row)
-                file.Execute("INSERT INTO Tree99 (File, Notes) VALUES ('Z', hex(zeroblob(500)))");
-            pipe.Tell(1);
-            pause();
-            return 0;
-        });
-        ASSERT_EQ(pipe.Hear(), 1);
-        child.KillNow();
-        child.Wait();
+        CutOffChange(Home.Path(database), "UPDATE Tree99 SET Forename = 'half'",
+                     "INSERT INTO Tree99 (File, Notes) VALUES ('Z', hex(zeroblob(500)))");
     }
     ScriptedPrompts::WhileOpen Finish(const QByteArray& sql)
     {

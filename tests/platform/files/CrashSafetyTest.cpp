@@ -1,6 +1,7 @@
 #include "platform/store/PeopleTable.h"
 #include "platform/store/Recordset.h"
 #include "support/ChildProcess.h"
+#include "support/CutOffChange.h"
 
 #include <unistd.h>
 
@@ -66,20 +67,8 @@ class CutShortTest : public PeopleTable
 TEST_F(CutShortTest, TransactionCutShortByAKill_IsUndoneAtTheNextOpening)
 {
     GivenPeople({u"Ann"_s, u"Bob"_s});
-    const Pipe pipe;
-    ChildProcess child([&] {
-        SqliteFile file(FilePath());
-        // So small a cache that the half-done work is in the file already.
-        file.Execute("PRAGMA cache_size = 1; BEGIN; UPDATE People SET Name = 'half done'");
-        for (int row = 0; row < 2000; ++row)
-            file.Execute("INSERT INTO People VALUES ('x', hex(zeroblob(500)))");
-        pipe.Tell(1);
-        pause();
-        return 0;
-    });
-    ASSERT_EQ(pipe.Hear(), 1);
-    child.KillNow();
-    child.Wait();
+    CutOffChange(FilePath(), "UPDATE People SET Name = 'half done'",
+                 "INSERT INTO People VALUES ('x', hex(zeroblob(500)))");
     ASSERT_TRUE(home.Exists(u"people.db-journal"));
 
     Recordset people = Open();

@@ -3,6 +3,7 @@
 #include "platform/store/OtherPrograms.h"
 #include "platform/store/PeopleTable.h"
 #include "support/ChildProcess.h"
+#include "support/CutOffChange.h"
 
 #include <QFile>
 
@@ -98,20 +99,8 @@ TEST_F(DatabaseBytesTest, OfADatabaseWithALogOfItsChanges_HaveThoseInThem)
 
 TEST_F(DatabaseBytesTest, ChangeThatWasCutOff_IsTakenBack)
 {
-    const Pipe pipe;
-    ChildProcess child([&] {
-        SqliteFile file(FilePath());
-        // So small a cache that the half-done work is in the file already.
-        file.Execute("PRAGMA cache_size = 1; BEGIN; UPDATE People SET Name = 'half done'");
-        for (int row = 0; row < 500; ++row)
-            file.Execute("INSERT INTO People VALUES ('x', hex(zeroblob(500)))");
-        pipe.Tell(1);
-        pause();
-        return 0;
-    });
-    ASSERT_EQ(pipe.Hear(), 1);
-    child.KillNow();
-    child.Wait();
+    CutOffChange(FilePath(), "UPDATE People SET Name = 'half done'",
+                 "INSERT INTO People VALUES ('x', hex(zeroblob(500)))");
     ASSERT_TRUE(home.Exists(u"people.db-journal"));
 
     EXPECT_EQ(NamesIn(Bytes()), QStringList({u"Ann"_s, u"Bob"_s}));
