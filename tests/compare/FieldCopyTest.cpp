@@ -33,17 +33,13 @@ protected:
                       "CREATE TRIGGER Refusal BEFORE UPDATE ON Tree99 BEGIN SELECT RAISE(ABORT, 'refused'); END");
     }
     void ExpectCopyError() { Tell(u"Copy Error", u"There is no record to copy across."); }
-    void ExpectAppended(QStringView number)
+    void ExpectAppended(QStringView number, ScriptedPrompts::WhileOpen whileOpen = {})
     {
-        Tell(u"Append Record to Database.",
-             QString(u"This Record will be Appended to the Compare\nDatabase as "_s + number +
-                     u" but will not be mapped into\nthe Ancestral Tree Display."));
+        ExpectAppendBox(u"Append Record to Database.", u"Compare", number, std::move(whileOpen));
     }
-    void ExpectAppendedToCurrent(QStringView number)
+    void ExpectAppendedToCurrent(QStringView number, ScriptedPrompts::WhileOpen whileOpen = {})
     {
-        Tell(u"Append Compare Record to Current Database.",
-             QString(u"This Record will be Appended to the Current\nDatabase as "_s + number +
-                     u" but will not be mapped into\nthe Ancestral Tree Display."));
+        ExpectAppendBox(u"Append Compare Record to Current Database.", u"Current", number, std::move(whileOpen));
     }
     QStringList NumbersIn(QChar branch)
     {
@@ -51,6 +47,15 @@ protected:
         for (const SqliteFile::Row& row : Rows(branch, "File"))
             numbers << row.front().value_or(u"Null"_s);
         return numbers;
+    }
+
+private:
+    void ExpectAppendBox(QStringView title, QStringView branch, QStringView number,
+                         ScriptedPrompts::WhileOpen whileOpen)
+    {
+        const QString text = u"This Record will be Appended to the "_s + branch + u"\nDatabase as " + number +
+                             u" but will not be mapped into\nthe Ancestral Tree Display.";
+        Prompts.Expect(title, text, Buttons::Information, Answer::Ok, std::move(whileOpen));
     }
 };
 
@@ -299,10 +304,7 @@ TEST_F(FieldCopyTest, ScannerThatRunsOnBehindTheBox_DoesntChangeWhatIsAppended)
 TEST_F(FieldCopyTest, NumberThatAnotherProgramHasGivenBehindTheBox_IsNotGivenAgain)
 {
     GivenPair();
-    Prompts.Expect(u"Append Record to Database.",
-                   u"This Record will be Appended to the Compare\nDatabase as Z001 but will not be mapped into\n"
-                   u"the Ancestral Tree Display.",
-                   Buttons::Information, Answer::Ok,
+    ExpectAppended(u"Z001",
                    [&] { ChangeOutside(u'B', "INSERT INTO Tree99 (File, Notes) VALUES ('Z001', 'of another')"); });
     ExpectAppended(u"Z002");
     Append();
@@ -316,11 +318,7 @@ TEST_F(FieldCopyTest, NumberThatAnotherProgramHasGivenBehindTheBox_IsNotGivenAga
 {
     GivenPair();
     ToCurrent();
-    Prompts.Expect(u"Append Compare Record to Current Database.",
-                   u"This Record will be Appended to the Current\nDatabase as Z001 but will not be mapped into\n"
-                   u"the Ancestral Tree Display.",
-                   Buttons::Information, Answer::Ok,
-                   [&] { ChangeOutside(u'A', "INSERT INTO Tree99 (File) VALUES ('Z001')"); });
+    ExpectAppendedToCurrent(u"Z001", [&] { ChangeOutside(u'A', "INSERT INTO Tree99 (File) VALUES ('Z001')"); });
     ExpectAppendedToCurrent(u"Z002");
     Append();
     EXPECT_EQ(NumbersIn(u'A'), QStringList({u"A001"_s, u"Z001"_s, u"Z002"_s}));

@@ -12,11 +12,7 @@ class BranchInUseTest : public InterchangeTest
 protected:
     BranchInUseTest()
     {
-        GivenRegistry({{u"Smiths", u"LfgDat_A"}});
-        BranchOf(u'A').Gallery({{u"A001_01.jpg"_s, "picture"}}).Build();
-        BranchOf(u'C').InDirectory(u"gift/LfgDat_C").Gallery({{u"C001_01.jpg"_s, "picture"}}).Build();
-        Home.MakeDirectory(u"stick");
-        StartProgram(P);
+        GivenBranchesOfBoth();
         P.Databases.Others().Milliseconds = 0;
     }
 

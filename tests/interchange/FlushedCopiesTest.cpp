@@ -38,11 +38,7 @@ class FlushedCopiesTest : public InterchangeTest
 protected:
     FlushedCopiesTest()
     {
-        GivenRegistry({{u"Smiths", u"LfgDat_A"}});
-        BranchOf(u'A').Gallery({{u"A001_01.jpg"_s, "picture"}}).Build();
-        BranchOf(u'C').InDirectory(u"gift/LfgDat_C").Gallery({{u"C001_01.jpg"_s, "picture"}}).Build();
-        Home.MakeDirectory(u"stick");
-        StartProgram(P);
+        GivenBranchesOfBoth();
         watched = &flush_;
     }
     ~FlushedCopiesTest() override { watched = nullptr; }

@@ -11,6 +11,16 @@ class InterchangeTest : public ShellTest
 protected:
     static constexpr QStringView Filter = u"DataBase *.mdb|*.mdb|All Files|*.*|";
 
+    // One at home, one that another installation has brought, and where the first can go.
+    void GivenBranchesOfBoth()
+    {
+        GivenRegistry({{u"Smiths", u"LfgDat_A"}});
+        BranchOf(u'A').Gallery({{u"A001_01.jpg"_s, "picture"}}).Build();
+        BranchOf(u'C').InDirectory(u"gift/LfgDat_C").Gallery({{u"C001_01.jpg"_s, "picture"}}).Build();
+        Home.MakeDirectory(u"stick");
+        StartProgram(P);
+    }
+
     void ChooseToExport(const std::optional<QString>& path)
     {
         Prompts.ExpectOpenFile(u"Select Export Database source File", Filter, path);
