@@ -42,14 +42,14 @@ class MapTest : public ProgramTest
 {
 protected:
     // The program works on that branch and its map is the one in memory, still empty.
-    void givenOpen(BranchBuilder& branch)
+    void GivenOpen(BranchBuilder& branch)
     {
         P.Branch.WorkDir = branch.Build();
         OpenWorkDatabase(P);
         P.Map.Owner = P.Branch.WorkDir;
     }
 
-    void givenBox(int row, Point corner, QStringView file = u"0", Colour colour = Black)
+    void GivenBox(int row, Point corner, QStringView file = u"0", Colour colour = Black)
     {
         auto& box = P.Map.BoxArr[row];
         box[BoxColumn::X] = corner.X;
@@ -59,7 +59,7 @@ protected:
         box[BoxColumn::Forename] = QString();
     }
 
-    void givenLine(int row, Point from, Point to, Colour colour = Black)
+    void GivenLine(int row, Point from, Point to, Colour colour = Black)
     {
         auto& line = P.Map.LineArr[row];
         line[LineColumn::X1] = from.X;
@@ -69,7 +69,7 @@ protected:
         line[LineColumn::Colour] = static_cast<int>(colour);
     }
 
-    void givenText(int row, Point place, QStringView text, const TextFont& font = {}, Colour colour = Black)
+    void GivenText(int row, Point place, QStringView text, const TextFont& font = {}, Colour colour = Black)
     {
         auto& cells = P.Map.TextArr[row];
         cells[TextColumn::X] = place.X;
@@ -80,7 +80,7 @@ protected:
         cells[TextColumn::Colour] = static_cast<int>(colour);
     }
 
-    void givenPrinting() { IsPrinting = true; }
+    void GivenPrinting() { IsPrinting = true; }
     // What the map is drawn on: the picture, unless it is printed.
     MapSheet Sheet() { return IsPrinting ? MapOnPaper(Page) : MapOnScreen(P); }
 

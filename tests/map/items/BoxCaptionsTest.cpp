@@ -47,12 +47,12 @@ INSTANTIATE_TEST_SUITE_P(Forenames, FittedForenameTest,
 class BoxCaptionsTest : public MapTest
 {
 protected:
-    void givenRecord(QStringView forename, QStringView birthDate = u"1 May 1871")
+    void GivenRecord(QStringView forename, QStringView birthDate = u"1 May 1871")
     {
-        givenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", forename}, {u"BirthDate", birthDate}}));
+        GivenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", forename}, {u"BirthDate", birthDate}}));
     }
 
-    void givenPosition(Point corner)
+    void GivenPosition(Point corner)
     {
         P.Mouse.BoxX = corner.X;
         P.Mouse.BoxY = corner.Y;
@@ -63,7 +63,7 @@ protected:
 
 TEST_F(BoxCaptionsTest, FitForename_TakesTheCurrentRecords)
 {
-    givenRecord(u"Christopher");
+    GivenRecord(u"Christopher");
 
     FitForename(P);
 
@@ -72,7 +72,7 @@ TEST_F(BoxCaptionsTest, FitForename_TakesTheCurrentRecords)
 
 TEST_F(BoxCaptionsTest, FitForename_NullForename_GivesEmptyText)
 {
-    givenOpen(BranchA.Row({{u"File", u"A001"}}));
+    GivenOpen(BranchA.Row({{u"File", u"A001"}}));
     P.Record.sForeName = u"left behind"_s;
 
     FitForename(P);
@@ -82,8 +82,8 @@ TEST_F(BoxCaptionsTest, FitForename_NullForename_GivesEmptyText)
 
 TEST_F(BoxCaptionsTest, Record_NumberStands100AcrossAndForename50And100Down)
 {
-    givenRecord(u"Christopher");
-    givenPosition({1000, 500});
+    GivenRecord(u"Christopher");
+    GivenPosition({1000, 500});
 
     DrawRecordInBox(P, Sheet());
 
@@ -97,8 +97,8 @@ TEST_F(BoxCaptionsTest, Record_NumberStands100AcrossAndForename50And100Down)
 
 TEST_F(BoxCaptionsTest, Record_IsBlackInArial8_WhateverWasInHand)
 {
-    givenRecord(u"John");
-    givenPosition({1000, 500});
+    GivenRecord(u"John");
+    GivenPosition({1000, 500});
     Picture.ForeColor = red;
     Picture.Font = {u"Courier New"_s, 20, true};
 
@@ -113,8 +113,8 @@ TEST_F(BoxCaptionsTest, Record_IsBlackInArial8_WhateverWasInHand)
 
 TEST_F(BoxCaptionsTest, Record_NullForename_ShowsOnlyItsNumber)
 {
-    givenOpen(BranchA.Row({{u"File", u"A001"}}));
-    givenPosition({1000, 500});
+    GivenOpen(BranchA.Row({{u"File", u"A001"}}));
+    GivenPosition({1000, 500});
 
     DrawRecordInBox(P, Sheet());
 
@@ -124,8 +124,8 @@ TEST_F(BoxCaptionsTest, Record_NullForename_ShowsOnlyItsNumber)
 
 TEST_F(BoxCaptionsTest, Record_ForenameOf7CharactersWithABlank_StandsWhole)
 {
-    givenRecord(u"Jo Anne");
-    givenPosition({1000, 500});
+    GivenRecord(u"Jo Anne");
+    GivenPosition({1000, 500});
 
     DrawRecordInBox(P, Sheet());
 
@@ -136,7 +136,7 @@ TEST_F(BoxCaptionsTest, Record_ForenameOf7CharactersWithABlank_StandsWhole)
 
 TEST_F(BoxCaptionsTest, Record_BehindTheLastRow_DrawsNothing)
 {
-    givenRecord(u"John");
+    GivenRecord(u"John");
     Records(P.Form3).MoveNext();
 
     DrawRecordInBox(P, Sheet());
@@ -147,9 +147,9 @@ TEST_F(BoxCaptionsTest, Record_BehindTheLastRow_DrawsNothing)
 
 TEST_F(BoxCaptionsTest, RecordOnPaper_HasThreeLinesBelowTheStretchedTop)
 {
-    givenRecord(u"Christopher", u"1 May 1871");
-    givenPosition({1000, 500});
-    givenPrinting();
+    GivenRecord(u"Christopher", u"1 May 1871");
+    GivenPosition({1000, 500});
+    GivenPrinting();
 
     DrawRecordInBox(P, Sheet());
 
@@ -161,9 +161,9 @@ TEST_F(BoxCaptionsTest, RecordOnPaper_HasThreeLinesBelowTheStretchedTop)
 
 TEST_F(BoxCaptionsTest, RecordOnPaper_ForenameWithWhatBreaksTheFile_IsPrintedAsTheFileHasIt)
 {
-    givenRecord(u"Jo, [An");
-    givenPosition({1000, 500});
-    givenPrinting();
+    GivenRecord(u"Jo, [An");
+    GivenPosition({1000, 500});
+    GivenPrinting();
 
     DrawRecordInBox(P, Sheet());
 
@@ -172,9 +172,9 @@ TEST_F(BoxCaptionsTest, RecordOnPaper_ForenameWithWhatBreaksTheFile_IsPrintedAsT
 
 TEST_F(BoxCaptionsTest, RecordOnPaper_KeepsThePagesFont)
 {
-    givenRecord(u"John", u"71");
-    givenPosition({1000, 500});
-    givenPrinting();
+    GivenRecord(u"John", u"71");
+    GivenPosition({1000, 500});
+    GivenPrinting();
     Page.Font = {u"Courier"_s, 7};
     Page.ForeColor = red;
 
@@ -187,8 +187,8 @@ TEST_F(BoxCaptionsTest, RecordOnPaper_KeepsThePagesFont)
 
 TEST_F(BoxCaptionsTest, RecordOnPaper_NullDate_HasNoYear)
 {
-    givenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}}));
-    givenPrinting();
+    GivenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}}));
+    GivenPrinting();
 
     DrawRecordInBox(P, Sheet());
 
@@ -197,9 +197,9 @@ TEST_F(BoxCaptionsTest, RecordOnPaper_NullDate_HasNoYear)
 
 TEST_F(BoxCaptionsTest, Number_IsThatOfTheRow_AtThePositionInHand)
 {
-    givenBox(3, {2000, 2000}, u"A007");
+    GivenBox(3, {2000, 2000}, u"A007");
     P.Scratch.IdxA = 3;
-    givenPosition({1000, 500});
+    GivenPosition({1000, 500});
     Picture.ForeColor = red;
     Picture.Font = {u"Courier New"_s, 20, true};
 
@@ -212,10 +212,10 @@ TEST_F(BoxCaptionsTest, Number_IsThatOfTheRow_AtThePositionInHand)
 
 TEST_F(BoxCaptionsTest, NumberOnPaper_Stands40Lower)
 {
-    givenBox(3, {2000, 2000}, u"A007");
+    GivenBox(3, {2000, 2000}, u"A007");
     P.Scratch.IdxA = 3;
-    givenPosition({1000, 500});
-    givenPrinting();
+    GivenPosition({1000, 500});
+    GivenPrinting();
 
     DrawBoxNumber(P, Sheet());
 
@@ -237,10 +237,10 @@ class PlacingSubjectTest : public BoxCaptionsTest, public WithParamInterface<Cur
 protected:
     PlacingSubjectTest()
     {
-        givenRecord(u"John");
-        givenBox(4, {3000, 2500}, u"A001");
-        givenBox(5, {5000, 2500}, u"A009");
-        givenPosition({1000, 500});
+        GivenRecord(u"John");
+        GivenBox(4, {3000, 2500}, u"A001");
+        GivenBox(5, {5000, 2500}, u"A009");
+        GivenPosition({1000, 500});
         P.Tools.MapCursorMode = GetParam().Mode;
     }
 
@@ -272,10 +272,10 @@ INSTANTIATE_TEST_SUITE_P(Modes, PlacingSubjectTest,
 
 TEST_F(BoxCaptionsTest, AllNumbers_StandInTheirBoxes)
 {
-    givenRecord(u"John");
-    givenBox(0, {1000, 500}, u"A001");
-    givenBox(50, {2000, 500}, u"a002");
-    givenBox(99, {3000, 500}, u"A003");
+    GivenRecord(u"John");
+    GivenBox(0, {1000, 500}, u"A001");
+    GivenBox(50, {2000, 500}, u"a002");
+    GivenBox(99, {3000, 500}, u"A003");
 
     DrawBoxCaptions(P, Sheet());
 
@@ -287,10 +287,10 @@ TEST_F(BoxCaptionsTest, AllNumbers_StandInTheirBoxes)
 
 TEST_F(BoxCaptionsTest, AllNumbers_BoxesWithoutARecord_AreSkipped)
 {
-    givenRecord(u"John");
-    givenBox(0, {1000, 500}, u"0");
-    givenBox(1, {2000, 500}, u"");
-    givenBox(2, {3000, 500}, u"0A01");
+    GivenRecord(u"John");
+    GivenBox(0, {1000, 500}, u"0");
+    GivenBox(1, {2000, 500}, u"");
+    GivenBox(2, {3000, 500}, u"0A01");
     P.Map.BoxArr[3][BoxColumn::X] = 4000;
     P.Map.BoxArr[4][BoxColumn::File] = 0;
 
@@ -301,8 +301,8 @@ TEST_F(BoxCaptionsTest, AllNumbers_BoxesWithoutARecord_AreSkipped)
 
 TEST_F(BoxCaptionsTest, AllNumbers_BoxesBeyondTheHundredth_HaveNone)
 {
-    givenRecord(u"John");
-    givenBox(100, {1000, 500}, u"A001");
+    GivenRecord(u"John");
+    GivenBox(100, {1000, 500}, u"A001");
 
     DrawBoxCaptions(P, Sheet());
     DrawOwnCaptions(P, Sheet());
@@ -312,9 +312,9 @@ TEST_F(BoxCaptionsTest, AllNumbers_BoxesBeyondTheHundredth_HaveNone)
 
 TEST_F(BoxCaptionsTest, FreeRow_HasNoCaption)
 {
-    givenRecord(u"John");
-    givenBox(0, {0, 500}, u"A001");
-    givenBox(1, {0, 900}, u"A009");
+    GivenRecord(u"John");
+    GivenBox(0, {0, 500}, u"A001");
+    GivenBox(1, {0, 900}, u"A009");
 
     DrawBoxCaptions(P, Sheet());
     DrawOwnCaptions(P, Sheet());
@@ -324,9 +324,9 @@ TEST_F(BoxCaptionsTest, FreeRow_HasNoCaption)
 
 TEST_F(BoxCaptionsTest, FreeRow_HasNoCaptionOnPaper)
 {
-    givenRecord(u"John");
-    givenBox(0, {0, 500}, u"A001");
-    givenPrinting();
+    GivenRecord(u"John");
+    GivenBox(0, {0, 500}, u"A001");
+    GivenPrinting();
 
     DrawBoxCaptions(P, Sheet());
     DrawOwnCaptions(P, Sheet());
@@ -337,9 +337,9 @@ TEST_F(BoxCaptionsTest, FreeRow_HasNoCaptionOnPaper)
 // The row behind the last filed one is where the search for its box has ended.
 TEST_F(BoxCaptionsTest, AllNumbers_WhileARecordWithoutABoxIsPlaced_StandInNoOtherBox)
 {
-    givenRecord(u"John");
-    givenBox(0, {1000, 500}, u"A002");
-    givenBox(100, {3000, 500}, u"A009");
+    GivenRecord(u"John");
+    GivenBox(0, {1000, 500}, u"A002");
+    GivenBox(100, {3000, 500}, u"A009");
     P.Tools.MapCursorMode = MapCursor::Mapping;
 
     DrawBoxCaptions(P, Sheet());
@@ -349,9 +349,9 @@ TEST_F(BoxCaptionsTest, AllNumbers_WhileARecordWithoutABoxIsPlaced_StandInNoOthe
 
 TEST_F(BoxCaptionsTest, AllNumbers_BoxAtImpossiblePlace_CostsNoOtherBoxItsNumber)
 {
-    givenRecord(u"John");
-    givenBox(0, {99999, 500}, u"A001");
-    givenBox(1, {2000, 500}, u"A002");
+    GivenRecord(u"John");
+    GivenBox(0, {99999, 500}, u"A001");
+    GivenBox(1, {2000, 500}, u"A002");
 
     DrawBoxCaptions(P, Sheet());
 
@@ -361,13 +361,13 @@ TEST_F(BoxCaptionsTest, AllNumbers_BoxAtImpossiblePlace_CostsNoOtherBoxItsNumber
 
 TEST_F(BoxCaptionsTest, AllRecords_EveryBoxThatHoldsARecord_GetsItsCaption)
 {
-    givenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}})
+    GivenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}})
                   .Row({{u"File", u"A002"}, {u"Forename", u"Anne"}})
                   .Row({{u"Forename", u"Nobody"}}));
-    givenBox(0, {1000, 500}, u"A002");
-    givenBox(1, {2000, 500}, u"a001");
-    givenBox(99, {3000, 500}, u"A001");
-    givenBox(98, {4000, 500}, u"");
+    GivenBox(0, {1000, 500}, u"A002");
+    GivenBox(1, {2000, 500}, u"a001");
+    GivenBox(99, {3000, 500}, u"A001");
+    GivenBox(98, {4000, 500}, u"");
 
     DrawOwnCaptions(P, Sheet());
 
@@ -383,8 +383,8 @@ TEST_F(BoxCaptionsTest, AllRecords_EveryBoxThatHoldsARecord_GetsItsCaption)
 
 TEST_F(BoxCaptionsTest, AllRecords_EmptyTable_IsQuiet)
 {
-    givenOpen(BranchA);
-    givenBox(0, {1000, 500}, u"A001");
+    GivenOpen(BranchA);
+    GivenBox(0, {1000, 500}, u"A001");
 
     DrawOwnCaptions(P, Sheet());
 
@@ -393,8 +393,8 @@ TEST_F(BoxCaptionsTest, AllRecords_EmptyTable_IsQuiet)
 
 TEST_F(BoxCaptionsTest, BoxWhoseRecordIsNotInTheTable_ShowsOnlyItsNumber)
 {
-    givenRecord(u"John");
-    givenBox(0, {1000, 500}, u"A009");
+    GivenRecord(u"John");
+    GivenBox(0, {1000, 500}, u"A009");
 
     DrawBoxCaptions(P, Sheet());
     DrawOwnCaptions(P, Sheet());

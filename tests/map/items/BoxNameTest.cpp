@@ -18,7 +18,7 @@ protected:
     // A001 of that name in the box of row 0, which the file gives that other name; row 1 is empty.
     void GivenPerson(QStringView forename, QStringView filed)
     {
-        givenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", forename}, {u"Gender", u"Male"}})
+        GivenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", forename}, {u"Gender", u"Male"}})
                       .Row({{u"File", u"A002"}, {u"Forename", u"Kim"}, {u"Gender", u"Female"}})
                       .Picture(u"A001", Qt::red)
                       .Picture(u"A002", Qt::blue)
@@ -240,7 +240,7 @@ TEST_F(BoxNameTest, RecordChangedBehindTheMap_BoxMoved_LeavesNoTrace)
     Records(P.Form3).Put(u"Forename", u"Maximilian"_s);
     Records(P.Form3).Update();
     P.Form1->mnuTreeTools.Click();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
 
     Drag({{1300, 600}, {1300, 1600}});
 
@@ -253,7 +253,7 @@ TEST_F(BoxNameTest, NumberInSmallLetters_IsWipedAsItWasPrinted)
     P.Map.BoxArr[0][BoxColumn::File] = u"a001"_s;
     Afresh();
     P.Form1->mnuTreeTools.Click();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
 
     Drag({{1300, 600}, {1300, 1600}});
 
@@ -264,7 +264,7 @@ TEST_F(BoxNameTest, BoxWithoutTheFiledName_CarriedByAZone_LeavesNoTraceOnItsWay)
 {
     GivenPerson(u"John", u"");
     P.Form1->mnuTreeTools.Click();
-    Choose(1);
+    Choose(ToolSelection::ZoneDraw);
     Drag({{500, 300}, {2500, 2500}});
     Press({1000, 1000});
 
@@ -346,9 +346,9 @@ TEST_F(BoxNameTest, NameChangedWithTheToolsOpen_NoBringsTheBoxesBack_WithTheNewN
     GivenPerson(u"John", u"John");
     P.Form1->Command1.Click();
     P.Form1->mnuTreeTools.Click();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
     Drag({{3300, 600}, {3400, 1600}});
-    Choose(28);
+    Choose(ToolSelection::BoxDelete);
     PressAndRelease({3400, 1600});
     P.Form3->Text3.Text = u"Ma,ry"_s;
     P.Form3->Command2.Click();

@@ -19,9 +19,9 @@ constexpr Colour lightMagenta = Rgb(255, 0, 255);
 class CurrentBoxTest : public MapTest
 {
 protected:
-    void givenRecord(QStringView gender = u"M") { givenOpen(BranchA.Row({{u"File", u"A001"}, {u"Gender", gender}})); }
+    void GivenRecord(QStringView gender = u"M") { GivenOpen(BranchA.Row({{u"File", u"A001"}, {u"Gender", gender}})); }
 
-    void givenPosition(Point corner)
+    void GivenPosition(Point corner)
     {
         P.Mouse.BoxX = corner.X;
         P.Mouse.BoxY = corner.Y;
@@ -34,10 +34,10 @@ protected:
 
 TEST_F(CurrentBoxTest, Find_FirstBoxOfTheRecord_GivesItsPositionAndRow)
 {
-    givenRecord();
-    givenBox(3, {1000, 500}, u"A002");
-    givenBox(4, {2000, 700}, u"a001");
-    givenBox(5, {3000, 900}, u"A001");
+    GivenRecord();
+    GivenBox(3, {1000, 500}, u"A002");
+    GivenBox(4, {2000, 700}, u"a001");
+    GivenBox(5, {3000, 900}, u"A001");
 
     FindBoxOfRecord(P);
 
@@ -47,8 +47,8 @@ TEST_F(CurrentBoxTest, Find_FirstBoxOfTheRecord_GivesItsPositionAndRow)
 
 TEST_F(CurrentBoxTest, Find_LastFiledBox_IsFound)
 {
-    givenRecord();
-    givenBox(99, {2000, 700}, u"A001");
+    GivenRecord();
+    GivenBox(99, {2000, 700}, u"A001");
 
     FindBoxOfRecord(P);
 
@@ -58,10 +58,10 @@ TEST_F(CurrentBoxTest, Find_LastFiledBox_IsFound)
 
 TEST_F(CurrentBoxTest, Find_NoBox_LeavesPositionAndRow100)
 {
-    givenRecord();
-    givenBox(0, {2000, 700}, u"A0012");
-    givenBox(100, {2000, 700}, u"A001");
-    givenPosition({11, 12});
+    GivenRecord();
+    GivenBox(0, {2000, 700}, u"A0012");
+    GivenBox(100, {2000, 700}, u"A001");
+    GivenPosition({11, 12});
 
     FindBoxOfRecord(P);
 
@@ -71,9 +71,9 @@ TEST_F(CurrentBoxTest, Find_NoBox_LeavesPositionAndRow100)
 
 TEST_F(CurrentBoxTest, Find_RecordWithoutANumber_MatchesNoEmptyBox)
 {
-    givenOpen(BranchA.Row({{u"Forename", u"John"}}));
-    givenBox(0, {2000, 700}, u"");
-    givenPosition({11, 12});
+    GivenOpen(BranchA.Row({{u"Forename", u"John"}}));
+    GivenBox(0, {2000, 700}, u"");
+    GivenPosition({11, 12});
 
     FindBoxOfRecord(P);
 
@@ -83,9 +83,9 @@ TEST_F(CurrentBoxTest, Find_RecordWithoutANumber_MatchesNoEmptyBox)
 
 TEST_F(CurrentBoxTest, Find_RecordOfSiblingShown_DoesNothing)
 {
-    givenRecord();
-    givenBox(4, {2000, 700}, u"A001");
-    givenPosition({11, 12});
+    GivenRecord();
+    GivenBox(4, {2000, 700}, u"A001");
+    GivenPosition({11, 12});
     P.Scratch.IdxA = 77;
     P.Branch.UsingAlternate = 1;
 
@@ -97,25 +97,25 @@ TEST_F(CurrentBoxTest, Find_RecordOfSiblingShown_DoesNothing)
 
 TEST_F(CurrentBoxTest, Take_PositionOutsideSixteenBits_IsOverflow)
 {
-    givenBox(0, {32767, -32768});
+    GivenBox(0, {32767, -32768});
     TakeBoxPosition(P, 0);
     EXPECT_EQ(Position(), (Point{32767, -32768}));
 
-    givenBox(0, {32768, 0});
+    GivenBox(0, {32768, 0});
     EXPECT_EQ(RefusalOf([&] { TakeBoxPosition(P, 0); }), ErrorNumber::Overflow);
 }
 
 TEST_F(CurrentBoxTest, BoxWhoseMarkerWouldStandOutsideSixteenBits_IsNoBoxOfTheRecord)
 {
-    givenRecord();
+    GivenRecord();
     for (const Point corner : {Point{32521, 500}, Point{500, 32720}}) {
-        givenBox(0, corner, u"A001");
+        GivenBox(0, corner, u"A001");
 
         MarkCurrentBox(P);
 
         EXPECT_FALSE(Marker.Visible);
     }
-    givenBox(0, {32520, 32719}, u"A001");
+    GivenBox(0, {32520, 32719}, u"A001");
     MarkCurrentBox(P);
     EXPECT_TRUE(Marker.Visible);
     EXPECT_EQ(Marker.Left, 32767);
@@ -124,13 +124,13 @@ TEST_F(CurrentBoxTest, BoxWhoseMarkerWouldStandOutsideSixteenBits_IsNoBoxOfTheRe
 
 TEST_F(CurrentBoxTest, BoxAtNoPossiblePlace_IsNoBoxOfTheRecord)
 {
-    givenRecord();
+    GivenRecord();
     for (const QString& place : {u"abc"_s, u""_s, u"99999"_s}) {
         SCOPED_TRACE(place.toStdString());
         for (const int column : {BoxColumn::X, BoxColumn::Y}) {
-            givenBox(0, {1000, 500}, u"A001");
+            GivenBox(0, {1000, 500}, u"A001");
             P.Map.BoxArr[0][column] = place;
-            givenPosition({11, 12});
+            GivenPosition({11, 12});
             Marker.Visible = true;
 
             FindBoxOfRecord(P);
@@ -145,9 +145,9 @@ TEST_F(CurrentBoxTest, BoxAtNoPossiblePlace_IsNoBoxOfTheRecord)
 
 TEST_F(CurrentBoxTest, FreeRow_IsNoBoxOfTheRecord)
 {
-    givenRecord();
-    givenBox(0, {0, 500}, u"A001");
-    givenPosition({11, 12});
+    GivenRecord();
+    GivenBox(0, {0, 500}, u"A001");
+    GivenPosition({11, 12});
     Marker.Visible = true;
 
     FindBoxOfRecord(P);
@@ -160,8 +160,8 @@ TEST_F(CurrentBoxTest, FreeRow_IsNoBoxOfTheRecord)
 
 TEST_F(CurrentBoxTest, BoxAtTheVeryTop_IsOne)
 {
-    givenRecord();
-    givenBox(0, {1000, 0}, u"A001");
+    GivenRecord();
+    GivenBox(0, {1000, 0}, u"A001");
 
     FindBoxOfRecord(P);
 
@@ -170,10 +170,10 @@ TEST_F(CurrentBoxTest, BoxAtTheVeryTop_IsOne)
 
 TEST_F(CurrentBoxTest, BoxAtNoPossiblePlace_AnotherBoxOfTheRecordIsFound)
 {
-    givenRecord();
-    givenBox(0, {1000, 500}, u"A001");
+    GivenRecord();
+    GivenBox(0, {1000, 500}, u"A001");
     P.Map.BoxArr[0][BoxColumn::X] = u"abc"_s;
-    givenBox(1, {2000, 700}, u"A001");
+    GivenBox(1, {2000, 700}, u"A001");
 
     MarkCurrentBox(P);
 
@@ -183,8 +183,8 @@ TEST_F(CurrentBoxTest, BoxAtNoPossiblePlace_AnotherBoxOfTheRecordIsFound)
 
 TEST_F(CurrentBoxTest, Marker_StandsInTheMiddleOfTheBox_AndShows)
 {
-    givenRecord();
-    givenBox(4, {2000, 700}, u"a001");
+    GivenRecord();
+    GivenBox(4, {2000, 700}, u"a001");
 
     MarkCurrentBox(P);
 
@@ -197,8 +197,8 @@ TEST_F(CurrentBoxTest, Marker_StandsInTheMiddleOfTheBox_AndShows)
 
 TEST_F(CurrentBoxTest, Marker_LiesAboveTheMap_NotInIt)
 {
-    givenRecord();
-    givenBox(4, {2000, 700}, u"A001");
+    GivenRecord();
+    GivenBox(4, {2000, 700}, u"A001");
 
     MarkCurrentBox(P);
 
@@ -208,8 +208,8 @@ TEST_F(CurrentBoxTest, Marker_LiesAboveTheMap_NotInIt)
 
 TEST_F(CurrentBoxTest, Marker_LeavesItsOwnPlaceAsThePosition)
 {
-    givenRecord();
-    givenBox(4, {2000, 700}, u"A001");
+    GivenRecord();
+    GivenBox(4, {2000, 700}, u"A001");
 
     MarkCurrentBox(P);
 
@@ -218,9 +218,9 @@ TEST_F(CurrentBoxTest, Marker_LeavesItsOwnPlaceAsThePosition)
 
 TEST_F(CurrentBoxTest, Marker_RecordWithoutBox_IsHidden_AndThePositionStays)
 {
-    givenRecord();
-    givenBox(100, {2000, 700}, u"A001");
-    givenPosition({11, 12});
+    GivenRecord();
+    GivenBox(100, {2000, 700}, u"A001");
+    GivenPosition({11, 12});
     Marker.Visible = true;
 
     MarkCurrentBox(P);
@@ -231,22 +231,22 @@ TEST_F(CurrentBoxTest, Marker_RecordWithoutBox_IsHidden_AndThePositionStays)
 
 TEST_F(CurrentBoxTest, Marker_AsksForANewGalleryPage_BoxOrNot)
 {
-    givenRecord();
+    GivenRecord();
     P.Gallery.FirstShow = 0;
     MarkCurrentBox(P);
     EXPECT_EQ(P.Gallery.FirstShow, 1);
 
     P.Gallery.FirstShow = 0;
-    givenBox(0, {2000, 700}, u"A001");
+    GivenBox(0, {2000, 700}, u"A001");
     MarkCurrentBox(P);
     EXPECT_EQ(P.Gallery.FirstShow, 1);
 }
 
 TEST_F(CurrentBoxTest, Marker_RecordInTwoBoxes_StandsInTheFirst)
 {
-    givenRecord();
-    givenBox(5, {3000, 900}, u"A001");
-    givenBox(4, {2000, 700}, u"A001");
+    GivenRecord();
+    GivenBox(5, {3000, 900}, u"A001");
+    GivenBox(4, {2000, 700}, u"A001");
 
     MarkCurrentBox(P);
 
@@ -255,8 +255,8 @@ TEST_F(CurrentBoxTest, Marker_RecordInTwoBoxes_StandsInTheFirst)
 
 TEST_F(CurrentBoxTest, Marker_NullGender_IsMagenta)
 {
-    givenOpen(BranchA.Row({{u"File", u"A001"}}));
-    givenBox(0, {2000, 700}, u"A001");
+    GivenOpen(BranchA.Row({{u"File", u"A001"}}));
+    GivenBox(0, {2000, 700}, u"A001");
 
     MarkCurrentBox(P);
 
@@ -279,8 +279,8 @@ class MarkerColourTest : public CurrentBoxTest, public WithParamInterface<Gender
 
 TEST_P(MarkerColourTest, FirstLetterOfTheGender_Decides)
 {
-    givenRecord(GetParam().Gender);
-    givenBox(0, {2000, 700}, u"A001");
+    GivenRecord(GetParam().Gender);
+    GivenBox(0, {2000, 700}, u"A001");
 
     MarkCurrentBox(P);
 

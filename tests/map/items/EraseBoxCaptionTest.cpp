@@ -13,10 +13,10 @@ constexpr Colour red = Rgb(255, 0, 0);
 class EraseBoxCaptionTest : public MapTest
 {
 protected:
-    void givenRecord(QStringView forename) { givenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", forename}})); }
+    void GivenRecord(QStringView forename) { GivenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", forename}})); }
 
     // The captions without their boxes, so that every pixel that stays behind is one of theirs.
-    void givenCaptionOf(int row)
+    void GivenCaptionOf(int row)
     {
         DrawBoxCaptions(P, Sheet());
         DrawOwnCaptions(P, Sheet());
@@ -29,9 +29,9 @@ protected:
 
 TEST_F(EraseBoxCaptionTest, Caption_LeavesNoPixelBehind)
 {
-    givenRecord(u"Christopher");
-    givenBox(7, {1000, 500}, u"A001");
-    givenCaptionOf(7);
+    GivenRecord(u"Christopher");
+    GivenBox(7, {1000, 500}, u"A001");
+    GivenCaptionOf(7);
 
     EraseBoxCaption(P);
 
@@ -40,10 +40,10 @@ TEST_F(EraseBoxCaptionTest, Caption_LeavesNoPixelBehind)
 
 TEST_F(EraseBoxCaptionTest, CaptionInItsBox_LeavesTheInsideAsItWas)
 {
-    givenRecord(u"Jo Anne");
-    givenBox(7, {1000, 500}, u"A001", red);
+    GivenRecord(u"Jo Anne");
+    GivenBox(7, {1000, 500}, u"A001", red);
     DrawBox(P.Map, Sheet(), 7);
-    givenCaptionOf(7);
+    GivenCaptionOf(7);
 
     EraseBoxCaption(P);
 
@@ -54,11 +54,11 @@ TEST_F(EraseBoxCaptionTest, CaptionInItsBox_LeavesTheInsideAsItWas)
 
 TEST_F(EraseBoxCaptionTest, OtherCaptions_Stay)
 {
-    givenOpen(
+    GivenOpen(
         BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}}).Row({{u"File", u"A002"}, {u"Forename", u"Anne"}}));
-    givenBox(0, {1000, 500}, u"A001");
-    givenBox(1, {3000, 500}, u"A002");
-    givenCaptionOf(0);
+    GivenBox(0, {1000, 500}, u"A001");
+    GivenBox(1, {3000, 500}, u"A002");
+    GivenCaptionOf(0);
 
     EraseBoxCaption(P);
 
@@ -71,8 +71,8 @@ TEST_F(EraseBoxCaptionTest, OtherCaptions_Stay)
 
 TEST_F(EraseBoxCaptionTest, BoxOfTheRecord_IsEmptyAfterwards)
 {
-    givenRecord(u"John");
-    givenBox(7, {1000, 500}, u"a001");
+    GivenRecord(u"John");
+    GivenBox(7, {1000, 500}, u"a001");
     P.Map.BoxArr[7][BoxColumn::Forename] = u"John"_s;
 
     EraseBoxCaption(P);
@@ -85,10 +85,10 @@ TEST_F(EraseBoxCaptionTest, BoxOfTheRecord_IsEmptyAfterwards)
 
 TEST_F(EraseBoxCaptionTest, RecordInTwoBoxes_FirstAloneIsErased)
 {
-    givenRecord(u"John");
-    givenBox(7, {1000, 500}, u"A001");
-    givenBox(8, {3000, 500}, u"A001");
-    givenCaptionOf(7);
+    GivenRecord(u"John");
+    GivenBox(7, {1000, 500}, u"A001");
+    GivenBox(8, {3000, 500}, u"A001");
+    GivenCaptionOf(7);
 
     EraseBoxCaption(P);
 
@@ -100,9 +100,9 @@ TEST_F(EraseBoxCaptionTest, RecordInTwoBoxes_FirstAloneIsErased)
 
 TEST_F(EraseBoxCaptionTest, NullForename_NumberAloneIsErased)
 {
-    givenOpen(BranchA.Row({{u"File", u"A001"}}));
-    givenBox(0, {1000, 500}, u"A001");
-    givenCaptionOf(0);
+    GivenOpen(BranchA.Row({{u"File", u"A001"}}));
+    GivenBox(0, {1000, 500}, u"A001");
+    GivenCaptionOf(0);
 
     EraseBoxCaption(P);
 
@@ -112,9 +112,9 @@ TEST_F(EraseBoxCaptionTest, NullForename_NumberAloneIsErased)
 
 TEST_F(EraseBoxCaptionTest, LastBoxRow_IsLeftAlone)
 {
-    givenRecord(u"John");
-    givenBox(99, {1000, 500}, u"A001");
-    givenCaptionOf(99);
+    GivenRecord(u"John");
+    GivenBox(99, {1000, 500}, u"A001");
+    GivenCaptionOf(99);
     const QImage before = ShownBy(Picture);
 
     EraseBoxCaption(P);
@@ -125,9 +125,9 @@ TEST_F(EraseBoxCaptionTest, LastBoxRow_IsLeftAlone)
 
 TEST_F(EraseBoxCaptionTest, RowBeforeTheLast_IsErased)
 {
-    givenRecord(u"John");
-    givenBox(98, {1000, 500}, u"A001");
-    givenCaptionOf(98);
+    GivenRecord(u"John");
+    GivenBox(98, {1000, 500}, u"A001");
+    GivenCaptionOf(98);
 
     EraseBoxCaption(P);
 
@@ -137,9 +137,9 @@ TEST_F(EraseBoxCaptionTest, RowBeforeTheLast_IsErased)
 
 TEST_F(EraseBoxCaptionTest, PenAndFontInHand_DoNotMatter_AndPenEndsBlack)
 {
-    givenRecord(u"John");
-    givenBox(0, {1000, 500}, u"A001");
-    givenCaptionOf(0);
+    GivenRecord(u"John");
+    GivenBox(0, {1000, 500}, u"A001");
+    GivenCaptionOf(0);
     Picture.ForeColor = red;
     Picture.Font = {u"Courier New"_s, 20, true};
 
@@ -153,9 +153,9 @@ TEST_F(EraseBoxCaptionTest, PenAndFontInHand_DoNotMatter_AndPenEndsBlack)
 TEST_F(EraseBoxCaptionTest, OtherBackground_IsPrintedInThatColour)
 {
     Picture.BackColor = Rgb(240, 240, 200);
-    givenRecord(u"John");
-    givenBox(0, {1000, 500}, u"A001");
-    givenCaptionOf(0);
+    GivenRecord(u"John");
+    GivenBox(0, {1000, 500}, u"A001");
+    GivenCaptionOf(0);
 
     EraseBoxCaption(P);
 
@@ -165,10 +165,10 @@ TEST_F(EraseBoxCaptionTest, OtherBackground_IsPrintedInThatColour)
 TEST_F(EraseBoxCaptionTest, RecordOfSiblingShown_SelectedBoxIsErased)
 {
     BranchB.Row({{u"File", u"B001"}, {u"Forename", u"Beatrice"}}).Build();
-    givenRecord(u"John");
-    givenBox(7, {1000, 500}, u"B001");
-    givenBox(8, {3000, 500}, u"A001");
-    givenCaptionOf(7);
+    GivenRecord(u"John");
+    GivenBox(7, {1000, 500}, u"B001");
+    GivenBox(8, {3000, 500}, u"A001");
+    GivenCaptionOf(7);
     P.Mouse.BoxIdx = 7;
     P.Record.sAltName = u"Beatrice"_s;
     P.Branch.UsingAlternate = 1;
@@ -187,9 +187,9 @@ TEST_F(EraseBoxCaptionTest, RecordOfSiblingShown_SelectedBoxIsErased)
 TEST_F(EraseBoxCaptionTest, RecordOfSiblingShown_LastBoxRowIsErasedToo)
 {
     BranchB.Row({{u"File", u"B001"}, {u"Forename", u"Bob"}}).Build();
-    givenRecord(u"John");
-    givenBox(99, {1000, 500}, u"B001");
-    givenCaptionOf(99);
+    GivenRecord(u"John");
+    GivenBox(99, {1000, 500}, u"B001");
+    GivenCaptionOf(99);
     P.Mouse.BoxIdx = 99;
     P.Record.sAltName = u"Bob"_s;
     P.Branch.UsingAlternate = 1;
@@ -202,8 +202,8 @@ TEST_F(EraseBoxCaptionTest, RecordOfSiblingShown_LastBoxRowIsErasedToo)
 
 TEST_F(EraseBoxCaptionTest, BoxInRow100_IsLeftAlone)
 {
-    givenRecord(u"John");
-    givenBox(100, {1000, 500}, u"A001");
+    GivenRecord(u"John");
+    GivenBox(100, {1000, 500}, u"A001");
     Picture.Line({1000, 650}, {1600, 650});
     const QImage before = ShownBy(Picture);
 
@@ -215,8 +215,8 @@ TEST_F(EraseBoxCaptionTest, BoxInRow100_IsLeftAlone)
 
 TEST_F(EraseBoxCaptionTest, RecordWithoutABox_NothingIsErased)
 {
-    givenRecord(u"John");
-    givenBox(0, {1000, 500}, u"A002");
+    GivenRecord(u"John");
+    GivenBox(0, {1000, 500}, u"A002");
     Picture.Line({1000, 650}, {1600, 650});
     P.Mouse.BoxX = 1000;
     P.Mouse.BoxY = 500;

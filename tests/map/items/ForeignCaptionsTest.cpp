@@ -14,7 +14,7 @@ class ForeignCaptionsTest : public MapTest
 protected:
     ForeignCaptionsTest()
     {
-        givenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}})
+        GivenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}})
                       .Row({{u"File", u"A002"}, {u"Forename", u"Anne"}}));
         BranchB.Row({{u"File", u"B001"}, {u"Forename", u"Beatrice"}})
             .Row({{u"File", u"B002"}})
@@ -56,7 +56,7 @@ protected:
 TEST_F(ForeignCaptionsTest, SiblingPresent_ShowsNumberAndForename)
 {
     BranchB.Build();
-    givenBox(0, {1000, 500}, u"B001");
+    GivenBox(0, {1000, 500}, u"B001");
 
     Draw();
 
@@ -68,7 +68,7 @@ TEST_F(ForeignCaptionsTest, SiblingPresent_ShowsNumberAndForename)
 TEST_F(ForeignCaptionsTest, NumberInLowerCase_IsShownAsTheRecordHasIt)
 {
     BranchB.Build();
-    givenBox(0, {1000, 500}, u"b003");
+    GivenBox(0, {1000, 500}, u"b003");
 
     Draw();
 
@@ -80,7 +80,7 @@ TEST_F(ForeignCaptionsTest, NumberInLowerCase_IsShownAsTheRecordHasIt)
 TEST_F(ForeignCaptionsTest, ForenameWithWhatBreaksTheFile_IsPrintedAsTheFileWouldHaveIt)
 {
     BranchB.Build();
-    givenBox(0, {1000, 500}, u"B004");
+    GivenBox(0, {1000, 500}, u"B004");
 
     Draw();
 
@@ -92,8 +92,8 @@ TEST_F(ForeignCaptionsTest, ForenameWithWhatBreaksTheFile_IsPrintedAsTheFileWoul
 TEST_F(ForeignCaptionsTest, OnPaper_ForenameWithWhatBreaksTheFile_IsPrintedAsTheFileWouldHaveIt)
 {
     BranchB.Build();
-    givenBox(0, {1000, 500}, u"B004");
-    givenPrinting();
+    GivenBox(0, {1000, 500}, u"B004");
+    GivenPrinting();
 
     Draw();
 
@@ -103,8 +103,8 @@ TEST_F(ForeignCaptionsTest, OnPaper_ForenameWithWhatBreaksTheFile_IsPrintedAsThe
 TEST_F(ForeignCaptionsTest, FreeRow_HasNoCaption)
 {
     BranchB.Build();
-    givenBox(0, {0, 500}, u"B001");
-    givenBox(1, {0, 900}, u"B009");
+    GivenBox(0, {0, 500}, u"B001");
+    GivenBox(1, {0, 900}, u"B009");
 
     Draw();
 
@@ -115,11 +115,11 @@ TEST_F(ForeignCaptionsTest, SeveralSiblings_EachBoxGetsItsOwn)
 {
     BranchB.Build();
     BranchBuilder(Home, u'C').Row({{u"File", u"C001"}, {u"Forename", u"Carl"}}).Build();
-    givenBox(0, {1000, 500}, u"B003");
-    givenBox(1, {2000, 500}, u"C001");
-    givenBox(2, {3000, 500}, u"A001");
-    givenBox(3, {4000, 500}, u"B001");
-    givenBox(99, {5000, 500}, u"B003");
+    GivenBox(0, {1000, 500}, u"B003");
+    GivenBox(1, {2000, 500}, u"C001");
+    GivenBox(2, {3000, 500}, u"A001");
+    GivenBox(3, {4000, 500}, u"B001");
+    GivenBox(99, {5000, 500}, u"B003");
 
     Draw();
 
@@ -142,7 +142,7 @@ TEST_F(ForeignCaptionsTest, SeveralSiblings_EachBoxGetsItsOwn)
 TEST_F(ForeignCaptionsTest, NullForename_ShowsOnlyTheNumber)
 {
     BranchB.Build();
-    givenBox(0, {1000, 500}, u"B002");
+    GivenBox(0, {1000, 500}, u"B002");
 
     ExpectNumberOnly(u"B002");
 }
@@ -150,14 +150,14 @@ TEST_F(ForeignCaptionsTest, NullForename_ShowsOnlyTheNumber)
 TEST_F(ForeignCaptionsTest, RecordNotInTheSibling_ShowsOnlyTheNumber)
 {
     BranchB.Build();
-    givenBox(0, {1000, 500}, u"B009");
+    GivenBox(0, {1000, 500}, u"B009");
 
     ExpectNumberOnly(u"B009");
 }
 
 TEST_F(ForeignCaptionsTest, BranchThatNoLongerExists_ShowsOnlyTheNumber_WithoutAMessage)
 {
-    givenBox(0, {1000, 500}, u"B001");
+    GivenBox(0, {1000, 500}, u"B001");
 
     ExpectNumberOnly(u"B001");
 }
@@ -166,7 +166,7 @@ TEST_F(ForeignCaptionsTest, DatabaseGoneFromItsDirectory_ShowsOnlyTheNumber)
 {
     BranchB.Build();
     P.Files.Kill(Home.Path(BranchB.DatabaseFile()));
-    givenBox(0, {1000, 500}, u"B001");
+    GivenBox(0, {1000, 500}, u"B001");
 
     ExpectNumberOnly(u"B001");
 }
@@ -175,7 +175,7 @@ TEST_F(ForeignCaptionsTest, DatabaseThatIsGarbage_ShowsOnlyTheNumber)
 {
     BranchB.Build();
     Home.WriteFile(BranchB.DatabaseFile(), QByteArray("no database at all ").repeated(500));
-    givenBox(0, {1000, 500}, u"B001");
+    GivenBox(0, {1000, 500}, u"B001");
 
     ExpectNumberOnly(u"B001");
 }
@@ -184,7 +184,7 @@ TEST_F(ForeignCaptionsTest, DatabaseThatIsEmpty_ShowsOnlyTheNumber)
 {
     BranchB.Build();
     Home.WriteFile(BranchB.DatabaseFile(), {});
-    givenBox(0, {1000, 500}, u"B001");
+    GivenBox(0, {1000, 500}, u"B001");
 
     ExpectNumberOnly(u"B001");
 }
@@ -193,7 +193,7 @@ TEST_F(ForeignCaptionsTest, DatabaseWithoutTheTable_ShowsOnlyTheNumber)
 {
     BranchB.Build();
     SqliteFile(Home.Path(BranchB.DatabaseFile())).Execute("ALTER TABLE Tree99 RENAME TO Other");
-    givenBox(0, {1000, 500}, u"B001");
+    GivenBox(0, {1000, 500}, u"B001");
 
     ExpectNumberOnly(u"B001");
 }
@@ -202,14 +202,14 @@ TEST_F(ForeignCaptionsTest, DatabaseThatIsReadOnly_ShowsOnlyTheNumber)
 {
     BranchB.Build();
     Home.MakeReadOnly(BranchB.DatabaseFile());
-    givenBox(0, {1000, 500}, u"B001");
+    GivenBox(0, {1000, 500}, u"B001");
 
     ExpectNumberOnly(u"B001");
 }
 
 TEST_F(ForeignCaptionsTest, LetterThatIsNoLetter_ShowsOnlyTheNumber)
 {
-    givenBox(0, {1000, 500}, u"/001");
+    GivenBox(0, {1000, 500}, u"/001");
 
     ExpectNumberOnly(u"/001");
 }
@@ -218,8 +218,8 @@ TEST_F(ForeignCaptionsTest, ImportedBranch_ReachesNoNeighbours)
 {
     BranchB.InDirectory(u"Import_B").Build();
     BranchBuilder imported(Home, u'A');
-    givenOpen(imported.InDirectory(u"Import_A").Row({{u"File", u"A001"}}).Row({{u"File", u"A002"}}));
-    givenBox(0, {1000, 500}, u"B001");
+    GivenOpen(imported.InDirectory(u"Import_A").Row({{u"File", u"A001"}}).Row({{u"File", u"A002"}}));
+    GivenBox(0, {1000, 500}, u"B001");
     P.Branch.WorkDirSaved = u"untouched"_s;
 
     ExpectNumberOnly(u"B001");
@@ -230,8 +230,8 @@ TEST_F(ForeignCaptionsTest, ImportedBranch_ReachesNoNeighbours)
 TEST_F(ForeignCaptionsTest, BoxAtImpossiblePlace_ProgramStandsOnItsOwnBranchAfterwards)
 {
     BranchB.Build();
-    givenBox(0, {99999, 500}, u"B001");
-    givenBox(1, {1000, 500}, u"B003");
+    GivenBox(0, {99999, 500}, u"B001");
+    GivenBox(1, {1000, 500}, u"B003");
 
     Draw();
 
@@ -242,7 +242,7 @@ TEST_F(ForeignCaptionsTest, BoxAtImpossiblePlace_ProgramStandsOnItsOwnBranchAfte
 
 TEST_F(ForeignCaptionsTest, RealDirectories_AreKeptAsTheSavedOnes)
 {
-    givenBox(0, {1000, 500}, u"B001");
+    GivenBox(0, {1000, 500}, u"B001");
 
     Draw();
 
@@ -253,9 +253,9 @@ TEST_F(ForeignCaptionsTest, RealDirectories_AreKeptAsTheSavedOnes)
 TEST_F(ForeignCaptionsTest, SubjectBeingMapped_ForeignBoxKeepsItsPlace)
 {
     BranchB.Build();
-    givenBox(0, {3000, 500}, u"A002"); // of the current record, which is looked for while a subject is mapped
-    givenBox(1, {1000, 500}, u"B003");
-    givenBox(2, {2000, 500}, u"B009");
+    GivenBox(0, {3000, 500}, u"A002"); // of the current record, which is looked for while a subject is mapped
+    GivenBox(1, {1000, 500}, u"B003");
+    GivenBox(2, {2000, 500}, u"B009");
     P.Tools.MapCursorMode = 1;
 
     Draw();
@@ -270,9 +270,9 @@ TEST_F(ForeignCaptionsTest, SubjectBeingMapped_ForeignBoxKeepsItsPlace)
 TEST_F(ForeignCaptionsTest, OnPaper_RecordHasThreeLines_NumberOne)
 {
     BranchB.Build();
-    givenBox(0, {1000, 500}, u"B003");
-    givenBox(1, {2000, 500}, u"B009");
-    givenPrinting();
+    GivenBox(0, {1000, 500}, u"B003");
+    GivenBox(1, {2000, 500}, u"B009");
+    GivenPrinting();
 
     Draw();
 

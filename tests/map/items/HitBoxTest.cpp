@@ -37,7 +37,7 @@ class BoxEdgeTest : public HitTestTest, public WithParamInterface<PressedPoint>
 
 TEST_P(BoxEdgeTest, EdgesAreOutside)
 {
-    givenBox(0, corner);
+    GivenBox(0, corner);
     GivenPress(GetParam().At);
 
     EXPECT_EQ(PressIsInBox(P, 0), GetParam().IsInside);
@@ -54,25 +54,25 @@ TEST_F(HitTestTest, FreeRow_AndOneAtNoPlace_AreNeverHit)
     GivenPress({100, 100});
     EXPECT_FALSE(PressIsInBox(P, 0));
 
-    givenBox(0, {1, 1});
+    GivenBox(0, {1, 1});
     P.Map.BoxArr[0][BoxColumn::Y] = QStringLiteral("Ann");
     EXPECT_FALSE(PressIsInBox(P, 0));
 }
 
 TEST_F(HitTestTest, RowWithXOfZero_IsNeverHit_WhateverElseItHolds)
 {
-    givenBox(0, {0, 500}, u"A001");
+    GivenBox(0, {0, 500}, u"A001");
     GivenPress({300, 600});
     EXPECT_FALSE(PressIsInBox(P, 0));
 
-    givenBox(0, {1, 500}, u"A001");
+    GivenBox(0, {1, 500}, u"A001");
     EXPECT_TRUE(PressIsInBox(P, 0));
 }
 
 TEST_F(HitTestTest, Hit_GivesTheRow)
 {
-    givenBox(0, {4000, 4000});
-    givenBox(1, corner);
+    GivenBox(0, {4000, 4000});
+    GivenBox(1, corner);
     P.Map.SBoxes = 2;
     P.Mouse.BoxMiss = 1;
     GivenPress({1300, 600});
@@ -85,8 +85,8 @@ TEST_F(HitTestTest, Hit_GivesTheRow)
 
 TEST_F(HitTestTest, OverlappingBoxes_TheLowerRowWins)
 {
-    givenBox(2, corner);
-    givenBox(1, {corner.X + 100, corner.Y + 50});
+    GivenBox(2, corner);
+    GivenBox(1, {corner.X + 100, corner.Y + 50});
     P.Map.SBoxes = 2;
     GivenPress({1300, 600});
 
@@ -97,8 +97,8 @@ TEST_F(HitTestTest, OverlappingBoxes_TheLowerRowWins)
 
 TEST_F(HitTestTest, Miss_GivesTheRowBehindTheLast)
 {
-    givenBox(0, corner);
-    givenBox(1, {4000, 4000});
+    GivenBox(0, corner);
+    GivenBox(1, {4000, 4000});
     P.Map.SBoxes = 1;
     GivenPress({3000, 3000});
 
@@ -110,7 +110,7 @@ TEST_F(HitTestTest, Miss_GivesTheRowBehindTheLast)
 
 TEST_F(HitTestTest, RowBehindTheHighestInUse_IsNotLookedAt)
 {
-    givenBox(2, corner);
+    GivenBox(2, corner);
     P.Map.SBoxes = 1;
     GivenPress({1300, 600});
 
@@ -122,7 +122,7 @@ TEST_F(HitTestTest, RowBehindTheHighestInUse_IsNotLookedAt)
 
 TEST_F(HitTestTest, NoBoxesCounted_BothStayAsTheyWere)
 {
-    givenBox(0, corner);
+    GivenBox(0, corner);
     P.Map.SBoxes = 0;
     P.Mouse.BoxIdx = 7;
     P.Mouse.BoxMiss = 1;
@@ -136,7 +136,7 @@ TEST_F(HitTestTest, NoBoxesCounted_BothStayAsTheyWere)
 
 TEST_F(HitTestTest, RowsFrom100On_AreHit)
 {
-    givenBox(LastMapRow, corner);
+    GivenBox(LastMapRow, corner);
     P.Map.SBoxes = LastMapRow;
     GivenPress({1300, 600});
 

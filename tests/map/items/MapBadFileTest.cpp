@@ -13,9 +13,9 @@ using namespace Qt::StringLiterals;
 class MapBadFileTest : public MapTest
 {
 protected:
-    MapBadFileTest() { givenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}})); }
+    MapBadFileTest() { GivenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}})); }
 
-    void givenMapFile(const QByteArray& bytes) { Home.WriteFile(u"LfgDat_A/LfgDat_A.cfg", bytes); }
+    void GivenMapFile(const QByteArray& bytes) { Home.WriteFile(u"LfgDat_A/LfgDat_A.cfg", bytes); }
 
     void ExpectWarning(QStringView text)
     {
@@ -41,7 +41,7 @@ constexpr qsizetype hundredMegabytes = 100'000'000;
 
 TEST_F(MapBadFileTest, EmptyFile_WarnsOfTheBoxes)
 {
-    givenMapFile({});
+    GivenMapFile({});
     ExpectWarning(u"Config Box Record empty");
     const Tree before = Home.Snapshot();
 
@@ -57,7 +57,7 @@ TEST_F(MapBadFileTest, BinaryFile_WarnsOfTheBoxes)
     QByteArray bytes;
     for (int byte = 0; byte < 256 * 64; ++byte)
         bytes += static_cast<char>(byte * 31 % 256);
-    givenMapFile(bytes);
+    GivenMapFile(bytes);
     ExpectWarning(u"Config Box Record empty");
     const Tree before = Home.Snapshot();
 
@@ -73,7 +73,7 @@ TEST_F(MapBadFileTest, BinaryListsBetweenGoodNames_AreValuesLikeAnyOther)
     for (int byte = 0; byte < 256; ++byte)
         if (byte != '[')
             noise += static_cast<char>(byte);
-    givenMapFile("[Boxes]" + noise + "[Lines]" + noise + "[Text]" + noise);
+    GivenMapFile("[Boxes]" + noise + "[Lines]" + noise + "[Text]" + noise);
 
     OpenWhatIsLeft();
 
@@ -97,7 +97,7 @@ TEST_F(MapBadFileTest, FileCutOffAnywhere_EndsAsTheReaderMeetsIt)
 
     for (qsizetype length = 0; length < whole.size(); ++length) {
         SCOPED_TRACE(length);
-        givenMapFile(whole.first(length));
+        GivenMapFile(whole.first(length));
         const Tree before = Home.Snapshot();
         ForgetMap(P);
         const bool endsInList =
@@ -121,7 +121,7 @@ TEST_F(MapBadFileTest, FileCutOffAnywhere_WhatIsLeftIsDrawn)
     const QByteArray boxes = "1200,600,255,A001,John,";
     for (qsizetype length = 9; length < boxes.size(); ++length) {
         SCOPED_TRACE(length);
-        givenMapFile("[Boxes]" + boxes.first(length));
+        GivenMapFile("[Boxes]" + boxes.first(length));
         ForgetMap(P);
         Picture.Cls();
 
@@ -135,7 +135,7 @@ TEST_F(MapBadFileTest, FileCutOffAnywhere_WhatIsLeftIsDrawn)
 
 TEST_F(MapBadFileTest, TenMegabytesWithoutAName_WarnsOfTheBoxes)
 {
-    givenMapFile(QByteArray(tenMegabytes, '['));
+    GivenMapFile(QByteArray(tenMegabytes, '['));
     ExpectWarning(u"Config Box Record empty");
 
     OpenWhatIsLeft();
@@ -145,7 +145,7 @@ TEST_F(MapBadFileTest, TenMegabytesWithoutAName_WarnsOfTheBoxes)
 
 TEST_F(MapBadFileTest, HundredMegabytesOfBoxes_FillTheArray)
 {
-    givenMapFile("[Boxes]" + QByteArray("9,9,0,0,,").repeated(hundredMegabytes / 9) + "[Lines]0,0,0,[Text]0,0,0,");
+    GivenMapFile("[Boxes]" + QByteArray("9,9,0,0,,").repeated(hundredMegabytes / 9) + "[Lines]0,0,0,[Text]0,0,0,");
 
     OpenWhatIsLeft();
 
@@ -155,7 +155,7 @@ TEST_F(MapBadFileTest, HundredMegabytesOfBoxes_FillTheArray)
 
 TEST_F(MapBadFileTest, HundredMegabytesOfCommas_AreEmptyTexts)
 {
-    givenMapFile("[Boxes]0,0,0,[Lines]0,0,0,[Text]" + QByteArray(hundredMegabytes, ','));
+    GivenMapFile("[Boxes]0,0,0,[Lines]0,0,0,[Text]" + QByteArray(hundredMegabytes, ','));
 
     OpenWhatIsLeft();
 
@@ -166,7 +166,7 @@ TEST_F(MapBadFileTest, HundredMegabytesOfCommas_AreEmptyTexts)
 
 TEST_F(MapBadFileTest, TenMegabytesOfLines_EndAtTheLastRow)
 {
-    givenMapFile("[Boxes]0,0,0,[Lines]" + QByteArray("1,").repeated(tenMegabytes / 2) + "[Text]0,0,0,");
+    GivenMapFile("[Boxes]0,0,0,[Lines]" + QByteArray("1,").repeated(tenMegabytes / 2) + "[Text]0,0,0,");
 
     OpenWhatIsLeft();
 
@@ -175,7 +175,7 @@ TEST_F(MapBadFileTest, TenMegabytesOfLines_EndAtTheLastRow)
 
 TEST_F(MapBadFileTest, HundredMegabytesInOneBox_AreShownAsFarAsTheyGo)
 {
-    givenMapFile("[Boxes]1200,600,255,A" + QByteArray(hundredMegabytes, '1') + ",,[Lines]0,0,0,[Text]0,0,0,");
+    GivenMapFile("[Boxes]1200,600,255,A" + QByteArray(hundredMegabytes, '1') + ",,[Lines]0,0,0,[Text]0,0,0,");
 
     OpenWhatIsLeft();
 
@@ -186,7 +186,7 @@ TEST_F(MapBadFileTest, HundredMegabytesInOneBox_AreShownAsFarAsTheyGo)
 
 TEST_F(MapBadFileTest, TenMegabytesInOneText_AreShownAsFarAsTheyGo)
 {
-    givenMapFile("[Boxes]0,0,0,[Lines]0,0,0,[Text]300,150," + QByteArray(tenMegabytes, 'W') + ",Arial,8,255,");
+    GivenMapFile("[Boxes]0,0,0,[Lines]0,0,0,[Text]300,150," + QByteArray(tenMegabytes, 'W') + ",Arial,8,255,");
 
     OpenWhatIsLeft();
 
@@ -197,7 +197,7 @@ TEST_F(MapBadFileTest, TenMegabytesInOneText_AreShownAsFarAsTheyGo)
 
 TEST_F(MapBadFileTest, TenMegabytesInOneFontName_AreShownInSomeFont)
 {
-    givenMapFile("[Boxes]0,0,0,[Lines]0,0,0,[Text]300,150,John," + QByteArray(tenMegabytes, 'W') + ",8,255,");
+    GivenMapFile("[Boxes]0,0,0,[Lines]0,0,0,[Text]300,150,John," + QByteArray(tenMegabytes, 'W') + ",8,255,");
 
     OpenWhatIsLeft();
 
@@ -208,7 +208,7 @@ TEST_F(MapBadFileTest, TenMegabytesInOneFontName_AreShownInSomeFont)
 
 TEST_F(MapBadFileTest, FontOfImpossibleSize_IsPassedOver)
 {
-    givenMapFile("[Boxes]0,0,0,[Lines]0,0,0,[Text]300,150,A,Arial,1e300,255,300,150,B,Arial,100000,255,"
+    GivenMapFile("[Boxes]0,0,0,[Lines]0,0,0,[Text]300,150,A,Arial,1e300,255,300,150,B,Arial,100000,255,"
                  "300,150,C,Arial,-8,255,300,150,D,Arial,0,255,");
 
     OpenWhatIsLeft();
@@ -220,7 +220,7 @@ TEST_F(MapBadFileTest, FontOfImpossibleSize_IsPassedOver)
 
 TEST_F(MapBadFileTest, PlacesFarOutsideThePicture_AreDrawnNowhere)
 {
-    givenMapFile("[Boxes]2147483647,2147483647,255,0,,-2147483648,-2147483648,255,0,,"
+    GivenMapFile("[Boxes]2147483647,2147483647,255,0,,-2147483648,-2147483648,255,0,,"
                  "[Lines]2147483647,5,2147483647,-2147483648,255,-2147483648,-2147483648,-9,-9,255,"
                  "[Text]2147483647,2147483647,A,Arial,8,255,-2147483648,-2147483648,B,Arial,8,255,");
 
@@ -232,10 +232,10 @@ TEST_F(MapBadFileTest, PlacesFarOutsideThePicture_AreDrawnNowhere)
 
 TEST_F(MapBadFileTest, PlacesFarOutsideThePaper_AreNoFailure)
 {
-    givenMapFile("[Boxes]2147483647,2147483647,255,0,,-2147483648,-2147483648,255,0,,"
+    GivenMapFile("[Boxes]2147483647,2147483647,255,0,,-2147483648,-2147483648,255,0,,"
                  "[Lines]2147483647,5,2147483647,-2147483648,255,-2147483648,-2147483648,-9,-9,255,"
                  "[Text]2147483647,2147483647,A,Arial,8,255,-2147483648,-2147483648,B,Arial,8,255,");
-    givenPrinting();
+    GivenPrinting();
 
     OpenWhatIsLeft();
 

@@ -24,9 +24,9 @@ protected:
         P.Map.STexts = -1;
     }
 
-    void givenTwoRecords()
+    void GivenTwoRecords()
     {
-        givenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}})
+        GivenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}})
                       .Row({{u"File", u"A002"}, {u"Forename", u"Anne"}}));
     }
 
@@ -35,14 +35,14 @@ protected:
 
 TEST_F(RedrawMapTest, EverythingUpToTheCounts_IsPainted)
 {
-    givenTwoRecords();
-    givenBox(0, {1000, 500}, u"0", red);
-    givenBox(1, {2000, 500}, u"0", red);
-    givenBox(2, {3000, 500}, u"0", red);
-    givenLine(0, {1000, 2000}, {2000, 2000}, green);
-    givenLine(1, {1000, 3000}, {2000, 3000}, green);
-    givenText(0, {1000, 4000}, u"First", {}, blue);
-    givenText(1, {1000, 5000}, u"Second", {}, blue);
+    GivenTwoRecords();
+    GivenBox(0, {1000, 500}, u"0", red);
+    GivenBox(1, {2000, 500}, u"0", red);
+    GivenBox(2, {3000, 500}, u"0", red);
+    GivenLine(0, {1000, 2000}, {2000, 2000}, green);
+    GivenLine(1, {1000, 3000}, {2000, 3000}, green);
+    GivenText(0, {1000, 4000}, u"First", {}, blue);
+    GivenText(1, {1000, 5000}, u"Second", {}, blue);
     P.Map.SBoxes = 1;
     P.Map.SLines = 0;
     P.Map.STexts = 0;
@@ -61,10 +61,10 @@ TEST_F(RedrawMapTest, EverythingUpToTheCounts_IsPainted)
 
 TEST_F(RedrawMapTest, LinesLieAboveTexts_AndTextsAboveBoxes)
 {
-    givenTwoRecords();
-    givenBox(0, {1000, 500}, u"0", red);
-    givenText(0, {1050, 400}, u"||||||||||", {}, blue);
-    givenLine(0, {1000, 500}, {1300, 500}, green);
+    GivenTwoRecords();
+    GivenBox(0, {1000, 500}, u"0", red);
+    GivenText(0, {1050, 400}, u"||||||||||", {}, blue);
+    GivenLine(0, {1000, 500}, {1300, 500}, green);
     P.Map.SBoxes = P.Map.SLines = P.Map.STexts = 0;
 
     RedrawMap(P, Sheet());
@@ -81,9 +81,9 @@ TEST_F(RedrawMapTest, LinesLieAboveTexts_AndTextsAboveBoxes)
 
 TEST_F(RedrawMapTest, CaptionsLieAboveEverything)
 {
-    givenTwoRecords();
-    givenBox(0, {1000, 500}, u"A001", red);
-    givenLine(0, {1000, 650}, {1600, 650}, green);
+    GivenTwoRecords();
+    GivenBox(0, {1000, 500}, u"A001", red);
+    GivenLine(0, {1000, 650}, {1600, 650}, green);
     P.Map.SBoxes = P.Map.SLines = 0;
 
     RedrawMap(P, Sheet());
@@ -100,9 +100,9 @@ TEST_F(RedrawMapTest, CaptionsLieAboveEverything)
 
 TEST_F(RedrawMapTest, BoxesOfSiblings_GetTheirCaptions)
 {
-    givenTwoRecords();
+    GivenTwoRecords();
     BranchB.Row({{u"File", u"B001"}, {u"Forename", u"Bob"}}).Build();
-    givenBox(0, {1000, 500}, u"B001", red);
+    GivenBox(0, {1000, 500}, u"B001", red);
     P.Map.SBoxes = 0;
 
     RedrawMap(P, Sheet());
@@ -117,8 +117,8 @@ TEST_F(RedrawMapTest, BoxesOfSiblings_GetTheirCaptions)
 
 TEST_F(RedrawMapTest, EmptyTable_BoxesShowTheirNumbers)
 {
-    givenOpen(BranchA);
-    givenBox(0, {1000, 500}, u"A001", red);
+    GivenOpen(BranchA);
+    GivenBox(0, {1000, 500}, u"A001", red);
     P.Map.SBoxes = 0;
 
     RedrawMap(P, Sheet());
@@ -133,7 +133,7 @@ TEST_F(RedrawMapTest, EmptyTable_BoxesShowTheirNumbers)
 
 TEST_F(RedrawMapTest, CurrentRecord_IsTheSameAfterwards)
 {
-    givenTwoRecords();
+    GivenTwoRecords();
     Records(P.Form3).MoveNext();
 
     RedrawMap(P, Sheet());
@@ -143,7 +143,7 @@ TEST_F(RedrawMapTest, CurrentRecord_IsTheSameAfterwards)
 
 TEST_F(RedrawMapTest, CurrentRecord_PositionSavedForAnotherWalkLongAgo_DoesNotComeBack)
 {
-    givenTwoRecords();
+    GivenTwoRecords();
     P.Record.SavedBookmark = Records(P.Form3).GetBookmark();
     Records(P.Form3).MoveNext();
 
@@ -154,7 +154,7 @@ TEST_F(RedrawMapTest, CurrentRecord_PositionSavedForAnotherWalkLongAgo_DoesNotCo
 
 TEST_F(RedrawMapTest, BehindTheLastRecord_GoesBackToThePositionSavedBefore)
 {
-    givenTwoRecords();
+    GivenTwoRecords();
     Records(P.Form3).MoveNext();
     P.Record.SavedBookmark = Records(P.Form3).GetBookmark();
     Records(P.Form3).MoveNext();
@@ -166,7 +166,7 @@ TEST_F(RedrawMapTest, BehindTheLastRecord_GoesBackToThePositionSavedBefore)
 
 TEST_F(RedrawMapTest, BehindTheLastRecord_NoPositionSavedInThisDatabase_StaysThere)
 {
-    givenTwoRecords();
+    GivenTwoRecords();
     P.Record.SavedBookmark = Records(P.Form3).GetBookmark();
     OpenWorkDatabase(P);
     Records(P.Form3).MoveLast();
@@ -179,7 +179,7 @@ TEST_F(RedrawMapTest, BehindTheLastRecord_NoPositionSavedInThisDatabase_StaysThe
 
 TEST_F(RedrawMapTest, FreeRows_AreNotPainted)
 {
-    givenTwoRecords();
+    GivenTwoRecords();
     P.Map.SBoxes = P.Map.SLines = P.Map.STexts = 200;
 
     RedrawMap(P, Sheet());
@@ -189,13 +189,13 @@ TEST_F(RedrawMapTest, FreeRows_AreNotPainted)
 
 TEST_F(RedrawMapTest, ItemsWhosePositionIsNoNumber_AreNotPainted_AndCostNoOther)
 {
-    givenTwoRecords();
-    givenBox(0, {1000, 500}, u"A001", red);
+    GivenTwoRecords();
+    GivenBox(0, {1000, 500}, u"A001", red);
     P.Map.BoxArr[0][BoxColumn::X] = u"here"_s;
-    givenBox(1, {2000, 500}, u"0", red);
-    givenText(0, {1000, 4000}, u"First", {}, blue);
+    GivenBox(1, {2000, 500}, u"0", red);
+    GivenText(0, {1000, 4000}, u"First", {}, blue);
     P.Map.TextArr[0][TextColumn::Y] = u"there"_s;
-    givenText(1, {1000, 5000}, u"Second", {}, blue);
+    GivenText(1, {1000, 5000}, u"Second", {}, blue);
     P.Map.SBoxes = P.Map.STexts = 1;
 
     RedrawMap(P, Sheet());
@@ -209,7 +209,7 @@ TEST_F(RedrawMapTest, ItemsWhosePositionIsNoNumber_AreNotPainted_AndCostNoOther)
 
 TEST_F(RedrawMapTest, NoItemsAtAll_IsQuiet)
 {
-    givenTwoRecords();
+    GivenTwoRecords();
 
     RedrawMap(P, Sheet());
 
@@ -218,11 +218,11 @@ TEST_F(RedrawMapTest, NoItemsAtAll_IsQuiet)
 
 TEST_F(RedrawMapTest, AfterEachText_PenAndFontAreThoseInHandBefore)
 {
-    givenTwoRecords();
+    GivenTwoRecords();
     Picture.ForeColor = red;
     Picture.Font = {u"Arial"_s, 10, true};
-    givenText(0, {1000, 4000}, u"First", {u"Courier New"_s, 20}, blue);
-    givenText(1, {1000, 5000}, u"Second", {u"Courier New"_s, 20}, blue);
+    GivenText(0, {1000, 4000}, u"First", {u"Courier New"_s, 20}, blue);
+    GivenText(1, {1000, 5000}, u"Second", {u"Courier New"_s, 20}, blue);
     P.Map.STexts = 1;
 
     RedrawMap(P, Sheet());
@@ -238,9 +238,9 @@ TEST_F(RedrawMapTest, AfterEachText_PenAndFontAreThoseInHandBefore)
 
 TEST_F(RedrawMapTest, AfterATextAnotherFontInHand_BecomesArial8NotBold)
 {
-    givenTwoRecords();
+    GivenTwoRecords();
     Picture.Font = {u"Courier New"_s, 20, true};
-    givenText(0, {1000, 4000}, u"First");
+    GivenText(0, {1000, 4000}, u"First");
     P.Map.STexts = 0;
 
     RedrawMap(P, Sheet());
@@ -251,7 +251,7 @@ TEST_F(RedrawMapTest, AfterATextAnotherFontInHand_BecomesArial8NotBold)
 TEST_F(RedrawMapTest, DrawnMap_LooksLikeTheOpenedOne)
 {
     BranchB.Row({{u"File", u"B001"}, {u"Forename", u"Bob"}}).Build();
-    givenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}})
+    GivenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}})
                   .Boxes(u"1000,500,255,A001,,2000,500,255,B001,,3000,500,255,0,,")
                   .Lines(u"1615,608,2000,608,32768,")
                   .Texts(u"1000,3000,The Smiths,Arial,14,16711680,"));
@@ -285,7 +285,7 @@ TEST_F(MapPictureTest, FreshPicture_HasThePlaceFontAndColourOfTheMap)
 
 TEST_F(MapPictureTest, Scrolling_MovesThePicture_NotTheMap)
 {
-    givenBox(0, {1000, 500});
+    GivenBox(0, {1000, 500});
     Picture.Line({1000, 500}, {2000, 500});
 
     P.Form1->VScroll1.Value = 700;

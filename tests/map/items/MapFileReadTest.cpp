@@ -14,9 +14,9 @@ const QString corrupt = u"Box Config File record corrupt"_s;
 class MapFileReadTest : public MapTest
 {
 protected:
-    MapFileReadTest() { givenOpen(BranchA); }
+    MapFileReadTest() { GivenOpen(BranchA); }
 
-    void givenMapFile(const QByteArray& bytes) { Home.WriteFile(u"LfgDat_A/LfgDat_A.cfg", bytes); }
+    void GivenMapFile(const QByteArray& bytes) { Home.WriteFile(u"LfgDat_A/LfgDat_A.cfg", bytes); }
 
     void ExpectWarning(QStringView text) { Prompts.Expect(corrupt, text, Buttons::Information); }
 
@@ -30,7 +30,7 @@ protected:
 
 TEST_F(MapFileReadTest, EightLines_FillThreeLists)
 {
-    givenMapFile("This File Contains Graphic Data crucial to your program. Warning: DO NOT MODIFY.\r\n"
+    GivenMapFile("This File Contains Graphic Data crucial to your program. Warning: DO NOT MODIFY.\r\n"
                  "[LfgDat_A]\r\n[Boxes]\r\n1200,600,255,A001,John,\r\n[Lines]\r\n1,2,3,4,5,\r\n[Text]\r\n"
                  "300,150,The Smiths,Arial,8,0,\r\n");
 
@@ -41,7 +41,7 @@ TEST_F(MapFileReadTest, EightLines_FillThreeLists)
 
 TEST_F(MapFileReadTest, SectionNames_AreFoundInAnyCase)
 {
-    givenMapFile("[bOXES]\r\n1,\r\n[LINES]\r\n2,\r\n[text]\r\n3,\r\n");
+    GivenMapFile("[bOXES]\r\n1,\r\n[LINES]\r\n2,\r\n[text]\r\n3,\r\n");
 
     ReadMapFile(P);
 
@@ -50,7 +50,7 @@ TEST_F(MapFileReadTest, SectionNames_AreFoundInAnyCase)
 
 TEST_F(MapFileReadTest, AnythingBeforeTheBoxes_IsPassedOver)
 {
-    givenMapFile("[Lines]9,[Text]9,[Box][Boxe s]\r\n\r\nBoxes]9,[Boxes]1,[Lines]2,[Text]3,");
+    GivenMapFile("[Lines]9,[Text]9,[Box][Boxe s]\r\n\r\nBoxes]9,[Boxes]1,[Lines]2,[Text]3,");
 
     ReadMapFile(P);
 
@@ -60,7 +60,7 @@ TEST_F(MapFileReadTest, AnythingBeforeTheBoxes_IsPassedOver)
 TEST_F(MapFileReadTest, MismatchInTheName_RestartsAtTheNextCharacter)
 {
     // The second bracket breaks the match that the first began, and isn't looked at again.
-    givenMapFile("[[Boxes]9,[Lines]9,[Text]9,");
+    GivenMapFile("[[Boxes]9,[Lines]9,[Text]9,");
     ExpectWarning(u"Config Box Record empty");
 
     ReadMapFile(P);
@@ -70,7 +70,7 @@ TEST_F(MapFileReadTest, MismatchInTheName_RestartsAtTheNextCharacter)
 
 TEST_F(MapFileReadTest, LineEndsWithinLists_AreLeftOut)
 {
-    givenMapFile("[Boxes]\r\n1,\r2,\n3,\r\n[Lines]\n4,\r\n\r\n5,[Text]6\r\n7,\n");
+    GivenMapFile("[Boxes]\r\n1,\r2,\n3,\r\n[Lines]\n4,\r\n\r\n5,[Text]6\r\n7,\n");
 
     ReadMapFile(P);
 
@@ -79,7 +79,7 @@ TEST_F(MapFileReadTest, LineEndsWithinLists_AreLeftOut)
 
 TEST_F(MapFileReadTest, BracketInAText_IsPartOfIt)
 {
-    givenMapFile("[Boxes]1,[Lines]2,[Text]3,4,[sic] [Boxes] [Lines],");
+    GivenMapFile("[Boxes]1,[Lines]2,[Text]3,4,[sic] [Boxes] [Lines],");
 
     ReadMapFile(P);
 
@@ -88,7 +88,7 @@ TEST_F(MapFileReadTest, BracketInAText_IsPartOfIt)
 
 TEST_F(MapFileReadTest, BracketInAForename_EndsTheBoxes)
 {
-    givenMapFile("[Boxes]1,2,3,A001,Jo[hn,[Lines]2,[Text]3,");
+    GivenMapFile("[Boxes]1,2,3,A001,Jo[hn,[Lines]2,[Text]3,");
     ExpectWarning(u"Config Line Record empty");
 
     ReadMapFile(P);
@@ -98,7 +98,7 @@ TEST_F(MapFileReadTest, BracketInAForename_EndsTheBoxes)
 
 TEST_F(MapFileReadTest, WrongNameAfterTheBoxes_LeavesTheLinesUnread)
 {
-    givenMapFile("[Boxes]1,[Linen]2,[Text]3,");
+    GivenMapFile("[Boxes]1,[Linen]2,[Text]3,");
     ExpectWarning(u"Config Line Record empty");
 
     ReadMapFile(P);
@@ -108,7 +108,7 @@ TEST_F(MapFileReadTest, WrongNameAfterTheBoxes_LeavesTheLinesUnread)
 
 TEST_F(MapFileReadTest, WrongNameAfterTheBoxes_BoxesThatFollowAreReadInstead)
 {
-    givenMapFile("[Boxes]1,[Linen]2,[Boxes]11,[Lines]12,[Text]13,");
+    GivenMapFile("[Boxes]1,[Linen]2,[Boxes]11,[Lines]12,[Text]13,");
 
     ReadMapFile(P);
 
@@ -117,7 +117,7 @@ TEST_F(MapFileReadTest, WrongNameAfterTheBoxes_BoxesThatFollowAreReadInstead)
 
 TEST_F(MapFileReadTest, WrongNameAfterTheLines_LeavesTheTextsUnread)
 {
-    givenMapFile("[Boxes]1,[Lines]2,[Texts]3,");
+    GivenMapFile("[Boxes]1,[Lines]2,[Texts]3,");
     ExpectWarning(u"Config Text Record empty");
 
     ReadMapFile(P);
@@ -127,7 +127,7 @@ TEST_F(MapFileReadTest, WrongNameAfterTheLines_LeavesTheTextsUnread)
 
 TEST_F(MapFileReadTest, WrongNameAfterTheLines_WholeMapThatFollowsIsReadInstead)
 {
-    givenMapFile("[Boxes]1,[Lines]2,[Tex][Boxes]11,[Lines]12,[Text]13,");
+    GivenMapFile("[Boxes]1,[Lines]2,[Tex][Boxes]11,[Lines]12,[Text]13,");
 
     ReadMapFile(P);
 
@@ -138,7 +138,7 @@ TEST_F(MapFileReadTest, SectionThatIsNotReached_KeepsItsList)
 {
     P.Map.sLinesText = u"lines"_s;
     P.Map.sTextsText = u"texts"_s;
-    givenMapFile("[Boxes]1,[Linen]2,");
+    GivenMapFile("[Boxes]1,[Linen]2,");
 
     ReadMapFile(P);
 
@@ -192,7 +192,7 @@ TEST_F(MapFileReadTest, MapThatWasRead_BelongsToTheBranch)
 
 TEST_F(MapFileReadTest, MapOfAnOlderInstallation_KeepsItsAccents)
 {
-    givenMapFile("[Boxes]1,2,3,A001,Andr\xE9,[Lines]2,[Text]3,");
+    GivenMapFile("[Boxes]1,2,3,A001,Andr\xE9,[Lines]2,[Text]3,");
 
     ReadMapFile(P);
 
@@ -217,7 +217,7 @@ class EmptyListTest : public MapFileReadTest, public WithParamInterface<EmptyLis
 
 TEST_P(EmptyListTest, FirstEmptyListAlone_IsToldOf)
 {
-    givenMapFile(MapFileBytes(u"LfgDat_A", GetParam().Boxes, GetParam().Lines, GetParam().Texts));
+    GivenMapFile(MapFileBytes(u"LfgDat_A", GetParam().Boxes, GetParam().Lines, GetParam().Texts));
     if (!GetParam().Warning.isEmpty())
         ExpectWarning(GetParam().Warning);
 
@@ -237,7 +237,7 @@ INSTANTIATE_TEST_SUITE_P(Maps, EmptyListTest,
 
 TEST_F(MapFileReadTest, CutOffInTheBoxes_IsInputPastEnd_WithWhatWasThere)
 {
-    givenMapFile("[Boxes]\r\n1200,600,");
+    GivenMapFile("[Boxes]\r\n1200,600,");
 
     EXPECT_EQ(RefusalOf([&] { ReadMapFile(P); }), ErrorNumber::InputPastEnd);
 
@@ -246,7 +246,7 @@ TEST_F(MapFileReadTest, CutOffInTheBoxes_IsInputPastEnd_WithWhatWasThere)
 
 TEST_F(MapFileReadTest, CutOffInTheLines_IsInputPastEnd_WithWhatWasThere)
 {
-    givenMapFile("[Boxes]\r\n1200,600,\r\n[Lines]\r\n1,2,");
+    GivenMapFile("[Boxes]\r\n1200,600,\r\n[Lines]\r\n1,2,");
 
     EXPECT_EQ(RefusalOf([&] { ReadMapFile(P); }), ErrorNumber::InputPastEnd);
 
@@ -255,7 +255,7 @@ TEST_F(MapFileReadTest, CutOffInTheLines_IsInputPastEnd_WithWhatWasThere)
 
 TEST_F(MapFileReadTest, CutOffInTheTexts_IsNoFailure)
 {
-    givenMapFile("[Boxes]1,[Lines]2,[Text]300,15");
+    GivenMapFile("[Boxes]1,[Lines]2,[Text]300,15");
 
     ReadMapFile(P);
 

@@ -38,7 +38,7 @@ class MapFileTest : public MapTest
 {
 protected:
     // The lists of a map with one item of each kind.
-    void givenLists()
+    void GivenLists()
     {
         P.Map.sBoxesText = u"1200,600,255,A001,John,"_s;
         P.Map.sLinesText = u"1507,817,2307,817,0,"_s;
@@ -46,7 +46,7 @@ protected:
     }
 
     // A record of branch B is shown while the map is that of branch A.
-    void givenRecordOfSibling()
+    void GivenRecordOfSibling()
     {
         P.Branch.WorkDirSaved = P.Branch.WorkDir;
         P.Branch.HomeDirSaved = P.Branch.HomeDir;
@@ -60,7 +60,7 @@ protected:
 
 TEST_F(MapFileTest, WrittenMap_IsEightLines_ByteForByte)
 {
-    givenOpen(BranchA);
+    GivenOpen(BranchA);
     P.Map.sBoxesText = u"1200,600,255,A001,John,2000,600,255,0,,"_s;
     P.Map.sLinesText = u"1507,817,2307,817,0,"_s;
     P.Map.sTextsText = u"300,150,The Smiths,Arial,8,0,"_s;
@@ -80,7 +80,7 @@ TEST_F(MapFileTest, WrittenMap_IsEightLines_ByteForByte)
 
 TEST_F(MapFileTest, WrittenMap_LongList_StaysOnOneLine)
 {
-    givenOpen(BranchA);
+    GivenOpen(BranchA);
     P.Map.sBoxesText = u"1200,600,255,A001,John,"_s.repeated(1000);
 
     WriteMapFile(P);
@@ -90,8 +90,8 @@ TEST_F(MapFileTest, WrittenMap_LongList_StaysOnOneLine)
 
 TEST_F(MapFileTest, OrdinaryBranch_IsWrittenWhereItIsRead)
 {
-    givenOpen(BranchA);
-    givenLists();
+    GivenOpen(BranchA);
+    GivenLists();
     WriteMapFile(P);
     P.Map.EraseLists();
 
@@ -105,9 +105,9 @@ TEST_F(MapFileTest, OrdinaryBranch_IsWrittenWhereItIsRead)
 TEST_F(MapFileTest, ImportedBranch_IsWrittenBesideTheFileThatCameWithIt_SoThatChangesAreLost)
 {
     BranchA.InDirectory(u"Import_A").Boxes(u"900,900,0,A009,Anne,");
-    givenOpen(BranchA);
+    GivenOpen(BranchA);
     const QByteArray imported = Home.ReadFile(u"Import_A/LfgDat_A.cfg");
-    givenLists();
+    GivenLists();
 
     WriteMapFile(P);
     EXPECT_EQ(Home.ReadFile(u"Import_A/LfgDat_A.cfg"), imported);
@@ -121,8 +121,8 @@ TEST_F(MapFileTest, ImportedBranch_IsWrittenBesideTheFileThatCameWithIt_SoThatCh
 
 TEST_F(MapFileTest, ImportedBranch_KeepsItsOwnPreviousGeneration)
 {
-    givenOpen(BranchA.InDirectory(u"Import_A"));
-    givenLists();
+    GivenOpen(BranchA.InDirectory(u"Import_A"));
+    GivenLists();
     WriteMapFile(P);
     const QByteArray first = Home.ReadFile(u"Import_A/Import_A.cfg");
     EXPECT_FALSE(Home.Exists(u"Import_A/Import_A.~cf"));
@@ -135,8 +135,8 @@ TEST_F(MapFileTest, ImportedBranch_KeepsItsOwnPreviousGeneration)
 
 TEST_F(MapFileTest, PreviousGeneration_IsOneBack)
 {
-    givenOpen(BranchA);
-    givenLists();
+    GivenOpen(BranchA);
+    GivenLists();
 
     WriteMapFile(P);
     const QByteArray first = Home.ReadFile(u"LfgDat_A/LfgDat_A.cfg");
@@ -149,7 +149,7 @@ TEST_F(MapFileTest, PreviousGeneration_IsOneBack)
 
 TEST_F(MapFileTest, PreviousGeneration_FirstMapOfABranch_HasNone)
 {
-    givenOpen(BranchA);
+    GivenOpen(BranchA);
     P.Files.Kill(Home.Path(u"LfgDat_A/LfgDat_A.cfg"));
 
     WriteMapFile(P);
@@ -160,10 +160,10 @@ TEST_F(MapFileTest, PreviousGeneration_FirstMapOfABranch_HasNone)
 
 TEST_F(MapFileTest, MapSpeltInAnotherCase_IsTheSameFile)
 {
-    givenOpen(BranchA);
+    GivenOpen(BranchA);
     P.Files.Kill(Home.Path(u"LfgDat_A/LfgDat_A.cfg"));
     Home.WriteFile(u"LfgDat_A/LFGDAT_A.CFG", oldMap);
-    givenLists();
+    GivenLists();
 
     WriteMapFile(P);
 
@@ -178,7 +178,7 @@ TEST_F(MapFileTest, MapSpeltInAnotherCase_IsTheSameFile)
 TEST_F(MapFileTest, NoBranchOpen_WritesNamelessFileInTheHome)
 {
     const Tree before = Home.Snapshot();
-    givenLists();
+    GivenLists();
 
     WriteMapFile(P);
 
@@ -199,10 +199,10 @@ TEST_F(MapFileTest, NoBranchOpen_NamelessFileHasNoPreviousGeneration)
 
 TEST_F(MapFileTest, RecordOfSiblingShown_MapGoesToItsOwnBranch)
 {
-    givenOpen(BranchA);
-    givenLists();
+    GivenOpen(BranchA);
+    GivenLists();
     const QString own = P.Branch.WorkDir;
-    givenRecordOfSibling();
+    GivenRecordOfSibling();
     const Tree before = Home.Snapshot();
 
     WriteMapFile(P);
@@ -219,9 +219,9 @@ TEST_F(MapFileTest, RecordOfSiblingShown_MapGoesToItsOwnBranch)
 
 TEST_F(MapFileTest, RecordOfSiblingShown_DirectoriesComeBackWhenTheWriteFails)
 {
-    givenOpen(BranchA);
+    GivenOpen(BranchA);
     const QString own = P.Branch.WorkDir;
-    givenRecordOfSibling();
+    GivenRecordOfSibling();
     Home.MakeReadOnly(u"LfgDat_A/LfgDat_A.cfg");
 
     EXPECT_EQ(RefusalOf([&] { WriteMapFile(P); }), ErrorNumber::PathFileAccess);
@@ -235,8 +235,8 @@ TEST_F(MapFileTest, RecordOfSiblingShown_DirectoriesComeBackWhenTheWriteFails)
 TEST_F(MapFileTest, MapOfAnotherBranch_IsLeftOutSilently)
 {
     BranchB.Build();
-    givenOpen(BranchA);
-    givenLists();
+    GivenOpen(BranchA);
+    GivenLists();
     P.Map.Owner = Home.Path(u"LfgDat_B");
     const Tree before = Home.Snapshot();
 
@@ -248,7 +248,7 @@ TEST_F(MapFileTest, MapOfAnotherBranch_IsLeftOutSilently)
 
 TEST_F(MapFileTest, MapOfNoBranch_IsLeftOutSilently)
 {
-    givenOpen(BranchA);
+    GivenOpen(BranchA);
     P.Map.EraseLists();
     const Tree before = Home.Snapshot();
 
@@ -259,8 +259,8 @@ TEST_F(MapFileTest, MapOfNoBranch_IsLeftOutSilently)
 
 TEST_F(MapFileTest, MapOfAnotherBranch_RecordOfSiblingShown_IsLeftOutAndDirectoriesComeBack)
 {
-    givenOpen(BranchA);
-    givenRecordOfSibling();
+    GivenOpen(BranchA);
+    GivenRecordOfSibling();
     P.Map.Owner = P.Branch.WorkDir;
     const Tree before = Home.Snapshot();
 
@@ -273,7 +273,7 @@ TEST_F(MapFileTest, MapOfAnotherBranch_RecordOfSiblingShown_IsLeftOutAndDirector
 
 TEST_F(MapFileTest, ReadOnlyMap_IsReadWithoutComplaint)
 {
-    givenOpen(BranchA.Boxes(u"1200,600,255,A001,John,"));
+    GivenOpen(BranchA.Boxes(u"1200,600,255,A001,John,"));
     Home.MakeReadOnly(u"LfgDat_A/LfgDat_A.cfg");
 
     ReadMapFile(P);
@@ -283,8 +283,8 @@ TEST_F(MapFileTest, ReadOnlyMap_IsReadWithoutComplaint)
 
 TEST_F(MapFileTest, ReadOnlyMap_WriterFailsAndOldMapStaysWhole)
 {
-    givenOpen(BranchA);
-    givenLists();
+    GivenOpen(BranchA);
+    GivenLists();
     Home.MakeReadOnly(u"LfgDat_A/LfgDat_A.cfg");
     const Tree before = Home.Snapshot();
 
@@ -297,8 +297,8 @@ TEST_F(MapFileTest, ReadOnlyMap_WriterFailsAndOldMapStaysWhole)
 
 TEST_F(MapFileTest, ReadOnlyDirectory_WriterFailsAndNothingChanges)
 {
-    givenOpen(BranchA);
-    givenLists();
+    GivenOpen(BranchA);
+    GivenLists();
     Home.MakeReadOnly(u"LfgDat_A");
     const Tree before = Home.Snapshot();
 
@@ -309,8 +309,8 @@ TEST_F(MapFileTest, ReadOnlyDirectory_WriterFailsAndNothingChanges)
 
 TEST_F(MapFileTest, PreviousGenerationThatCannotBeReplaced_WriterFailsAndNothingChanges)
 {
-    givenOpen(BranchA);
-    givenLists();
+    GivenOpen(BranchA);
+    GivenLists();
     Home.WriteFile(u"LfgDat_A/LfgDat_A.~cf", "older");
     Home.MakeReadOnly(u"LfgDat_A/LfgDat_A.~cf");
     const Tree before = Home.Snapshot();
@@ -322,7 +322,7 @@ TEST_F(MapFileTest, PreviousGenerationThatCannotBeReplaced_WriterFailsAndNothing
 
 TEST_F(MapFileTest, DirectoryOfTheBranchGone_WriterFails)
 {
-    givenOpen(BranchA);
+    GivenOpen(BranchA);
     P.Branch.WorkDir = Home.Path(u"LfgDat_Q");
     P.Map.Owner = P.Branch.WorkDir;
 
@@ -332,7 +332,7 @@ TEST_F(MapFileTest, DirectoryOfTheBranchGone_WriterFails)
 
 TEST_F(MapFileTest, WriteThatFailsHalfWay_LeavesTheOldMapAndNoRemains)
 {
-    givenOpen(BranchA);
+    GivenOpen(BranchA);
     P.Map.sBoxesText = u"1200,600,255,A001,John,"_s.repeated(5000);
     const Tree before = Home.Snapshot();
     {
@@ -345,13 +345,13 @@ TEST_F(MapFileTest, WriteThatFailsHalfWay_LeavesTheOldMapAndNoRemains)
 
 TEST_F(MapFileTest, SaveBoxes_TakesBoxesFromTheArray_LinesAndTextsAsTheyWereRead)
 {
-    givenOpen(BranchA.Boxes(u"1200,600,255,A001,John,")
+    GivenOpen(BranchA.Boxes(u"1200,600,255,A001,John,")
                   .Lines(u"1507,817,2307,817,0,")
                   .Texts(u"300,150,The Smiths,Arial,8,0,"));
     OpenMap();
-    givenBox(1, {2000, 600}, u"A002");
-    givenLine(0, {1, 1}, {2, 2});
-    givenText(0, {1, 1}, u"changed");
+    GivenBox(1, {2000, 600}, u"A002");
+    GivenLine(0, {1, 1}, {2, 2});
+    GivenText(0, {1, 1}, u"changed");
 
     SaveBoxes(P);
 
@@ -363,7 +363,7 @@ TEST_F(MapFileTest, SaveBoxes_TakesBoxesFromTheArray_LinesAndTextsAsTheyWereRead
 
 TEST_F(MapFileTest, SaveBoxes_BoxWhosePositionIsNoNumber_IsWrittenAsItWasRead)
 {
-    givenOpen(BranchA.Boxes(u"abc,600,255,A001,John,"));
+    GivenOpen(BranchA.Boxes(u"abc,600,255,A001,John,"));
     OpenMap();
     const QByteArray before = Home.ReadFile(BranchA.MapFile());
 
@@ -374,7 +374,7 @@ TEST_F(MapFileTest, SaveBoxes_BoxWhosePositionIsNoNumber_IsWrittenAsItWasRead)
 
 TEST_F(MapFileTest, SaveBoxes_ForenameThatWouldBreakTheList_GoesOutWithoutWhatBreaksIt)
 {
-    givenOpen(BranchA.Boxes(u"1200,600,255,A001,John,2000,600,255,A002,Ann,"));
+    GivenOpen(BranchA.Boxes(u"1200,600,255,A001,John,2000,600,255,A002,Ann,"));
     OpenMap();
     P.Map.BoxArr[0][BoxColumn::Forename] = u"Mary, [Ann]\r\nJane"_s;
 
@@ -388,7 +388,7 @@ TEST_F(MapFileTest, SaveBoxes_ForenameThatWouldBreakTheList_GoesOutWithoutWhatBr
 // Without what breaks it the number might be another record's.
 TEST_F(MapFileTest, SaveBoxes_NumberThatWouldBreakTheList_GoesOutAsAnEmptyBox)
 {
-    givenOpen(BranchA.Boxes(u"1200,600,255,0,,2000,600,255,A002,Ann,"));
+    GivenOpen(BranchA.Boxes(u"1200,600,255,0,,2000,600,255,A002,Ann,"));
     OpenMap();
     for (const QString& number : {u"A,002"_s, u"A[002"_s, u"A002\r"_s, u"\nA002"_s}) {
         P.Map.BoxArr[0][BoxColumn::File] = number;
@@ -401,7 +401,7 @@ TEST_F(MapFileTest, SaveBoxes_NumberThatWouldBreakTheList_GoesOutAsAnEmptyBox)
 
 TEST_F(MapFileTest, RoundTrip_FullMap_IsUnchanged)
 {
-    givenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}})
+    GivenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}})
                   .Boxes(u"1200,600,255,A001,John,2000,600,255,0,,2800.5, 600 ,16711680,b002,Änne,")
                   .Lines(u"1507,817,2307,817,0,10,20,30,40,16777215,")
                   .Texts(u"300,150,The [old] Smiths,Arial,8,0,400,250,House,Courier New,12,255,"));
@@ -415,7 +415,7 @@ TEST_F(MapFileTest, RoundTrip_FullMap_IsUnchanged)
 
 TEST_F(MapFileTest, RoundTrip_FreeBox_IsLeftOutAndLaterBoxesMoveUp)
 {
-    givenOpen(BranchA.Boxes(u"1200,600,255,A001,John,0,700,255,A002,Anne,2000,800,255,A003,Mary,"));
+    GivenOpen(BranchA.Boxes(u"1200,600,255,A001,John,0,700,255,A002,Anne,2000,800,255,A003,Mary,"));
     OpenMap();
     SaveBoxes(P);
     P.Map.EraseLists();
@@ -428,7 +428,7 @@ TEST_F(MapFileTest, RoundTrip_FreeBox_IsLeftOutAndLaterBoxesMoveUp)
 
 TEST_F(MapFileTest, RoundTrip_BoxesBeyondTheHundredth_AreLost)
 {
-    givenOpen(BranchA.Boxes(u"1200,600,255,0,,"_s.repeated(103)));
+    GivenOpen(BranchA.Boxes(u"1200,600,255,0,,"_s.repeated(103)));
     OpenMap();
     ASSERT_EQ(P.Map.SBoxes, 102);
 
@@ -439,7 +439,7 @@ TEST_F(MapFileTest, RoundTrip_BoxesBeyondTheHundredth_AreLost)
 
 TEST_F(MapFileTest, BoxAtXZero_VanishesAtTheNextSave)
 {
-    givenOpen(BranchA.Boxes(u"1200,600,255,A001,John,"));
+    GivenOpen(BranchA.Boxes(u"1200,600,255,A001,John,"));
     OpenMap();
     P.Map.BoxArr[0][BoxColumn::X] = 0;
 
@@ -450,7 +450,7 @@ TEST_F(MapFileTest, BoxAtXZero_VanishesAtTheNextSave)
 
 TEST_F(MapFileTest, MapWithoutTexts_WarnsAtTheNextOpening_AndStillOpens)
 {
-    givenOpen(BranchA.Boxes(u"1200,600,255,0,,").Lines(u"1507,817,2307,817,0,"));
+    GivenOpen(BranchA.Boxes(u"1200,600,255,0,,").Lines(u"1507,817,2307,817,0,"));
     OpenMap();
     P.Map.sTextsText = ListOfTexts(P.Map);
     SaveBoxes(P);
@@ -468,7 +468,7 @@ TEST_F(MapFileTest, MapWithoutTexts_WarnsAtTheNextOpening_AndStillOpens)
 
 TEST_F(MapFileTest, BranchThatWasOpen_ClosedWithNothingOpen_WritesNoOtherBranch)
 {
-    givenOpen(BranchA.Boxes(u"1200,600,255,A001,John,"));
+    GivenOpen(BranchA.Boxes(u"1200,600,255,A001,John,"));
     OpenMap();
     P.Branch.WorkDir.clear();
     P.Map.EraseLists();

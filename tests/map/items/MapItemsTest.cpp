@@ -17,7 +17,7 @@ class MapItemsTest : public MapTest
 
 TEST_F(MapItemsTest, Box_IsAnOutlineInItsColour)
 {
-    givenBox(0, {1000, 500}, u"0", red);
+    GivenBox(0, {1000, 500}, u"0", red);
 
     DrawBox(P.Map, Sheet(), 0);
 
@@ -30,7 +30,7 @@ TEST_F(MapItemsTest, Box_InsideIsNotFilled)
 {
     Picture.ForeColor = blue;
     Picture.Line({1100, 600}, {1500, 600});
-    givenBox(0, {1000, 500}, u"0", red);
+    GivenBox(0, {1000, 500}, u"0", red);
 
     DrawBox(P.Map, Sheet(), 0);
 
@@ -41,7 +41,7 @@ TEST_F(MapItemsTest, Box_InsideIsNotFilled)
 TEST_F(MapItemsTest, Box_LeavesThePenAsItWas)
 {
     Picture.ForeColor = blue;
-    givenBox(0, {1000, 500}, u"0", red);
+    GivenBox(0, {1000, 500}, u"0", red);
 
     DrawBox(P.Map, Sheet(), 0);
 
@@ -59,7 +59,7 @@ TEST_F(MapItemsTest, Box_WordForAPosition_IsTypeMismatch)
 
 TEST_F(MapItemsTest, Line_RunsStraightFromStartToEndInItsColour)
 {
-    givenLine(0, {1000, 500}, {2000, 1500}, red);
+    GivenLine(0, {1000, 500}, {2000, 1500}, red);
 
     DrawLine(P.Map, Sheet(), 0);
 
@@ -72,7 +72,7 @@ TEST_F(MapItemsTest, Line_RunsStraightFromStartToEndInItsColour)
 TEST_F(MapItemsTest, Line_LeavesThePenAsItWas)
 {
     Picture.ForeColor = blue;
-    givenLine(0, {1000, 500}, {2000, 1500}, red);
+    GivenLine(0, {1000, 500}, {2000, 1500}, red);
 
     DrawLine(P.Map, Sheet(), 0);
 
@@ -81,7 +81,7 @@ TEST_F(MapItemsTest, Line_LeavesThePenAsItWas)
 
 TEST_F(MapItemsTest, Text_StandsAtItsPlaceInItsFontAndColour)
 {
-    givenText(0, {1000, 500}, u"The Smiths", {u"Courier New"_s, 20}, red);
+    GivenText(0, {1000, 500}, u"The Smiths", {u"Courier New"_s, 20}, red);
 
     DrawText(P, Sheet(), 0);
 
@@ -99,7 +99,7 @@ TEST_F(MapItemsTest, Text_StandsAtItsPlaceInItsFontAndColour)
 TEST_F(MapItemsTest, Text_NotInArial_FontGoesBackToArial8NotBold)
 {
     Picture.Font.Bold = true;
-    givenText(0, {1000, 500}, u"A", {u"Courier New"_s, 20});
+    GivenText(0, {1000, 500}, u"A", {u"Courier New"_s, 20});
 
     DrawText(P, Sheet(), 0);
 
@@ -108,7 +108,7 @@ TEST_F(MapItemsTest, Text_NotInArial_FontGoesBackToArial8NotBold)
 
 TEST_F(MapItemsTest, Text_InArialOfAnotherSize_KeepsItsFontInHand)
 {
-    givenText(0, {1000, 500}, u"A", {u"ARIAL"_s, 14});
+    GivenText(0, {1000, 500}, u"A", {u"ARIAL"_s, 14});
 
     DrawText(P, Sheet(), 0);
 
@@ -117,9 +117,9 @@ TEST_F(MapItemsTest, Text_InArialOfAnotherSize_KeepsItsFontInHand)
 
 TEST_F(MapItemsTest, FreeRows_AreNeverPainted)
 {
-    givenBox(0, {0, 500}, u"A001", red);
-    givenLine(0, {0, 500}, {2000, 1500}, red);
-    givenText(0, {0, 500}, u"A", {}, red);
+    GivenBox(0, {0, 500}, u"A001", red);
+    GivenLine(0, {0, 500}, {2000, 1500}, red);
+    GivenText(0, {0, 500}, u"A", {}, red);
 
     DrawBox(P.Map, Sheet(), 0);
     DrawLine(P.Map, Sheet(), 0);
@@ -134,10 +134,10 @@ TEST_F(MapItemsTest, FreeRows_AreNeverPainted)
 
 TEST_F(MapItemsTest, FreeRows_AreNeverPrinted)
 {
-    givenPrinting();
-    givenBox(0, {0, 500}, u"A001", red);
-    givenLine(0, {0, 500}, {2000, 1500}, red);
-    givenText(0, {0, 500}, u"A", {}, red);
+    GivenPrinting();
+    GivenBox(0, {0, 500}, u"A001", red);
+    GivenLine(0, {0, 500}, {2000, 1500}, red);
+    GivenText(0, {0, 500}, u"A", {}, red);
 
     DrawBox(P.Map, Sheet(), 0);
     DrawLine(P.Map, Sheet(), 0);
@@ -157,8 +157,8 @@ TEST_F(MapItemsTest, MapFont_IsArial8NotBold)
 
 TEST_F(MapItemsTest, BoxOnPaper_IsShiftedAndStretched_WithABroadPen)
 {
-    givenPrinting();
-    givenBox(0, {1000, 500}, u"0", red);
+    GivenPrinting();
+    GivenBox(0, {1000, 500}, u"0", red);
 
     DrawBox(P.Map, Sheet(), 0);
 
@@ -168,8 +168,8 @@ TEST_F(MapItemsTest, BoxOnPaper_IsShiftedAndStretched_WithABroadPen)
 
 TEST_F(MapItemsTest, LineOnPaper_IsShiftedAndStretchedAtBothEnds_WithABroadPen)
 {
-    givenPrinting();
-    givenLine(0, {1000, 500}, {2000, 1500}, red);
+    GivenPrinting();
+    GivenLine(0, {1000, 500}, {2000, 1500}, red);
 
     DrawLine(P.Map, Sheet(), 0);
 
@@ -179,9 +179,9 @@ TEST_F(MapItemsTest, LineOnPaper_IsShiftedAndStretchedAtBothEnds_WithABroadPen)
 
 TEST_F(MapItemsTest, ArialTextOnPaper_IsPrintedInCourier7NotBold)
 {
-    givenPrinting();
+    GivenPrinting();
     Page.Font.Bold = true;
-    givenText(0, {1000, 500}, u"The Smiths", {u"arial"_s, 14}, red);
+    GivenText(0, {1000, 500}, u"The Smiths", {u"arial"_s, 14}, red);
 
     DrawText(P, Sheet(), 0);
 
@@ -191,8 +191,8 @@ TEST_F(MapItemsTest, ArialTextOnPaper_IsPrintedInCourier7NotBold)
 
 TEST_F(MapItemsTest, OtherTextOnPaper_KeepsItsFont)
 {
-    givenPrinting();
-    givenText(0, {1000, 500}, u"The Smiths", {u"Times New Roman"_s, 14}, red);
+    GivenPrinting();
+    GivenText(0, {1000, 500}, u"The Smiths", {u"Times New Roman"_s, 14}, red);
 
     DrawText(P, Sheet(), 0);
 
@@ -201,8 +201,8 @@ TEST_F(MapItemsTest, OtherTextOnPaper_KeepsItsFont)
 
 TEST_F(MapItemsTest, AfterATextOnPaper_PictureFontThatIsntArial_BecomesCourier7)
 {
-    givenPrinting();
-    givenText(0, {1000, 500}, u"A", {u"Times New Roman"_s, 14});
+    GivenPrinting();
+    GivenText(0, {1000, 500}, u"A", {u"Times New Roman"_s, 14});
     DrawText(P, Sheet(), 0);
     EXPECT_EQ(Picture.Font, TextFont{});
 

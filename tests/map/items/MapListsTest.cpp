@@ -15,7 +15,7 @@ using testing::Values;
 class MapListsTest : public testing::Test
 {
 protected:
-    void givenBox(int row, int x)
+    void GivenBox(int row, int x)
     {
         map.BoxArr[row][BoxColumn::X] = x;
         map.BoxArr[row][BoxColumn::Y] = row;
@@ -24,14 +24,14 @@ protected:
         map.BoxArr[row][BoxColumn::Forename] = u"John"_s;
     }
 
-    void givenLine(int row, int x)
+    void GivenLine(int row, int x)
     {
         for (int column = 0; column < LineColumn::Count; ++column)
             map.LineArr[row][column] = column;
         map.LineArr[row][LineColumn::X1] = x;
     }
 
-    void givenText(int row, int x)
+    void GivenText(int row, int x)
     {
         map.TextArr[row][TextColumn::X] = x;
         map.TextArr[row][TextColumn::Y] = row;
@@ -54,8 +54,8 @@ TEST_F(MapListsTest, EmptyMap_GivesEmptyLists)
 
 TEST_F(MapListsTest, Boxes_GiveFiveValuesEach_CommaAfterEvery)
 {
-    givenBox(0, 1200);
-    givenBox(1, 2000);
+    GivenBox(0, 1200);
+    GivenBox(1, 2000);
 
     EXPECT_EQ(ListOfBoxes(map), u"1200,0,255,A001,John,2000,1,255,A001,John,"_s);
 }
@@ -69,25 +69,25 @@ TEST_F(MapListsTest, Boxes_CellNeverStored_IsAnEmptyValue)
 
 TEST_F(MapListsTest, Boxes_FreeRowInTheMiddle_LeavesNoGap)
 {
-    givenBox(0, 1200);
-    givenBox(1, 0);
-    givenBox(2, 2000);
+    GivenBox(0, 1200);
+    GivenBox(1, 0);
+    GivenBox(2, 2000);
 
     EXPECT_EQ(ListOfBoxes(map), u"1200,0,255,A001,John,2000,2,255,A001,John,"_s);
 }
 
 TEST_F(MapListsTest, Boxes_BeyondTheHundredth_StayOut)
 {
-    givenBox(99, 1200);
-    givenBox(100, 1300);
-    givenBox(200, 1400);
+    GivenBox(99, 1200);
+    GivenBox(100, 1300);
+    GivenBox(200, 1400);
 
     EXPECT_EQ(ListOfBoxes(map), u"1200,99,255,A001,John,"_s);
 }
 
 TEST_F(MapListsTest, Boxes_CountOfBoxesDoesNotMatter)
 {
-    givenBox(5, 1200);
+    GivenBox(5, 1200);
     map.SBoxes = 0;
 
     EXPECT_EQ(ListOfBoxes(map), u"1200,5,255,A001,John,"_s);
@@ -149,17 +149,17 @@ TEST_F(MapListsTest, Lines_GiveWholeNumbersInDecimal)
 
 TEST_F(MapListsTest, Lines_FreeRow_LeavesNoGap)
 {
-    givenLine(0, 7);
-    givenLine(1, 0);
-    givenLine(2, 8);
+    GivenLine(0, 7);
+    GivenLine(1, 0);
+    GivenLine(2, 8);
 
     EXPECT_EQ(ListOfLines(map), u"7,1,2,3,4,8,1,2,3,4,"_s);
 }
 
 TEST_F(MapListsTest, Lines_TheLastRow_IsNeverWritten)
 {
-    givenLine(199, 7);
-    givenLine(200, 8);
+    GivenLine(199, 7);
+    GivenLine(200, 8);
     map.SLines = 200;
 
     EXPECT_EQ(ListOfLines(map), u"7,1,2,3,4,"_s);
@@ -167,7 +167,7 @@ TEST_F(MapListsTest, Lines_TheLastRow_IsNeverWritten)
 
 TEST_F(MapListsTest, Texts_GiveSixValuesEach)
 {
-    givenText(0, 300);
+    GivenText(0, 300);
     map.STexts = 0;
 
     EXPECT_EQ(ListOfTexts(map), u"300,0,The Smiths,Arial,8.25,-1,"_s);
@@ -175,9 +175,9 @@ TEST_F(MapListsTest, Texts_GiveSixValuesEach)
 
 TEST_F(MapListsTest, Texts_FreeRow_LeavesNoGap)
 {
-    givenText(0, 300);
-    givenText(1, 0);
-    givenText(2, 400);
+    GivenText(0, 300);
+    GivenText(1, 0);
+    GivenText(2, 400);
     map.STexts = 2;
 
     EXPECT_EQ(ListOfTexts(map), u"300,0,The Smiths,Arial,8.25,-1,400,2,The Smiths,Arial,8.25,-1,"_s);
@@ -185,8 +185,8 @@ TEST_F(MapListsTest, Texts_FreeRow_LeavesNoGap)
 
 TEST_F(MapListsTest, Texts_BeyondTheirCount_StayOut)
 {
-    givenText(0, 300);
-    givenText(1, 400);
+    GivenText(0, 300);
+    GivenText(1, 400);
     map.STexts = 0;
 
     EXPECT_EQ(ListOfTexts(map), u"300,0,The Smiths,Arial,8.25,-1,"_s);
@@ -194,7 +194,7 @@ TEST_F(MapListsTest, Texts_BeyondTheirCount_StayOut)
 
 TEST_F(MapListsTest, Texts_NoneAtAll_GiveAnEmptyList)
 {
-    givenText(0, 300);
+    GivenText(0, 300);
     map.STexts = -1;
 
     EXPECT_EQ(ListOfTexts(map), QString());
@@ -202,7 +202,7 @@ TEST_F(MapListsTest, Texts_NoneAtAll_GiveAnEmptyList)
 
 TEST_F(MapListsTest, Texts_LastRowOfTheArray_IsWritten)
 {
-    givenText(200, 300);
+    GivenText(200, 300);
     map.STexts = 200;
 
     EXPECT_EQ(ListOfTexts(map), u"300,200,The Smiths,Arial,8.25,-1,"_s);

@@ -15,7 +15,7 @@ const Colour red = 255;
 class MapParseTest : public MapTest
 {
 protected:
-    MapParseTest() { givenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}})); }
+    MapParseTest() { GivenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}})); }
 
     QString Box(int row, int column) const { return P.Map.BoxArr[row][column].Text(); }
     QString Text(int row, int column) const { return P.Map.TextArr[row][column].Text(); }
@@ -55,7 +55,7 @@ TEST_F(MapParseTest, Boxes_ValuesStayTextAsTheyCameFromTheFile)
 
 TEST_F(MapParseTest, Boxes_EmptyValues_AreStoredAsEmptyText)
 {
-    givenBox(0, {1200, 600}, u"A001");
+    GivenBox(0, {1200, 600}, u"A001");
 
     Parse(u",,,,,1,2,3,0,,"_s);
 
@@ -156,7 +156,7 @@ class ShortBoxesTest : public MapParseTest, public WithParamInterface<ListLength
 TEST_P(ShortBoxesTest, ListOfFewerThanNineCharacters_CountsAsEmptyWithoutAWord)
 {
     P.Map.SBoxes = -100;
-    givenBox(0, {700, 800}, u"0");
+    GivenBox(0, {700, 800}, u"0");
 
     Parse(GetParam().List);
 
@@ -175,7 +175,7 @@ TEST_F(MapParseTest, Boxes_EmptyList_LeavesTheDisplayAndTheCurrentRecord)
 {
     Records(P.Form3).MoveNext();
     P.Record.SavedBookmark = {};
-    givenBox(0, {1200, 600}, u"A001");
+    GivenBox(0, {1200, 600}, u"A001");
 
     Parse(u"0,0,0,"_s);
 
@@ -202,7 +202,7 @@ TEST_F(MapParseTest, Boxes_MappedBox_GetsNumberAndForename)
 TEST_F(MapParseTest, Boxes_CurrentRecord_IsTheSameAfterwards)
 {
     BranchBuilder branch(Home, u'C');
-    givenOpen(branch.Row({{u"File", u"C001"}}).Row({{u"File", u"C002"}}).Row({{u"File", u"C003"}}));
+    GivenOpen(branch.Row({{u"File", u"C001"}}).Row({{u"File", u"C002"}}).Row({{u"File", u"C003"}}));
     Records(P.Form3).MoveNext();
     const Bookmark second = Records(P.Form3).GetBookmark();
 
@@ -214,7 +214,7 @@ TEST_F(MapParseTest, Boxes_CurrentRecord_IsTheSameAfterwards)
 
 TEST_F(MapParseTest, Boxes_EmptyTable_IsQuiet)
 {
-    givenOpen(BranchB);
+    GivenOpen(BranchB);
     // Left behind by the branch before.
     P.Record.SavedBookmark = RowMark{1};
 

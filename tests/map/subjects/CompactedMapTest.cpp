@@ -84,7 +84,7 @@ TEST_F(CompactedToolsTest, BoxMovedMeanwhile_KeepsItsOwnCaption_AndTheRecordIsCu
         BranchA.Row({{u"File", file}, {u"Forename", QString(u"N" + file)}});
     BranchA.Boxes(u"1000,1000,255,A002,NA002,");
     GivenTools();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
     Press({1100, 1100});
     ASSERT_EQ(P.Tools.MapCursorMode, MapCursor::MovingSubject);
     SqliteFile(Home.Path(BranchA.DatabaseFile())).Execute("DELETE FROM Tree99 WHERE File = 'A001'; VACUUM");

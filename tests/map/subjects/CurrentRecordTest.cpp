@@ -99,7 +99,7 @@ INSTANTIATE_TEST_SUITE_P(Boxes, BoxWithoutRecordTest, ValuesIn(takenBoxes));
 TEST_F(CurrentRecordTest, DeletionThatIsRefused_ChangesNothing)
 {
     OpenTools();
-    Choose(28);
+    Choose(ToolSelection::BoxDelete);
     ExpectDeletionRefused();
 
     PressAndRelease({1300, 600});
@@ -111,7 +111,7 @@ TEST_F(CurrentRecordTest, DeletionThatIsRefused_ChangesNothing)
 TEST_F(CurrentRecordTest, BoxWithARecordMoved_ItsRecordIsCurrent)
 {
     OpenTools();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
 
     Drag({{1300, 600}, {1300, 1600}});
 
@@ -122,7 +122,7 @@ TEST_F(CurrentRecordTest, BehindTheLastRow_AGestureGoesBackToThePositionSavedBef
 {
     GoBehindTheLastRow();
     OpenTools();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
 
     Drag({EmptyBox, {3300, 1600}});
 
@@ -171,7 +171,7 @@ TEST_F(CurrentRecordTest, AnotherBranchEntered_ItsToolsKnowNoRecordOfTheOneBefor
     Leave(Answer::No);
     BranchB.Row({{u"File", u"B001"}}).Row({{u"File", u"B002"}}).Row({{u"File", u"B003"}}).Boxes(u"1000,500,0,B003,,");
     ForgetMap(P);
-    givenOpen(BranchB);
+    GivenOpen(BranchB);
     OpenMap();
     GoBehindTheLastRow();
 

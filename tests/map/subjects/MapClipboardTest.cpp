@@ -14,7 +14,7 @@ class MapClipboardTest : public MapTest
 protected:
     MapClipboardTest()
     {
-        givenOpen(BranchA.Boxes(u"1200,600,255,0,,3000,600,255,0,,").Texts(u"300,150,The Smiths,Arial,8,0,"));
+        GivenOpen(BranchA.Boxes(u"1200,600,255,0,,3000,600,255,0,,").Texts(u"300,150,The Smiths,Arial,8,0,"));
         OpenMap();
     }
 

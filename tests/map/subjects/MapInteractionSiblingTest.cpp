@@ -24,9 +24,9 @@ protected:
 
     void GivenMap()
     {
-        givenOpen(BranchA);
-        givenBox(0, {1000, 500}, u"A001");
-        givenBox(1, {2000, 500}, u"B002");
+        GivenOpen(BranchA);
+        GivenBox(0, {1000, 500}, u"A001");
+        GivenBox(1, {2000, 500}, u"B002");
         P.Map.SBoxes = 1;
         Records(P.Form3).MoveLast();
     }
@@ -77,7 +77,7 @@ TEST_F(SiblingDoubleClickTest, SmallLetterInTheBox_IsTheSameBranch)
 {
     BranchB.Build();
     GivenMap();
-    givenBox(siblingsBox, {2000, 500}, u"b002");
+    GivenBox(siblingsBox, {2000, 500}, u"b002");
 
     DoubleClickBox(siblingsBox);
 
@@ -88,7 +88,7 @@ TEST_F(SiblingDoubleClickTest, SmallLetterInTheBox_IsTheSameBranch)
 TEST_F(SiblingDoubleClickTest, SmallLetterOfTheOwnBranch_IsLocal)
 {
     GivenMap();
-    givenBox(localBox, {1000, 500}, u"a001");
+    GivenBox(localBox, {1000, 500}, u"a001");
 
     DoubleClickBox(localBox);
 
@@ -126,7 +126,7 @@ TEST_F(SiblingDoubleClickTest, NoSuchRecord_IsTold_TheSwitchStays_AndTheCursorOn
 {
     BranchB.Build();
     GivenMap();
-    givenBox(siblingsBox, {2000, 500}, u"B009");
+    GivenBox(siblingsBox, {2000, 500}, u"B009");
     GivenMarkerElsewhere();
     Prompts.Expect(u"Database Searched", u"No File data found", Buttons::Information);
 

@@ -13,8 +13,8 @@ class PressTest : public MapInteractionTest
 protected:
     PressTest()
     {
-        givenBox(0, {1000, 500});
-        givenBox(1, {2000, 500});
+        GivenBox(0, {1000, 500});
+        GivenBox(1, {2000, 500});
         P.Map.SBoxes = 1;
     }
 };
@@ -29,7 +29,7 @@ TEST_F(PressTest, OnABox_ClicksOnce_AndServesTheEventLoopOnce)
 
 TEST_F(PressTest, OnTwoBoxesThatOverlap_ClicksOnce)
 {
-    givenBox(1, {1100, 550});
+    GivenBox(1, {1100, 550});
 
     Press({1300, 600});
 
@@ -150,7 +150,7 @@ class LocalDoubleClickTest : public MapInteractionTest
 protected:
     LocalDoubleClickTest()
     {
-        givenOpen(BranchA
+        GivenOpen(BranchA
                       .Row({{u"File", u"A001"},
                             {u"Forename", u"John"},
                             {u"Surname", u"Smith"},
@@ -164,10 +164,10 @@ protected:
                       .Picture(u"A001", Qt::red)
                       .Picture(u"A002", Qt::blue)
                       .Picture(u"A003", Qt::green));
-        givenBox(0, {1000, 500}, u"A001");
-        givenBox(1, {2000, 500}, u"A002");
-        givenBox(2, {3000, 500}, u"0");
-        givenBox(3, {4000, 500}, u"A003");
+        GivenBox(0, {1000, 500}, u"A001");
+        GivenBox(1, {2000, 500}, u"A002");
+        GivenBox(2, {3000, 500}, u"0");
+        GivenBox(3, {4000, 500}, u"A003");
         P.Map.SBoxes = 3;
         Records(P.Form3).MoveLast();
         P.Form1->Frame1.Caption = u"before"_s;
@@ -219,7 +219,7 @@ TEST_F(LocalDoubleClickTest, OnABox_MarksIt_AndAsksForANewGalleryPage)
 
 TEST_F(LocalDoubleClickTest, NumbersAreComparedWithoutRegardToCase)
 {
-    givenBox(0, {1000, 500}, u"a001");
+    GivenBox(0, {1000, 500}, u"a001");
 
     DoubleClickBox(0);
 
@@ -246,7 +246,7 @@ TEST_F(LocalDoubleClickTest, OnAnEmptyBox_DoesNothing)
 
 TEST_F(LocalDoubleClickTest, OnABoxWithoutText_DoesNothing)
 {
-    givenBox(2, {3000, 500}, u"");
+    GivenBox(2, {3000, 500}, u"");
 
     DoubleClickBox(2);
 
@@ -279,8 +279,8 @@ TEST_F(LocalDoubleClickTest, NoBoxesCounted_SelectsNothing_ThoughABoxStandsInRow
 
 TEST_F(LocalDoubleClickTest, BoxInRow100_IsHit_ButNoMarkerFindsIt)
 {
-    givenBox(0, {1000, 500});
-    givenBox(100, {6000, 500}, u"A001");
+    GivenBox(0, {1000, 500});
+    GivenBox(100, {6000, 500}, u"A001");
     P.Map.SBoxes = 100;
     GivenMarkerElsewhere();
 
@@ -336,7 +336,7 @@ TEST_F(LocalDoubleClickTest, NoBranchOpen_IsTold)
 
 TEST_F(LocalDoubleClickTest, NoSuchRecord_IsTold_AndTheCurrentRecordStays)
 {
-    givenBox(0, {1000, 500}, u"A009");
+    GivenBox(0, {1000, 500}, u"A009");
     Prompts.Expect(u"Database Searched", u"No File data found", Buttons::Information);
     GivenMarkerElsewhere();
 
@@ -348,7 +348,7 @@ TEST_F(LocalDoubleClickTest, NoSuchRecord_IsTold_AndTheCurrentRecordStays)
 
 TEST_F(LocalDoubleClickTest, NoSuchRecord_CursorBehindTheLastRow_AndNoPositionSaved_StaysThere)
 {
-    givenBox(0, {1000, 500}, u"A009");
+    GivenBox(0, {1000, 500}, u"A009");
     Records(P.Form3).Seek(u"File", u"nobody"_s);
     Prompts.Expect(u"Database Searched", u"No File data found", Buttons::Information);
 
@@ -410,8 +410,8 @@ TEST_F(LocalDoubleClickTest, EmptyBoxWhileRepositioning_IsTakenForARecordOfBranc
 
 TEST_F(MapInteractionTest, DoubleClick_EmptyBranch_IsTold)
 {
-    givenOpen(BranchA);
-    givenBox(1, {1000, 500}, u"A001");
+    GivenOpen(BranchA);
+    GivenBox(1, {1000, 500}, u"A001");
     P.Map.SBoxes = 1;
     Prompts.Expect(u"Database Empty", u"This Tree Branch has no records to access", Buttons::Information);
 

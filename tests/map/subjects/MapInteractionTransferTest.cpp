@@ -19,12 +19,12 @@ protected:
             .Row({{u"File", u"B002"}, {u"Forename", u"Tom"}, {u"Gender", u"Male"}})
             .Picture(u"B002", Qt::green)
             .Build();
-        givenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}, {u"Gender", u"Male"}})
+        GivenOpen(BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}, {u"Gender", u"Male"}})
                       .Row({{u"File", u"A002"}, {u"Forename", u"Jane"}, {u"Gender", u"Female"}})
                       .Picture(u"A001", Qt::red));
-        givenBox(0, {1000, 500}, u"A001");
-        givenBox(1, {2000, 500}, u"B002");
-        givenBox(2, {3000, 500}, u"0");
+        GivenBox(0, {1000, 500}, u"A001");
+        GivenBox(1, {2000, 500}, u"B002");
+        GivenBox(2, {3000, 500}, u"0");
         P.Map.SBoxes = 2;
         P.Tools.MapCursorMode = 2;
     }
@@ -151,7 +151,7 @@ TEST_F(TransferTest, WhileTheToolsAreOpen_NothingMoves)
 
 TEST_F(TransferTest, NoRecords_IsTold_AndTheCrossGoes)
 {
-    givenOpen(BranchBuilder(Home, u'C').InDirectory(u"LfgDat_C"));
+    GivenOpen(BranchBuilder(Home, u'C').InDirectory(u"LfgDat_C"));
     P.Screen.Pointer = MousePointer::Cross;
     Prompts.Expect(u"Database Empty", u"The Database has no records to access", Buttons::Information);
 
@@ -309,7 +309,7 @@ TEST_F(TransferTest, SubjectOfASibling_BesideAllBoxes_NothingMoves_AndTheTransfe
 // It would be gone with the branch: its box isn't saved.
 TEST_F(TransferTest, LocalSubject_ToABoxBehindTheSavedOnes_NothingMoves_AndTheTransferStaysPending)
 {
-    givenBox(100, {5000, 500});
+    GivenBox(100, {5000, 500});
     P.Map.SBoxes = 100;
     GivenCrossFor(0);
     const Tree before = Home.Snapshot();
@@ -325,7 +325,7 @@ TEST_F(TransferTest, LocalSubject_ToABoxBehindTheSavedOnes_NothingMoves_AndTheTr
 
 TEST_F(TransferTest, SubjectOfASibling_ToABoxBehindTheSavedOnes_NothingMoves_AndTheTransferStaysPending)
 {
-    givenBox(100, {5000, 500});
+    GivenBox(100, {5000, 500});
     P.Map.SBoxes = 100;
     GivenCrossFor(1);
     const Tree before = Home.Snapshot();
@@ -363,7 +363,7 @@ TEST_F(TransferTest, AnotherRecordOfTheSibling_MovesWithoutItsBox_AndTheChosenOn
 
 TEST_F(TransferTest, AnotherRecordOfTheSibling_LeavesItsOwnBox)
 {
-    givenBox(3, {4000, 500}, u"b001");
+    GivenBox(3, {4000, 500}, u"b001");
     P.Map.SBoxes = 3;
     GivenCrossFor(1);
     Records(P.Form3).MoveFirst();
@@ -377,7 +377,7 @@ TEST_F(TransferTest, AnotherRecordOfTheSibling_LeavesItsOwnBox)
 
 TEST_F(TransferTest, SubjectOfASiblingInTwoBoxes_LeavesTheOneThatWasChosen)
 {
-    givenBox(3, {4000, 500}, u"B002");
+    GivenBox(3, {4000, 500}, u"B002");
     P.Map.SBoxes = 3;
     GivenCrossFor(3);
 

@@ -12,7 +12,7 @@ class RecordWithoutBoxTest : public ToolsTest
 protected:
     RecordWithoutBoxTest()
     {
-        givenOpen(
+        GivenOpen(
             BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}, {u"Gender", u"Male"}, {u"FatherRec", u"A003"}})
                 .Row({{u"File", u"A002"}, {u"Forename", u"Jane"}, {u"Gender", u"Female"}})
                 .Row({{u"File", u"A003"}, {u"Forename", u"Kim"}, {u"Surname", u"Smith"}, {u"Gender", u"Male"}})
@@ -86,7 +86,7 @@ TEST_F(RecordWithoutBoxTest, ToolsOpenedAndClosed_ItStaysCurrent)
 {
     SearchAndGoToTheMap(u"A003");
     P.Form1->mnuTreeTools.Click();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
     Drag({{2300, 600}, {2300, 1600}});
 
     Leave(Answer::Yes);

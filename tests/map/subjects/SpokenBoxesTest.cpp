@@ -31,9 +31,9 @@ protected:
 
 TEST_F(SpokenBoxesTest, ABox_HasNumberAndWholeForename_AndItsPlace)
 {
-    givenOpen(BranchA);
-    givenBox(0, {1200, 600}, u"A001");
-    givenBox(2, {2400, 900}, u"a002");
+    GivenOpen(BranchA);
+    GivenBox(0, {1200, 600}, u"A001");
+    GivenBox(2, {2400, 900}, u"a002");
 
     const std::vector<PicturePart> boxes = SpokenBoxes(P);
 
@@ -48,41 +48,41 @@ TEST_F(SpokenBoxesTest, ABox_HasNumberAndWholeForename_AndItsPlace)
 
 TEST_F(SpokenBoxesTest, ABoxWithoutARecord_IsEmpty)
 {
-    givenOpen(BranchA);
-    givenBox(0, {1200, 600}, u"0");
-    givenBox(1, {2400, 600}, u"");
+    GivenOpen(BranchA);
+    GivenBox(0, {1200, 600}, u"0");
+    GivenBox(1, {2400, 600}, u"");
     EXPECT_EQ(Names(), QStringList({u"Empty box"_s, u"Empty box"_s}));
 }
 
 TEST_F(SpokenBoxesTest, ANumberOfNobody_AndARecordWithoutAForename_AreNumbersAlone)
 {
-    givenOpen(BranchA);
-    givenBox(0, {1200, 600}, u"A099");
-    givenBox(1, {2400, 600}, u"A003");
+    GivenOpen(BranchA);
+    GivenBox(0, {1200, 600}, u"A099");
+    GivenBox(1, {2400, 600}, u"A003");
     EXPECT_EQ(Names(), QStringList({u"A099"_s, u"A003"_s}));
 }
 
 TEST_F(SpokenBoxesTest, TheForename_IsTheRecordsOwn_WhateverTheMapRemembers)
 {
-    givenOpen(BranchA);
-    givenBox(0, {1200, 600}, u"A001");
+    GivenOpen(BranchA);
+    GivenBox(0, {1200, 600}, u"A001");
     P.Map.BoxArr[0][BoxColumn::Forename] = u"Somebody"_s;
     EXPECT_EQ(Names(), QStringList{u"A001 John"_s});
 }
 
 TEST_F(SpokenBoxesTest, ABoxAtNoPossiblePlace_IsPassedOver)
 {
-    givenOpen(BranchA);
-    givenBox(0, {1200, 600}, u"A001");
+    GivenOpen(BranchA);
+    GivenBox(0, {1200, 600}, u"A001");
     P.Map.BoxArr[0][BoxColumn::Y] = u"nowhere"_s;
-    givenBox(1, {2400, 600}, u"A002");
+    GivenBox(1, {2400, 600}, u"A002");
     EXPECT_EQ(Names(), QStringList{u"A002 Mary Louise"_s});
 }
 
 TEST_F(SpokenBoxesTest, ASiblingsRecord_HasItsForename_AsLongAsTheSiblingCanBeRead)
 {
-    givenOpen(BranchA);
-    givenBox(0, {1200, 600}, u"B001");
+    GivenOpen(BranchA);
+    GivenBox(0, {1200, 600}, u"B001");
     EXPECT_EQ(Names(), QStringList{u"B001"_s});
     BranchB.Build();
     EXPECT_EQ(Names(), QStringList{u"B001 Beatrice"_s});
@@ -93,18 +93,18 @@ TEST_F(SpokenBoxesTest, ASiblingsRecord_HasItsForename_AsLongAsTheSiblingCanBeRe
 TEST_F(SpokenBoxesTest, AnImportedBranch_KnowsItsOwnPeopleAlone)
 {
     BranchB.InDirectory(u"Import_B").Build();
-    givenOpen(BranchA.InDirectory(u"Import_A"));
-    givenBox(0, {1200, 600}, u"A001");
-    givenBox(1, {2400, 600}, u"B001");
+    GivenOpen(BranchA.InDirectory(u"Import_A"));
+    GivenBox(0, {1200, 600}, u"A001");
+    GivenBox(1, {2400, 600}, u"B001");
     EXPECT_EQ(Names(), QStringList({u"A001 John"_s, u"B001"_s}));
 }
 
 TEST_F(SpokenBoxesTest, WhileASiblingsRecordIsShown_TheMapIsStillThatOfItsOwnBranch)
 {
     BranchB.Build();
-    givenOpen(BranchA);
-    givenBox(0, {1200, 600}, u"A001");
-    givenBox(1, {2400, 600}, u"B001");
+    GivenOpen(BranchA);
+    GivenBox(0, {1200, 600}, u"A001");
+    GivenBox(1, {2400, 600}, u"B001");
     SwitchToSibling(P, u"B");
     EXPECT_EQ(Names(), QStringList({u"A001 John"_s, u"B001 Beatrice"_s}));
 }
@@ -112,9 +112,9 @@ TEST_F(SpokenBoxesTest, WhileASiblingsRecordIsShown_TheMapIsStillThatOfItsOwnBra
 TEST_F(SpokenBoxesTest, NeitherTheCursor_NorTheDisk_IsTouched)
 {
     BranchB.Build();
-    givenOpen(BranchA);
-    givenBox(0, {1200, 600}, u"A001");
-    givenBox(1, {2400, 600}, u"B001");
+    GivenOpen(BranchA);
+    GivenBox(0, {1200, 600}, u"A001");
+    GivenBox(1, {2400, 600}, u"B001");
     Records(P.Form3).MoveNext();
     const Tree before = Home.Snapshot();
 
@@ -128,8 +128,8 @@ TEST_F(SpokenBoxesTest, NeitherTheCursor_NorTheDisk_IsTouched)
 TEST_F(SpokenBoxesTest, WithoutABranch_TheBoxesOfTheToolsAreEmpty)
 {
     EXPECT_TRUE(SpokenBoxes(P).empty());
-    givenBox(0, {1200, 600});
-    givenBox(1, {2400, 600}, u"A001");
+    GivenBox(0, {1200, 600});
+    GivenBox(1, {2400, 600}, u"A001");
     EXPECT_EQ(Names(), QStringList({u"Empty box"_s, u"A001"_s}));
 }
 

@@ -330,7 +330,7 @@ TEST_F(RemapTest, LocalSubject_MovesByTwoDoubleClicks)
 
 TEST_F(RemapTest, TargetThatHoldsARecord_IsOverwritten)
 {
-    givenBox(2, {3000, 500}, u"A002");
+    GivenBox(2, {3000, 500}, u"A002");
     Remap();
     DoubleClickBox(1);
 
@@ -341,8 +341,8 @@ TEST_F(RemapTest, TargetThatHoldsARecord_IsOverwritten)
 
 TEST_F(RemapTest, SubjectInRow99_EndsInTwoBoxes)
 {
-    givenBox(1, {2000, 500});
-    givenBox(99, {5000, 5000}, u"A001");
+    GivenBox(1, {2000, 500});
+    GivenBox(99, {5000, 5000}, u"A001");
     P.Map.SBoxes = 99;
     Remap();
     DoubleClickBox(99);
@@ -357,7 +357,7 @@ TEST_F(RemapTest, SubjectWithoutGender_TheSecondDoubleClickIsAPlainViewAgain)
     Records(P.Form3).Edit();
     Records(P.Form3).Put(u"Gender", FieldValue());
     Records(P.Form3).Update();
-    givenBox(2, {3000, 500}, u"A001");
+    GivenBox(2, {3000, 500}, u"A001");
     Remap();
     DoubleClickBox(1);
 
@@ -370,7 +370,7 @@ TEST_F(RemapTest, SubjectWithoutGender_TheSecondDoubleClickIsAPlainViewAgain)
 
 TEST_F(RemapTest, SubjectOfASibling_MovesByTwoDoubleClicks)
 {
-    givenBox(0, {1000, 500}, u"B002");
+    GivenBox(0, {1000, 500}, u"B002");
     Remap();
     DoubleClickBox(0);
     ASSERT_EQ(P.Screen.Pointer, MousePointer::Cross);

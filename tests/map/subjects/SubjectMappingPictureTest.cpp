@@ -90,7 +90,7 @@ TEST_F(MappedPictureTest, Later_NumberAndMarkerAreTheNewSubjects)
 
 TEST_F(MappedPictureTest, Later_FirstRecordBesideAllBoxes_HasNoMarker)
 {
-    givenOpen(BranchBuilder(Home, u'C').InDirectory(u"LfgDat_C"));
+    GivenOpen(BranchBuilder(Home, u'C').InDirectory(u"LfgDat_C"));
     GivenMarkerElsewhere();
     ChooseNewRecord();
 
@@ -177,7 +177,7 @@ TEST_F(MappedPictureTest, ExistingRecord_CursorGoneOnMeanwhile_ItIsTheOneThatIsA
 
 TEST_F(MappedPictureTest, SelectNow_ForTheFirstRecordOfABranch)
 {
-    givenOpen(BranchBuilder(Home, u'C').InDirectory(u"LfgDat_C"));
+    GivenOpen(BranchBuilder(Home, u'C').InDirectory(u"LfgDat_C"));
 
     MapChoosing(Chosen);
 
@@ -340,7 +340,7 @@ TEST_F(AskSubjectPictureTest, Yes_SelectNow_RecordOfAnotherBranch_StoresThePictu
 {
     GivenSibling();
     GivenMappedA002();
-    givenBox(2, {3000, 500}, u"B002");
+    GivenBox(2, {3000, 500}, u"B002");
     ChooseNewRecord(&Form7::Option7);
     ExpectPictureQuestion(Answer::Yes);
     ExpectPictureDialog(Chosen);

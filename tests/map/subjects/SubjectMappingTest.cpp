@@ -87,7 +87,7 @@ TEST_F(SubjectMappingTest, TwoMappings_GiveTwoNumbers)
 TEST_F(SubjectMappingTest, BoxWhoseRecordIsGone_GetsTheNewRecord)
 {
     GivenRecords({u"A001"_s});
-    givenBox(2, {3000, 500}, u"A009");
+    GivenBox(2, {3000, 500}, u"A009");
     ChooseNewRecord();
 
     DoubleClickBox(2);
@@ -99,7 +99,7 @@ TEST_F(SubjectMappingTest, BoxWhoseRecordIsGone_GetsTheNewRecord)
 TEST_F(SubjectMappingTest, BoxThatKnewAnotherForename_ForgetsItWithTheNumber)
 {
     GivenRecords({u"A001"_s});
-    givenBox(2, {3000, 500}, u"A009");
+    GivenBox(2, {3000, 500}, u"A009");
     P.Map.BoxArr[2][BoxColumn::Forename] = u"Gone"_s;
     ChooseNewRecord();
 
@@ -136,7 +136,7 @@ TEST_F(SubjectMappingTest, DoubleClickOnAnEmptyBox_NoMappingPending_DoesNothing)
 TEST_F(SubjectMappingTest, BoxBeyondRow99_IsWrittenToTheArray_ButNotToTheFile)
 {
     GivenRecords({u"A001"_s});
-    givenBox(100, {5000, 5000});
+    GivenBox(100, {5000, 5000});
     P.Map.SBoxes = 100;
     ChooseNewRecord();
 
@@ -150,7 +150,7 @@ TEST_F(SubjectMappingTest, BoxBeyondRow99_IsWrittenToTheArray_ButNotToTheFile)
 TEST_F(SubjectMappingTest, BoxInRow99_IsWrittenToTheFile)
 {
     GivenRecords({u"A001"_s});
-    givenBox(99, {5000, 5000});
+    GivenBox(99, {5000, 5000});
     P.Map.SBoxes = 99;
     ChooseNewRecord();
 
@@ -165,7 +165,7 @@ protected:
     FirstRecordTest()
     {
         GivenRecords({});
-        givenBox(1, {2000, 500});
+        GivenBox(1, {2000, 500});
     }
 };
 
@@ -222,7 +222,7 @@ TEST_F(FirstRecordTest, BesideAllBoxes_TheRecordIsMade_AndNoBoxOfTheFileHoldsIt)
 
 TEST_F(FirstRecordTest, OtherBranch_GivesItsOwnLetter)
 {
-    givenOpen(BranchBuilder(Home, u'C').InDirectory(u"LfgDat_C"));
+    GivenOpen(BranchBuilder(Home, u'C').InDirectory(u"LfgDat_C"));
     ChooseNewRecord();
 
     DoubleClickBox(1);

@@ -18,10 +18,10 @@ protected:
     {
         for (const QString& file : files)
             BranchA.Row({{u"File", file}, {u"Forename", QString(u"N" + file)}, {u"Gender", u"Female"}});
-        givenOpen(BranchA);
-        givenBox(0, {1000, 500}, u"0");
-        givenBox(1, {2000, 500}, u"A001");
-        givenBox(2, {3000, 500}, u"0");
+        GivenOpen(BranchA);
+        GivenBox(0, {1000, 500}, u"0");
+        GivenBox(1, {2000, 500}, u"A001");
+        GivenBox(2, {3000, 500}, u"0");
         P.Map.SBoxes = 2;
     }
     void GivenSibling()

@@ -29,7 +29,7 @@ class SubjectFieldTest : public SubjectPanelTest, public WithParamInterface<Pane
 protected:
     SubjectFieldTest()
     {
-        givenOpen(BranchA.Row({{u"File", u"A001"}, {GetParam().Field, u"first"}})
+        GivenOpen(BranchA.Row({{u"File", u"A001"}, {GetParam().Field, u"first"}})
                       .Row({{u"File", u"A002"}, {GetParam().Field, u"second"}})
                       .Row({{u"File", u"A003"}}));
     }
@@ -110,7 +110,7 @@ INSTANTIATE_TEST_SUITE_P(Commands, EmptiedPanelTest,
 
 TEST_F(SubjectPanelTest, Picture_OfTheRecord_IsShown)
 {
-    givenOpen(BranchA.Row({{u"File", u"A001"}}).Picture(u"A001", Qt::red));
+    GivenOpen(BranchA.Row({{u"File", u"A001"}}).Picture(u"A001", Qt::red));
     P.Record.sPicFile = u"A001Sub.Jpg"_s;
 
     LoadSubjectPicture(P, P.Form1->Image1);
@@ -123,7 +123,7 @@ TEST_F(SubjectPanelTest, Picture_OfTheRecord_IsShown)
 
 TEST_F(SubjectPanelTest, Picture_Missing_IsFileNotFound_AndThePanelKeepsWhatItShows)
 {
-    givenOpen(BranchA.Row({{u"File", u"A001"}}).Picture(u"A001", Qt::red));
+    GivenOpen(BranchA.Row({{u"File", u"A001"}}).Picture(u"A001", Qt::red));
     P.Record.sPicFile = u"A001Sub.Jpg"_s;
     LoadSubjectPicture(P, P.Form1->Image1);
     const QImage shown = P.Form1->Image1.Picture;
@@ -136,7 +136,7 @@ TEST_F(SubjectPanelTest, Picture_Missing_IsFileNotFound_AndThePanelKeepsWhatItSh
 
 TEST_F(SubjectPanelTest, Picture_ThatIsNone_IsInvalidPicture)
 {
-    givenOpen(BranchA.Row({{u"File", u"A001"}}));
+    GivenOpen(BranchA.Row({{u"File", u"A001"}}));
     Home.WriteFile(u"LfgDat_A/A001Sub.jpg", "no picture");
     P.Record.sPicFile = u"A001Sub.Jpg"_s;
 

@@ -22,22 +22,22 @@ class LineageMarksTest : public MapTest
 protected:
     void GivenSmiths()
     {
-        givenOpen(BranchA.Row({{u"File", u"A001"}, {u"Surname", u"Smith"}, {u"Gender", u"Male"}})
+        GivenOpen(BranchA.Row({{u"File", u"A001"}, {u"Surname", u"Smith"}, {u"Gender", u"Male"}})
                       .Row({{u"File", u"A002"}, {u"Surname", u"Smith"}, {u"Gender", u"Female"}})
                       .Row({{u"File", u"A003"}, {u"Surname", u"SMITH"}, {u"Gender", u"MALE"}})
                       .Row({{u"File", u"A004"}, {u"Surname", u"Smithson"}, {u"Gender", u"Male"}}));
-        givenBox(3, {1000, 500}, u"A001");
-        givenBox(4, {2000, 700}, u"A003");
-        givenBox(5, {3000, 900}, u"A002");
-        givenBox(6, {4000, 900}, u"A004");
+        GivenBox(3, {1000, 500}, u"A001");
+        GivenBox(4, {2000, 700}, u"A003");
+        GivenBox(5, {3000, 900}, u"A002");
+        GivenBox(6, {4000, 900}, u"A004");
         Records(P.Form3).MoveNext();
     }
 
     // One man, in a box at that corner.
     void GivenSmithAt(Point corner)
     {
-        givenOpen(BranchA.Row({{u"File", u"A001"}, {u"Surname", u"Smith"}, {u"Gender", u"Male"}}));
-        givenBox(0, corner, u"A001");
+        GivenOpen(BranchA.Row({{u"File", u"A001"}, {u"Surname", u"Smith"}, {u"Gender", u"Male"}}));
+        GivenBox(0, corner, u"A001");
     }
 
     void View(const QString& surname)
@@ -145,8 +145,8 @@ TEST_F(LineageMarksTest, View_CursorBehindTheLastRow_AndNoPositionSaved_IsLeftTh
 
 TEST_F(LineageMarksTest, View_WomanOfTheLine_GetsNoFrame)
 {
-    givenOpen(BranchA.Row({{u"File", u"A001"}, {u"Surname", u"Smith"}, {u"Gender", u"Female"}}));
-    givenBox(0, {1000, 500}, u"A001");
+    GivenOpen(BranchA.Row({{u"File", u"A001"}, {u"Surname", u"Smith"}, {u"Gender", u"Female"}}));
+    GivenBox(0, {1000, 500}, u"A001");
 
     View(u"Smith"_s);
 
@@ -155,8 +155,8 @@ TEST_F(LineageMarksTest, View_WomanOfTheLine_GetsNoFrame)
 
 TEST_F(LineageMarksTest, View_MaidenName_IsNotLookedAt)
 {
-    givenOpen(BranchA.Row({{u"File", u"A001"}, {u"Surname", u"Jones"}, {u"Maiden", u"Smith"}, {u"Gender", u"Male"}}));
-    givenBox(0, {1000, 500}, u"A001");
+    GivenOpen(BranchA.Row({{u"File", u"A001"}, {u"Surname", u"Jones"}, {u"Maiden", u"Smith"}, {u"Gender", u"Male"}}));
+    GivenBox(0, {1000, 500}, u"A001");
 
     View(u"Smith"_s);
 
@@ -179,8 +179,8 @@ class LineageGenderTest : public LineageMarksTest, public WithParamInterface<Gen
 
 TEST_P(LineageGenderTest, OnlyTheWholeWordCounts)
 {
-    givenOpen(BranchA.Row({{u"File", u"A001"}, {u"Surname", u"Smith"}, {u"Gender", GetParam().Gender}}));
-    givenBox(0, {1000, 500}, u"A001");
+    GivenOpen(BranchA.Row({{u"File", u"A001"}, {u"Surname", u"Smith"}, {u"Gender", GetParam().Gender}}));
+    GivenBox(0, {1000, 500}, u"A001");
 
     View(u"Smith"_s);
 
@@ -194,9 +194,9 @@ INSTANTIATE_TEST_SUITE_P(Genders, LineageGenderTest,
 
 TEST_F(LineageMarksTest, View_NullFields_DontCount)
 {
-    givenOpen(
+    GivenOpen(
         BranchA.Row({{u"File", u"A001"}, {u"Gender", u"Male"}}).Row({{u"File", u"A002"}, {u"Surname", u"Smith"}}));
-    givenBox(0, {1000, 500}, u"A001");
+    GivenBox(0, {1000, 500}, u"A001");
 
     View(u"Smith"_s);
 
@@ -206,7 +206,7 @@ TEST_F(LineageMarksTest, View_NullFields_DontCount)
 TEST_F(LineageMarksTest, View_RecordInTwoBoxes_GetsOneFrame_AtTheFirst)
 {
     GivenSmithAt({1000, 500});
-    givenBox(1, {2000, 700}, u"A001");
+    GivenBox(1, {2000, 700}, u"A001");
 
     View(u"Smith"_s);
 
@@ -217,7 +217,7 @@ TEST_F(LineageMarksTest, View_RecordInTwoBoxes_GetsOneFrame_AtTheFirst)
 TEST_F(LineageMarksTest, View_RecordWithoutBox_IsFramedWhereTheLastOneWasFound)
 {
     GivenSmiths();
-    givenBox(4, {2000, 700}, u"0");
+    GivenBox(4, {2000, 700}, u"0");
 
     View(u"Smith"_s);
 
@@ -228,7 +228,7 @@ TEST_F(LineageMarksTest, View_RecordWithoutBox_IsFramedWhereTheLastOneWasFound)
 TEST_F(LineageMarksTest, View_FirstRecordWithoutBox_IsFramedAtTheLastRelease)
 {
     GivenSmithAt({1000, 500});
-    givenBox(0, {1000, 500}, u"0");
+    GivenBox(0, {1000, 500}, u"0");
     Picture.MouseUp(1, 0, 3000, 4000);
 
     View(u"Smith"_s);
@@ -240,8 +240,8 @@ TEST_F(LineageMarksTest, View_FirstRecordWithoutBox_IsFramedAtTheLastRelease)
 TEST_F(LineageMarksTest, View_BoxBehindTheFiledOnes_IsNotFound)
 {
     GivenSmithAt({1000, 500});
-    givenBox(0, {1000, 500}, u"0");
-    givenBox(100, {2000, 700}, u"A001");
+    GivenBox(0, {1000, 500}, u"0");
+    GivenBox(100, {2000, 700}, u"A001");
 
     View(u"Smith"_s);
 
@@ -313,7 +313,7 @@ TEST_F(LineageMarksTest, ViewAndClear_WithoutABranch_AreTold_AndChangeNothing)
 
 TEST_F(LineageMarksTest, View_EmptyBranch_IsTold)
 {
-    givenOpen(BranchA);
+    GivenOpen(BranchA);
     Prompts.Expect(u"Database Empty", u"The Database has no records to access", Buttons::Information);
 
     View(u"Smith"_s);
@@ -437,7 +437,7 @@ TEST_F(EndlessViewTest, BoxInTheTopRow_ServesTheEventLoopAgainAndAgain)
 
 TEST_F(EndlessViewTest, BoxThatLeavesTheTopRowMeanwhile_IsFramed)
 {
-    AtYield([&] { givenBox(0, {1000, 500}, u"A001"); });
+    AtYield([&] { GivenBox(0, {1000, 500}, u"A001"); });
     EndAtYield();
 
     View(u"Smith"_s);

@@ -53,7 +53,7 @@ TEST_F(MarksAndToolsTest, FramesOfAnEarlierView_StayInPlaceDuringAZoneMove)
     GivenMap();
     View();
     OpenTools();
-    Choose(1);
+    Choose(ToolSelection::ZoneDraw);
     Drag({{500, 500}, {3000, 3000}});
     ExpectFramesAtTheirPlaces();
 
@@ -123,14 +123,14 @@ TEST_P(MarksWhileToolsAreOpenTest, TheToolsNoLongerReactToTheMouse_ThoughTheirIm
 TEST_P(MarksWhileToolsAreOpenTest, AZoneThatIsFixed_IsNotDragged)
 {
     GivenTools();
-    Choose(1);
+    Choose(ToolSelection::ZoneDraw);
     Drag({{500, 500}, {3000, 3000}});
     PressCommand();
 
     Drag({{1000, 1000}, {1500, 1700}});
 
     EXPECT_EQ(Box(0)[BoxColumn::X], u"1000"_s);
-    EXPECT_EQ(P.Tools.ToolSel, 3);
+    EXPECT_EQ(P.Tools.ToolSel, ToolSelection::ZoneFixed);
     EXPECT_TRUE(P.Form1->Shape3.Visible);
 }
 
@@ -156,14 +156,14 @@ TEST_P(MarksWhileToolsAreOpenTest, TheExitButtonClosesTheToolsAllTheSame)
     Leave(Answer::Yes);
 
     EXPECT_FALSE(AreImagesShown());
-    EXPECT_EQ(P.Tools.ToolSel, 0);
+    EXPECT_EQ(P.Tools.ToolSel, ToolSelection::None);
     EXPECT_TRUE(MapBytes().contains("4693,4892,0,0,,"));
 }
 
 TEST_P(MarksWhileToolsAreOpenTest, TreeToolsOnceMore_TheToolInHandWorksAgain)
 {
     GivenTools();
-    Choose(8);
+    Choose(ToolSelection::BoxDraw);
     PressCommand();
     OpenTools();
 
@@ -186,7 +186,7 @@ TEST_F(MarksAndToolsTest, SubjectOfAnotherBranchShownBehindTheTools_TheyCloseOnT
         .Build();
     BranchA.Boxes(u"1000,1000,0,A001,,2000,2000,0,A002,,3000,3000,0,B002,,");
     GivenTools();
-    Choose(8);
+    Choose(ToolSelection::BoxDraw);
     P.Form1->Command4.Click();
     PressAndRelease({3300, 3100});
     Picture.DblClick();

@@ -44,7 +44,7 @@ TEST_F(NewBoxTest, IsSeenFromThePressOn)
 {
     GivenTools();
     DialogColour = Blue;
-    Choose(8);
+    Choose(ToolSelection::BoxDraw);
     PictureByHand hand;
     DrawByHand(*hand, {3693, 2892}, Blue);
 
@@ -60,7 +60,7 @@ TEST_F(NewBoxTest, IsSeenFromThePressOn)
 TEST_F(NewBoxTest, ADragDoesNotMoveIt)
 {
     GivenTools();
-    Choose(8);
+    Choose(ToolSelection::BoxDraw);
 
     Drag({{4000, 3000}, {5000, 5000}});
 
@@ -73,14 +73,14 @@ TEST_F(NewBoxTest, OneAfterTheOther_ToolAndPenStay)
     GivenTools();
     DialogColour = Blue;
     Picture.ForeColor = Green;
-    Choose(8);
+    Choose(ToolSelection::BoxDraw);
 
     PressAndRelease({1000, 1000});
     PressAndRelease({2000, 1000});
     PressAndRelease({3000, 1000});
 
     EXPECT_EQ(P.Map.SBoxes, 3);
-    EXPECT_EQ(P.Tools.ToolSel, 8);
+    EXPECT_EQ(P.Tools.ToolSel, ToolSelection::BoxDraw);
     EXPECT_EQ(Picture.ForeColor, Green);
 }
 
@@ -131,7 +131,7 @@ protected:
 TEST_F(BoxToolTest, MoveEmptyBox_TakesItsNewPlace_AndStaysEmpty)
 {
     GivenTools();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
 
     Drag({{3300, 600}, {3400, 800}, {3310, 1620}});
 
@@ -143,7 +143,7 @@ TEST_F(BoxToolTest, MoveEmptyBox_TakesItsNewPlace_AndStaysEmpty)
 TEST_F(BoxToolTest, MoveMappedBox_KeepsItsNumber_AndTheCaptionGoesWithIt)
 {
     GivenTools();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
     PictureByHand hand;
     DrawByHand(*hand, {1200, 1500});
     PrintByHand(*hand, {1200, 1500}, u"A001", u"John");
@@ -162,7 +162,7 @@ TEST_F(BoxToolTest, MoveMappedBox_KeepsItsNumber_AndTheCaptionGoesWithIt)
 TEST_F(BoxToolTest, MoveMappedBox_CaptionIsGoneWhileItTravels_AndTheModeTellsIt)
 {
     GivenTools();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
     PictureByHand hand;
     DrawByHand(*hand, {1200, 1500});
     DrawByHand(*hand, {2000, 500});
@@ -188,7 +188,7 @@ TEST_F(BoxToolTest, MoveMappedBox_ItsRecordIsCurrentAfterwards_AndUnchanged)
 {
     GivenTools();
     Records(P.Form3).MoveLast();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
 
     Drag({{2300, 600}, {2300, 1600}});
 
@@ -201,7 +201,7 @@ TEST_F(BoxToolTest, MoveMappedBox_ItsRecordIsCurrentAfterwards_AndUnchanged)
 TEST_F(BoxToolTest, MoveMappedBox_CoordinatesAreNotServed_ButOfAnEmptyOneTheyAre)
 {
     GivenTools();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
 
     Drag({{1300, 600}, {1300, 1600}});
     EXPECT_EQ(P.Form1->Text9.Text.value(), QString());
@@ -213,7 +213,7 @@ TEST_F(BoxToolTest, MoveMappedBox_CoordinatesAreNotServed_ButOfAnEmptyOneTheyAre
 TEST_F(BoxToolTest, MoveBoxWhoseRecordHasGone_KeepsItsNumber_AndLeavesNoTrace)
 {
     GivenTools();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
     Press({4300, 600});
     EXPECT_EQ(P.Tools.MapCursorMode, 0);
     Move({4300, 1600});
@@ -229,7 +229,7 @@ TEST_F(BoxToolTest, MoveBoxOfAnotherBranch_TakesNumberAndNameAlong)
     BranchB.Row({{u"File", u"B007"}, {u"Forename", u"Ann"}}).Build();
     BranchA.Boxes(u"1000,500,0,A001,John,5000,500,0,B007,Ann,");
     GivenTools();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
     PictureByHand hand;
     DrawByHand(*hand, {1000, 500});
     PrintByHand(*hand, {1000, 500}, u"A001", u"John");
@@ -249,10 +249,10 @@ TEST_F(BoxToolTest, MoveBoxOfAnotherBranch_TakesNumberAndNameAlong)
 TEST_F(BoxToolTest, MoveInAnEmptyBranch_Works)
 {
     BranchBuilder empty(Home, u'C');
-    givenOpen(empty.Boxes(u"1000,500,0,0,,2000,500,0,C001,,"));
+    GivenOpen(empty.Boxes(u"1000,500,0,0,,2000,500,0,C001,,"));
     OpenMap();
     P.Form1->mnuTreeTools.Click();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
 
     Drag({{2300, 600}, {2300, 1600}});
 
@@ -265,7 +265,7 @@ TEST_F(BoxToolTest, MoveMappedBox_ToAnXOfZero_HasNoCaptionThere)
 {
     BranchA.Boxes(u"1000,500,255,A001,John,2000,500,255,A002,Jane,");
     GivenTools();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
 
     Drag({{1300, 600}, {300, 600}});
 
@@ -278,7 +278,7 @@ TEST_F(BoxToolTest, MoveMappedBox_ToAnXOfZero_HasNoCaptionThere)
 TEST_F(BoxToolTest, MovePressAndRelease_ChangesNothing)
 {
     GivenTools();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
     const QImage before = Shown();
 
     PressAndRelease({1300, 600});
@@ -293,7 +293,7 @@ TEST_F(BoxToolTest, Move_PenComesBack)
     BranchA.Boxes(u"1000,500,0,0,,3000,500,255,0,,");
     GivenTools();
     Picture.ForeColor = Green;
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
 
     Drag({{3300, 600}, {3400, 800}});
 
@@ -305,7 +305,7 @@ TEST_F(BoxToolTest, BoxesThatOverlap_TheLowerRowWins)
 {
     BranchA.Boxes(u"1000,500,0,0,,1100,550,0,0,,");
     GivenTools();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
 
     Drag({{1300, 600}, {1300, 1600}});
 
@@ -325,7 +325,7 @@ class BoxToolEdgeTest : public BoxToolTest, public WithParamInterface<Edge>
 TEST_P(BoxToolEdgeTest, IsOutside)
 {
     GivenTools();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
 
     Press(GetParam().Press);
 
@@ -365,7 +365,7 @@ INSTANTIATE_TEST_SUITE_P(MoveAndDelete, BoxMissTest, testing::Values(18, 28));
 TEST_F(BoxToolTest, DeleteEmptyBox_FreesTheRow_AndLowersTheCount)
 {
     GivenTools();
-    Choose(28);
+    Choose(ToolSelection::BoxDelete);
 
     PressAndRelease({3300, 600});
 
@@ -379,7 +379,7 @@ TEST_F(BoxToolTest, DeleteEmptyBox_FreesTheRow_AndLowersTheCount)
 TEST_F(BoxToolTest, DeleteBoxWithARecord_IsTold_AndChangesNothing)
 {
     GivenTools();
-    Choose(28);
+    Choose(ToolSelection::BoxDelete);
     const QImage before = Shown();
     ExpectDeletionRefused();
 
@@ -396,7 +396,7 @@ TEST_F(BoxToolTest, DeleteBoxWithARecord_IsTold_AndChangesNothing)
 TEST_F(BoxToolTest, DeleteBoxWhoseRecordHasGone_Works_AndTheForenameStays)
 {
     GivenTools();
-    Choose(28);
+    Choose(ToolSelection::BoxDelete);
 
     PressAndRelease({4300, 600});
 
@@ -410,7 +410,7 @@ TEST_F(BoxToolTest, DeleteBoxOfAnotherBranch_Works)
     BranchB.Row({{u"File", u"B007"}, {u"Forename", u"Ann"}}).Build();
     BranchA.Boxes(u"1000,500,0,A001,John,5000,500,0,B007,Ann,");
     GivenTools();
-    Choose(28);
+    Choose(ToolSelection::BoxDelete);
 
     PressAndRelease({5300, 600});
 
@@ -421,10 +421,10 @@ TEST_F(BoxToolTest, DeleteBoxOfAnotherBranch_Works)
 TEST_F(BoxToolTest, DeleteInAnEmptyBranch_Works)
 {
     BranchBuilder empty(Home, u'C');
-    givenOpen(empty.Boxes(u"1000,500,0,0,,2000,500,0,C001,,"));
+    GivenOpen(empty.Boxes(u"1000,500,0,0,,2000,500,0,C001,,"));
     OpenMap();
     P.Form1->mnuTreeTools.Click();
-    Choose(28);
+    Choose(ToolSelection::BoxDelete);
 
     PressAndRelease({2300, 600});
 
@@ -434,17 +434,17 @@ TEST_F(BoxToolTest, DeleteInAnEmptyBranch_Works)
 TEST_F(BoxToolTest, Delete_HighestSurvivingBox_IsNotHitUntilTheToolsClose)
 {
     GivenTools();
-    Choose(28);
+    Choose(ToolSelection::BoxDelete);
     PressAndRelease({3300, 600});
 
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
     Drag({{4300, 600}, {4300, 1600}});
     EXPECT_EQ(P.Mouse.BoxMiss, 1);
     EXPECT_EQ(Box(3), (RowTexts{u"4000"_s, u"500"_s, u"0"_s, u"A009"_s, u"Gone"_s}));
 
     Leave(Answer::Yes);
     P.Form1->mnuTreeTools.Click();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
     Drag({{4300, 600}, {4300, 1600}});
     EXPECT_EQ(Box(2), (RowTexts{u"4000"_s, u"1500"_s, u"0"_s, u"A009"_s, u"Gone"_s}));
 }
@@ -453,7 +453,7 @@ TEST_F(BoxToolTest, DeleteClickedAgain_WhenOneBoxIsLeft_DeletesNothingMore)
 {
     BranchA.Boxes(u"1000,500,0,0,,3000,500,255,0,,");
     GivenTools();
-    Choose(28);
+    Choose(ToolSelection::BoxDelete);
     PressAndRelease({1300, 600});
     ASSERT_EQ(P.Map.SBoxes, 0);
 

@@ -33,7 +33,7 @@ protected:
         PlaceBox({5000, 5000});
         DrawNewLine({1000, 6000}, {2000, 6000});
         PlaceText({1000, 7050}, u"Two");
-        Choose(18);
+        Choose(ToolSelection::BoxMove);
         Drag({{3300, 600}, {3400, 700}});
     }
 
@@ -93,11 +93,11 @@ TEST_F(LeaveToolsTest, No_RestoresTheMap_AndTouchesNoFile)
 TEST_F(LeaveToolsTest, No_RestoresWhatWasDeleted)
 {
     const QImage before = Shown();
-    Choose(27);
+    Choose(ToolSelection::LineDelete);
     PressAndRelease({1500, 2000});
-    Choose(28);
+    Choose(ToolSelection::BoxDelete);
     PressAndRelease({3300, 600});
-    Choose(29);
+    Choose(ToolSelection::TextDelete);
     PressAndRelease({1100, 3050});
 
     Leave(Answer::No);
@@ -151,7 +151,7 @@ class LeaveToolsAnswerTest : public LeaveToolsTest, public testing::WithParamInt
 
 TEST_P(LeaveToolsAnswerTest, AllToolsAreDown_AndThePointerIsBack)
 {
-    Choose(17);
+    Choose(ToolSelection::LineMove);
     PressAndRelease({1500, 2000});
     Picture.Font = {u"Courier"_s, 20, true};
     P.Tools.MapCursorMode = 2;
@@ -159,7 +159,7 @@ TEST_P(LeaveToolsAnswerTest, AllToolsAreDown_AndThePointerIsBack)
     Leave(GetParam());
 
     EXPECT_EQ(P.Tools.ToolMode, 0);
-    EXPECT_EQ(P.Tools.ToolSel, 0);
+    EXPECT_EQ(P.Tools.ToolSel, ToolSelection::None);
     EXPECT_EQ(P.Tools.ToolStep, 0);
     EXPECT_EQ(P.Tools.MapCursorMode, 0);
     EXPECT_EQ(P.Screen.Pointer, MousePointer::Default);
@@ -175,7 +175,7 @@ TEST_P(LeaveToolsAnswerTest, TheRecordOfTheOpeningIsCurrentAgain_WithItsMarker)
 {
     Records(P.Form3).MoveFirst();
     P.Form1->mnuTreeTools.Click();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
     Drag({{2300, 600}, {2400, 1600}});
     ASSERT_EQ(Current(), u"A002"_s);
     P.Gallery.FirstShow = 0;
@@ -193,7 +193,7 @@ TEST_P(LeaveToolsAnswerTest, TheRecordOfTheOpeningIsCurrentAgain_WithItsMarker)
 
 TEST_P(LeaveToolsAnswerTest, TheMarkerFollowsItsBox)
 {
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
     Drag({{1300, 600}, {1400, 1600}});
 
     Leave(GetParam());
@@ -220,7 +220,7 @@ INSTANTIATE_TEST_SUITE_P(Answers, LeaveToolsAnswerTest, testing::Values(Answer::
 
 TEST_F(LeaveToolsTest, Yes_RaisesTheImages)
 {
-    Choose(28);
+    Choose(ToolSelection::BoxDelete);
     Leave(Answer::Yes);
 
     for (const forms::Form1::ToolImage& tool : forms::Form1::Tools)
@@ -253,7 +253,7 @@ TEST_F(LeaveToolsTest, LineAndTextWhoseXIsZero_AreLost)
 
 TEST_F(LeaveToolsTest, BoxDroppedOnXZero_IsLost)
 {
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
     Drag({{3300, 600}, {300, 600}});
     ASSERT_EQ(Box(2)[BoxColumn::X], u"0"_s);
 
@@ -268,7 +268,7 @@ TEST_F(LeaveToolsTest, BoxesBeyondRow99_AreLost)
     for (int row = 0; row < 100; ++row)
         hundred += u"%1,%2,0,0,,"_s.arg(10 + row % 10 * 700).arg(500 + row / 10 * 300);
     BranchBuilder full(Home, u'C');
-    givenOpen(full.Boxes(hundred));
+    GivenOpen(full.Boxes(hundred));
     ForgetMap(P);
     P.Map.Owner = P.Branch.WorkDir;
     OpenMap();
@@ -287,7 +287,7 @@ TEST_F(LeaveToolsTest, EachDeletedText_CostsTheHighestOne)
 {
     for (const int y : {4000, 5000, 6000})
         PlaceText({1000, y + 50}, QString::number(y));
-    Choose(29);
+    Choose(ToolSelection::TextDelete);
     PressAndRelease({1100, 3050});
     PressAndRelease({1100, 4050});
 
@@ -300,9 +300,9 @@ TEST_F(LeaveToolsTest, DeletedLinesAndBoxes_CostNoOther)
 {
     DrawNewLine({1000, 6000}, {2000, 6000});
     PlaceBox({5000, 5000});
-    Choose(27);
+    Choose(ToolSelection::LineDelete);
     PressAndRelease({1500, 2000});
-    Choose(28);
+    Choose(ToolSelection::BoxDelete);
     PressAndRelease({3300, 600});
 
     Leave(Answer::Yes);
@@ -313,7 +313,7 @@ TEST_F(LeaveToolsTest, DeletedLinesAndBoxes_CostNoOther)
 
 TEST_F(LeaveToolsTest, GestureStillGoingOn_IsDropped)
 {
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
     Press({3300, 600});
     Move({3500, 900});
     ASSERT_EQ(Picture.Mode, DrawMode::NotXor);
@@ -346,7 +346,7 @@ protected:
     SpoiltLinesTest()
     {
         BranchA.Boxes(boxes).Texts(texts).Lines(QString(lines + u"1000,4000,two thousand,4000,0,1,2,3,4,5,"));
-        givenOpen(BranchA);
+        GivenOpen(BranchA);
         DrawBranchMap(P);
         P.Form1->mnuTreeTools.Click();
     }

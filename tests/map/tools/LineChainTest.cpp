@@ -126,10 +126,10 @@ class LineHitTest : public ToolsTest, public WithParamInterface<Hit>
 TEST_P(LineHitTest, ByTheRuleOfTheRectangle)
 {
     GivenTools();
-    givenLine(0, {6000, 6000}, {7000, 6000});
-    givenLine(1, GetParam().From, GetParam().To);
+    GivenLine(0, {6000, 6000}, {7000, 6000});
+    GivenLine(1, GetParam().From, GetParam().To);
     P.Map.SLines = 1;
-    Choose(17);
+    Choose(ToolSelection::LineMove);
 
     Press(GetParam().Press);
 
@@ -147,12 +147,12 @@ protected:
     void GivenLines(const std::vector<std::pair<Point, Point>>& lines)
     {
         GivenTools();
-        givenLine(0, {7000, 9000}, {8000, 9000});
+        GivenLine(0, {7000, 9000}, {8000, 9000});
         int row = 0;
         for (const auto& [from, to] : lines)
-            givenLine(++row, from, to);
+            GivenLine(++row, from, to);
         P.Map.SLines = row;
-        Choose(17);
+        Choose(ToolSelection::LineMove);
     }
 
     Rows Chain() const
@@ -271,7 +271,7 @@ TEST_F(LineChainTest, SameLineTwice_IsTakenOnce)
 TEST_F(LineChainTest, Line0_IsNeverAdded)
 {
     GivenLines({{A, B}});
-    givenLine(0, B, C);
+    GivenLine(0, B, C);
 
     Press(OnAB);
 
@@ -281,7 +281,7 @@ TEST_F(LineChainTest, Line0_IsNeverAdded)
 TEST_F(LineChainTest, Line0_Pressed_TakesTheOthers)
 {
     GivenLines({{B, C}, {C, E}});
-    givenLine(0, A, B);
+    GivenLine(0, A, B);
 
     Press(OnAB);
 
@@ -291,7 +291,7 @@ TEST_F(LineChainTest, Line0_Pressed_TakesTheOthers)
 TEST_F(LineChainTest, Line0InTheMiddle_StaysBehindWhenTheOthersMove)
 {
     GivenLines({{A, B}});
-    givenLine(0, B, C);
+    GivenLine(0, B, C);
 
     Drag({OnAB, {1600, 1100}});
 
@@ -334,10 +334,10 @@ TEST_F(LineChainTest, LineWithStartXOfZero_IsNeitherHitNorCarried)
 TEST_F(LineChainTest, LineThatEndsInTheCorner_MakesNoLinesOfFreeRows)
 {
     GivenLines({{{500, 500}, {0, 0}}, {{3000, 500}, {4000, 500}}, {{3000, 900}, {4000, 900}}});
-    Choose(27);
+    Choose(ToolSelection::LineDelete);
     PressAndRelease({3500, 500});
     P.Map.SLines = 3;
-    Choose(17);
+    Choose(ToolSelection::LineMove);
 
     Drag({{250, 250}, {350, 350}});
 
@@ -360,7 +360,7 @@ TEST_F(LineChainTest, CountOfZero_LeavesAllAsItWas)
     GivenLines({{A, B}});
     Press({5000, 5000});
     Release({5000, 5000});
-    givenLine(0, A, B);
+    GivenLine(0, A, B);
     P.Map.SLines = 0;
 
     Press(OnAB);
@@ -416,7 +416,7 @@ INSTANTIATE_TEST_SUITE_P(Lengths, LongChainTest, testing::Values(99, 100, 101, 1
 TEST_F(LineChainTest, LongChainDeleted_Takes101Lines_AndOneOffTheCount)
 {
     GivenLongChain(150);
-    Choose(27);
+    Choose(ToolSelection::LineDelete);
 
     PressAndRelease({75, 3000});
 
@@ -429,8 +429,8 @@ TEST_F(LineChainTest, ShortChainAfterALongOne_HoldsOnlyItsOwnLines)
 {
     GivenLongChain(150);
     PressAndRelease({75, 3000});
-    givenLine(160, {1000, 5000}, {2000, 5000});
-    givenLine(161, {2000, 5000}, {3000, 5000});
+    GivenLine(160, {1000, 5000}, {2000, 5000});
+    GivenLine(161, {2000, 5000}, {3000, 5000});
     P.Map.SLines = 161;
 
     Press({1500, 5000});

@@ -38,7 +38,7 @@ TEST_F(LineToolTest, Draw_NothingButTheLineIsSeen_ThenAndAfterwards)
 {
     GivenTools();
     DialogColour = Blue;
-    Choose(7);
+    Choose(ToolSelection::LineDraw);
     PictureByHand hand;
     hand->ForeColor = Blue;
     hand->Line({3000, 1000}, {4000, 1600});
@@ -58,7 +58,7 @@ TEST_F(LineToolTest, Draw_PenComesBack_AndTheStepIsOver)
     GivenTools();
     DialogColour = Blue;
     Picture.ForeColor = Green;
-    Choose(7);
+    Choose(ToolSelection::LineDraw);
 
     Press({3000, 1000});
     EXPECT_EQ(P.Tools.ToolStep, -1);
@@ -66,14 +66,14 @@ TEST_F(LineToolTest, Draw_PenComesBack_AndTheStepIsOver)
     Release({4000, 1600});
 
     EXPECT_EQ(P.Tools.ToolStep, 0);
-    EXPECT_EQ(P.Tools.ToolSel, 7);
+    EXPECT_EQ(P.Tools.ToolSel, ToolSelection::LineDraw);
     EXPECT_EQ(Picture.ForeColor, Green);
 }
 
 TEST_F(LineToolTest, Draw_ColourIsReadAtEachStep)
 {
     GivenTools();
-    Choose(7);
+    Choose(ToolSelection::LineDraw);
     Press({3000, 1000});
     Move({3500, 1000});
     DialogColour = Red;
@@ -90,7 +90,7 @@ TEST_F(LineToolTest, Draw_FirstStepPaintsABackgroundLineToTheCorner_WhichTheRele
     const Point onBox{1100, 1000};
     ASSERT_EQ(ColourAt(Picture, onBox), Red);
     const Point press{4400, 4000};
-    Choose(7);
+    Choose(ToolSelection::LineDraw);
 
     Press(press);
     Move({5000, 4000});
@@ -103,7 +103,7 @@ TEST_F(LineToolTest, Draw_FirstStepPaintsABackgroundLineToTheCorner_WhichTheRele
 TEST_F(LineToolTest, Draw_AnyMouseButton)
 {
     GivenTools();
-    Choose(7);
+    Choose(ToolSelection::LineDraw);
     for (const int button : {RightButton, MiddleButton}) {
         Picture.MouseDown(button, 0, 1000, 1000);
         Picture.MouseMove(button, 0, 2000, 1000);
@@ -116,7 +116,7 @@ TEST_F(LineToolTest, Draw_AnyMouseButton)
 TEST_F(LineToolTest, Draw_FractionsAreDropped)
 {
     GivenTools();
-    Choose(7);
+    Choose(ToolSelection::LineDraw);
     Picture.MouseDown(LeftButton, 0, 1000.9, 1100.9);
     Picture.MouseMove(LeftButton, 0, 2000.9, 1200.9);
     Picture.MouseUp(LeftButton, 0, 2000.9, 1200.9);
@@ -226,7 +226,7 @@ class SquaredLineTest : public LineToolTest, public WithParamInterface<Squaring>
 TEST_P(SquaredLineTest, ShiftMakesItLevelOrUpright)
 {
     GivenTools();
-    Choose(7);
+    Choose(ToolSelection::LineDraw);
 
     Drag({{3000, 3000}, GetParam().To}, Shift);
 
@@ -242,7 +242,7 @@ INSTANTIATE_TEST_SUITE_P(Ways, SquaredLineTest,
 TEST_F(LineToolTest, ShiftLetGoBeforeTheRelease_LeavesTheLineSquared)
 {
     GivenTools();
-    Choose(7);
+    Choose(ToolSelection::LineDraw);
     Press({3000, 3000});
     Move({4000, 3300}, Shift);
     Release({4000, 3300});
@@ -275,7 +275,7 @@ TEST_F(LineToolTest, CtrlAndShift_SquareFromTheEndOfTheLastLine)
 TEST_F(LineToolTest, CtrlWithNoEarlierLine_BeginsInTheCorner_AndIsLostAtTheSave)
 {
     GivenTools();
-    Choose(7);
+    Choose(ToolSelection::LineDraw);
 
     Drag({{6000, 6000}, {4500, 3500}}, Ctrl);
 
@@ -288,7 +288,7 @@ TEST_F(LineToolTest, CtrlWithNoEarlierLine_BeginsInTheCorner_AndIsLostAtTheSave)
 TEST_F(LineToolTest, Move_CarriesBothEnds_AndKeepsTheColour)
 {
     GivenThreeLines();
-    Choose(17);
+    Choose(ToolSelection::LineMove);
 
     Drag({{1500, 2010}, {1700, 2200}, {2500, 2510}});
 
@@ -301,7 +301,7 @@ TEST_F(LineToolTest, Move_CarriesBothEnds_AndKeepsTheColour)
 TEST_F(LineToolTest, Move_OnlyTheLinesAtTheirPlacesAreSeen)
 {
     GivenThreeLines();
-    Choose(17);
+    Choose(ToolSelection::LineMove);
     PictureByHand hand;
     hand->ForeColor = Red;
     hand->Line({1000, 1000}, {2000, 1000});
@@ -322,7 +322,7 @@ TEST_F(LineToolTest, Move_PenComesBack)
 {
     GivenThreeLines();
     Picture.ForeColor = Green;
-    Choose(17);
+    Choose(ToolSelection::LineMove);
 
     Drag({{1500, 2010}, {1700, 2200}});
 
@@ -333,7 +333,7 @@ TEST_F(LineToolTest, Move_PenComesBack)
 TEST_F(LineToolTest, Move_PressAndRelease_ChangesNothing)
 {
     GivenThreeLines();
-    Choose(17);
+    Choose(ToolSelection::LineMove);
     const QImage before = Shown();
 
     PressAndRelease({1500, 2010});
@@ -370,7 +370,7 @@ INSTANTIATE_TEST_SUITE_P(MoveAndDelete, LineMissTest, testing::Values(17, 27));
 TEST_F(LineToolTest, Delete_FreesTheRow_AndLowersTheCountByOne)
 {
     GivenThreeLines();
-    Choose(27);
+    Choose(ToolSelection::LineDelete);
 
     PressAndRelease({1500, 2010});
 
@@ -383,7 +383,7 @@ TEST_F(LineToolTest, Delete_FreesTheRow_AndLowersTheCountByOne)
 TEST_F(LineToolTest, Delete_OnThePress_NothingIsGoneYet)
 {
     GivenThreeLines();
-    Choose(27);
+    Choose(ToolSelection::LineDelete);
 
     Press({1500, 2010});
 
@@ -394,17 +394,17 @@ TEST_F(LineToolTest, Delete_OnThePress_NothingIsGoneYet)
 TEST_F(LineToolTest, Delete_HighestSurvivingLine_IsNotHitUntilTheToolsClose)
 {
     GivenThreeLines();
-    Choose(27);
+    Choose(ToolSelection::LineDelete);
     PressAndRelease({1500, 1000});
 
-    Choose(17);
+    Choose(ToolSelection::LineMove);
     Drag({{1500, 3000}, {1500, 4000}});
     EXPECT_EQ(P.Tools.LineMiss, 1);
     EXPECT_EQ(Line(2), (LineValues{1000, 3000, 2000, 3000, 255}));
 
     Leave(Answer::Yes);
     P.Form1->mnuTreeTools.Click();
-    Choose(17);
+    Choose(ToolSelection::LineMove);
     Drag({{1500, 3000}, {1500, 4000}});
     EXPECT_EQ(Line(1), (LineValues{1000, 4000, 2000, 4000, 255}));
 }
@@ -413,7 +413,7 @@ TEST_F(LineToolTest, DeleteClickedAgain_WhenOneLineIsLeft_DeletesNothingMore)
 {
     BranchA.Lines(u"1000,1000,2000,1000,255,1000,2000,2000,2000,255,");
     GivenTools();
-    Choose(27);
+    Choose(ToolSelection::LineDelete);
     PressAndRelease({1500, 1000});
     ASSERT_EQ(P.Map.SLines, 0);
 
@@ -429,7 +429,7 @@ TEST_F(LineToolTest, Delete_ChainOfThree_RemovesAllThree_AndLowersTheCountByOne)
 {
     BranchA.Lines(u"6000,6000,7000,6000,255,1000,1000,2000,1000,255,2000,1000,2000,2000,255,2000,2000,3000,2000,255,");
     GivenTools();
-    Choose(27);
+    Choose(ToolSelection::LineDelete);
 
     PressAndRelease({1500, 1000});
 

@@ -39,7 +39,7 @@ TEST_F(LoneItemTest, BoxDrawnAndMoved_SavedAndMapped_HoldsTheFirstRecord)
 {
     GivenTools();
     PlaceBox({4000, 3000});
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
     Drag({{4000, 3000}, {4500, 3400}});
     Leave(Answer::Yes);
     ASSERT_EQ(P.Map.SBoxes, 0);
@@ -97,7 +97,7 @@ TEST_F(LoneItemTest, BoxWhoseNeighbourWasDeleted_Mapped_HoldsTheFirstRecord)
 {
     BranchA.Boxes(u"1000,500,0,0,,3000,500,0,0,,");
     GivenTools();
-    Choose(28);
+    Choose(ToolSelection::BoxDelete);
     PressAndRelease({3300, 600});
     ASSERT_EQ(P.Map.SBoxes, 0);
     P.Form1->Command4.Click();
@@ -113,7 +113,7 @@ TEST_F(LoneItemTest, BoxDeletedBehindTheTools_Mapped_TheRecordIsMade_AndNoRowHol
 {
     BranchA.Boxes(u"1000,500,0,0,,3000,500,0,0,,");
     GivenTools();
-    Choose(28);
+    Choose(ToolSelection::BoxDelete);
     PressAndRelease({3300, 600});
     ASSERT_EQ(P.Map.SBoxes, 0);
     P.Form1->Command4.Click();
@@ -143,14 +143,14 @@ TEST_F(LoneItemTest, BoxMissedBefore_IsMovedAfterTheSave)
 {
     GivenTools();
     PlaceBox({4000, 3000});
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
     PressAndRelease({7000, 7000});
     ASSERT_EQ(P.Mouse.BoxMiss, 1);
     Leave(Answer::Yes);
     EXPECT_EQ(P.Mouse.BoxMiss, 0);
 
     Reopen();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
     Drag({{4000, 3000}, {4100, 3100}});
 
     EXPECT_EQ(Box(0), (RowTexts{u"3793"_s, u"2992"_s, u"0"_s, u"0"_s, u""_s}));
@@ -160,7 +160,7 @@ TEST_F(LoneItemTest, LineMissedBefore_IsMovedAfterTheSave)
 {
     GivenTools();
     DrawNewLine({1000, 4000}, {2000, 4000});
-    Choose(17);
+    Choose(ToolSelection::LineMove);
     PressAndRelease({7000, 7000});
     ASSERT_EQ(P.Tools.LineMiss, 1);
     Leave(Answer::Yes);
@@ -168,7 +168,7 @@ TEST_F(LoneItemTest, LineMissedBefore_IsMovedAfterTheSave)
     EXPECT_EQ(P.Tools.LineMiss, 0);
 
     Reopen();
-    Choose(17);
+    Choose(ToolSelection::LineMove);
     Drag({{1500, 4000}, {1600, 4100}});
 
     EXPECT_EQ(Line(0), (std::vector<int>{1100, 4100, 2100, 4100, 0}));
@@ -179,7 +179,7 @@ TEST_F(LoneItemTest, TextWhoseNeighbourWasDeleted_IsMovedAfterTheSave)
     GivenTools();
     PlaceText({1000, 3050}, u"One");
     PlaceText({1000, 5050}, u"Two");
-    Choose(29);
+    Choose(ToolSelection::TextDelete);
     PressAndRelease({1100, 5050});
     ASSERT_EQ(P.Tools.TextIdx, 1);
     Leave(Answer::Yes);
@@ -187,7 +187,7 @@ TEST_F(LoneItemTest, TextWhoseNeighbourWasDeleted_IsMovedAfterTheSave)
     EXPECT_EQ(P.Tools.TextIdx, 0);
 
     Reopen();
-    Choose(19);
+    Choose(ToolSelection::TextMove);
     Drag({{1100, 3050}, {1200, 3150}});
 
     EXPECT_EQ(Text(0)[TextColumn::X], u"1100"_s);
@@ -198,7 +198,7 @@ TEST_F(LoneItemTest, ZoneInTheMiddleOfItsDrag_CarriesNothingOfTheNextMap)
 {
     BranchA.Boxes(u"1000,1000,0,0,,2000,1000,0,0,,");
     GivenTools();
-    Choose(1);
+    Choose(ToolSelection::ZoneDraw);
     Drag({{500, 500}, {3000, 3000}});
     Press({1000, 1000});
     Move({1100, 1100});
@@ -216,7 +216,7 @@ TEST_F(LoneItemTest, BoxWithARecord_DraggedFurtherThanAPlaceCanBeTold_IsNoError)
 {
     BranchA.Row({{u"File", u"A001"}, {u"Forename", u"John"}}).Boxes(u"12000,500,0,A001,John,");
     GivenTools();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
 
     Drag({{-7000, 600}, {15000, 600}});
     EXPECT_EQ(Box(0)[BoxColumn::X], u"34000"_s);

@@ -51,7 +51,7 @@ TEST_F(NewBoxRowTest, TheHighestBox_IsHitAgain)
     GivenTools();
     Delete(28, {1300, 600});
     PlaceBox({5307, 3108});
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
 
     Drag({{3300, 600}, {3300, 1600}});
 
@@ -117,8 +117,8 @@ TEST_F(NewBoxRowTest, BoxAtNoPlaceAboveTheCount_IsWrittenBackAsItStands)
 TEST_F(NewBoxRowTest, NoRowAboveTheCountIsSaved_TheFirstFreeIsTaken_AndTheCountStays)
 {
     GivenTools();
-    givenBox(0, {1000, 500}, u"A001");
-    givenBox(200, {3000, 500}, u"A002");
+    GivenBox(0, {1000, 500}, u"A001");
+    GivenBox(200, {3000, 500}, u"A002");
     P.Map.SBoxes = 199;
 
     PlaceBox({5307, 3108});
@@ -133,7 +133,7 @@ TEST_F(NewBoxRowTest, BoxDeletedOfAFullMap_TheNextTakesItsRow_AndTheHighestIsHit
 {
     GivenTools();
     for (int row = 0; row <= LastFiledBox; ++row)
-        givenBox(row, {10 + row % 10 * 700, 500 + row / 10 * 300});
+        GivenBox(row, {10 + row % 10 * 700, 500 + row / 10 * 300});
     P.Map.SBoxes = LastFiledBox;
     Delete(28, {2410, 600});
     ASSERT_EQ(P.Map.SBoxes, 98);
@@ -181,7 +181,7 @@ TEST_F(NewLineRowTest, LineDeleted_ARefusedLineTakesNothingAway)
 
 TEST_F(NewLineRowTest, LineDeleted_CtrlGoesOnFromTheHighestLine)
 {
-    Choose(7);
+    Choose(ToolSelection::LineDraw);
 
     Drag({{4000, 4000}, {5000, 4000}}, Ctrl);
 
@@ -195,7 +195,7 @@ TEST_F(NewLineRowTest, ChainDrawnLast_DeletedSince_CtrlGoesOnFromTheHighestLineT
     Delete(27, {4500, 4000});
     ASSERT_EQ(Line(3), std::vector<int>(5));
     ASSERT_EQ(Line(4), std::vector<int>(5));
-    Choose(7);
+    Choose(ToolSelection::LineDraw);
 
     Drag({{7000, 7000}, {3000, 6000}}, Ctrl);
 
@@ -206,7 +206,7 @@ TEST_F(NewLineRowTest, ChainDrawnLast_DeletedSince_CtrlGoesOnFromTheHighestLineT
 
 TEST_F(NewLineRowTest, NoRowAboveTheCountIsSaved_TheFirstFreeIsTaken_AndTheCountStays)
 {
-    givenLine(200, {1000, 5000}, {2000, 5000});
+    GivenLine(200, {1000, 5000}, {2000, 5000});
     P.Map.SLines = 199;
 
     DrawNewLine({4000, 4000}, {5000, 4000});
@@ -218,9 +218,9 @@ TEST_F(NewLineRowTest, NoRowAboveTheCountIsSaved_TheFirstFreeIsTaken_AndTheCount
 
 TEST_F(NewLineRowTest, NoRowAboveTheCountIsSaved_CtrlGoesOnFromTheHighestLine)
 {
-    givenLine(199, {1000, 5000}, {2000, 5000});
+    GivenLine(199, {1000, 5000}, {2000, 5000});
     P.Map.SLines = 199;
-    Choose(7);
+    Choose(ToolSelection::LineDraw);
 
     Drag({{4000, 4000}, {6000, 4000}}, Ctrl);
 
@@ -229,7 +229,7 @@ TEST_F(NewLineRowTest, NoRowAboveTheCountIsSaved_CtrlGoesOnFromTheHighestLine)
 
 TEST_F(NewLineRowTest, NoRowAboveTheCountIsSaved_CtrlGoesOnFromTheLineDrawnLast)
 {
-    givenLine(199, {1000, 5000}, {2000, 5000});
+    GivenLine(199, {1000, 5000}, {2000, 5000});
     P.Map.SLines = 199;
     DrawNewLine({4000, 4000}, {5000, 4000});
 
@@ -243,9 +243,9 @@ TEST_F(NewLineRowTest, NoRowAboveTheCountIsSaved_CtrlGoesOnFromTheLineDrawnLast)
 TEST_F(NewLineRowTest, LineDrawnLast_MovedSince_CtrlGoesOnFromItsEnd)
 {
     DrawNewLine({4000, 4000}, {5000, 4000});
-    Choose(17);
+    Choose(ToolSelection::LineMove);
     Drag({{4500, 4000}, {4500, 4300}});
-    Choose(7);
+    Choose(ToolSelection::LineDraw);
 
     Drag({{7000, 7000}, {5000, 6000}}, Ctrl);
 
@@ -257,7 +257,7 @@ TEST_F(NewLineRowTest, LineDrawnLast_DeletedSince_CtrlGoesOnFromTheHighestLine)
 {
     DrawNewLine({4000, 4000}, {5000, 4000});
     Delete(27, {4500, 4000});
-    Choose(7);
+    Choose(ToolSelection::LineDraw);
 
     Drag({{7000, 7000}, {5000, 6000}}, Ctrl);
 
@@ -266,12 +266,12 @@ TEST_F(NewLineRowTest, LineDrawnLast_DeletedSince_CtrlGoesOnFromTheHighestLine)
 
 TEST_F(NewLineRowTest, LineDrawnLast_OfAMapThatHasBeenReadAfresh_IsTheHighestOne)
 {
-    givenLine(199, {1000, 5000}, {2000, 5000});
+    GivenLine(199, {1000, 5000}, {2000, 5000});
     P.Map.SLines = 199;
     DrawNewLine({4000, 4000}, {5000, 4000});
     Leave(Answer::Yes);
     P.Form1->mnuTreeTools.Click();
-    Choose(7);
+    Choose(ToolSelection::LineDraw);
 
     Drag({{7000, 7000}, {5000, 6000}}, Ctrl);
 
@@ -305,7 +305,7 @@ TEST_F(NewTextRowTest, TextDeleted_TheHighestTextStays)
 
 TEST_F(NewTextRowTest, NoFreeRowAboveTheCount_TheFirstFreeIsTaken_AndTheLastTextCountsAgain)
 {
-    givenText(200, {1000, 5000}, u"Last");
+    GivenText(200, {1000, 5000}, u"Last");
     P.Map.STexts = 199;
 
     PlaceText({4000, 4050}, u"Four");

@@ -31,14 +31,14 @@ TEST_F(NewTextTest, StandsAtThePress50Higher_WithFontAndColour)
 TEST_F(NewTextTest, IsSeenBeforeTheRelease_AndNoGestureBegins)
 {
     GivenTools();
-    Choose(9);
+    Choose(ToolSelection::TextDraw);
     ExpectText(u"The Smiths");
 
     Press({3000, 2000});
 
     EXPECT_FALSE(IsBlank(Picture));
     EXPECT_EQ(P.Tools.ToolStep, 0);
-    EXPECT_EQ(P.Tools.ToolSel, 9);
+    EXPECT_EQ(P.Tools.ToolSel, ToolSelection::TextDraw);
 }
 
 TEST_F(NewTextTest, GoesToTheRowAfterTheCount)
@@ -71,7 +71,7 @@ TEST_F(NewTextTest, ChosenFont_PrintsIt_AndIsGivenBackAfterThePress)
     GivenTools();
     Picture.Font = {u"Arial"_s, 20};
     Picture.ForeColor = Green;
-    Choose(9);
+    Choose(ToolSelection::TextDraw);
     ExpectText(u"Large");
     PictureByHand hand;
     hand->Font.Size = 20;
@@ -182,7 +182,7 @@ protected:
 TEST_F(TextToolTest, Move_TakesTheTextAlong)
 {
     GivenTools();
-    Choose(19);
+    Choose(ToolSelection::TextMove);
 
     Drag({{1100, 2050}, {1200, 2300}, {3100, 2250}});
 
@@ -193,7 +193,7 @@ TEST_F(TextToolTest, Move_TakesTheTextAlong)
 TEST_F(TextToolTest, Move_OnlyTheTextsAtTheirPlacesAreSeen)
 {
     GivenTools();
-    Choose(19);
+    Choose(ToolSelection::TextMove);
     PictureByHand hand;
     hand->ForeColor = Red;
     hand->PrintAt({1000, 1000}, u"One"_s);
@@ -210,7 +210,7 @@ TEST_F(TextToolTest, Move_OnlyTheTextsAtTheirPlacesAreSeen)
 TEST_F(TextToolTest, Move_TravelsAsAGreyRectangleOfTheTextsSize)
 {
     GivenTools();
-    Choose(19);
+    Choose(ToolSelection::TextMove);
     PictureByHand hand;
     hand->ForeColor = Red;
     hand->PrintAt({1000, 1000}, u"One"_s);
@@ -233,7 +233,7 @@ TEST_F(TextToolTest, Move_PenFontAndInputComeBack)
     GivenTools();
     Picture.ForeColor = Green;
     Picture.Font = {u"Arial"_s, 20};
-    Choose(19);
+    Choose(ToolSelection::TextMove);
 
     Press({1100, 2050});
     EXPECT_EQ(P.Scratch.sInput, u"Two"_s);
@@ -249,7 +249,7 @@ TEST_F(TextToolTest, Move_PenFontAndInputComeBack)
 TEST_F(TextToolTest, Move_PressAndRelease_ChangesNothing)
 {
     GivenTools();
-    Choose(19);
+    Choose(ToolSelection::TextMove);
     const QImage before = Shown();
 
     PressAndRelease({1100, 2050});
@@ -271,7 +271,7 @@ class TextToolEdgeTest : public TextToolTest, public WithParamInterface<Edge>
 TEST_P(TextToolEdgeTest, HitAreaIs600By100_EdgesOutside_WhateverTheTextsSize)
 {
     GivenTools();
-    Choose(19);
+    Choose(ToolSelection::TextMove);
 
     Press(GetParam().Press);
 
@@ -289,7 +289,7 @@ TEST_F(TextToolTest, TextsThatOverlap_TheLowerRowWins)
 {
     BranchA.Texts(u"1000,1000,One,Arial,8,255,1050,1010,Two,Arial,8,255,");
     GivenTools();
-    Choose(19);
+    Choose(ToolSelection::TextMove);
 
     Drag({{1100, 1050}, {1100, 2050}});
 
@@ -325,7 +325,7 @@ TEST_F(TextToolTest, TextWithXOfZero_AndOneAtNoPlace_AreNeverHit)
     BranchA.Texts(
         u"0,1000,Free,Arial,8,0,here,2000,Nowhere,Arial,8,0,1000,there,Nowhere,Arial,8,0,1,3000,Last,Arial,8,0,");
     GivenTools();
-    Choose(29);
+    Choose(ToolSelection::TextDelete);
 
     for (const Point at : {Point{100, 1050}, Point{100, 2050}, Point{1100, 50}}) {
         PressAndRelease(at);
@@ -342,7 +342,7 @@ TEST_F(TextToolTest, LoneText_IsNotSearchedFor_SoTheLastAnswerStands)
     BranchA.Texts(u"1000,1000,One,Arial,8,255,");
     GivenTools();
     ASSERT_EQ(P.Map.STexts, 0);
-    Choose(19);
+    Choose(ToolSelection::TextMove);
 
     Drag({{6000, 6000}, {6100, 6200}});
     EXPECT_EQ(Text(0)[TextColumn::X], u"1100"_s);
@@ -377,7 +377,7 @@ TEST_F(TextToolTest, NoTexts_NothingIsHit)
     BranchA.Texts(u"0,0,0,");
     GivenTools();
     ASSERT_EQ(P.Map.STexts, -1);
-    Choose(29);
+    Choose(ToolSelection::TextDelete);
 
     PressAndRelease({1100, 1050});
 
@@ -389,7 +389,7 @@ TEST_F(TextToolTest, Delete_FreesTheRow_AndLowersTheCount)
 {
     GivenTools();
     Picture.ForeColor = Green;
-    Choose(29);
+    Choose(ToolSelection::TextDelete);
 
     PressAndRelease({1100, 2050});
 
@@ -403,7 +403,7 @@ TEST_F(TextToolTest, DeleteClickedAgain_WhenOneTextIsLeft_DeletesNothingMore)
 {
     BranchA.Texts(u"1000,1000,One,Arial,8,255,1000,2000,Two,Arial,8,255,");
     GivenTools();
-    Choose(29);
+    Choose(ToolSelection::TextDelete);
     PressAndRelease({1100, 1050});
     ASSERT_EQ(P.Map.STexts, 0);
 
@@ -418,7 +418,7 @@ TEST_F(TextToolTest, DeleteClickedAgain_WhenOneTextIsLeft_DeletesNothingMore)
 TEST_F(TextToolTest, DeleteFirstOfThree_SavedWithYes_OnlyTheSecondIsInTheFile)
 {
     GivenTools();
-    Choose(29);
+    Choose(ToolSelection::TextDelete);
     PressAndRelease({1100, 1050});
 
     Leave(Answer::Yes);
@@ -432,17 +432,17 @@ TEST_F(TextToolTest, DeleteFirstOfThree_SavedWithYes_OnlyTheSecondIsInTheFile)
 TEST_F(TextToolTest, Delete_HighestSurvivingText_IsNotHitUntilTheToolsClose)
 {
     GivenTools();
-    Choose(29);
+    Choose(ToolSelection::TextDelete);
     PressAndRelease({1100, 1050});
 
-    Choose(19);
+    Choose(ToolSelection::TextMove);
     Drag({{1100, 3050}, {1100, 4050}});
     EXPECT_EQ(P.Tools.TextMiss, 1);
     EXPECT_EQ(Text(2)[TextColumn::Y], u"3000"_s);
 
     Leave(Answer::No);
     P.Form1->mnuTreeTools.Click();
-    Choose(19);
+    Choose(ToolSelection::TextMove);
     Drag({{1100, 3050}, {1100, 4050}});
     EXPECT_EQ(Text(2)[TextColumn::Y], u"4000"_s);
 }

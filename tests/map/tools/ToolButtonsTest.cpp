@@ -161,7 +161,7 @@ TEST_P(ItemButtonTest, EndsAGestureStep_WhetherItGoesOnOrOff)
     P.Tools.ToolStep = -1;
     Click(GetParam());
     EXPECT_EQ(P.Tools.ToolStep, 0);
-    EXPECT_EQ(P.Tools.ToolSel, 0);
+    EXPECT_EQ(P.Tools.ToolSel, ToolSelection::None);
 }
 
 INSTANTIATE_TEST_SUITE_P(Kinds, ItemButtonTest, testing::Values(&Form1::Image6, &Form1::Image7, &Form1::Image9));
@@ -231,7 +231,7 @@ TEST_F(ToolsTest, Open_ShowsAllImagesRaised_HidesTheMarker_AndThePenIsBlack)
     P.Form1->mnuTreeTools.Click();
 
     EXPECT_EQ(P.Tools.ToolMode, 3);
-    EXPECT_EQ(P.Tools.ToolSel, 0);
+    EXPECT_EQ(P.Tools.ToolSel, ToolSelection::None);
     for (const auto image : images) {
         EXPECT_TRUE(((*P.Form1).*image).Visible);
         EXPECT_TRUE(IsRaised(image));
@@ -250,11 +250,11 @@ TEST_F(ToolsTest, Open_EmptyBranch_IsNoError)
 TEST_F(ToolsTest, Open_Again_LeavesTheToolInHand)
 {
     GivenTools();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
 
     P.Form1->mnuTreeTools.Click();
 
-    EXPECT_EQ(P.Tools.ToolSel, 18);
+    EXPECT_EQ(P.Tools.ToolSel, ToolSelection::BoxMove);
 }
 
 TEST_F(ToolsTest, ToolTips_NameTheTools)
@@ -301,14 +301,14 @@ TEST_F(ToolsTest, Colour_Cancelled_StaysAsItWas)
 {
     GivenTools();
     DialogColour = Blue;
-    Choose(7);
+    Choose(ToolSelection::LineDraw);
     Prompts.ExpectColour(Blue, {}, [&] { EXPECT_TRUE(IsSunken(&Form1::Image3)); });
 
     Click(&Form1::Image3);
 
     EXPECT_EQ(DialogColour, Blue);
     EXPECT_TRUE(IsRaised(&Form1::Image3));
-    EXPECT_EQ(P.Tools.ToolSel, 7);
+    EXPECT_EQ(P.Tools.ToolSel, ToolSelection::LineDraw);
     EXPECT_EQ(P.Screen.Pointer, MousePointer::Cross);
 }
 
@@ -393,20 +393,20 @@ TEST_P(EditingMenuTest, ToolInHand_ClosesTheTools_WithTheSunkenPictureOfTheHome)
     sunken.fill(Qt::magenta);
     ASSERT_TRUE(sunken.save(Home.Path(u"Save-Dwn.bmp"), "BMP"));
     GivenTools();
-    Choose(28);
+    Choose(ToolSelection::BoxDelete);
     ExpectSaveQuestion(Answer::No, [&] { EXPECT_EQ(P.Form1->Image8.Picture.value().size(), QSize(7, 5)); });
 
     OpenMenu();
 
     EXPECT_EQ(P.Tools.ToolMode, 0);
-    EXPECT_EQ(P.Tools.ToolSel, 0);
+    EXPECT_EQ(P.Tools.ToolSel, ToolSelection::None);
     EXPECT_FALSE(P.Form1->Image8.Visible);
 }
 
 TEST_P(EditingMenuTest, HomeWithoutThePicture_ClosesTheToolsAllTheSame)
 {
     GivenTools();
-    Choose(7);
+    Choose(ToolSelection::LineDraw);
     ExpectSaveQuestion(Answer::No);
 
     OpenMenu();

@@ -29,7 +29,7 @@ protected:
 TEST_F(ToolGestureTest, MoveWithoutAButton_EndsTheDragWhereItWas)
 {
     GivenTools();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
     Press({1300, 600});
     Move({1500, 800});
 
@@ -44,12 +44,12 @@ TEST_F(ToolGestureTest, MoveWithoutAButton_EndsTheDragWhereItWas)
 TEST_F(ToolGestureTest, TextWhoseQuestionSwallowedTheRelease_IsFinishedByTheNextMove)
 {
     GivenTools();
-    Choose(9);
+    Choose(ToolSelection::TextDraw);
     ExpectText(u"Smith");
     Press({1000, 2000});
 
     MoveWithoutButton({1100, 2100});
-    Choose(8);
+    Choose(ToolSelection::BoxDraw);
     PressAndRelease({6000, 6000});
 
     EXPECT_EQ(Text(0), (RowTexts{u"1000"_s, u"1950"_s, u"Smith"_s, u"Arial"_s, u"8"_s, u"0"_s}));
@@ -79,7 +79,7 @@ TEST_F(ToolGestureTest, WithoutRecords_EveryPressIsTold_AndTheToolsCanBeClosed)
 TEST_F(ToolGestureTest, RecordsThatGoInADrag_LetItEnd)
 {
     GivenTools();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
     Press({2300, 600});
     Move({2500, 800});
     ASSERT_EQ(P.Tools.MapCursorMode, MapCursor::MovingSubject);
@@ -94,7 +94,7 @@ TEST_F(ToolGestureTest, RecordsThatGoInADrag_LetItEnd)
 TEST_F(ToolGestureTest, ToolPressedByKeyInADrag_EndsItFirst)
 {
     GivenTools();
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
     Press({2300, 600});
     Move({2500, 800});
 
@@ -104,7 +104,7 @@ TEST_F(ToolGestureTest, ToolPressedByKeyInADrag_EndsItFirst)
 
     EXPECT_EQ(Box(1), (RowTexts{u"2200"_s, u"700"_s, u"0"_s, u"A001"_s, u"John"_s}));
     EXPECT_EQ(P.Tools.MapCursorMode, 0);
-    EXPECT_EQ(P.Tools.ToolSel, 7);
+    EXPECT_EQ(P.Tools.ToolSel, ToolSelection::LineDraw);
     EXPECT_EQ(P.Map.SLines, 0);
 }
 
@@ -112,7 +112,7 @@ TEST_F(ToolGestureTest, SecondButton_EndsTheFirstGesture_AndBeginsAnother)
 {
     GivenTools();
     DialogColour = Red;
-    Choose(7);
+    Choose(ToolSelection::LineDraw);
     Press({1000, 4000});
     Move({2000, 4000});
     Press({2000, 5000}, 0, RightButton);
@@ -129,7 +129,7 @@ TEST_F(ToolGestureTest, SecondButton_EndsTheFirstGesture_AndBeginsAnother)
 TEST_F(ToolGestureTest, ToolsClosedInTheMiddleOfALine_KeepTheLineAsFarAsItWent)
 {
     GivenTools();
-    Choose(7);
+    Choose(ToolSelection::LineDraw);
     Press({1000, 4000});
     Move({2000, 4000});
 
@@ -145,7 +145,7 @@ TEST_F(ToolGestureTest, ToolsClosedAtTheFirstPressOfALine_LeaveNothingOfIt)
     GivenTools();
     P.Tools.MoveX = 1000;
     P.Tools.MoveY = 4000;
-    Choose(7);
+    Choose(ToolSelection::LineDraw);
     Press({1000, 4000});
 
     ExpectSaveQuestion(Answer::Yes);
@@ -169,13 +169,13 @@ TEST_F(ToolGestureTest, SecondExitThatWasWaiting_AsksOnce)
 TEST_F(ToolGestureTest, MapGoneBehindTheTools_NothingIsAskedOrWritten)
 {
     GivenTools();
-    Choose(8);
+    Choose(ToolSelection::BoxDraw);
     ForgetMap(P);
     const Tree before = Home.Snapshot();
 
     P.Form1->mnuEdit.Click();
 
-    EXPECT_EQ(P.Tools.ToolSel, 0);
+    EXPECT_EQ(P.Tools.ToolSel, ToolSelection::None);
     EXPECT_FALSE(P.Form1->Image8.Visible);
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
 }
@@ -183,7 +183,7 @@ TEST_F(ToolGestureTest, MapGoneBehindTheTools_NothingIsAskedOrWritten)
 TEST_F(ToolGestureTest, MapGoneBehindTheTools_ThePointerIsTheArrowAgain)
 {
     GivenTools();
-    Choose(8);
+    Choose(ToolSelection::BoxDraw);
     ForgetMap(P);
     ASSERT_EQ(P.Screen.Pointer, MousePointer::Cross);
 
@@ -241,12 +241,12 @@ TEST_F(ToolGestureTest, ChainOfTheMapBefore_IsForgottenWithTheTools)
 {
     BranchA.Lines(u"3000,3000,4000,3000,0,1000,1000,2000,1000,0,2000,1000,2000,2000,0,");
     GivenTools();
-    Choose(27);
+    Choose(ToolSelection::LineDelete);
     PressAndRelease({1500, 1000});
     Leave(Answer::Yes);
     P.Form1->mnuTreeTools.Click();
 
-    Choose(17);
+    Choose(ToolSelection::LineMove);
     Drag({{3500, 3000}, {3600, 3100}});
 
     EXPECT_EQ(Line(0), (std::vector<int>{3100, 3100, 4100, 3100, 0}));
@@ -256,14 +256,14 @@ TEST_F(ToolGestureTest, SpoiltItems_CostTheirOwnDrawing_NotTheTools)
 {
     BranchA.Texts(u"1000,6000,Smith, John,Arial,8,0,2000,7000,Jane,Arial,8,255,");
     GivenTools();
-    Choose(9);
+    Choose(ToolSelection::TextDraw);
     ExpectText(u"new");
     PressAndRelease({3000, 3000});
-    Choose(29);
+    Choose(ToolSelection::TextDelete);
     PressAndRelease({1100, 6050});
-    Choose(19);
+    Choose(ToolSelection::TextMove);
     Drag({{1100, 6050}, {1200, 6150}});
-    Choose(1);
+    Choose(ToolSelection::ZoneDraw);
     Drag({{100, 100}, {8000, 8000}});
     Drag({{200, 200}, {300, 300}});
 
@@ -277,7 +277,7 @@ TEST_F(ToolGestureTest, ZoneDrag_LeavesFontAndPenAsTheyWere)
 {
     BranchA.Texts(u"1000,6000,Jane,Arial,14,255,");
     GivenTools();
-    Choose(1);
+    Choose(ToolSelection::ZoneDraw);
     Drag({{900, 5900}, {1100, 6100}});
     Press({200, 200});
     Move({300, 300});

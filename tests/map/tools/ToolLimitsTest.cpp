@@ -15,7 +15,7 @@ protected:
     void GivenLines(int first, int last)
     {
         for (int row = first; row <= last; ++row)
-            givenLine(row, {100, 50 + 50 * row}, {1100, 50 + 50 * row});
+            GivenLine(row, {100, 50 + 50 * row}, {1100, 50 + 50 * row});
         P.Map.SLines = last;
     }
 
@@ -27,7 +27,7 @@ protected:
 
 TEST_F(ToolLimitsTest, Lines_FromACountOfZero_201FillTheRows_AndTheNextIsASubscriptError)
 {
-    Choose(7);
+    Choose(ToolSelection::LineDraw);
     for (int line = 1; line <= 201; ++line)
         Drag({{100, 50 * line}, {1100, 50 * line}});
     ASSERT_EQ(P.Map.SLines, 200);
@@ -40,7 +40,7 @@ TEST_F(ToolLimitsTest, Lines_FromACountOfZero_201FillTheRows_AndTheNextIsASubscr
 
 TEST_F(ToolLimitsTest, Boxes_FromACountOfZero_201FillTheRows_AndTheNextIsASubscriptError)
 {
-    Choose(8);
+    Choose(ToolSelection::BoxDraw);
     for (int box = 1; box <= 201; ++box)
         PressAndRelease({400 + box, 200 + 50 * box});
     ASSERT_EQ(P.Map.SBoxes, 200);
@@ -57,7 +57,7 @@ TEST_F(ToolLimitsTest, Texts_FromNone_201FillTheRows_AndTheNextIsASubscriptError
     for (int text = 0; text <= 200; ++text) {
         ExpectText(u"T");
         if (text == 0)
-            Choose(9);
+            Choose(ToolSelection::TextDraw);
         PressAndRelease({100, 100 + 50 * text});
     }
     ASSERT_EQ(P.Map.STexts, 200);
@@ -70,7 +70,7 @@ TEST_F(ToolLimitsTest, Texts_FromNone_201FillTheRows_AndTheNextIsASubscriptError
 TEST_F(ToolLimitsTest, ItemTooMany_EndsTheProgramWithTheErrorsBox)
 {
     GivenLines(0, 200);
-    Choose(7);
+    Choose(ToolSelection::LineDraw);
     Prompts.Expect(u"Lineforge",
                    u"Run-time error '9':\n\nSubscript out of range\n\n"
                    u"The list or table that is needed has no place of this number:\n201",
@@ -83,7 +83,7 @@ TEST_F(ToolLimitsTest, ItemTooMany_EndsTheProgramWithTheErrorsBox)
 
 TEST_F(ToolLimitsTest, Save_HoldsTheBoxesOfRows0To99)
 {
-    Choose(8);
+    Choose(ToolSelection::BoxDraw);
     for (int box = 1; box <= 101; ++box)
         PressAndRelease({1307, 208 + 50 * box});
     // The hundredth stands in the row below the first.
@@ -113,8 +113,8 @@ TEST_F(ToolLimitsTest, Save_HoldsTheLinesOfRows0To199)
 
 TEST_F(ToolLimitsTest, Save_HoldsTheTextsUpToTheCount)
 {
-    givenText(199, {1000, 1000}, u"One");
-    givenText(200, {1000, 2000}, u"Two");
+    GivenText(199, {1000, 1000}, u"One");
+    GivenText(200, {1000, 2000}, u"Two");
     P.Map.STexts = 200;
 
     Leave(Answer::Yes);
@@ -148,9 +148,9 @@ TEST_F(ToolLimitsTest, CountsAtTheirHighest_WhatIsDrawnIsHit)
     PlaceBox({1307, 2108});
     DrawNewLine({1000, 1000}, {2000, 1000});
 
-    Choose(18);
+    Choose(ToolSelection::BoxMove);
     Drag({{1307, 2108}, {1407, 2108}});
-    Choose(17);
+    Choose(ToolSelection::LineMove);
     Drag({{1500, 1000}, {1500, 1100}});
 
     EXPECT_EQ(Box(0)[BoxColumn::X], u"1100"_s);
@@ -169,9 +169,9 @@ TEST_F(ToolLimitsTest, CountsAtTheirHighest_CtrlGoesOnFromTheLineDrawnBefore)
 
 TEST_F(ToolLimitsTest, AllRowsOfLinesInUse_TheLastIsHit)
 {
-    givenLine(200, {1000, 1000}, {2000, 1000});
+    GivenLine(200, {1000, 1000}, {2000, 1000});
     P.Map.SLines = 200;
-    Choose(17);
+    Choose(ToolSelection::LineMove);
 
     Drag({{1500, 1000}, {1500, 1100}});
 
@@ -180,9 +180,9 @@ TEST_F(ToolLimitsTest, AllRowsOfLinesInUse_TheLastIsHit)
 
 TEST_F(ToolLimitsTest, AllRowsOfLinesInUse_AMissIsReportedAsAnError_AndMovesNothing)
 {
-    givenLine(200, {1000, 1000}, {2000, 1000});
+    GivenLine(200, {1000, 1000}, {2000, 1000});
     P.Map.SLines = 200;
-    Choose(17);
+    Choose(ToolSelection::LineMove);
     ExpectSubscriptError();
 
     Drag({{1500, 5000}, {1500, 5100}});
@@ -209,12 +209,12 @@ TEST_F(ToolLimitsTest, AllRowsOfBoxesAndTextsInUse_AMissIsSilent)
 
 TEST_F(ToolLimitsTest, TheOnlyLineDeleted_CtrlFindsNoEarlierLine_AndBeginsInTheCorner)
 {
-    givenLine(0, {1000, 1000}, {2000, 1000});
+    GivenLine(0, {1000, 1000}, {2000, 1000});
     P.Map.SLines = 0;
-    Choose(27);
+    Choose(ToolSelection::LineDelete);
     PressAndRelease({1500, 1000});
     ASSERT_EQ(P.Map.SLines, -1);
-    Choose(7);
+    Choose(ToolSelection::LineDraw);
 
     Drag({{6000, 6000}, {4500, 3500}}, Ctrl);
 

@@ -253,7 +253,7 @@ protected:
         prompts_.SaveAnswer = answer;
         P.Form1->Image8.Click();
         EXPECT_EQ(P.Tools.ToolMode, 0);
-        EXPECT_EQ(P.Tools.ToolSel, 0);
+        EXPECT_EQ(P.Tools.ToolSel, ToolSelection::None);
         EXPECT_EQ(P.Form1->Picture1.Font, TextFont());
         EXPECT_EQ(P.Form1->Picture1.Mode, DrawMode::Copy);
     }

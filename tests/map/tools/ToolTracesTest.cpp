@@ -126,16 +126,16 @@ protected:
     {
         ForgetMap(P);
         P.Map.SLines = 0;
-        givenLine(0, {7000, 100}, {8000, 100}, Blue);
+        GivenLine(0, {7000, 100}, {8000, 100}, Blue);
         for (const std::vector<Point>& run : item.Runs)
             for (std::size_t end = 1; end < run.size(); ++end)
                 GivenNextLine(run[end - 1], run[end]);
         P.Map.SBoxes = -1;
         if (!item.Box.isNull())
-            givenBox(++P.Map.SBoxes, {2200, 2900}, item.Box, Green);
+            GivenBox(++P.Map.SBoxes, {2200, 2900}, item.Box, Green);
         P.Map.STexts = -1;
         if (!item.Text.isNull())
-            givenText(++P.Map.STexts, {2200, 2930}, item.Text, item.Font, Blue);
+            GivenText(++P.Map.STexts, {2200, 2930}, item.Text, item.Font, Blue);
         GivenCrossingItems();
     }
 
@@ -164,19 +164,19 @@ private:
     {
         constexpr Colour colours[] = {Red, Green, Blue};
         ++P.Map.SLines;
-        givenLine(P.Map.SLines, from, to, colours[P.Map.SLines % 3]);
+        GivenLine(P.Map.SLines, from, to, colours[P.Map.SLines % 3]);
     }
     void GivenCrossingItems()
     {
         GivenNextLine({1800, 2450}, {4200, 3310});
         GivenNextLine({2610, 2200}, {2440, 3900});
         GivenNextLine({1900, 3000}, {3200, 3000});
-        givenBox(++P.Map.SBoxes, {2320, 2960}, u"A002", Blue);
-        givenBox(++P.Map.SBoxes, {2750, 2870}, u"0", Red);
-        givenBox(++P.Map.SBoxes, {3500, 3500}, u"0", Green);
-        givenText(++P.Map.STexts, {2220, 2880}, u"Across the way", {u"Courier"_s, 12}, Red);
-        givenText(++P.Map.STexts, {2600, 3050}, u"and beneath", {}, Green);
-        givenText(++P.Map.STexts, {4000, 3900}, u"far", {}, Green);
+        GivenBox(++P.Map.SBoxes, {2320, 2960}, u"A002", Blue);
+        GivenBox(++P.Map.SBoxes, {2750, 2870}, u"0", Red);
+        GivenBox(++P.Map.SBoxes, {3500, 3500}, u"0", Green);
+        GivenText(++P.Map.STexts, {2220, 2880}, u"Across the way", {u"Courier"_s, 12}, Red);
+        GivenText(++P.Map.STexts, {2600, 3050}, u"and beneath", {}, Green);
+        GivenText(++P.Map.STexts, {4000, 3900}, u"far", {}, Green);
     }
 };
 
@@ -235,7 +235,7 @@ TEST_F(ToolTracesTest, AFewDragsOneAfterTheOther_ThePictureIsTheArraysOnBlankPap
 TEST_F(ToolTracesTest, BoxWhoseRecordStandsInALowerRowToo_ThePictureIsTheArraysOnBlankPaper)
 {
     GivenOnTheMap({"the box", 18, Middle, {}, u"A001"});
-    givenBox(++P.Map.SBoxes, {1000, 1000}, u"A001", Red);
+    GivenBox(++P.Map.SBoxes, {1000, 1000}, u"A001", Red);
     Afresh();
 
     DragAlong({"", 18, {1300, 1100}}, {"", {{200, 500}, {-300, 900}}});
@@ -259,15 +259,15 @@ protected:
             const auto& before = P.Map.LineArr[std::max(0, row - Any(1, 3))];
             const Point from =
                 row > 0 && Any(0, 3) > 0 ? Point{before[LineColumn::X2], before[LineColumn::Y2]} : AnyPoint();
-            givenLine(row, from, Any(0, 2) == 0 ? Point{Any(0, side), from.Y} : AnyPoint(), AnyColour());
+            GivenLine(row, from, Any(0, 2) == 0 ? Point{Any(0, side), from.Y} : AnyPoint(), AnyColour());
         }
         static constexpr QStringView files[] = {u"0", u"A001", u"A002", u"A009", u"B001", u"C001"};
         P.Map.SBoxes = 5;
         for (int row = 0; row <= P.Map.SBoxes; ++row)
-            givenBox(row, AnyPoint(), files[row], AnyColour());
+            GivenBox(row, AnyPoint(), files[row], AnyColour());
         P.Map.STexts = 5;
         for (int row = 0; row <= P.Map.STexts; ++row)
-            givenText(row, AnyPoint(), u"The Smiths", {Any(0, 1) == 0 ? u"Arial"_s : u"Courier"_s, Any(6, 20) * 1.0},
+            GivenText(row, AnyPoint(), u"The Smiths", {Any(0, 1) == 0 ? u"Arial"_s : u"Courier"_s, Any(6, 20) * 1.0},
                       AnyColour());
     }
 
@@ -310,7 +310,7 @@ TEST_F(ToolTracesTest, NewLine_ThePictureIsTheArraysOnBlankPaper)
     GivenOnTheMap(draggedItems[0]);
     Afresh();
     DialogColour = Red;
-    Choose(7);
+    Choose(ToolSelection::LineDraw);
 
     Press({1500, 2500});
     for (const Point& step : Strolling({{3000, 0}, {1000, 1500}, {-9000, 300}, {2000, 900}}))
@@ -325,7 +325,7 @@ TEST_F(ToolTracesTest, NewBoxes_ThePictureIsTheArraysOnBlankPaper)
     GivenOnTheMap(draggedItems[0]);
     Afresh();
     DialogColour = Red;
-    Choose(8);
+    Choose(ToolSelection::BoxDraw);
 
     Drag({{2600, 3000}, {3600, 4000}, {2610, 3010}});
     Drag({{2620, 3020}, {100, 100}});
@@ -349,7 +349,7 @@ TEST_F(ToolTracesTest, Zone_ThePictureIsTheArraysOnBlankPaper)
 {
     GivenOnTheMap({"all kinds", 1, Middle, {{{2000, 3000}, {3000, 3000}, {3000, 3600}}}, u"A001", u"Smith"});
     Afresh();
-    Choose(1);
+    Choose(ToolSelection::ZoneDraw);
     Drag({{1950, 2800}, {2700, 3200}});
 
     Press(Middle);

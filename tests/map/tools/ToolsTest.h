@@ -2,6 +2,7 @@
 
 #include "map/MapTest.h"
 #include "map/items/MapDisplay.h"
+#include "map/tools/ToolSelection.h"
 
 #include <algorithm>
 #include <array>
@@ -34,7 +35,7 @@ protected:
     // The map of branch A from its file, as it was built.
     void GivenMap()
     {
-        givenOpen(BranchA);
+        GivenOpen(BranchA);
         OpenMap();
     }
     void GivenTools()
@@ -65,7 +66,7 @@ protected:
         const int sel = P.Tools.ToolSel;
         if (sel != 0)
             Click(sel < 7 ? &forms::Form1::Image2 : ButtonOf(sel));
-        ASSERT_EQ(P.Tools.ToolSel, 0);
+        ASSERT_EQ(P.Tools.ToolSel, ToolSelection::None);
     }
     static ToolButton ButtonOf(int sel)
     {
@@ -112,17 +113,17 @@ protected:
 
     void DrawNewLine(Point from, Point to)
     {
-        Choose(7);
+        Choose(ToolSelection::LineDraw);
         Drag({from, to});
     }
     void PlaceBox(Point middle)
     {
-        Choose(8);
+        Choose(ToolSelection::BoxDraw);
         PressAndRelease(middle);
     }
     void PlaceText(Point press, QStringView text)
     {
-        Choose(9);
+        Choose(ToolSelection::TextDraw);
         ExpectText(text);
         PressAndRelease(press);
     }

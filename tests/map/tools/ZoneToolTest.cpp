@@ -15,9 +15,9 @@ protected:
     // A rubber rectangle, from the first corner to the second.
     void DrawZone(Point from, Point to)
     {
-        Choose(1);
+        Choose(ToolSelection::ZoneDraw);
         Drag({from, to});
-        ASSERT_EQ(P.Tools.ToolSel, 3);
+        ASSERT_EQ(P.Tools.ToolSel, ToolSelection::ZoneFixed);
     }
 
     Zone Rubber() const { return {Shape3.Left, Shape3.Top, Shape3.Width, Shape3.Height}; }
@@ -39,17 +39,17 @@ class RubberTest : public ZoneToolTest, public WithParamInterface<Corners>
 TEST_P(RubberTest, SpansFromThePressToThePointer_WhicheverWay)
 {
     GivenTools();
-    Choose(1);
+    Choose(ToolSelection::ZoneDraw);
 
     Press(GetParam().From);
     EXPECT_EQ(Rubber(), (Zone{GetParam().From.X, GetParam().From.Y, 0, 0}));
     EXPECT_TRUE(Shape3.Visible);
     Move(GetParam().To);
     EXPECT_EQ(Rubber(), GetParam().Expected);
-    EXPECT_EQ(P.Tools.ToolSel, 1);
+    EXPECT_EQ(P.Tools.ToolSel, ToolSelection::ZoneDraw);
     Release(GetParam().To);
 
-    EXPECT_EQ(P.Tools.ToolSel, 3);
+    EXPECT_EQ(P.Tools.ToolSel, ToolSelection::ZoneFixed);
     EXPECT_EQ(P.Tools.ToolStep, 0);
     EXPECT_EQ(Kept(), GetParam().Expected);
     EXPECT_TRUE(Shape3.Visible);
@@ -67,7 +67,7 @@ INSTANTIATE_TEST_SUITE_P(Ways, RubberTest,
 TEST_F(ZoneToolTest, RubberTurnedBackAcrossThePress_KeepsItsLastLeftAndTop)
 {
     GivenTools();
-    Choose(1);
+    Choose(ToolSelection::ZoneDraw);
     Press({3000, 3000});
     Move({2000, 2500});
     Move({4000, 3200});
@@ -89,14 +89,14 @@ TEST_F(ZoneToolTest, Rubber_DrawsNothing)
 TEST_F(ZoneToolTest, RubberGoesOn_WhenTheToolsHaveBeenClosedInTheMiddle)
 {
     GivenTools();
-    Choose(1);
+    Choose(ToolSelection::ZoneDraw);
     Press({1000, 1000});
     P.Tools.ToolMode = 0;
 
     Move({3000, 2000});
     EXPECT_EQ(Rubber(), (Zone{1000, 1000, 2000, 1000}));
     Release({3000, 2000});
-    EXPECT_EQ(P.Tools.ToolSel, 3);
+    EXPECT_EQ(P.Tools.ToolSel, ToolSelection::ZoneFixed);
 }
 
 // A text, a box and a line, all of them inside the zone {500, 500}-{3000, 3000}, and the same again outside.
@@ -190,12 +190,12 @@ TEST_F(ZoneDragTest, FirstStep_ChangesTheState_TheZoneAndThePressPoint)
     P.Form1->Shape1.Visible = true;
 
     Press({1000, 1000});
-    EXPECT_EQ(P.Tools.ToolSel, 3);
+    EXPECT_EQ(P.Tools.ToolSel, ToolSelection::ZoneFixed);
     EXPECT_EQ(P.Tools.LastX, 500);
     EXPECT_EQ(P.Tools.LastY, 500);
     Move({1200, 1100});
 
-    EXPECT_EQ(P.Tools.ToolSel, 4);
+    EXPECT_EQ(P.Tools.ToolSel, ToolSelection::ZoneDrag);
     EXPECT_EQ(Rubber(), (Zone{700, 600, 2500, 2500}));
     EXPECT_EQ(Kept(), Rubber());
     EXPECT_EQ(P.Mouse.DownX, 1200);
@@ -213,7 +213,7 @@ TEST_F(ZoneDragTest, Release_EndsTheTool)
 
     Drag({{1000, 1000}, {1200, 1100}});
 
-    EXPECT_EQ(P.Tools.ToolSel, 0);
+    EXPECT_EQ(P.Tools.ToolSel, ToolSelection::None);
     EXPECT_EQ(P.Tools.ToolStep, 0);
     EXPECT_FALSE(Shape3.Visible);
     EXPECT_TRUE(IsRaised(&forms::Form1::Image2));
@@ -241,7 +241,7 @@ TEST_F(ZoneDragTest, PressAndReleaseWithoutAMove_ChangesNothing_AndTheZoneStaysF
 
     PressAndRelease({1000, 1000});
 
-    EXPECT_EQ(P.Tools.ToolSel, 3);
+    EXPECT_EQ(P.Tools.ToolSel, ToolSelection::ZoneFixed);
     EXPECT_TRUE(Shape3.Visible);
     EXPECT_EQ(Rubber(), (Zone{500, 500, 2500, 2500}));
     ExpectCarried(0, 0);
@@ -292,9 +292,9 @@ TEST_F(ZoneDragTest, LastRowsServed_Are199OfAllThree)
 {
     GivenTools();
     for (const int row : {199, 200}) {
-        givenBox(row, {1000, 1000});
-        givenLine(row, {1000, 2000}, {2000, 2000});
-        givenText(row, {1000, 2500}, u"Far");
+        GivenBox(row, {1000, 1000});
+        GivenLine(row, {1000, 2000}, {2000, 2000});
+        GivenText(row, {1000, 2500}, u"Far");
     }
     DrawZone({500, 500}, {3000, 3000});
 
@@ -321,9 +321,9 @@ TEST_P(ZoneEdgeTest, EdgesAreOutside_ForAllThreeKinds)
 {
     GivenTools();
     const auto [at, isInside] = GetParam();
-    givenBox(1, at);
-    givenLine(1, at, {8000, 8000});
-    givenText(1, at, u"At");
+    GivenBox(1, at);
+    GivenLine(1, at, {8000, 8000});
+    GivenText(1, at, u"At");
     P.Map.SBoxes = P.Map.SLines = P.Map.STexts = 1;
     DrawZone({1000, 2000}, {3000, 5000});
 
@@ -361,7 +361,7 @@ TEST_F(ZoneToolTest, FreeRows_StayOut_EvenWhenTheZoneReachesOverTheCorner)
 {
     BranchA.Lines(u"1000,1000,2000,1000,0,1000,2000,2000,2000,0,");
     GivenTools();
-    Choose(27);
+    Choose(ToolSelection::LineDelete);
     PressAndRelease({1500, 1000});
     DrawZone({3000, 3000}, {-500, -500});
 
@@ -431,7 +431,7 @@ TEST_F(ZoneToolTest, ToolsClosed_HideTheRectangle)
         Click(&forms::Form1::Image8);
 
         EXPECT_FALSE(Shape3.Visible);
-        EXPECT_EQ(P.Tools.ToolSel, 0);
+        EXPECT_EQ(P.Tools.ToolSel, ToolSelection::None);
     }
 }
 
@@ -442,7 +442,7 @@ TEST_F(ZoneToolTest, MoveButton_PutsTheZoneAway)
 
     Click(&forms::Form1::Image2);
 
-    EXPECT_EQ(P.Tools.ToolSel, 0);
+    EXPECT_EQ(P.Tools.ToolSel, ToolSelection::None);
     EXPECT_FALSE(Shape3.Visible);
 }
 
