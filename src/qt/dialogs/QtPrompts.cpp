@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QFontDatabase>
 #include <QFontDialog>
 #include <QInputDialog>
 #include <QLabel>
@@ -109,13 +110,32 @@ QFont ToQFont(const TextFont& font)
     return converted;
 }
 
-// The dialog shows a stand-in for a family that this machine lacks, and sizes without their fractions: what the user
-// has left as it was shown stays what it was.
+// The dialog finds a style by its name only, and where a family calls its plain letters otherwise (Roman) it would open
+// on the first of its styles.
+QFont NameStyle(QFont font)
+{
+    for (const QString& style : QFontDatabase::styles(font.family())) {
+        const QFont styled = QFontDatabase::font(font.family(), style, font.pointSize());
+        if (styled.bold() == font.bold() && styled.italic() == font.italic()) {
+            font.setStyleName(style);
+            break;
+        }
+    }
+    return font;
+}
+
+// The dialog shows a stand-in for a family or a style that this machine lacks, and sizes without their fractions: what
+// the user has left as it was shown stays what it was.
 TextFont ChosenFont(const TextFont& present, const QFont& shown, const QFont& chosen)
 {
-    TextFont font{present.Name, present.Size, chosen.bold(), chosen.italic()};
-    if (chosen.family() != shown.family())
+    TextFont font = present;
+    const bool isOtherFamily = chosen.family() != shown.family();
+    if (isOtherFamily)
         font.Name = chosen.family();
+    if (isOtherFamily || chosen.bold() != shown.bold() || chosen.italic() != shown.italic()) {
+        font.Bold = chosen.bold();
+        font.Italic = chosen.italic();
+    }
     if (chosen.pointSizeF() != shown.pointSizeF())
         font.Size = chosen.pointSizeF();
     return font;
@@ -225,7 +245,7 @@ std::optional<Colour> QtPrompts::PickColour(Colour present)
 std::optional<TextFont> QtPrompts::PickFont(const TextFont& present)
 {
     loop_.ThrowIfEnded();
-    QFontDialog box(ToQFont(present), QApplication::activeWindow());
+    QFontDialog box(NameStyle(ToQFont(present)), QApplication::activeWindow());
     box.setOption(QFontDialog::DontUseNativeDialog);
     const QFont shown = box.currentFont();
     if (Ask(box) != QDialog::Accepted)

@@ -218,6 +218,37 @@ TEST_F(PromptsTest, TheFontDialog_OpensOnThePresentFont_AndGivesTheChosenOne)
     EXPECT_EQ(Ask().PickFont({SomeFamily(), 12}), (TextFont{SomeFamily(), 18}));
 }
 
+TEST_F(PromptsTest, TheFontDialog_LeftAsItOpened_KeepsTheStyle_WhateverItsNameInTheFamily)
+{
+    for (const QString& family : QFontDatabase::families())
+        for (const bool isBold : {false, true}) {
+            SCOPED_TRACE(family.toStdString());
+            const TextFont present{family, 12, isBold, false};
+            const NextDialog next([](QDialog& dialog) { dialog.accept(); });
+            EXPECT_EQ(Ask().PickFont(present), present);
+        }
+}
+
+TEST_F(PromptsTest, TheFontDialog_OpensOnThePlainStyle_WhateverItsNameInTheFamily)
+{
+    for (const QString& family : QFontDatabase::families()) {
+        const QStringList styles = QFontDatabase::styles(family);
+        const auto isPlain = [&family](const QString& style) {
+            const QFont font = QFontDatabase::font(family, style, 12);
+            return !font.bold() && !font.italic();
+        };
+        if (std::none_of(styles.begin(), styles.end(), isPlain))
+            continue;
+        const NextDialog next([&family](QDialog& dialog) {
+            const QFont shown = dynamic_cast<QFontDialog&>(dialog).currentFont();
+            EXPECT_FALSE(shown.bold() || shown.italic())
+                << family.toStdString() << ", " << shown.styleName().toStdString();
+            dialog.reject();
+        });
+        EXPECT_EQ(Ask().PickFont({family, 12}), std::nullopt);
+    }
+}
+
 TEST_F(PromptsTest, TheFontDialogCancelled_GivesNothing)
 {
     const NextDialog next([](QDialog& dialog) { PressKey(dialog, Qt::Key_Escape); });
