@@ -5,6 +5,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QProcess>
 #include <QScreen>
 #include <QTest>
@@ -211,6 +212,22 @@ TEST_F(KeyboardTest, AWindowThatIsShownRightAfterAnother_ComesBeforeIt_HoweverLa
     ServeNothingFor(200);
     EXPECT_TRUE(ComesBefore(*P.Form1, *P.Form3));
     EXPECT_TRUE(IsSeen(*P.Form1));
+}
+
+// A box that opens in between belongs before all; when it has closed, what was asked for is looked after.
+TEST_F(KeyboardTest, AWindowThatIsShownRightBeforeABox_ComesBeforeTheOthers_WhenTheBoxHasClosed)
+{
+    OpenBranch(u"Smiths"_s);
+    P.Form1->Command1.Click();
+    ASSERT_TRUE(ComesToFront(ViewOf(*P.Form3)));
+    P.Form1->Show();
+    QMessageBox box(&ViewOf(*P.Form3));
+    box.open();
+    ASSERT_TRUE(ComesToFront(box));
+    ServeNothingFor(200);
+    ServeEvents();
+    box.close();
+    EXPECT_TRUE(ComesBefore(*P.Form1, *P.Form3));
 }
 
 } // namespace

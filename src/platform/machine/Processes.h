@@ -5,7 +5,7 @@
 namespace lineforge
 {
 
-// Whose a home directory is: nobody else works in it, another run of this program does and has come to the front, or
+// Whose a home directory is: nobody else works in it, another run of this program does and has been called to the front, or
 // one that can't be reached.
 enum class HomeOwner { ThisRun, OtherInFront, OtherOutOfReach };
 

@@ -8,6 +8,7 @@
 #include "qt/machine/QtPrintSystem.h"
 #include "qt/machine/ScreenPointer.h"
 #include "qt/style/Desktop.h"
+#include "qt/style/WindowInUse.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -162,6 +163,7 @@ void Enlarge(QDialog& box, QSize lines)
 QtPrompts::QtPrompts(const QtEventLoop& loop, QtPrintSystem& printers, std::function<QString()> currentDirectory)
     : loop_(loop), printers_(printers), currentDirectory_(std::move(currentDirectory))
 {
+    FollowWindowsInUse();
 }
 
 QtPrompts::~QtPrompts() = default;
@@ -170,7 +172,7 @@ Answer QtPrompts::MsgBox(const QString& title, const QString& text, Buttons butt
 {
     loop_.ThrowIfEnded();
     const ButtonSet set = SetOf(buttons);
-    QMessageBox box(set.Icon, title, {}, set.First | set.Last, QApplication::activeWindow());
+    QMessageBox box(set.Icon, title, {}, set.First | set.Last, WindowInUse());
     box.setTextFormat(Qt::PlainText);
     box.setText(text);
     WidenFor(text, box);
@@ -182,7 +184,7 @@ Answer QtPrompts::MsgBox(const QString& title, const QString& text, Buttons butt
 QString QtPrompts::InputBox(const QString& title, const QString& prompt)
 {
     loop_.ThrowIfEnded();
-    QInputDialog box(QApplication::activeWindow());
+    QInputDialog box(WindowInUse());
     box.setWindowTitle(title);
     box.setLabelText(prompt);
     for (QLabel* label : box.findChildren<QLabel*>())
@@ -193,7 +195,7 @@ QString QtPrompts::InputBox(const QString& title, const QString& prompt)
 std::optional<QString> QtPrompts::OpenFile(const FileQuestion& question)
 {
     loop_.ThrowIfEnded();
-    QFileDialog box(QApplication::activeWindow(), question.Title, currentDirectory_());
+    QFileDialog box(WindowInUse(), question.Title, currentDirectory_());
     box.setFileMode(QFileDialog::ExistingFile);
     return AskFile(box, question);
 }
@@ -201,7 +203,7 @@ std::optional<QString> QtPrompts::OpenFile(const FileQuestion& question)
 std::optional<QString> QtPrompts::SaveFile(const FileQuestion& question)
 {
     loop_.ThrowIfEnded();
-    QFileDialog box(QApplication::activeWindow(), question.Title, currentDirectory_());
+    QFileDialog box(WindowInUse(), question.Title, currentDirectory_());
     box.setAcceptMode(QFileDialog::AcceptSave);
     // Who asks knows what will be written under that name.
     box.setOption(QFileDialog::DontConfirmOverwrite);
@@ -235,7 +237,7 @@ std::optional<QString> QtPrompts::AskFile(QFileDialog& box, const FileQuestion& 
 std::optional<Colour> QtPrompts::PickColour(Colour present)
 {
     loop_.ThrowIfEnded();
-    QColorDialog box(ToQColor(present), QApplication::activeWindow());
+    QColorDialog box(ToQColor(present), WindowInUse());
     box.setOption(QColorDialog::DontUseNativeDialog);
     if (Ask(box) != QDialog::Accepted)
         return std::nullopt;
@@ -245,7 +247,7 @@ std::optional<Colour> QtPrompts::PickColour(Colour present)
 std::optional<TextFont> QtPrompts::PickFont(const TextFont& present)
 {
     loop_.ThrowIfEnded();
-    QFontDialog box(NameStyle(ToQFont(present)), QApplication::activeWindow());
+    QFontDialog box(NameStyle(ToQFont(present)), WindowInUse());
     box.setOption(QFontDialog::DontUseNativeDialog);
     const QFont shown = box.currentFont();
     if (Ask(box) != QDialog::Accepted)
@@ -258,7 +260,7 @@ void QtPrompts::PickPrinter()
     loop_.ThrowIfEnded();
     ClosePopups();
     const ArrowMeanwhile arrow;
-    printers_.Choose(QApplication::activeWindow());
+    printers_.Choose(WindowInUse());
     loop_.ThrowIfEnded();
 }
 

@@ -15,7 +15,7 @@ class HelpWindow;
 class QtEventLoop;
 class QtPrintSystem;
 
-// Asks the user with boxes above the active window. Each throws ProgramEnded when the program has been told to end
+// Asks the user with boxes above the window in use. Each throws ProgramEnded when the program has been told to end
 // while it was open, or before.
 class QtPrompts : public Prompts
 {

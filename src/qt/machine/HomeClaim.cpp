@@ -1,10 +1,11 @@
 #include "qt/machine/HomeClaim.h"
 
 #include "qt/style/Desktop.h"
+#include "qt/style/WindowInUse.h"
 
 #include <QFile>
-#include <QGuiApplication>
 #include <QLocalSocket>
+#include <QWindow>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -19,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-constexpr char hasComeToFront = '!';
+constexpr char wasCalled = '!';
 
 // The same for all paths that lead there. Each user has names of his own: nobody's windows come to another one's front.
 QString NameOf(int directory)
@@ -28,6 +29,16 @@ QString NameOf(int directory)
     };
     fstat(directory, &status);
     return u"lineforge-%1-%2-%3"_s.arg(getuid()).arg(status.st_dev).arg(status.st_ino);
+}
+
+void ComeToFront()
+{
+    QWindow* window = LastWindowInUse();
+    if (!window)
+        return;
+    if (window->windowStates().testFlag(Qt::WindowMinimized))
+        window->setWindowStates(window->windowStates() & ~Qt::WindowMinimized);
+    BringToFront(*window);
 }
 } // namespace
 
@@ -48,10 +59,7 @@ HomeClaim::~HomeClaim()
 void HomeClaim::AnswerCalls()
 {
     QObject::connect(&calls_, &QLocalServer::newConnection, &calls_, [this] { AnswerCall(); });
-    QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, &calls_, [this](QWindow* window) {
-        if (window)
-            lastInUse_ = window;
-    });
+    FollowWindowsInUse();
     // Refused, it isn't reached, and the user of the other run is asked.
     calls_.listen(name_);
 }
@@ -60,19 +68,10 @@ void HomeClaim::AnswerCall()
 {
     while (QLocalSocket* caller = calls_.nextPendingConnection()) {
         ComeToFront();
-        caller->write(&hasComeToFront, 1);
+        caller->write(&wasCalled, 1);
         QObject::connect(caller, &QLocalSocket::disconnected, caller, &QObject::deleteLater);
         caller->disconnectFromServer();
     }
-}
-
-void HomeClaim::ComeToFront() const
-{
-    if (!lastInUse_)
-        return;
-    if (lastInUse_->windowStates().testFlag(Qt::WindowMinimized))
-        lastInUse_->setWindowStates(lastInUse_->windowStates() & ~Qt::WindowMinimized);
-    BringToFront(*lastInUse_);
 }
 
 bool HomeClaim::CallOwner() const
@@ -83,7 +82,7 @@ bool HomeClaim::CallOwner() const
     call.connectToServer(name_);
     char answer = 0;
     return call.waitForConnected(patience) && call.waitForReadyRead(patience) && call.getChar(&answer) &&
-           answer == hasComeToFront;
+           answer == wasCalled;
 }
 
 } // namespace lineforge

@@ -1,9 +1,7 @@
 #pragma once
 
 #include <QLocalServer>
-#include <QPointer>
 #include <QString>
-#include <QWindow>
 
 namespace lineforge
 {
@@ -22,20 +20,18 @@ public:
     bool IsOurs() const { return isOurs_; }
     bool IsOfSameHome(const HomeClaim& other) const { return name_ == other.name_; }
 
-    // Of our own claim: from now on this run comes to the front whenever another one asks for it.
+    // Of our own claim: from now on this run asks for the front whenever another one calls.
     void AnswerCalls();
-    // Of another run's claim: has it come to the front. False when it doesn't answer soon.
+    // Of another run's claim: calls it to the front. False when it doesn't answer soon.
     bool CallOwner() const;
 
 private:
     void AnswerCall();
-    void ComeToFront() const;
 
     int directory_;
     bool isOurs_;
     QString name_; // under which the owner is called
     QLocalServer calls_;
-    QPointer<QWindow> lastInUse_;
 };
 
 } // namespace lineforge

@@ -71,11 +71,25 @@ bool StaysInFront(const QWindow& window)
     return window.isActive() && (!arriving || arriving == &window || !arriving->isVisible());
 }
 
-// What comes to the screen anew stands before all others. A box keeps what it belongs to.
+void ShowAnewUnlessGranted(QWindow& window);
+
+void LookSoonWhetherGranted(QWindow& window)
+{
+    constexpr int patience = 150; // milliseconds: no user takes that for waiting
+    QTimer::singleShot(patience, &window, [&window] { ShowAnewUnlessGranted(window); });
+}
+
+// What comes to the screen anew stands before all others. A box keeps what it belongs to, and while it is open nothing
+// comes before it.
 void ShowAnewUnlessGranted(QWindow& window)
 {
-    if (&window != Wanted() || QGuiApplication::modalWindow())
+    if (&window != Wanted())
         return;
+    if (QWindow* box = QGuiApplication::modalWindow()) {
+        const auto look = [&window] { LookSoonWhetherGranted(window); };
+        QObject::connect(box, &QWindow::visibleChanged, &window, look, Qt::SingleShotConnection);
+        return;
+    }
     Wanted().clear();
     if (StaysInFront(window) || !window.isVisible())
         return;
@@ -92,10 +106,13 @@ bool DesktopArrangesWindows()
 
 QSize GrantedRoom()
 {
-    const QSize screen = QGuiApplication::primaryScreen()->size();
-    const QSize answer = Asking().Answer();
-    // Some desktops say how large it is only when there is something to be seen.
-    return answer.height() > screen.height() / 2 ? answer : screen;
+    return RoomFor(Asking().Answer(), QGuiApplication::primaryScreen()->size());
+}
+
+QSize RoomFor(QSize answer, QSize screen)
+{
+    constexpr int panelAndTitle = 80; // pixels: rather too many, since what doesn't fit is cut off
+    return answer.height() > screen.height() / 2 ? answer : screen - QSize(0, panelAndTitle);
 }
 
 Scale ScaleForRoom(Size client, QSize room, double dots)
@@ -108,14 +125,13 @@ Scale ScaleForRoom(Size client, QSize room, double dots)
 // Some such desktops heed the wish, and the others answer nothing.
 void BringToFront(QWindow& window)
 {
-    constexpr int patience = 150; // milliseconds: no user takes that for waiting
     window.raise();
     window.requestActivate();
     if (!DesktopArrangesWindows())
         return;
     Wanted() = &window;
     if (window.isExposed())
-        QTimer::singleShot(patience, &window, [&window] { ShowAnewUnlessGranted(window); });
+        LookSoonWhetherGranted(window);
     else
         AwaitArrival(window);
 }

@@ -16,6 +16,10 @@ bool DesktopArrangesWindows();
 // How large the inside of a window is that takes all that such a desktop leaves free.
 QSize GrantedRoom();
 
+// The same, from what the desktop has answered to a window that nobody sees, and the size of the screen. Some desktops
+// say how large it is only when there is something to be seen: there it is guessed.
+QSize RoomFor(QSize answer, QSize screen);
+
 // The scale at which a window with a client area of that size and its menu bar fit into such a room. The bare strip
 // below the lowest control may be cut off: panels that are a little higher than others should make nothing smaller.
 Scale ScaleForRoom(Size client, QSize room, double dots = 1);

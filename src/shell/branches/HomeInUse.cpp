@@ -25,7 +25,8 @@ bool MayWorkIn(Processes& processes, Prompts& prompts, const QString& home)
         return IsAskedFor(prompts, home);
     case HomeOwner::OtherInFront:
         prompts.MsgBox(u"Home Directory in use"_s,
-                       u"Lineforge is open in this Home Directory already, and has come to the front:\n"_s + home,
+                       u"Lineforge is open in this Home Directory already, and has been called to the front:\n"_s +
+                           home,
                        Buttons::Information);
         return false;
     }

@@ -12,8 +12,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRasterWindow>
 #include <QScreen>
 #include <QTest>
+
+#include <stdexcept>
 
 namespace lineforge
 {
@@ -194,6 +197,43 @@ TEST_F(PromptsTest, TheColourDialogCancelled_GivesNothing)
         PressKey(dialog, Qt::Key_Escape);
     });
     EXPECT_EQ(Ask().PickColour(Black), std::nullopt);
+}
+
+// A window in front that isn't one of the program's own, as another program's would be.
+struct OtherProgram {
+    OtherProgram()
+    {
+        Window.show();
+        Window.requestActivate();
+        if (!QTest::qWaitFor([] { return !QApplication::activeWindow(); }))
+            throw std::runtime_error("the program's window stays in front");
+    }
+    QRasterWindow Window;
+};
+
+TEST_F(PromptsTest, ABoxBelongsToTheWindowUsedLast_WhileAnotherProgramIsInUse)
+{
+    QWidget first;
+    QWidget last;
+    for (QWidget* window : {&first, &last}) {
+        window->show();
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+    }
+    const OtherProgram other;
+    {
+        const NextDialog next([&last](QDialog& dialog) {
+            EXPECT_EQ(dialog.parentWidget(), &last);
+            dialog.reject();
+        });
+        Ask().MsgBox(u"t"_s, u"text"_s, Buttons::Information);
+    }
+    last.showMinimized();
+    const NextDialog next([&first](QDialog& dialog) {
+        EXPECT_EQ(dialog.parentWidget(), &first) << "what belongs to a minimised window may be hidden with it";
+        dialog.reject();
+    });
+    Ask().MsgBox(u"t"_s, u"text"_s, Buttons::Information);
 }
 
 // A family that every machine of the tests has.

@@ -16,7 +16,8 @@ protected:
 
     void ExpectTold(const QString& home)
     {
-        const QString text = u"Lineforge is open in this Home Directory already, and has come to the front:\n"_s + home;
+        const QString text =
+            u"Lineforge is open in this Home Directory already, and has been called to the front:\n"_s + home;
         Prompts.Expect(u"Home Directory in use", text, Buttons::Information);
     }
     void ExpectQuestion(const QString& home, Answer answer)
