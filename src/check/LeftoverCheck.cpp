@@ -27,14 +27,17 @@ const std::vector<Sign>& Signs()
                                   QRegularExpression::CaseInsensitiveOption |
                                       QRegularExpression::DotMatchesEverythingOption);
     };
+    // The six letters that the toolkit takes at random. Words of users (.backup, .LATEST, .Holder) are not as mixed,
+    // nor are five in a hundred of its own.
+    const QString random = uR"((?-i)(?!.?[a-z]+$|[A-Z]+$)[A-Za-z]{6})"_s;
     static const std::vector<Sign> signs{
         {named(uR"(\.lineforge-.*)"_s), u"left by a copy that was cut off"_s},
         {named(uR"(\.arriving-.*)"_s), u"left by a start that was cut off"_s},
         {named(uR"(.*\.(mdb|jet)\.new(-journal)?)"_s), u"left by a conversion that was cut off"_s},
-        {named(uR"(.*-(journal|wal|shm))"_s),
+        {named(uR"(.*\.(mdb|jet)-(journal|wal|shm))"_s),
          u"left by a change that was cut off, or that is just being made; the branch's next change sees to it"_s},
         // What a file of the program's is written to before it takes its name.
-        {named(uR"((|AliasList|(LfgDat|Import)_.|Gedcom|.*Sub|.{4,5}_\d\d?)\.[~a-z]{2,3}\.[a-z]{6})"_s),
+        {named(uR"((|AliasList|(LfgDat|Import)_.|Gedcom|.*Sub|.{4,5}_\d\d?)\.[~a-z]{2,3}\.)"_s + random),
          u"left by a writing that was cut off"_s},
     };
     return signs;

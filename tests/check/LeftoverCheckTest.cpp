@@ -41,7 +41,8 @@ TEST_F(LeftoverTest, OtherFilesOfAHome_AreNone)
 {
     for (const QStringView path :
          {u"AliasList.bak", u".cfg", u"LfgDat_A/LfgDat_A.~cf", u"LfgDat_A/LfgDat_A.jet", u"LfgDat_A/LfgDat_A.txt",
-          u"LfgDat_A/Gedcom.tmp", u"LfgDat_A/LfgDat_A.ldb", u"holiday.jpg.backup", u"a-journal-of-mine"})
+          u"LfgDat_A/Gedcom.tmp", u"LfgDat_A/LfgDat_A.ldb", u"holiday.jpg.backup", u"a-journal-of-mine",
+          u"family-journal", u"LfgDat_A/LfgDat_A.mdb.backup", u"AliasList.cfg.Backup", u"LfgDat_A/LfgDat_A.cfg.LATEST"})
         home.WriteFile(path, "");
     EXPECT_EQ(Findings(), Found());
 }

@@ -28,8 +28,11 @@ public:
         return Owner;
     }
 
+    void LeaveHomesBut(const QStringList& homes) override { Kept = homes; }
+
     QStringList Started;
     QStringList Claimed;
+    QStringList Kept;                     // in which it went on at last
     HomeOwner Owner = HomeOwner::ThisRun; // of every home
 };
 

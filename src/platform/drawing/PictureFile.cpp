@@ -13,9 +13,6 @@ namespace lineforge
 
 namespace
 {
-// More than the finest cameras have. What is larger would take more memory to decode than a picture is worth, even
-// where little of it is kept.
-constexpr qint64 mostDots = 128'000'000;
 constexpr int bytesADot = 4;
 constexpr qint64 mostBytes = 1 << 30; // of a file
 
@@ -27,7 +24,7 @@ void AllowLargestPicture()
 {
     constexpr int megabyte = 1 << 20;
     [[maybe_unused]] static const bool isAllowed =
-        (QImageReader::setAllocationLimit(static_cast<int>(mostDots * bytesADot / megabyte) + 1), true);
+        (QImageReader::setAllocationLimit(static_cast<int>(MostDots * bytesADot / megabyte) + 1), true);
 }
 
 QSize WholeSize(QSize size)
@@ -64,7 +61,7 @@ QImage DecodePicture(const QString& file, const DecodedSize& sizeFor)
     if (std::ranges::find(scripts, QByteArrayView(reader.format())) != std::end(scripts))
         throw RuntimeError(ErrorNumber::InvalidPicture, file);
     const QSize stored = reader.size();
-    if (qint64{stored.width()} * stored.height() > mostDots)
+    if (qint64{stored.width()} * stored.height() > MostDots)
         throw RuntimeError(ErrorNumber::InvalidPicture, file);
     // Told beforehand, the size saves the decoder most of its work. It is that of the picture as it is stored.
     const bool liesOnItsSide = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);

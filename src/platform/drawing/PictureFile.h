@@ -11,6 +11,10 @@
 namespace lineforge
 {
 
+// The dots of the largest picture: more than the finest cameras have. What is larger would take more memory to decode
+// than a picture is worth, even where little of it is kept.
+inline constexpr qint64 MostDots = 128'000'000;
+
 // The size in dots to which a picture of that size is to be decoded; both upright.
 using DecodedSize = std::function<QSize(QSize size)>;
 

@@ -4,9 +4,11 @@
 #include "platform/drawing/PictureFile.h"
 
 #include <QPromise>
+#include <QSemaphore>
 #include <QThread>
 
 #include <memory>
+#include <optional>
 
 namespace lineforge
 {
@@ -15,9 +17,39 @@ namespace
 {
 constexpr unsigned long pollMilliseconds = 2;
 
+// Large pictures wait for each other, so that a page of them takes no more memory at one time than the largest there
+// may be. Those that don't tell their size are taken for such.
+class Share
+{
+public:
+    explicit Share(QSize picture)
+        : taken_(picture.isValid() ? static_cast<int>(qint64{picture.width()} * picture.height() / dotsAPiece) : whole)
+    {
+        Room().acquire(taken_);
+    }
+    ~Share() { Room().release(taken_); }
+    Share(const Share&) = delete;
+    Share& operator=(const Share&) = delete;
+
+private:
+    static constexpr int dotsAPiece = 1024;
+    static constexpr int whole = MostDots / dotsAPiece;
+    static QSemaphore& Room()
+    {
+        static QSemaphore room(whole);
+        return room;
+    }
+
+    int taken_;
+};
+
 QImage Decode(const QString& file, QSize dots)
 {
-    const QImage picture = DecodePicture(file, [dots](QSize) { return dots; });
+    std::optional<Share> share;
+    const QImage picture = DecodePicture(file, [dots, &share](QSize stored) {
+        share.emplace(stored);
+        return dots;
+    });
     // Not every format tells its size beforehand.
     return picture.size() == dots ? picture : picture.scaled(dots, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }

@@ -23,11 +23,8 @@ namespace
 constexpr char wasCalled = '!';
 
 // The same for all paths that lead there. Each user has names of his own: nobody's windows come to another one's front.
-QString NameOf(int directory)
+QString NameOf(const struct stat& status)
 {
-    struct stat status {
-    };
-    fstat(directory, &status);
     return u"lineforge-%1-%2-%3"_s.arg(getuid()).arg(status.st_dev).arg(status.st_ino);
 }
 
@@ -39,6 +36,14 @@ void ComeToFront()
     if (window->windowStates().testFlag(Qt::WindowMinimized))
         window->setWindowStates(window->windowStates() & ~Qt::WindowMinimized);
     BringToFront(*window);
+}
+
+QString NameOf(int directory)
+{
+    struct stat status {
+    };
+    fstat(directory, &status);
+    return NameOf(status);
 }
 } // namespace
 
@@ -54,6 +59,13 @@ HomeClaim::~HomeClaim()
 {
     if (directory_ >= 0)
         close(directory_);
+}
+
+bool HomeClaim::IsOf(const QString& home) const
+{
+    struct stat status {
+    };
+    return stat(QFile::encodeName(home).constData(), &status) == 0 && name_ == NameOf(status);
 }
 
 void HomeClaim::AnswerCalls()

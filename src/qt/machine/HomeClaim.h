@@ -18,6 +18,7 @@ public:
     HomeClaim& operator=(const HomeClaim&) = delete;
 
     bool IsOurs() const { return isOurs_; }
+    bool IsOf(const QString& home) const;
     bool IsOfSameHome(const HomeClaim& other) const { return name_ == other.name_; }
 
     // Of our own claim: from now on this run asks for the front whenever another one calls.

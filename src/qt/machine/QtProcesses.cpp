@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QProcess>
 
+#include <algorithm>
 #include <utility>
 
 namespace lineforge
@@ -23,13 +24,21 @@ qint64 QtProcesses::Shell(const QString& program, const QString& file)
 HomeOwner QtProcesses::ClaimHome(const QString& home)
 {
     auto claim = std::make_unique<HomeClaim>(home);
-    if (claim_ && claim_->IsOfSameHome(*claim))
+    const auto isSameHome = [&claim](const auto& held) { return held->IsOfSameHome(*claim); };
+    if (std::ranges::any_of(claims_, isSameHome))
         return HomeOwner::ThisRun;
     if (!claim->IsOurs())
         return claim->CallOwner() ? HomeOwner::OtherInFront : HomeOwner::OtherOutOfReach;
     claim->AnswerCalls();
-    claim_ = std::move(claim);
+    claims_.push_back(std::move(claim));
     return HomeOwner::ThisRun;
+}
+
+void QtProcesses::LeaveHomesBut(const QStringList& homes)
+{
+    std::erase_if(claims_, [&homes](const auto& held) {
+        return std::ranges::none_of(homes, [&held](const QString& home) { return held->IsOf(home); });
+    });
 }
 
 } // namespace lineforge

@@ -4,6 +4,7 @@
 #include "qt/machine/HomeClaim.h"
 
 #include <memory>
+#include <vector>
 
 namespace lineforge
 {
@@ -13,9 +14,10 @@ class QtProcesses : public Processes
 public:
     qint64 Shell(const QString& program, const QString& file) override;
     HomeOwner ClaimHome(const QString& home) override;
+    void LeaveHomesBut(const QStringList& homes) override;
 
 private:
-    std::unique_ptr<HomeClaim> claim_;
+    std::vector<std::unique_ptr<HomeClaim>> claims_;
 };
 
 } // namespace lineforge

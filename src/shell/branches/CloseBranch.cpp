@@ -13,6 +13,7 @@
 #include "map/subjects/SubjectPanel.h"
 #include "map/tools/LeaveTools.h"
 #include "program/branch/WorkDatabase.h"
+#include "shell/branches/HomeInUse.h"
 
 namespace lineforge
 {
@@ -38,6 +39,7 @@ void CloseBranch(Program& p)
     p.Record.sPicFile.clear();
     p.Branch.WorkDir.clear();
     p.Branch.WorkDirLen = 0;
+    LeaveOtherHomes(p.Processes, p.Branch);
 
     p.Form2.Unload();
     p.Form3.Unload();

@@ -1,5 +1,7 @@
 #include "shell/branches/HomeInUse.h"
 
+#include "platform/files/FileSystem.h"
+
 namespace lineforge
 {
 
@@ -31,6 +33,15 @@ bool MayWorkIn(Processes& processes, Prompts& prompts, const QString& home)
         return false;
     }
     Q_UNREACHABLE();
+}
+
+void LeaveOtherHomes(Processes& processes, const BranchState& branch)
+{
+    QStringList homes{branch.HomeDir};
+    for (const QString& directory : {branch.WorkDir, branch.WorkDirSaved})
+        if (!directory.isEmpty())
+            homes << directory.first(directory.lastIndexOf(PathSeparator) + 1);
+    processes.LeaveHomesBut(homes);
 }
 
 } // namespace lineforge

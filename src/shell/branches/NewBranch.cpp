@@ -15,6 +15,7 @@
 #include "program/branch/MakeDirectory.h"
 #include "program/branch/WorkDatabase.h"
 #include "program/ui/BranchUi.h"
+#include "shell/branches/HomeInUse.h"
 
 #include <QScopeGuard>
 
@@ -144,6 +145,7 @@ void MakeBranch(Program& p, const QString& name, const QString& directory)
         ParseLines(p);
         ParseTexts(p);
     });
+    LeaveOtherHomes(p.Processes, p.Branch);
     EnableBranchUI(*p.Form1);
     std::ignore = TellIfEmptyTable(Records(p.Form3), p.Prompts); // nothing is left to be done
 }

@@ -72,7 +72,9 @@ void OpenSelectedBranch(Program& p)
         return CloseBranchList(p);
     }
 
-    if (!EnterBranch(p, name, DirectoryName(entry)))
+    const bool isOpen = EnterBranch(p, name, DirectoryName(entry));
+    LeaveOtherHomes(p.Processes, p.Branch);
+    if (!isOpen)
         return;
     EnableBranchUI(*p.Form1);
     p.Screen.Pointer = MousePointer::Default;
@@ -109,12 +111,12 @@ void ChangeHomeDirectory(Program& p)
         p.Branch.WorkDir = workBefore;
         p.Form8->Label1.Caption = u"Path: "_s + p.Branch.HomeDir;
         p.Alias.AliasAttr = 0;
-        p.Processes.ClaimHome(homeBefore);
     } else {
         // Also where a record of another branch is left after it.
         p.Branch.HomeDirSaved = p.Branch.HomeDir;
         FillBranchList(p);
     }
+    LeaveOtherHomes(p.Processes, p.Branch);
 }
 
 } // namespace lineforge

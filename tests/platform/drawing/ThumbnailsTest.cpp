@@ -61,6 +61,22 @@ TEST_F(ThumbnailsTest, WhatWasExpected_ComesAsIfItHadNotBeen)
         EXPECT_TRUE(IsLike(ColourOf(paths.at(number)), QColor(number * 8, 0, 0))) << number;
 }
 
+// Two of them have more dots than are decoded at one time.
+TEST_F(ThumbnailsTest, PageOfLargePictures_ComesOneByOne)
+{
+    QImage large(10000, 7000, QImage::Format_Grayscale8);
+    large.fill(Qt::white);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    large.save(&buffer, "png");
+    QStringList paths;
+    for (int number = 0; number < 3; ++number)
+        paths << home.WriteFile(u"%1.png"_s.arg(number), bytes);
+    thumbnails.Expect(files, paths, dots);
+    for (const QString& path : paths)
+        EXPECT_TRUE(IsLike(ColourOf(path), Qt::white));
+}
+
 TEST_F(ThumbnailsTest, NextExpectation_TakesThePlaceOfTheOneBefore)
 {
     QStringList first;

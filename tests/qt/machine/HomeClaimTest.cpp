@@ -68,12 +68,14 @@ TEST_F(HomeClaimTest, FirstRun_ComesToTheFront_WithTheWindowLastInUse)
     EXPECT_EQ(QApplication::activeWindow(), &inUse);
 }
 
-TEST_F(HomeClaimTest, OtherHomes_AreFree_AndOneIsHeldAtATime)
+TEST_F(HomeClaimTest, OtherHomes_AreFree_AndEachIsHeldUntilItIsLeft)
 {
     TemporaryHome other;
     Here->ClaimHome(Home.Path());
     EXPECT_EQ(ClaimFromElsewhere(other.Path()), HomeOwner::ThisRun);
     EXPECT_EQ(Here->ClaimHome(other.Path()), HomeOwner::ThisRun);
+    EXPECT_EQ(ClaimFromElsewhere(Home.Path()), HomeOwner::OtherInFront);
+    Here->LeaveHomesBut({other.Path() + u"/."_s, Home.Path(u"nowhere")});
     EXPECT_EQ(ClaimFromElsewhere(Home.Path()), HomeOwner::ThisRun);
     EXPECT_EQ(ClaimFromElsewhere(other.Path()), HomeOwner::OtherInFront);
 }

@@ -118,6 +118,37 @@ TEST_F(OtherHomeInUseTest, IsTold_AndTheHomeStays)
     EXPECT_EQ(P.Form8->List1.Items.value(), (QStringList{u"Smiths"_s, u"Jones"_s}));
 }
 
+// Its map and its records are still in this run.
+TEST_F(OtherHomeInUseTest, HomeOfTheOpenBranch_IsKept_UntilThatIsLeft)
+{
+    BranchBuilder(Other, u'C').Row({{u"File", u"A001"}}).Picture(u"A001", Qt::red).Build();
+    P.Form8->List1.ListIndex = 0;
+    Click(P.Form8->Command1.Click);
+    P.Form1->Open.Click();
+    PickOther();
+    Click(P.Form8->Command3.Click);
+    EXPECT_EQ(Machine.Processes.Kept, QStringList({There, Here}));
+
+    P.Form8->List1.ListIndex = 0;
+    Click(P.Form8->Command1.Click);
+
+    EXPECT_EQ(P.Branch.sBranchName, u"Browns"_s);
+    EXPECT_EQ(Machine.Processes.Kept, QStringList({There, There}));
+}
+
+TEST_F(OtherHomeInUseTest, HomeOfTheBranchThatWasOpen_IsLeft_WhenItIsClosed)
+{
+    P.Form8->List1.ListIndex = 0;
+    Click(P.Form8->Command1.Click);
+    P.Form1->Open.Click();
+    PickOther();
+    Click(P.Form8->Command3.Click);
+
+    Click(P.Form1->mnuCloseDB.Click);
+
+    EXPECT_EQ(Machine.Processes.Kept, QStringList{There});
+}
+
 TEST_F(OtherHomeInUseTest, WithYes_IsGoneTo)
 {
     Machine.Processes.Owner = HomeOwner::OtherOutOfReach;
@@ -139,7 +170,8 @@ TEST_F(OtherHomeInUseTest, HomeThatCannotBeWritten_IsGivenUpForTheOneBefore)
     Click(P.Form8->Command3.Click);
 
     EXPECT_EQ(P.Branch.HomeDir, Here);
-    EXPECT_EQ(Machine.Processes.Claimed, QStringList({Here, There, Here}));
+    EXPECT_EQ(Machine.Processes.Claimed, QStringList({Here, There}));
+    EXPECT_EQ(Machine.Processes.Kept, QStringList{Here});
 }
 
 } // namespace
