@@ -56,20 +56,25 @@ void PutOutRecord(const RecordOutput& output, Pairs& pairs)
 }
 
 // A record of a branch that isn't there, or can't be opened, is passed over as one that is gone. False when what stands
-// for the branch's records is no database.
+// for the branch's records is no database. Who doesn't wait for a branch in use gives the output up, and keeps the
+// list.
 bool PutOutRecordOfSibling(const RecordOutput& output, const QString& entry, Pairs& pairs)
 {
     try {
         SwitchToSibling(output, entry.left(1));
     } catch (const RuntimeError& refusal) {
+        if (refusal.IsTold)
+            throw;
         output.Errors.Last = refusal;
         return refusal.Number != ErrorNumber::NotADatabase;
     }
-    const auto goBack = qScopeGuard([&output] { output.Errors.Ignoring([&output] { ReturnFromSibling(output); }); });
+    auto goBack = qScopeGuard([&output] { output.Errors.Ignoring([&output] { ReturnFromSibling(output); }); });
     bool isThere = false;
     output.Errors.Ignoring([&] { isThere = Records(output.Form3).Seek(Field::File, entry); });
     if (isThere)
         PutOutRecord(output, pairs);
+    goBack.dismiss();
+    ReturnFromSibling(output);
     return true;
 }
 

@@ -280,6 +280,49 @@ TEST_F(BookmarkListTest, EntryOfASpoiltBranch_IsPassedOver)
     EXPECT_EQ(P.Branch.UsingAlternate, 0);
 }
 
+TEST_F(BookmarkListTest, EntryOfABranchInUse_GivesTheOutputUp_WhereTheUserDoesntWait_AndTheListStays)
+{
+    GivenPeople(2);
+    const QStringList entries{u"A001"_s, u"B001"_s, u"A002"_s};
+    GivenBookmarks(entries);
+    GoTo(u"A002");
+    const auto other = LockDatabase(u'B');
+    for (MenuItem* command : {&P.Form1->mnuPrinList, &P.Form1->mnuTxtFileList}) {
+        if (command == &P.Form1->mnuTxtFileList)
+            Prompts.Expect(u"Make a Text File.",
+                           QString(u"The Bookmark list will be copied Text File located at\n"_s +
+                                   Home.Path(u"LfgDat_A/LfgDat_A.txt")),
+                           Buttons::Information);
+        ExpectDatabaseInUse(Answer::Cancel);
+
+        Click(command->Click);
+
+        EXPECT_EQ(Entries(), entries);
+        EXPECT_EQ(P.Branch.UsingAlternate, 0);
+        EXPECT_EQ(Current(), u"A002"_s);
+        EXPECT_FALSE(QFile::exists(Home.Path(u"LfgDat_A/LfgDat_A.txt")));
+    }
+}
+
+TEST_F(BookmarkListTest, OwnBranchInUse_WhenTheWayLeadsBackToIt_GivesTheOutputUp_AndTheListStays)
+{
+    GivenPeople(2);
+    const QStringList entries{u"B001"_s, u"A001"_s};
+    GivenBookmarks(entries);
+    GoTo(u"A002");
+    const auto other = LockDatabase(u'B');
+    std::unique_ptr<SqliteFile> own;
+    ExpectDatabaseInUse(Answer::Retry, [&] {
+        other->Execute("COMMIT");
+        own = LockDatabase(u'A');
+    });
+    ExpectDatabaseInUse(Answer::Cancel);
+
+    Click(P.Form1->mnuPrinList.Click);
+
+    EXPECT_EQ(Entries(), entries);
+}
+
 TEST_F(BookmarkListTest, ForeignNumberInTheOwnBranch_IsPrintedFromThere)
 {
     GivenRecords({{{u"File", u"A001"}}, {{u"File", u"B001"}, {u"Surname", u"Guest"}}});

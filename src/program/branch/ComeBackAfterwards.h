@@ -32,18 +32,31 @@ inline void ComeBack(const RecordState& state, Window<forms::Form3>& recordForm)
 }
 
 // Does something that moves the cursor, by way of other branches too, and makes the current record current again. Begun
-// on a record of another branch it ends where the doing has left it, for that branch is left meanwhile.
+// on a record of another branch it ends where the doing has left it, for that branch is left meanwhile. What ends the
+// doing goes on when the way back is done, as far as that is open.
 template <class Act>
 void ComeBackAfterwards(const BranchState& branch, RecordState& state, Window<forms::Form3>& recordForm, Act&& act)
 {
     const bool isOwn = branch.UsingAlternate == 0;
     const Recordset& records = Records(recordForm);
     const Bookmark before = records.HasRow() ? records.GetBookmark() : Bookmark();
-    std::forward<Act>(act)();
-    if (!isOwn || branch.UsingAlternate != 0 || !before)
-        return;
-    state.SavedBookmark = before;
-    Records(recordForm).SetBookmark(before);
+    const auto comeBack = [&] {
+        if (!isOwn || branch.UsingAlternate != 0 || !before)
+            return;
+        state.SavedBookmark = before;
+        Records(recordForm).SetBookmark(before);
+    };
+    try {
+        std::forward<Act>(act)();
+    } catch (const RuntimeError&) {
+        try {
+            comeBack();
+        } catch (const RuntimeError&) {
+            // The first refusal is the one to be told.
+        }
+        throw;
+    }
+    comeBack();
 }
 
 } // namespace lineforge
