@@ -3,6 +3,7 @@
 #include "platform/base/Number.h"
 #include "platform/base/RuntimeError.h"
 #include "platform/base/Text.h"
+#include "platform/base/VisibleText.h"
 #include "program/branch/AliasFile.h"
 #include "program/branch/BranchPaths.h"
 
@@ -71,6 +72,8 @@ QStringList DirectoriesOf(Home& home, const QStringList& entries)
             Tell(home, u"the entry '"_s + entry + u"' has no directory, and hides the branches behind it");
         else if (!leads)
             Tell(home, u"the entry '"_s + entry + u"' leads to no directory of a branch");
+        else if (ShowsNothing(names.back()))
+            Tell(home, u"the branch in "_s + directory + u" has a name of which nothing is seen");
         if (IsRepeated(names, names.size() - 1))
             Tell(home, u"the name '"_s + names.back() + u"' stands there more than once");
     }

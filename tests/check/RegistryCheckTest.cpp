@@ -73,6 +73,26 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"Smiths=LfgDat_A,Jones=LfgDat_A/,", u"the entry 'Jones=LfgDat_A/' leads to no directory of a branch"},
         Row{"Smiths=LfgDat_A,Joneses=lfgdat_a,", u"the directory lfgdat_a stands there more than once"}));
 
+class UnseenNameTest : public RegistryCheckTest, public testing::WithParamInterface<QByteArray>
+{
+};
+
+TEST_P(UnseenNameTest, IsTold)
+{
+    Write(GetParam() + "=LfgDat_A,");
+    EXPECT_EQ(Findings(), Found{OfList(u"the branch in LfgDat_A has a name of which nothing is seen")});
+}
+
+INSTANTIATE_TEST_SUITE_P(Names, UnseenNameTest,
+                         testing::Values("", " ", "  \t", "\xc2\xa0", "\xc2\xad", "\xcc\x81", "\xe1\x85\x9f",
+                                         "\xe2\x80\x8b", "\xe2\x81\xa0", "\xe3\x85\xa4", "\xef\xbb\xbf"));
+
+TEST_F(RegistryCheckTest, NameOfWhichALittleIsSeen_IsNotTold)
+{
+    Write("\xe2\x80\x8b.=LfgDat_A,");
+    EXPECT_EQ(Findings(), Found());
+}
+
 TEST_F(RegistryCheckTest, NameThatStandsTwice_IsTold)
 {
     BranchBuilder(home, u'B').Gallery().Build();

@@ -242,7 +242,7 @@ TEST_F(BranchImportTest, NameInUse_CaseIgnored_IsToldAndAskedAgain)
 TEST_F(BranchImportTest, NameThatTheListWouldntGiveBack_IsRefusedAsOneInUse)
 {
     ExpectImportDialog(OnStick(u'C'));
-    for (const QStringView name : {u"Bro=wns", u" ", u"[]", u"[Smiths", u"Bro[wns"}) {
+    for (const QStringView name : {u"Bro=wns", u" ", u"\u200B", u"\u3164\u0301", u"[]", u"[Smiths", u"Bro[wns"}) {
         ExpectImportName(name);
         Prompts.Expect(u"Duplicate Name entered.", u"Cannot have Tree Branch databases with same name",
                        Buttons::Information);

@@ -4,6 +4,7 @@
 #include "forms/form9.h"
 #include "platform/base/Number.h"
 #include "platform/base/Text.h"
+#include "platform/base/VisibleText.h"
 #include "platform/files/TextFile.h"
 #include "program/branch/AliasFile.h"
 #include "program/state/Program.h"
@@ -74,7 +75,7 @@ void PublishAliasList(const BranchRegistry& registry, Refusals refusals)
 }
 
 // Whether the branch list can give the name back: the first equals sign ends it there, the reader drops what is lost on
-// it, and a row of nothing but blanks and marks isn't seen or isn't there.
+// it, and a row that shows nothing, or nothing but commas and brackets, isn't seen or isn't there.
 // KEPT(MadeBranchTest.NameWithComma_HidesItselfAndLaterBranchesFromTheList): a comma among other characters is taken,
 // and hides its branch and those behind it in the list.
 // Mended, such a name would be refused or changed.
@@ -86,8 +87,9 @@ bool IsGivenBack(const QString& name)
     constexpr QStringView lost = u"=[\n\r";
     constexpr QStringView marks = u",]";
     const auto isLost = [&](QChar character) { return lost.contains(character); };
-    const auto isNothing = [&](QChar character) { return character.isSpace() || marks.contains(character); };
-    return std::ranges::none_of(name, isLost) && !std::ranges::all_of(name, isNothing);
+    QString shown = name;
+    shown.removeIf([&](QChar character) { return marks.contains(character); });
+    return std::ranges::none_of(name, isLost) && !ShowsNothing(shown);
 }
 
 QString WholeEntry(const QString& name, const QString& directory)

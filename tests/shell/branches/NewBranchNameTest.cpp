@@ -66,6 +66,12 @@ INSTANTIATE_TEST_SUITE_P(Names, LostNameTest,
                                          u"smi[ths", u"Jones[[", u"Bro[wns", u"[Browns", u"Browns[",
                                          u"Browns, of [Leeds]", u"Bro\nwns", u"Browns\r"));
 
+// Of which a list shows nothing: ignorable characters, blanks of all kinds, marks that have no letter to stand on.
+INSTANTIATE_TEST_SUITE_P(NamesOfWhichNothingIsSeen, LostNameTest,
+                         testing::Values(u"\u200B", u"\u2060", u"\uFEFF", u"\u00AD", u"\u3164", u"\u115F", u"\uFFA0",
+                                         u"\u2800", u"\u00A0", u"\u3000", u"\u0001", u"\u0301", u"\uFE0F",
+                                         u"\U000E0001", u"\U000E0FFF", u" \u200B\u0301 ", u",\u200D]", u"]\u0301"));
+
 // And names that it gives back.
 class KeptNameTest : public MadeBranchTest, public testing::WithParamInterface<QStringView>
 {
@@ -87,7 +93,8 @@ TEST_P(KeptNameTest, ReadsBackAsItWasTyped_OpensAndGoesByIt)
 
 INSTANTIATE_TEST_SUITE_P(Names, KeptNameTest,
                          testing::Values(u" Browns", u"Browns ", u"Browns of Leeds", u"-", u"...", u"***", u"\"'", u"1",
-                                         u"LfgDat_C", u"Gr\u00FC\u00DFe"));
+                                         u"LfgDat_C", u"Gr\u00FC\u00DFe", u"e\u0301", u"\u200BBrowns",
+                                         u"\U0001F600\uFE0F"));
 
 TEST_F(MadeBranchTest, NameWithComma_HidesItselfAndLaterBranchesFromTheList)
 {
