@@ -106,7 +106,9 @@ void ImportBranch(Program& p)
 
     const auto pointerBack = qScopeGuard([&p] { p.Screen.Pointer = MousePointer::Default; });
     p.Scratch.sNewDir = directory;
-    // Before anything is made: the user may not wait for another program that works on it.
+    // Before anything is made: what is typed may have to stay, and its branch with it, and the user may not wait for
+    // another program that works on the database.
+    StoreTypedOrStay(p);
     const DatabaseToCopy database = TakeDatabase(p.Databases.Others(), p.Files, *chosen);
     if (!MakeTarget(p, directory))
         return;

@@ -140,6 +140,11 @@ void GoToTheGallery(World& world)
     LeaveTheRow(world);
 }
 
+void OpenAnother(World& world)
+{
+    world.Choose(u"Jones");
+}
+
 void ExitFromIt(World& world)
 {
     world.Click(world.P.Form3->mnuExit.Click);
@@ -392,6 +397,7 @@ std::vector<Command> AllCommands()
         {"EditAndLeaveTheRow", GivenTypedText, LeaveTheRow},
         {"EditAndTree", GivenTypedText, GoBackToTheTree},
         {"EditAndGallery", GivenTypedText, GoToTheGallery},
+        {"EditAndOpen", GivenTypedText, OpenAnother},
         {"EditAndExit", GivenTypedText, ExitFromIt},
         {"Add", OpenRecords, AddOne},
         // A record that can't be taken out stays, with its files and its box; so do they when the disk fails just

@@ -49,38 +49,20 @@ protected:
         ExpectImportDialog(Home.Path(u"stick/LfgDat_C/LfgDat_C.mdb"));
         ExpectImportName(u"Browns");
         ExpectImportQuestion(u"Browns"_s, u"LfgDat_C"_s);
-        ExpectRefusal();
+        ExpectCannotOpenBox();
         Click(P.Form1->mnuImpSub.Click);
     }
     void OpenJones()
     {
-        ExpectRefusal();
+        ExpectCannotOpenBox();
         Choose(u"Jones");
     }
-    void ExpectRefusal()
-    {
-        if (IsTypedRefused)
-            ExpectTypedRefusedBox();
-        ExpectCannotOpenBox();
-    }
-
     QString SurnameOfJohn()
     {
         return SqliteFile(Home.Path(u"LfgDat_A/LfgDat_A.mdb"))
             .Value("SELECT Surname FROM Tree99 WHERE File = 'A001'")
             .value_or(QString());
     }
-    void GivenTextThatIsRefused()
-    {
-        Click(P.Form1->Command1.Click);
-        SqliteFile(Home.Path(u"LfgDat_A/LfgDat_A.mdb"))
-            .Execute("CREATE TRIGGER Refusal BEFORE UPDATE ON Tree99 BEGIN SELECT RAISE(ABORT, 'refused'); END");
-        P.Form3->Text2.Text = u"Brown"_s;
-        IsTypedRefused = true;
-    }
-    void ExpectTypedRefusedBox() { ExpectErrorBox(ErrorNumber::DeviceIo, u"Device I/O error"); }
-
-    bool IsTypedRefused = false;
 };
 
 struct Command {
@@ -221,17 +203,6 @@ TEST_P(AfterRefusalTest, TextThatWasTyped_IsStoredInItsOwnBranch)
     EXPECT_EQ(SurnameOfJohn(), u"Brown"_s);
 }
 
-TEST_P(AfterRefusalTest, TextThatTheOldBranchRefuses_IsToldFirst_AndGoesWithItsWindow)
-{
-    GivenTextThatIsRefused();
-
-    BeRefused();
-
-    EXPECT_FALSE(P.Form3.IsLoaded());
-    EXPECT_EQ(SurnameOfJohn(), u"Smith"_s);
-    EXPECT_EQ(ExitCode(), std::nullopt);
-}
-
 TEST_P(AfterRefusalTest, Delete_TakesTheNamedBranch_AndNothingOfTheOldOne)
 {
     BeRefused();
@@ -281,18 +252,77 @@ TEST_P(AfterRefusalTest, Exit_WritesNothing)
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
 }
 
-TEST_F(RefusedBranchTest, TextThatTheOldBranchRefuses_IsTold_AndAnotherBranchOpensAllTheSame)
+// A user with a text that the database of his branch doesn't take, as on a full disk, wants to go over to another.
+class RefusedTextTest : public RefusedBranchTest, public testing::WithParamInterface<Way>
 {
-    QFile::remove(Home.Path(u"LfgDat_B/LfgDat_B.mdb"));
-    BranchOf(u'B').Build();
-    GivenTextThatIsRefused();
-    ExpectTypedRefusedBox();
+protected:
+    RefusedTextTest()
+    {
+        for (const QStringView directory : {u"LfgDat_B", u"stick/LfgDat_C"}) {
+            QDir(Home.Path(directory)).removeRecursively();
+            BranchOf(directory.back()).InDirectory(directory).Build();
+        }
+        Click(P.Form1->Command1.Click);
+        Database("CREATE TRIGGER Refusal BEFORE UPDATE ON Tree99 BEGIN SELECT RAISE(ABORT, 'refused'); END");
+        P.Form3->Text2.Text = u"Brown"_s;
+    }
 
-    Choose(u"Jones");
+    void Database(const QByteArray& statement) { SqliteFile(Home.Path(u"LfgDat_A/LfgDat_A.mdb")).Execute(statement); }
+    void Go()
+    {
+        if (GetParam() == Way::Import)
+            return Click(P.Form1->mnuImpSub.Click);
+        Click(P.Form1->Open.Click);
+        P.Form8->List1.SetText(u"Jones"_s);
+        Click(P.Form8->Command1.Click);
+    }
+    void ExpectQuestions()
+    {
+        if (GetParam() == Way::Open)
+            return;
+        ExpectImportDialog(Home.Path(u"stick/LfgDat_C/LfgDat_C.mdb"));
+        ExpectImportName(u"Browns");
+        ExpectImportQuestion(u"Browns"_s, u"LfgDat_C"_s);
+    }
+};
 
-    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"B001"_s);
-    EXPECT_EQ(P.Form3->Text2.Text.value(), u"Smith"_s);
+INSTANTIATE_TEST_SUITE_P(Ways, RefusedTextTest, testing::ValuesIn(ways),
+                         [](const auto& turn) { return NameOf(turn.param); });
+
+TEST_P(RefusedTextTest, IsTold_AndStaysInItsBox_WithItsBranchOpen)
+{
+    const QByteArray registry = Registry();
+    ExpectQuestions();
+    ExpectErrorBox(ErrorNumber::DeviceIo, u"Device I/O error");
+
+    Go();
+
+    EXPECT_TRUE(Prompts.IsUsedUp());
+    EXPECT_EQ(ExitCode(), std::nullopt);
+    EXPECT_EQ(P.Branch.sBranchName, u"Smiths"_s);
+    EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_A"));
+    EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A001"_s);
+    EXPECT_EQ(P.Form3->Text2.Text.value(), u"Brown"_s);
+    EXPECT_EQ(P.Map.BoxArr[0][BoxColumn::File].Text(), u"A001"_s);
+    EXPECT_EQ(P.Screen.Pointer.value(), MousePointer::Default);
+    EXPECT_EQ(Registry(), registry);
+    EXPECT_FALSE(Home.Exists(u"LfgDat_C"));
     EXPECT_EQ(SurnameOfJohn(), u"Smith"_s);
+}
+
+TEST_P(RefusedTextTest, IsStoredWhenTheDatabaseTakesIt_AndTheOtherBranchOpens)
+{
+    ExpectQuestions();
+    ExpectErrorBox(ErrorNumber::DeviceIo, u"Device I/O error");
+    Go();
+    Database("DROP TRIGGER Refusal");
+    ExpectQuestions();
+
+    Go();
+
+    EXPECT_EQ(SurnameOfJohn(), u"Brown"_s);
+    EXPECT_EQ(P.Branch.sBranchName, GetParam() == Way::Open ? u"Jones"_s : u"Browns"_s);
+    EXPECT_EQ(P.Form3->Text2.Text.value(), u"Smith"_s);
 }
 
 TEST_F(RefusedBranchTest, OnARecordOfASibling_TheProgramIsOutOfBoth)

@@ -24,20 +24,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-// Before the branch is left that it was typed for. What its database refuses is told and given up.
-void StoreOrGiveUpTyped(Program& p)
-{
-    try {
-        StoreTyped(p.Form3);
-    } catch (const RuntimeError& refusal) {
-        // Who has been asked already, and hasn't waited, keeps his text, and the branch with it.
-        if (refusal.IsTold)
-            throw;
-        ReportError(p.Errors, p.Prompts, refusal);
-        p.Form3->Data1.GiveUpEdits();
-    }
-}
-
 // The program is named after another branch than the one whose records are open: any command would act on both. So the
 // records go, with all windows that show them, as when a branch is closed.
 void LetGoOfRecords(Program& p)
@@ -101,9 +87,20 @@ void DrawBranchMap(Program& p)
     ParseWhatIsThere(p);
 }
 
+void StoreTypedOrStay(Program& p)
+{
+    try {
+        StoreTyped(p.Form3);
+    } catch (RuntimeError& refusal) {
+        ReportError(p.Errors, p.Prompts, refusal);
+        refusal.IsTold = true;
+        throw;
+    }
+}
+
 bool EnterBranch(Program& p, const QString& name, const QString& directory)
 {
-    StoreOrGiveUpTyped(p);
+    StoreTypedOrStay(p);
     // Who doesn't wait for another program keeps the branch that he has.
     const auto database = ReachDatabase(p.Databases, p.Files, DatabasePath(p.Branch.HomeDir + directory));
     p.Branch.sBranchName = name;

@@ -15,8 +15,12 @@ void ReturnToOwnSubject(Program& p);
 // Puts the map away and goes over to the branch in that directory of the home: its database, first record current, and
 // its map. The menus stay as they are. False, and a box, when the database can't be opened: name and directory are
 // those of the branch all the same, and no records are open any more. Whatever fails after that costs only its own part
-// of the map. What is typed is stored before, or told and given up.
+// of the map. What is typed is stored before, as by StoreTypedOrStay.
 [[nodiscard]] bool EnterBranch(Program& p, const QString& name, const QString& directory);
+
+// Stores what is typed, before the branch is left that it was typed for. What its database refuses is told and ends the
+// command: the branch stays open, and the text in its box, to be stored when that can be done.
+void StoreTypedOrStay(Program& p);
 
 // The current record, which must be there, beside the map, and the branch's name in the captions. A picture that isn't
 // there is told.
