@@ -6,9 +6,7 @@
 #include <QDir>
 #include <QFile>
 
-#include <cerrno>
 #include <cstdio>
-#include <cstring>
 
 namespace
 {
@@ -22,12 +20,6 @@ constexpr const char* purpose =
     "\n"
     "Ends with 0 when nothing is wrong, with 1 when something is, and with 2 when the home or a part\n"
     "of it couldn't be looked at, or when the report can't be written.\n";
-
-bool Tell(const QByteArray& report)
-{
-    const auto size = static_cast<std::size_t>(report.size());
-    return std::fwrite(report.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
-}
 } // namespace
 
 int main(int argc, char* argv[])
@@ -49,9 +41,7 @@ int main(int argc, char* argv[])
     const QString home = QDir::cleanPath(QDir().absoluteFilePath(QFile::decodeName(line.Operands.front().c_str())));
     const check::Report report = check::CheckHome(home);
     const QByteArray told = line.HasFlag ? check::ReportJson(report, home) : check::ReportText(report, home);
-    if (!Tell(told)) {
-        std::fprintf(stderr, "lineforge-check: the report can't be written: %s\n", std::strerror(errno));
-        return static_cast<int>(check::Verdict::NotWhole);
-    }
-    return static_cast<int>(check::VerdictOf(report));
+    std::fwrite(told.constData(), 1, static_cast<std::size_t>(told.size()), stdout);
+    const bool isTold = RequireWritten("lineforge-check", "the report");
+    return static_cast<int>(isTold ? check::VerdictOf(report) : check::Verdict::NotWhole);
 }

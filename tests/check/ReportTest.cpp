@@ -70,6 +70,16 @@ TEST_F(ReportTest, ReportThatCantBeWritten_EndsWith2_AndALineOnTheErrorOutput)
     }
 }
 
+TEST_F(ReportTest, AnswerOfTheCommandLineThatCantBeWritten_EndsWith2_AndALineOnTheErrorOutput)
+{
+    for (const QString& asked : {u"help"_s, u"version"_s}) {
+        const Outcome outcome = RunProgram({u"--"_s + asked}, u"/dev/full"_s);
+        EXPECT_EQ(outcome.Status, 2);
+        EXPECT_EQ(outcome.Errors,
+                  QString(u"lineforge-check: the "_s + asked + u" can't be written: No space left on device\n"));
+    }
+}
+
 TEST_F(ReportTest, HomeInOrder_IsToldInWords)
 {
     EXPECT_EQ(Text(), u"Looked at 1 branch with 3 records, 4 boxes, 3 pictures of people and 3 gallery files.\n"

@@ -144,13 +144,16 @@ protected:
         std::string Errors;
     };
 
-    static Answer Ask(const QStringList& arguments)
+    static Answer Ask(const QStringList& arguments, const QString& output = {})
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         for (const QString& name : {u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"QT_QPA_PLATFORM"_s})
             environment.remove(name);
         QProcess process;
+        environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
         process.setProcessEnvironment(environment);
+        if (!output.isEmpty())
+            process.setStandardOutputFile(output);
         process.start(tar + QLatin1StringView(GetParam()), arguments);
         if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
             return {};
@@ -174,6 +177,16 @@ TEST_P(CommandLineTest, Help_TellsUsageAndPurpose)
     EXPECT_THAT(answer.Output, StartsWith(std::string("Usage: ") + GetParam() + " [--help] [--version] "));
     EXPECT_THAT(answer.Output, HasSubstr("\n\n"));
     EXPECT_EQ(answer.Errors, "");
+}
+
+TEST_P(CommandLineTest, AnswerThatCantBeWritten_IsToldOnTheErrorOutput)
+{
+    for (const QString& asked : {u"help"_s, u"version"_s}) {
+        const Answer answer = Ask({u"--"_s + asked}, u"/dev/full"_s);
+        EXPECT_EQ(answer.ExitCode, 2);
+        EXPECT_EQ(answer.Errors, std::string(GetParam()) + ": the " + asked.toStdString() +
+                                     " can't be written: No space left on device\n");
+    }
 }
 
 TEST_P(CommandLineTest, UnknownOption_OrTooManyNames_AreToldOnTheErrorOutput)

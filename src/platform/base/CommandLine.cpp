@@ -1,6 +1,8 @@
 #include "platform/base/CommandLine.h"
 
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <getopt.h>
 
 namespace lineforge
@@ -8,7 +10,7 @@ namespace lineforge
 
 namespace
 {
-constexpr int wrongCall = 2;
+constexpr int failed = 2;
 
 void PrintUsage(std::FILE* output, const CommandDescription& description)
 {
@@ -22,19 +24,19 @@ int Help(const CommandDescription& description)
 {
     PrintUsage(stdout, description);
     std::fprintf(stdout, "\n%s", description.Purpose);
-    return 0;
+    return RequireWritten(description.Name, "the help") ? 0 : failed;
 }
 
-int Version()
+int Version(const CommandDescription& description)
 {
     std::puts("Lineforge " LINEFORGE_VERSION);
-    return 0;
+    return RequireWritten(description.Name, "the version") ? 0 : failed;
 }
 
 int Refuse(const CommandDescription& description)
 {
     PrintUsage(stderr, description);
-    return wrongCall;
+    return failed;
 }
 
 std::vector<option> OptionsOf(const CommandDescription& description)
@@ -60,7 +62,7 @@ std::optional<int> ReadOptions(int argc, char* argv[], const CommandDescription&
         case 'h':
             return Help(description);
         case 'v':
-            return Version();
+            return Version(description);
         case 'f':
             hasFlag = true;
             break;
@@ -86,6 +88,14 @@ CommandLine ReadCommandLine(int argc, char* argv[], const CommandDescription& de
     if (count < description.LeastOperands || count > description.MostOperands)
         line.ExitStatus = Refuse(description);
     return line;
+}
+
+bool RequireWritten(const char* program, const char* what)
+{
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
+        return true;
+    std::fprintf(stderr, "%s: %s can't be written: %s\n", program, what, std::strerror(errno));
+    return false;
 }
 
 } // namespace lineforge

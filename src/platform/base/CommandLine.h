@@ -24,8 +24,13 @@ struct CommandLine {
     std::optional<int> ExitStatus;     // set when there is nothing more to do
 };
 
-// Answers --help and --version on the output; an option that isn't known, or the wrong number of operands, is told on
-// the error output and ends with 2. Needs no display. Options are moved before the operands in `argv`.
+// Answers --help and --version on the output; an option that isn't known, the wrong number of operands, or an output
+// that doesn't take the answer, is told on the error output and ends with 2. Needs no display. Options are moved before
+// the operands in `argv`.
 CommandLine ReadCommandLine(int argc, char* argv[], const CommandDescription& description);
+
+// Whether the output has taken all that was written to it; if not, that is told on the error output, by the name of the
+// program and that of what was written.
+[[nodiscard]] bool RequireWritten(const char* program, const char* what);
 
 } // namespace lineforge
