@@ -217,7 +217,7 @@ void EditorWindow::Print()
 
 void EditorWindow::PrintOnQueue(QPrinter& printer)
 {
-    TellOrderOfPages(printer);
+    CorrectServerOptions(printer);
     area_->print(&printer);
     if (!HasServerTakenJob())
         Tell(this, u"The text couldn't be printed."_s);

@@ -27,11 +27,17 @@ void SetServerOptions(QPrinter& printer, const QStringList& options)
     printer.printEngine()->setProperty(serverOptions, options);
 }
 
-void TellOrderOfPages(QPrinter& printer)
+void CorrectServerOptions(QPrinter& printer)
 {
-    if (printer.outputFormat() != QPrinter::NativeFormat || printer.pageOrder() == QPrinter::FirstPageFirst)
+    if (printer.outputFormat() != QPrinter::NativeFormat)
         return;
-    SetServerOptions(printer, ServerOptions(printer) + QStringList{u"outputorder"_s, u"reverse"_s});
+    QStringList options = ServerOptions(printer);
+    const qsizetype pages = options.indexOf(u"page-ranges"_s);
+    if (pages >= 0)
+        options.remove(pages, 2);
+    if (printer.pageOrder() == QPrinter::LastPageFirst)
+        options += {u"outputorder"_s, u"reverse"_s};
+    SetServerOptions(printer, options);
 }
 
 // The server's library isn't linked, for it brings some twenty others, which nobody needs who starts the program and

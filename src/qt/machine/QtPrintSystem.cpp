@@ -121,7 +121,7 @@ void QtPrintSystem::SetChosen(std::unique_ptr<QPrinter> printer)
     jobsToFile_ = 0;
     setup_ = {};
     if (chosen_)
-        TellOrderOfPages(*chosen_);
+        CorrectServerOptions(*chosen_);
 }
 
 // On a printer of its own: the dialog changes it before it is accepted.

@@ -6,8 +6,10 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QLineEdit>
+#include <QPageRanges>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QRadioButton>
 
 #include <algorithm>
 #include <iterator>
@@ -31,9 +33,8 @@ QString ValueOf(const QString& option, const QStringList& options)
 // One list in place of two: the former's values go before the latter's, but for what the dialog asks for itself.
 QStringList Merged(const QStringList& former, QStringList latter)
 {
-    const QStringList ofTheDialog{pageSet, u"page-ranges"_s};
     for (qsizetype name = 0; name + 1 < former.size(); name += 2) {
-        if (ofTheDialog.contains(former[name]))
+        if (former[name] == pageSet)
             continue;
         const qsizetype same = latter.indexOf(former[name]);
         if (same < 0)
@@ -67,6 +68,16 @@ QStringList TextsOf(const QDialog& properties)
     return texts;
 }
 
+QLineEdit* PageListIn(const QPrintDialog& dialog)
+{
+    return dialog.findChild<QLineEdit*>(u"pagesLineEdit"_s);
+}
+
+QRadioButton* ChoiceOfPageListIn(const QPrintDialog& dialog)
+{
+    return dialog.findChild<QRadioButton*>(u"pagesRadioButton"_s);
+}
+
 QString QueueIn(const QPrintDialog& dialog)
 {
     const auto* queues = dialog.findChild<QComboBox*>(u"printers"_s);
@@ -77,6 +88,7 @@ QString QueueIn(const QPrintDialog& dialog)
 QueueDialog::QueueDialog(QPrintDialog& dialog, QueueSetup before) : dialog_(dialog), before_(std::move(before))
 {
     ShowPageSet();
+    FollowPageList();
     QCoreApplication::instance()->installEventFilter(this);
 }
 
@@ -89,9 +101,38 @@ void QueueDialog::ShowPageSet()
         sets->setCurrentIndex(static_cast<int>(index));
 }
 
-// A window of its own for each queue, which is kept as long as the queue is chosen.
+// The toolkit's dialog (of 6.4) looks for the pages at the printer, to which it hands the list only behind that, and so
+// refuses any list.
+void QueueDialog::FollowPageList()
+{
+    if (const auto* list = PageListIn(dialog_))
+        connect(list, &QLineEdit::textChanged, this,
+                [this](const QString& pages) { dialog_.printer()->setPageRanges(QPageRanges::fromString(pages)); });
+}
+
+void QueueDialog::ShowPageList()
+{
+    auto* list = PageListIn(dialog_);
+    auto* choice = ChoiceOfPageListIn(dialog_);
+    if (!list || !choice || before_.Pages.isEmpty() || QueueIn(dialog_) != before_.Queue)
+        return;
+    choice->setChecked(true);
+    list->setText(before_.Pages);
+}
+
+QString QueueDialog::ListedPages() const
+{
+    const auto* list = PageListIn(dialog_);
+    const auto* choice = ChoiceOfPageListIn(dialog_);
+    return list && choice && choice->isChecked() ? list->text() : QString();
+}
+
+// The toolkit shows its dialog's pages when the dialog itself is shown, as the first to the last at that. A window of
+// its own for each queue's properties is kept as long as the queue is chosen.
 bool QueueDialog::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == &dialog_ && event->type() == QEvent::Show)
+        ShowPageList();
     auto* window = event->type() == QEvent::Show ? qobject_cast<QDialog*>(watched) : nullptr;
     if (window && window != properties_ && window->findChild<QWidget*>(u"pagesPerSheetCombo"_s)) {
         properties_ = window;
@@ -118,7 +159,7 @@ QueueSetup QueueDialog::Taken(QPrinter& printer) const
 {
     if (printer.outputFormat() != QPrinter::NativeFormat)
         return {};
-    QueueSetup setup{printer.printerName(), ServerOptions(printer), {}};
+    QueueSetup setup{printer.printerName(), ServerOptions(printer), ListedPages(), {}};
     if (properties_ && properties_->result() == QDialog::Accepted) {
         setup.Inputs = TextsOf(*properties_);
     } else if (setup.Queue == before_.Queue) {

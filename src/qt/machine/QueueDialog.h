@@ -15,11 +15,12 @@ namespace lineforge
 struct QueueSetup {
     QString Queue;
     QStringList Options; // what the server is told, names and values in turn
+    QString Pages;       // which are listed, in the user's own words; empty where none are
     QStringList Inputs;  // what the window of the queue's properties says, box by box; empty until it has been opened
 };
 
-// Has a print dialog show again what the toolkit's forgets from one time to the next: the set of pages, and what stands
-// in the window of the queue's properties, which is made when the user opens it.
+// Has a print dialog show again what the toolkit's forgets from one time to the next: the pages that are listed, the
+// set of pages, and what stands in the window of the queue's properties, which is made when the user opens it.
 class QueueDialog : public QObject
 {
 public:
@@ -33,6 +34,9 @@ protected:
 
 private:
     void ShowPageSet();
+    void FollowPageList();
+    void ShowPageList();
+    QString ListedPages() const;
     void ShowProperties();
 
     QPrintDialog& dialog_;
