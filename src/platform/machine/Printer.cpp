@@ -13,11 +13,20 @@
 namespace lineforge
 {
 
+using namespace Qt::StringLiterals;
+
 namespace
 {
 constexpr double twipsAnInch = 1440;
 // A step of the pen's width on paper, where a line of 15 twips would look coarse.
 constexpr int penTwips = 7;
+
+RuntimeError NoPageIsWanted(const QString& wanted)
+{
+    RuntimeError error(ErrorNumber::PrinterError);
+    error.Text += u"\nNo page of this print is in the page range of Printer Setup: "_s + wanted;
+    return error;
+}
 } // namespace
 
 // One document on its way to the printer.
@@ -40,8 +49,10 @@ public:
         BeginPage();
     }
 
-    // False when there is nothing to be sent, too.
-    bool Send() { return paper_.isActive() && paper_.end(); }
+    // False while nobody wants any of the pages.
+    bool HasPages() const { return paper_.isActive(); }
+    QString WantedPages() const { return device_->pageRanges().toString(); }
+    bool Send() { return paper_.end(); }
 
 private:
     bool IsWanted() const { return device_->pageRanges().isEmpty() || device_->pageRanges().contains(page_); }
@@ -161,6 +172,8 @@ void Printer::EndDoc()
     const auto aborted = qScopeGuard([this] { Abort(); });
     if (!job_)
         return;
+    if (!job_->HasPages())
+        throw NoPageIsWanted(job_->WantedPages());
     if (!job_->Send())
         throw RuntimeError(ErrorNumber::PrinterError);
     system_.HandOver();

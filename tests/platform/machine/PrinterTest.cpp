@@ -310,11 +310,17 @@ TEST_F(PrintedPageTest, PagesThatAreNotWanted_AreLeftOut)
     EXPECT_EQ(System.Marks.size(), 4u);
 }
 
-TEST_F(PrintedPageTest, JobWithoutAnyPageThatIsWanted_IsPrinterError)
+TEST_F(PrintedPageTest, JobWithoutAnyPageThatIsWanted_IsPrinterError_AndTellsWhichAre)
 {
     System.Wanted = QPageRanges::fromString(u"2-3"_s);
     Paper.Print(u"one"_s);
-    EXPECT_EQ(RefusalOf([this] { Paper.EndDoc(); }), ErrorNumber::PrinterError);
+    try {
+        Paper.EndDoc();
+        ADD_FAILURE() << "nothing was refused";
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.Number, ErrorNumber::PrinterError);
+        EXPECT_EQ(error.Text, u"Printer error\nNo page of this print is in the page range of Printer Setup: 2-3"_s);
+    }
     EXPECT_TRUE(System.Marks.empty());
     EXPECT_EQ(RefusalOf([this] { Paper.EndDoc(); }), 0);
 }
