@@ -5,34 +5,44 @@
 # the examples are the user's from the moment they are there; branches are no files of the package.
 set -eu
 
-package=$(dirname "$(readlink -f "$0")")/../lib/lineforge
-usage="Usage: lineforge [--help] [--version] [directory]"
+package=$(readlink -f "$(dirname "$(readlink -f "$0")")/../lib/lineforge")
 
-refuse() {
-    echo "${1:+lineforge: $1
-}$usage" >&2
-    exit 2
-}
-
-# As the program itself reads them, whose own home, however, is another one than the launcher's.
-for argument in "$@"; do
-    case $argument in
-    --version) exec "$package/lineforge" --version ;;
-    --help)
-        echo "$usage
+# The program's own tells of the home in which it stands.
+tell_help() {
+    echo "Usage: lineforge [--help] [--version] [directory]
 
 Draws your family tree and keeps its records: those of the home in that directory, or, where
 none is named, of the one in ~/Lineforge. The directory is made where there is none yet."
-        exit 0
-        ;;
-    -*) refuse "unrecognized option '$argument'" ;;
-    esac
-done
-[ $# -le 1 ] || refuse ""
-home=${1:-${HOME:?}/Lineforge}
+}
 
-mkdir -p "$home"
-home=$(readlink -f "$home")
+# Whatever is no start is the program's to answer or to refuse, in the name under which the user has called.
+leave_to_program() {
+    PATH=$package:$PATH
+    exec lineforge "$@"
+}
+
+# Which home is meant: options are told in full by now, and stand before the directory. Fails where there is no start.
+read_arguments() {
+    while [ "$1" != -- ]; do
+        case $1 in
+        --help) tell_help && exit 0 || exit 2 ;;
+        --version) return 1 ;;
+        *) shift 2 ;;
+        esac
+    done
+    shift
+    [ $# -le 1 ] || return 1
+    home=${1-${HOME:?}/Lineforge}
+    [ -d "$home" ] || { [ -n "$home" ] && [ ! -e "$home" ] && [ ! -L "$home" ]; }
+}
+
+# As the program reads them itself.
+arguments=$(getopt --quiet --alternative --options "" --longoptions help,version,platform:,session: -- "$@") ||
+    leave_to_program "$@"
+eval "read_arguments $arguments" || leave_to_program "$@"
+
+mkdir -p -- "$home"
+home=$(readlink -f -- "$home")
 arriving=$home/.arriving-$$
 trap 'rm -rf "$arriving"' EXIT
 trap 'exit 1' HUP INT TERM
@@ -50,18 +60,17 @@ bring_up_to_date() {
     done
 }
 
-cd "$package"
-find . -type f ! -path './AliasList.cfg' ! -path './examples/*' | bring_up_to_date
+(cd "$package" && find . -type f ! -path './AliasList.cfg' ! -path './examples/*') | bring_up_to_date
 
 # The registry comes last: its presence says that the home is complete.
 if [ ! -e "$home/AliasList.cfg" ]; then
     if [ ! -e "$home/examples" ]; then
-        cp -R examples "$arriving"
+        cp -R "$package/examples" "$arriving"
         mv -nT "$arriving" "$home/examples"
     fi
     put_in_place AliasList.cfg
 fi
 
+# A directory is named once more, in the words of the user, and so from where he stands.
 rm -rf "$arriving"
-cd "$home"
-exec ./lineforge
+exec "$home/lineforge" "$@"

@@ -39,7 +39,8 @@ protected:
 
     void PackageProgram(const QByteArray& version)
     {
-        Write(Package(u"lineforge"_s), "#!/bin/sh\necho " + version + " in \"$(dirname \"$(readlink -f \"$0\")\")\"\n");
+        Write(Package(u"lineforge"_s),
+              "#!/bin/sh\necho \"" + version + "\" in \"$(dirname \"$(readlink -f \"$0\")\")\"\n");
         ASSERT_TRUE(QFile::setPermissions(Package(u"lineforge"_s), executable));
     }
 
@@ -57,9 +58,9 @@ protected:
     QString User(const QString& file) const { return user_.filePath(file); }
     QString Home(const QString& file = {}) const { return user_.filePath(u"Lineforge/"_s + file); }
 
-    static std::string Started(const char* version, const QString& home)
+    static std::string Started(const QByteArray& version, const QString& home)
     {
-        return version + std::string(" in ") + QFileInfo(home).canonicalFilePath().toStdString() + '\n';
+        return version.toStdString() + " in " + QFileInfo(home).canonicalFilePath().toStdString() + '\n';
     }
 
 private:
@@ -168,41 +169,74 @@ TEST_F(LauncherTest, FileThatCannotBePutInPlace_StopsTheStart_AndLeavesNothingHa
     EXPECT_TRUE(QDir(Home()).entryList({u".arriving*"_s}, QDir::AllEntries | QDir::Hidden).isEmpty());
 }
 
-TEST_F(LauncherTest, WhatIsNoDirectory_IsToldHowToStart_AndMakesNothing)
+// What the program is to answer or to refuse it gets as it was given, on the machine, under the launcher's own name.
+TEST_F(LauncherTest, WhatIsNoStart_IsTheProgramsToJudge_AndMakesNothing)
 {
-    const QString usage = u"Usage: lineforge [--help] [--version] [directory]\n"_s;
-    const QString unknown = u"lineforge: unrecognized option '%1'\n"_s;
-    const std::pair<QStringList, QString> calls[]{
-        {{u"--halp"_s}, unknown.arg(u"--halp"_s) + usage},
-        {{u"one"_s, u"-x"_s}, unknown.arg(u"-x"_s) + usage},
-        {{u"one"_s, u"two"_s}, usage},
+    PackageProgram("asked $*");
+    Write(User(u"file.ged"_s), "0 HEAD");
+    ASSERT_TRUE(QFile::link(User(u"gone"_s), User(u"link"_s)));
+    const QStringList before = FilesBelow(User({}));
+    const QStringList calls[]{
+        {u"--version"_s},
+        {u"--vers"_s},
+        {u"-version"_s},
+        {u"one"_s, u"--version"_s},
+        {u"--version=2"_s},
+        {u"--halp"_s},
+        {u"--halp"_s, u"--help"_s},
+        {u"one"_s, u"-x"_s},
+        {u"one"_s, u"two"_s},
+        {u"--"_s, u"one"_s, u"--version"_s},
+        {u"--platform"_s},
+        {QString()},
+        {u"file.ged"_s},
+        {u"--"_s, u"file.ged"_s},
+        {u"link"_s},
     };
-    for (const auto& [arguments, told] : calls) {
-        const Outcome outcome = Launch(arguments);
-        EXPECT_EQ(outcome.ExitCode, 2);
-        EXPECT_EQ(outcome.Output, told);
-    }
-    EXPECT_TRUE(FilesBelow(User({})).isEmpty());
+    for (const QStringList& arguments : calls)
+        EXPECT_EQ(Launch(arguments).Output.toStdString(),
+                  Started("asked " + arguments.join(u' ').toUtf8(), Package({})));
+    EXPECT_EQ(FilesBelow(User({})), before);
 }
 
-TEST_F(LauncherTest, Version_IsTheProgramsToTell_AndMakesNothing)
+TEST_F(LauncherTest, WhatIsAStart_GetsTheProgramAllArguments)
 {
-    PackageProgram("asked $1");
-    const Outcome outcome = Launch({u"--version"_s});
-    EXPECT_EQ(outcome.ExitCode, 0);
-    EXPECT_TRUE(outcome.Output.startsWith(u"asked --version"_s)) << qUtf8Printable(outcome.Output);
-    EXPECT_TRUE(FilesBelow(User({})).isEmpty());
+    PackageProgram("started $*");
+    const struct {
+        QStringList Arguments;
+        QString Home;
+    } calls[]{
+        {{u"-platform"_s, u"xcb"_s}, u"Lineforge"_s},
+        {{u"one"_s, u"--platform"_s, u"--help"_s}, u"one"_s},
+        {{u"--plat=xcb"_s, u"two"_s, u"-session"_s, u"it's"_s}, u"two"_s},
+        {{u"--"_s, u"three"_s}, u"three"_s},
+        {{u"--"_s, u"-four"_s}, u"-four"_s},
+        {{u"--"_s}, u"Lineforge"_s},
+        {{u"it's \"five\" $HOME"_s}, u"it's \"five\" $HOME"_s},
+    };
+    for (const auto& [arguments, home] : calls) {
+        const Outcome outcome = Launch(arguments);
+        EXPECT_EQ(outcome.Output.toStdString(), Started("started " + arguments.join(u' ').toUtf8(), User(home)));
+        EXPECT_EQ(FilesBelow(User(home)), FilesBelow(Package({})));
+    }
 }
 
 // The program itself works where it stands.
 TEST_F(LauncherTest, Help_TellsTheLaunchersOwnHome_AndMakesNothing)
 {
-    const Outcome outcome = Launch({u"--help"_s});
-    EXPECT_EQ(outcome.ExitCode, 0);
-    EXPECT_TRUE(outcome.Output.startsWith(u"Usage: lineforge [--help] [--version] [directory]\n\n"))
-        << qUtf8Printable(outcome.Output);
-    EXPECT_TRUE(outcome.Output.contains(u"of the one in ~/Lineforge.")) << qUtf8Printable(outcome.Output);
+    for (const QString& word : {u"--help"_s, u"--he"_s, u"-h"_s}) {
+        const Outcome outcome = Launch({word});
+        EXPECT_EQ(outcome.ExitCode, 0);
+        EXPECT_TRUE(outcome.Output.startsWith(u"Usage: lineforge [--help] [--version] [directory]\n\n"))
+            << qUtf8Printable(outcome.Output);
+        EXPECT_TRUE(outcome.Output.contains(u"of the one in ~/Lineforge.")) << qUtf8Printable(outcome.Output);
+    }
     EXPECT_TRUE(FilesBelow(User({})).isEmpty());
+}
+
+TEST_F(LauncherTest, HelpThatCannotBeWritten_EndsWith2)
+{
+    EXPECT_EQ(LaunchBy(u"sh"_s, {u"-c"_s, u"exec \"$0\" --help >/dev/full"_s, Launcher()}).ExitCode, 2);
 }
 
 } // namespace

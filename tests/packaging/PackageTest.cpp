@@ -222,6 +222,32 @@ TEST(DebTest, CheckOfAHome_IsACommand)
               QFileInfo(deb + u"usr/lib/lineforge/lineforge-check").absoluteFilePath());
 }
 
+// What either starts with is the launcher's own matter.
+TEST(DebTest, Launcher_AnswersAndRefusesWhatTheProgramDoes_InItsWords)
+{
+    const QStringList calls[]{
+        {u"--version"_s},
+        {u"--vers"_s},
+        {u"--halp"_s},
+        {u"one"_s, u"-x"_s},
+        {u"one"_s, u"two"_s},
+        {u"--version=2"_s},
+        {u"--platform"_s},
+        {QString()},
+        {u"README.md"_s},
+        {u"--"_s, u"README.md"_s},
+        {u"-platform"_s, u"offscreen"_s, u"README.md"_s},
+    };
+    const auto told = [](const QString& program, const QStringList& arguments) {
+        Outcome outcome =
+            RunCommand(program, arguments, QProcessEnvironment::systemEnvironment(), QStringLiteral(LINEFORGE_ROOT));
+        outcome.Output.replace(program + u':', u"lineforge:"_s);
+        return std::pair(outcome.ExitCode, outcome.Output.toStdString());
+    };
+    for (const QStringList& arguments : calls)
+        EXPECT_EQ(told(deb + u"usr/bin/lineforge", arguments), told(tar + u"lineforge", arguments));
+}
+
 TEST(TarTest, IsTheHomeAndNothingElse)
 {
     EXPECT_EQ(FilesBelow(tar), Sorted(HomeFiles()));
