@@ -200,9 +200,9 @@ void GalleryPageAgain(benchmark::State& state)
         state.SetIterationTime(page.Build(state).Milliseconds.back() * aMillisecond);
 }
 
-BENCHMARK(GalleryFirstPicture)->Iterations(1)->Repetitions(5)->UseManualTime();
+BENCHMARK(GalleryFirstPicture)->Iterations(1)->Repetitions(20)->UseManualTime();
 BENCHMARK(GalleryPage)->Iterations(1)->Repetitions(5)->UseManualTime();
-BENCHMARK(GalleryLongestPause)->Iterations(1)->Repetitions(5)->UseManualTime();
+BENCHMARK(GalleryLongestPause)->Iterations(1)->Repetitions(20)->UseManualTime();
 BENCHMARK(GalleryPageAgain)->Iterations(1)->Repetitions(20)->UseManualTime();
 BENCHMARK(DecodeFirst)->Apply(ShortRuns<20>)->UseRealTime();
 BENCHMARK(DecodeAll)->Apply(ShortRuns<5>)->UseRealTime();
