@@ -88,9 +88,9 @@ void FilmView::Show(const QImage& picture)
     Describe();
 }
 
-void FilmView::Run(bool isRunning)
+void FilmView::SetRun(bool hasRun)
 {
-    if (std::exchange(isRunning_, isRunning) != isRunning)
+    if (std::exchange(hasRun_, hasRun) != hasRun)
         Describe();
 }
 
@@ -150,6 +150,8 @@ void PlayerView::SetUsable(bool usable)
 {
     for (QAbstractButton* button : buttons_)
         button->setEnabled(usable);
+    if (film_ && !usable)
+        film_->SetRun(false);
 }
 
 void PlayerView::ShowFilm(const QImage& picture)
@@ -160,8 +162,8 @@ void PlayerView::ShowFilm(const QImage& picture)
 
 void PlayerView::ShowTime(int position, int length)
 {
-    if (film_)
-        film_->Run(position > 0);
+    if (film_ && position > 0)
+        film_->SetRun(true);
     time_->setText(length > 0 ? PlayingTime(position, length) : QString());
 }
 

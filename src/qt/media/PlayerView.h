@@ -18,18 +18,18 @@ class FilmView : public QWidget
 public:
     explicit FilmView(QWidget* parent);
     void Show(const QImage& picture);
-    // What runs without a picture says so.
-    void Run(bool isRunning);
+    // What has run without a picture says so. Nothing has that has just been opened or closed.
+    void SetRun(bool hasRun);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     void Describe();
-    bool LacksPicture() const { return isRunning_ && picture_.isNull(); }
+    bool LacksPicture() const { return hasRun_ && picture_.isNull(); }
 
     QImage picture_;
-    bool isRunning_ = false;
+    bool hasRun_ = false;
 };
 
 // A player: its film above, its five buttons below, and between them the time where there is room for it.

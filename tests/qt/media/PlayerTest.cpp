@@ -92,7 +92,12 @@ TEST_F(PlayerTest, AFilmWhosePictureIsInAFormThatNobodyKnows_IsHeard_AndSaysSo)
     EXPECT_TRUE(ReachesItsEnd());
     EXPECT_TRUE(Player().Screen.value().isNull());
     Panels->Show();
-    EXPECT_NE(Find<QWidget>(*Panels, u"MMControl1Screen"_s).accessibleDescription(), QString());
+    const auto& film = Find<QWidget>(*Panels, u"MMControl1Screen"_s);
+    EXPECT_NE(film.accessibleDescription(), QString());
+    Press(u"Stop");
+    EXPECT_NE(film.accessibleDescription(), QString());
+    Press(u"Close");
+    EXPECT_EQ(film.accessibleDescription(), QString());
 }
 
 TEST_F(PlayerTest, AFileThatIsNotThereIsRefused)

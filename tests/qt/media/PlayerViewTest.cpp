@@ -126,22 +126,27 @@ TEST_F(PlayerViewTest, TheFilmKeepsItsProportions_OnBlack)
     EXPECT_EQ(Seen(u"MMControl1Screen"_s).pixel(seen.width() / 2, middle), black);
 }
 
-TEST_F(PlayerViewTest, AFilmThatRunsWithoutAPicture_SaysSo)
+TEST_F(PlayerViewTest, AFilmThatRunsWithoutAPicture_SaysSo_UntilItIsClosed)
 {
     const auto& film = Find<QWidget>(*Panels, u"MMControl1Screen"_s);
     const QImage black = Seen(u"MMControl1Screen"_s);
     EXPECT_EQ(film.accessibleDescription(), QString());
-    Panels->MMControl1.Position = 40;
-    EXPECT_NE(Seen(u"MMControl1Screen"_s), black);
-    EXPECT_EQ(film.accessibleDescription(), u"This film's picture can't be shown here."_s);
+    Panels->MMControl1.IsOpen = true;
+    for (const int position : {40, 0}) { // stopped, it is at its beginning
+        Panels->MMControl1.Position = position;
+        EXPECT_NE(Seen(u"MMControl1Screen"_s), black) << position;
+        EXPECT_EQ(film.accessibleDescription(), u"This film's picture can't be shown here."_s) << position;
+    }
     QImage picture(black.size(), QImage::Format_RGB32);
     picture.fill(Qt::black);
     Panels->MMControl1.Screen = picture;
     EXPECT_EQ(Seen(u"MMControl1Screen"_s), black);
     EXPECT_EQ(film.accessibleDescription(), QString());
     Panels->MMControl1.Screen = QImage();
-    Panels->MMControl1.Position = 0;
+    Panels->MMControl1.IsOpen = false;
     EXPECT_EQ(Seen(u"MMControl1Screen"_s), black);
+    EXPECT_EQ(film.accessibleDescription(), QString());
+    Panels->MMControl1.IsOpen = true; // another one
     EXPECT_EQ(film.accessibleDescription(), QString());
 }
 
