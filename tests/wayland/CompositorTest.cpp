@@ -1,7 +1,8 @@
-#include "gui/ProgramWindowTest.h"
+#include "gui/WindowCommands.h"
+#include "qt/style/Desktop.h"
+#include "wayland/SeenScreen.h"
 
-#include <QDir>
-#include <QFile>
+#include <QAction>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -12,10 +13,6 @@
 #include <QThread>
 #include <QWindow>
 
-#include <algorithm>
-#include <cstring>
-#include <functional>
-#include <numeric>
 #include <vector>
 
 namespace lineforge
@@ -34,68 +31,9 @@ protected:
         WriteAliasList(Home, {{u"Smiths", u"LfgDat_A"}});
     }
 
-    QImage SeenScreen()
-    {
-        const QString directory = Home.MakeDirectory(u"seen");
-        QProcess camera;
-        camera.setWorkingDirectory(directory);
-        camera.start(u"weston-screenshooter"_s, QStringList());
-        if (!camera.waitForFinished() || camera.exitCode() != 0)
-            throw std::runtime_error("no picture of the screen");
-        const QString taken = QDir(directory).entryList({u"*.png"_s}).value(0);
-        const QImage picture = QImage(directory + u'/' + taken).convertToFormat(QImage::Format_RGB32);
-        QFile::remove(directory + u'/' + taken);
-        return picture;
-    }
-
-    // Whether what the window holds is to be seen somewhere on the screen, whole.
-    bool IsSeen(const Form& form)
-    {
-        QWidget& client = *static_cast<QMainWindow&>(ViewOf(form)).centralWidget();
-        return QTest::qWaitFor(
-            [&] {
-                const QImage wanted = client.grab().toImage().convertToFormat(QImage::Format_RGB32);
-                return Shows(SeenScreen(), wanted);
-            },
-            patience);
-    }
+    bool IsSeen(const Form& form) { return lineforge::IsSeen(ViewOf(form)); }
 
     static constexpr int patience = 60000;
-
-private:
-    static bool Shows(const QImage& screen, const QImage& wanted)
-    {
-        const int telling = TellingRow(wanted);
-        for (int top = 0; top + wanted.height() <= screen.height(); ++top)
-            for (int left = 0; left + wanted.width() <= screen.width(); ++left)
-                if (ShowsRow(screen, wanted, {left, top}, telling) && ShowsAt(screen, wanted, {left, top}))
-                    return true;
-        return false;
-    }
-    // The one with the most in it. Others are as empty as much of the screen.
-    static int TellingRow(const QImage& picture)
-    {
-        std::vector<int> changes;
-        for (int row = 0; row < picture.height(); ++row) {
-            const auto* dots = reinterpret_cast<const QRgb*>(picture.constScanLine(row));
-            changes.push_back(
-                std::inner_product(dots + 1, dots + picture.width(), dots, 0, std::plus(), std::not_equal_to()));
-        }
-        return static_cast<int>(std::ranges::max_element(changes) - changes.begin());
-    }
-    static bool ShowsRow(const QImage& screen, const QImage& wanted, QPoint corner, int row)
-    {
-        const auto length = static_cast<std::size_t>(wanted.width()) * sizeof(QRgb);
-        const auto* seen = reinterpret_cast<const QRgb*>(screen.constScanLine(corner.y() + row)) + corner.x();
-        return std::memcmp(seen, wanted.constScanLine(row), length) == 0;
-    }
-    static bool ShowsAt(const QImage& screen, const QImage& wanted, QPoint corner)
-    {
-        for (int row = 0; row < wanted.height(); ++row)
-            if (!ShowsRow(screen, wanted, corner, row))
-                return false;
-        return true;
-    }
 };
 
 TEST_F(CompositorTest, TheMainWindow_TakesWhatIsFree_AndIsSeenWhole_WithAllThatItWasLaidOutWith)
@@ -165,6 +103,36 @@ TEST_F(CompositorTest, EveryMenu_OpensAndCloses_WithoutPointerAndKeyboard)
         menu.close();
         ServeEvents();
     }
+}
+
+// What is behind another window and is asked for. There is no hand that could press anything.
+class CompositorCommandTest : public WindowCommandTest
+{
+protected:
+    bool ComesToFront(QWidget& window) override { return IsSeen(window); }
+    void PutInFront(QWidget& window) override
+    {
+        ShowInFront(window);
+        EXPECT_TRUE(IsSeen(window));
+    }
+    void Press(QWidget& window, const std::vector<const char*>& path) override
+    {
+        const QString name = QString::fromLatin1(path.back());
+        if (auto* entry = window.findChild<QAction*>(name))
+            entry->trigger();
+        else
+            QTest::mouseClick(window.findChild<QWidget*>(name), Qt::LeftButton);
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Commands, CompositorCommandTest, testing::ValuesIn(window_commands::all), NameOfCommand);
+
+TEST_P(CompositorCommandTest, AWindowThatIsBehind_ComesToTheFront)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenWindow());
+    PutInFront(Asking());
+    GiveCommand();
+    EXPECT_TRUE(ComesToFront(AskedFor()));
 }
 
 // Without a keyboard no window is ever told that it is in front.
