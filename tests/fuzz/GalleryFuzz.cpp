@@ -12,7 +12,12 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <filesystem>
+#include <iterator>
+#include <set>
+#include <string>
+#include <utility>
 
 namespace lineforge::fuzz
 {
@@ -59,18 +64,48 @@ private:
                 fs::create_hard_link(picture_, directory_ / name.left(longestName).toStdString(), error);
     }
 
-    std::ptrdiff_t Files() const { return std::distance(fs::directory_iterator(directory_), fs::directory_iterator()); }
-
-    // How many files there are more after a command that may be refused.
-    template <class Command>
-    std::ptrdiff_t GrowthBy(Command&& command)
+    using Names = std::set<std::string>;
+    Names Files() const
     {
-        const std::ptrdiff_t before = Files();
+        Names names;
+        for (const fs::directory_entry& file : fs::directory_iterator(directory_))
+            names.insert(file.path().filename());
+        return names;
+    }
+
+    struct Change {
+        Names Gone;
+        Names New;
+    };
+
+    // Which names a command that may be refused takes away and brings.
+    template <class Command>
+    Change ChangeBy(Command&& command)
+    {
+        const Names before = Files();
         try {
             command();
         } catch (const RuntimeError&) {
         }
-        return Files() - before;
+        const Names after = Files();
+        Change change;
+        std::ranges::set_difference(before, after, std::inserter(change.Gone, change.Gone.end()));
+        std::ranges::set_difference(after, before, std::inserter(change.New, change.New.end()));
+        return change;
+    }
+
+    template <class Command>
+    void RequireSame(Command&& command)
+    {
+        const Change change = ChangeBy(std::forward<Command>(command));
+        Require(change.Gone.empty() && change.New.empty());
+    }
+
+    // Two files at most get other names.
+    void Rearrange(int from, int to)
+    {
+        const Change change = ChangeBy([&] { RearrangeTiles(p_, Tile(from), Tile(to)); });
+        Require(change.Gone.size() == change.New.size() && change.Gone.size() <= 2);
     }
 
     Image& Tile(int index) { return p_.Form5->Image1[index]; }
@@ -78,16 +113,17 @@ private:
     void Use()
     {
         p_.Scratch.ScanState = GalleryScan::Browsing;
-        Require(GrowthBy([&] { ShowRecordPicture(p_); }) == 0);
-        Require(GrowthBy([&] { BuildGalleryPage(p_); }) == 0);
-        Require(GrowthBy([&] { DropOnTile(p_, p_.Form1, 0, Tile(0)); }) == 0);
+        RequireSame([&] { ShowRecordPicture(p_); });
+        RequireSame([&] { BuildGalleryPage(p_); });
+        RequireSame([&] { DropOnTile(p_, p_.Form1, 0, Tile(0)); });
         CloseGalleryItem(p_);
-        Require(GrowthBy([&] { RearrangeTiles(p_, Tile(0), Tile(1)); }) == 0);
-        Require(GrowthBy([&] { RearrangeTiles(p_, Tile(2), Tile(0)); }) == 0);
+        Rearrange(0, 1);
+        Rearrange(2, 0);
         // Under a name that is taken already a file is replaced.
-        Require(GrowthBy([&] { AddGalleryFile(p_, GalleryKind::Text); }) <= 1);
-        Require(GrowthBy([&] { DeleteFileOfTile(p_, 0); }) <= 0);
-        Require(GrowthBy([&] { BuildGalleryPage(p_); }) == 0);
+        const Change addition = ChangeBy([&] { AddGalleryFile(p_, GalleryKind::Text); });
+        Require(addition.Gone.empty() && addition.New.size() <= 1);
+        Require(ChangeBy([&] { DeleteFileOfTile(p_, 0); }).New.empty());
+        RequireSame([&] { BuildGalleryPage(p_); });
     }
 
     FuzzHome home_;
