@@ -389,11 +389,16 @@ std::vector<Command> AllCommands()
         {.Name = "DeleteBranch",
          .Given = Nothing,
          .Do = DeleteTheBranch,
-         .Silent = u"^(LfgDat_A/|AliasList)",
+         .Silent = u"^(LfgDat_A(/|$)|AliasList)",
          .May = u"AliasList.cfg: : the branch in LfgDat_A isn't there"},
         // Files that can't be copied are left out.
         {.Name = "Export", .Given = GivenStick, .Do = ExportIt, .Silent = u"^stick/"},
-        {.Name = "Import", .Given = GivenGift, .Do = ImportIt, .Silent = u"^LfgDat_C/"},
+        // The branch that opens in the end is the sign, in the list or not.
+        {.Name = "Import",
+         .Given = GivenGift,
+         .Do = ImportIt,
+         .Silent = u"^(LfgDat_C(/|$)|AliasList)",
+         .May = u"^LfgDat_C/.* isn't there$"},
         {"EditAndLeaveTheRow", GivenTypedText, LeaveTheRow},
         {"EditAndTree", GivenTypedText, GoBackToTheTree},
         {"EditAndGallery", GivenTypedText, GoToTheGallery},
@@ -437,7 +442,11 @@ std::vector<Command> AllCommands()
          .Given = [](World& world) { GivenFileForGallery(world, u"things/new.txt"); },
          .Do = [](World& world) { world.Click(world.P.Form5->mnuTxt.Click); },
          .Silent = u"/LfgGal_A/"},
-        {"SwapTiles", GivenTilesWithWholePaths, SwapTiles},
+        // Half way the names can't be given back either, once all are refused.
+        {.Name = "SwapTiles",
+         .Given = GivenTilesWithWholePaths,
+         .Do = SwapTiles,
+         .May = u"left by a swap of two tiles that was cut off"},
         {"CopyField", GivenComparison, CopyFieldAcross},
         {"CopyAllFields", GivenComparison, CopyAllAcross},
         {"AppendRecord", GivenComparison, AppendIt},
@@ -448,7 +457,12 @@ std::vector<Command> AllCommands()
         {"TextFile", GivenOldText, WriteText},
         {"BookmarksTextFile", GivenBookmark, WriteBookmarks},
         {.Name = "GedcomFile", .Given = GivenLineage, .Do = CreateGedcom, .WrittenAsItGoes = u"Gedcom.tmp"},
-        {.Name = "GedcomReport", .Given = GivenGedcomFile, .Do = ConvertIt, .WrittenAsItGoes = u"family.txt"},
+        // A report that can't be written is completed all the same.
+        {.Name = "GedcomReport",
+         .Given = GivenGedcomFile,
+         .Do = ConvertIt,
+         .WrittenAsItGoes = u"family.txt",
+         .Silent = u"family.txt$"},
     };
 }
 

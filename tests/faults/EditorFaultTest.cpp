@@ -1,5 +1,5 @@
 #include "editor/EditorTest.h"
-#include "faults/FailingWrites.h"
+#include "faults/FailingDisk.h"
 
 #include <QFileDialog>
 #include <QLineEdit>
@@ -91,9 +91,9 @@ protected:
         Type(u"new "_s);
         WillingUser user;
         user.Named = Home.Path(GetParam().File);
-        const FailingWrites failing(Home.Path(), number, fault);
+        const FailingDisk failing(Home.Path(), number, fault);
         Do();
-        return {failing.HaveBegun(), user.Told, Home.Snapshot()};
+        return {failing.HasBegun(), user.Told, Home.Snapshot()};
     }
 
     void Do()
@@ -138,13 +138,12 @@ TEST_P(EditorFaultTest, LeavesNothingTorn_AndIsTold)
 {
     const Run untouched = RunWith(1, Fault::FromThatOn);
     ASSERT_TRUE(untouched.WasReached) << "nothing is written";
-    const Run clean = RunWith(INT_MAX, Fault::OneWrite);
+    const Run clean = RunWith(INT_MAX, Fault::OneTime);
     EXPECT_EQ(clean.Told, QStringList());
     ASSERT_NE(clean.Files, untouched.Files);
-    for (const Fault fault : {Fault::OneWrite, Fault::FromThatOn})
+    for (const Fault fault : {Fault::OneTime, Fault::FromThatOn})
         for (int number = 1; !HasFailure(); ++number) {
-            SCOPED_TRACE(testing::Message()
-                         << "write " << number << (fault == Fault::OneWrite ? "" : " and all after"));
+            SCOPED_TRACE(testing::Message() << "write " << number << (fault == Fault::OneTime ? "" : " and all after"));
             const Run run = RunWith(number, fault);
             if (!run.WasReached)
                 break;

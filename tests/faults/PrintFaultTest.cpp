@@ -1,4 +1,4 @@
-#include "faults/FailingWrites.h"
+#include "faults/FailingDisk.h"
 #include "faults/World.h"
 #include "qt/machine/QtPrintSystem.h"
 
@@ -41,10 +41,9 @@ protected:
         printers.SetChosen(PrinterTo(world.Home.WriteFile(u"paper.pdf", older)));
         world.Click(world.P.Form1->mnuAddBkMark.Click);
         world.Person.Told.clear();
-        const FailingWrites failing(world.Home.Path(), number, fault);
+        const FailingDisk failing(world.Home.Path(), number, fault);
         world.Click(GetParam().Command(world.P));
-        return {failing.HaveBegun(), world.Person.Told, world.Home.ReadFile(u"paper.pdf"),
-                world.Home.Snapshot().size()};
+        return {failing.HasBegun(), world.Person.Told, world.Home.ReadFile(u"paper.pdf"), world.Home.Snapshot().size()};
     }
 
     static std::unique_ptr<QPrinter> PrinterTo(const QString& file)
@@ -66,13 +65,12 @@ protected:
 
 TEST_P(PrintFaultTest, LeavesNothingTorn_AndIsTold)
 {
-    const Run clean = RunWith(INT_MAX, Fault::OneWrite);
+    const Run clean = RunWith(INT_MAX, Fault::OneTime);
     ASSERT_TRUE(IsWhole(clean.Paper, clean.Paper));
-    ASSERT_TRUE(RunWith(1, Fault::OneWrite).WasReached) << "nothing is written";
-    for (const Fault fault : {Fault::OneWrite, Fault::FromThatOn})
+    ASSERT_TRUE(RunWith(1, Fault::OneTime).WasReached) << "nothing is written";
+    for (const Fault fault : {Fault::OneTime, Fault::FromThatOn})
         for (int number = 1; !HasFailure(); ++number) {
-            SCOPED_TRACE(testing::Message()
-                         << "write " << number << (fault == Fault::OneWrite ? "" : " and all after"));
+            SCOPED_TRACE(testing::Message() << "write " << number << (fault == Fault::OneTime ? "" : " and all after"));
             const Run run = RunWith(number, fault);
             if (!run.WasReached)
                 break;

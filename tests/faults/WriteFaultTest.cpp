@@ -1,16 +1,19 @@
+#include "check/LeftoverCheck.h"
 #include "faults/Commands.h"
-#include "faults/FailingWrites.h"
+#include "faults/FailingDisk.h"
 #include "support/HomeVerdict.h"
 #include "support/SqliteFile.h"
 
+#include <QFile>
 #include <QRegularExpression>
 
 #include <algorithm>
 #include <climits>
 #include <gtest/gtest.h>
 #include <map>
+#include <tuple>
 
-// Every command that writes, on a disk that refuses any one of its writes, or all from one on. No file is torn, and the
+// Every command that writes, on a disk that refuses it anything once, or all from then on. No file is torn, and the
 // user is told, unless nothing is amiss.
 namespace lineforge::faults
 {
@@ -23,25 +26,29 @@ using Rows = std::vector<SqliteFile::Row>;
 struct Outcome {
     QStringList Told;
     bool HasEnded = false; // by an error
-    Tree Files;            // without databases and what the engine works with
+    Tree Files;            // without databases, and without what is left of work
     std::map<QString, Rows> Databases;
 };
 
-bool IsOfTheEngine(const QString& name)
+// A piece of work that was cut off, as the check knows it by its name; it may hold anything.
+bool IsLeftBehind(const QString& path)
 {
-    return name.endsWith(u".mdb") || name.endsWith(u"-journal");
+    return check::IsLeftover(path.section(u'/', -1));
 }
 
 Outcome OutcomeOf(World& world)
 {
     Outcome outcome{world.Person.Told, world.Machine.Loop.ExitCode.value_or(0) != 0, {}, {}};
+    // Each run has a home of its own.
+    const QString home = world.Home.Path();
+    outcome.Told.replaceInStrings(home, QStringLiteral("home"));
     const Tree files = world.Home.Snapshot();
     for (auto file = files.begin(); file != files.end(); ++file) {
         if (file.key().endsWith(u".mdb"))
             outcome.Databases[file.key()] =
                 SqliteFile(world.Home.Path(file.key())).Query("SELECT * FROM Tree99 ORDER BY rowid");
-        if (!IsOfTheEngine(file.key()))
-            outcome.Files[file.key()] = file.value();
+        else if (!IsLeftBehind(file.key()))
+            outcome.Files[file.key()] = QByteArray(file.value()).replace(QFile::encodeName(home), "home");
     }
     return outcome;
 }
@@ -59,9 +66,25 @@ QStringList HomeFaults(World& world)
     return faults;
 }
 
-class WriteFaultTest : public testing::TestWithParam<Command>
+const char* NameOf(Refused refused)
+{
+    switch (refused) {
+    case Refused::Content:
+        return "Content";
+    case Refused::Halves:
+        return "Halves";
+    case Refused::Names:
+        return "Names";
+    }
+    return "";
+}
+
+class WriteFaultTest : public testing::TestWithParam<std::tuple<Command, Refused>>
 {
 protected:
+    static const Command& Tested() { return std::get<Command>(GetParam()); }
+    static Refused Refusal() { return std::get<Refused>(GetParam()); }
+
     struct Run {
         bool WasReached = false;
         Outcome Before;
@@ -74,14 +97,14 @@ protected:
     {
         Run run;
         World world;
-        GetParam().Given(world);
+        Tested().Given(world);
         world.Person.Told.clear();
         run.Before = OutcomeOf(world);
         run.FaultsBefore = HomeFaults(world);
         {
-            const FailingWrites failing(world.Home.Path(), number, fault);
-            GetParam().Do(world);
-            run.WasReached = failing.HaveBegun();
+            const FailingDisk failing(world.Home.Path(), number, fault, Refusal());
+            Tested().Do(world);
+            run.WasReached = failing.HasBegun();
         }
         world.LetGo();
         run.After = OutcomeOf(world);
@@ -106,7 +129,7 @@ protected:
 
     static bool IsWrittenAsItGoes(const QString& file)
     {
-        const QStringView ending = GetParam().WrittenAsItGoes;
+        const QStringView ending = Tested().WrittenAsItGoes;
         return !ending.isEmpty() && file.endsWith(ending);
     }
 
@@ -118,7 +141,7 @@ protected:
 
     static bool Passes(const QString& fault)
     {
-        return !GetParam().May.isEmpty() && QRegularExpression(GetParam().May.toString()).match(fault).hasMatch();
+        return !Tested().May.isEmpty() && QRegularExpression(Tested().May.toString()).match(fault).hasMatch();
     }
 
     static void ExpectTold(const Run& run, const Run& clean)
@@ -126,15 +149,17 @@ protected:
         const bool isTold = run.After.HasEnded || std::ranges::any_of(run.After.Told, [&](const QString& box) {
                                 return !clean.After.Told.contains(box);
                             });
+        // What is taken in halves is no fault.
+        EXPECT_FALSE(isTold && Refusal() == Refused::Halves) << qUtf8Printable(run.After.Told.join(u'\n'));
         EXPECT_TRUE(isTold || AreAsMeant(run.After, clean.After)) << qUtf8Printable(run.After.Told.join(u'\n'));
     }
 
     // But for what may be missing without a word.
     static bool AreAsMeant(const Outcome& outcome, const Outcome& clean)
     {
-        const QRegularExpression silent(GetParam().Silent.toString());
+        const QRegularExpression silent(Tested().Silent.toString());
         const auto counts = [&](const QString& name) {
-            return GetParam().Silent.isEmpty() || !silent.match(name).hasMatch();
+            return Tested().Silent.isEmpty() || !silent.match(name).hasMatch();
         };
         Tree files = outcome.Files;
         Tree meant = clean.Files;
@@ -148,12 +173,13 @@ protected:
 
 TEST_P(WriteFaultTest, LeavesNothingTorn_AndIsTold)
 {
-    const Run clean = RunWith(INT_MAX, Fault::OneWrite);
-    ASSERT_TRUE(RunWith(1, Fault::OneWrite).WasReached) << "the command writes nothing";
-    for (const Fault fault : {Fault::OneWrite, Fault::FromThatOn})
+    const Run clean = RunWith(INT_MAX, Fault::OneTime);
+    // Some write names only.
+    ASSERT_TRUE(Refusal() == Refused::Halves || RunWith(1, Fault::OneTime).WasReached) << "the command writes nothing";
+    for (const Fault fault : {Fault::OneTime, Fault::FromThatOn})
         for (int number = 1; !HasFailure(); ++number) {
             SCOPED_TRACE(testing::Message()
-                         << "write " << number << (fault == Fault::OneWrite ? "" : " and all after"));
+                         << "refusal " << number << (fault == Fault::OneTime ? "" : " and all after"));
             const Run run = RunWith(number, fault);
             if (!run.WasReached)
                 break;
@@ -162,8 +188,13 @@ TEST_P(WriteFaultTest, LeavesNothingTorn_AndIsTold)
         }
 }
 
-INSTANTIATE_TEST_SUITE_P(Commands, WriteFaultTest, testing::ValuesIn(AllCommands()),
-                         [](const auto& tested) { return std::string(tested.param.Name); });
+INSTANTIATE_TEST_SUITE_P(Commands, WriteFaultTest,
+                         testing::Combine(testing::ValuesIn(AllCommands()),
+                                          testing::Values(Refused::Content, Refused::Halves, Refused::Names)),
+                         [](const auto& tested) {
+                             return std::string(std::get<Command>(tested.param).Name) +
+                                    NameOf(std::get<Refused>(tested.param));
+                         });
 
 } // namespace
 } // namespace lineforge::faults
