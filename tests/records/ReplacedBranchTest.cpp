@@ -127,6 +127,38 @@ TEST_F(AbsentBranchTest, IsAskedAbout_AndWrittenToWhenItIsBack)
     EXPECT_EQ(Current(), u"A002"_s);
 }
 
+// What a program leaves there that puts the content in later.
+TEST_F(AbsentBranchTest, EmptyFileInItsPlace_IsAskedAbout_AndTheTextIsStoredWhenTheContentHasCome)
+{
+    Home.WriteFile(u"LfgDat_A/LfgDat_A.mdb", {});
+    ExpectDatabaseInUse(Answer::Cancel);
+    ScanOn();
+    EXPECT_EQ(ExitCode(), std::nullopt);
+    EXPECT_EQ(P.Form3->Text2.Text.value(), u"Typed"_s);
+    EXPECT_EQ(Current(), u"A001"_s);
+
+    QFile::remove(Database);
+    BringBack();
+    ScanOn();
+
+    EXPECT_EQ(Stored("Surname"), u"Typed"_s);
+    EXPECT_EQ(ExitCode(), std::nullopt);
+}
+
+TEST_F(AbsentBranchTest, FileInItsPlaceThatIsNoDatabase_IsAskedAbout)
+{
+    Home.WriteFile(u"LfgDat_A/LfgDat_A.mdb", QByteArray(5000, 'x'));
+    ExpectDatabaseInUse(Answer::Retry, [this] {
+        QFile::remove(Database);
+        BringBack();
+    });
+
+    ScanOn();
+
+    EXPECT_EQ(Stored("Surname"), u"Typed"_s);
+    EXPECT_EQ(Current(), u"A002"_s);
+}
+
 TEST_F(AbsentBranchTest, GivenUp_TheTextStaysInTheBox_AndIsStoredLater)
 {
     ExpectDatabaseInUse(Answer::Cancel);

@@ -59,6 +59,7 @@ void Connection::Open()
     sqlite3_create_collation(fresh, "SAMETEXT", SQLITE_UTF8, nullptr, CollateSameText);
     // The engine looks into a file no sooner than it must.
     Statement(fresh, "PRAGMA schema_version").Step();
+    RequireTables(fresh);
 
     failed.dismiss();
     // Its statements may still be in use; it goes with the last of them.
@@ -66,6 +67,14 @@ void Connection::Open()
     device_ = identity.Device;
     inode_ = identity.File;
     ++opening_;
+}
+
+// Whoever reads a table by the places of its fields would read others.
+void Connection::RequireTables(sqlite3* fresh) const
+{
+    for (const auto& [table, fields] : required_)
+        if (Statement(fresh, "SELECT * FROM " + table).ColumnNames() != fields)
+            throw RuntimeError(ErrorNumber::TableNotFound, path_);
 }
 
 std::unique_ptr<Statement> Connection::Prepare(const QByteArray& sql) const
@@ -107,9 +116,19 @@ void Connection::FollowFile()
     others_->NoteReplaced(path_);
 }
 
+void Connection::FollowUsableFile()
+{
+    try {
+        FollowFile();
+    } catch (const RuntimeError& refusal) {
+        if (refusal.Number == ErrorNumber::DatabaseBusy)
+            throw;
+    }
+}
+
 Transaction::Transaction(Connection& connection) : connection_(connection)
 {
-    connection.FollowFile();
+    connection.FollowUsableFile();
     if (!connection.IsStillThere())
         throw RuntimeError(connection.MayComeBack() ? ErrorNumber::DatabaseBusy : ErrorNumber::DatabaseNotFound,
                            connection.Path());

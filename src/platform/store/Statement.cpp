@@ -1,6 +1,7 @@
 #include "platform/store/Statement.h"
 
 #include "platform/base/RuntimeError.h"
+#include "platform/base/Text.h"
 
 #include <sqlite3.h>
 
@@ -103,10 +104,12 @@ int Statement::Columns() const
     return sqlite3_column_count(statement_);
 }
 
-QByteArray Statement::ColumnName(int column) const
+std::vector<QString> Statement::ColumnNames() const
 {
-    Q_ASSERT(column >= 0 && column < Columns());
-    return sqlite3_column_name(statement_, column);
+    std::vector<QString> names;
+    for (int column = 0; column < Columns(); ++column)
+        names.push_back(FromUtf8(sqlite3_column_name(statement_, column)));
+    return names;
 }
 
 std::int64_t Statement::Integer(int column) const

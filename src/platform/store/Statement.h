@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <vector>
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -37,7 +38,7 @@ public:
     void Reset();
 
     int Columns() const;
-    QByteArray ColumnName(int column) const;
+    std::vector<QString> ColumnNames() const;
     std::int64_t Integer(int column) const;
     // UTF-8, valid until the next Step or Reset; a null view for Null.
     QByteArrayView Text(int column) const;

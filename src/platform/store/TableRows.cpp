@@ -117,7 +117,6 @@ TableRows::TableRows(const QByteArray& table) : table_(table), serial_(NextSeria
 void TableRows::Attach(Connection& file)
 {
     auto failed = qScopeGuard([this] { Detach(); });
-    names_.clear();
     file_ = &file;
     file.Others().Patiently(file.Path(), [&](int milliseconds) {
         file.BePatient(milliseconds);
@@ -135,23 +134,15 @@ void TableRows::Detach()
 
 void TableRows::Prepare()
 {
-    std::vector<QString> names;
-    QByteArray fields;
-    const auto all = file_->Prepare("SELECT * FROM " + table_);
-    for (int column = 0; column < all->Columns(); ++column) {
-        const QByteArray name = all->ColumnName(column);
-        names.push_back(FromUtf8(name));
-        fields += (column == 0 ? "" : ", ") + Quoted(name);
-    }
-    // Whoever reads the table by the places of its fields would read others.
-    if (!names_.empty() && names != names_)
-        throw RuntimeError(ErrorNumber::TableNotFound, file_->Path());
-    names_ = std::move(names);
-    fields_ = fields;
+    names_ = file_->Prepare("SELECT * FROM " + table_)->ColumnNames();
+    fields_.clear();
+    for (const QString& name : names_)
+        fields_ += (fields_.isEmpty() ? "" : ", ") + Quoted(name.toUtf8());
     version_ = file_->Prepare("PRAGMA data_version");
     one_ = file_->Prepare("SELECT " + fields_ + " FROM " + table_ + " WHERE rowid = ?1");
     opening_ = file_->Opening();
     seenVersion_.reset();
+    file_->RequireTable(table_, names_);
 }
 
 TableRows::Hold::Hold(TableRows& rows, Notices notices) : rows_(rows)
@@ -181,22 +172,11 @@ void TableRows::Release()
         version_->Reset();
 }
 
-// What can't be opened in the place of this file doesn't keep anybody from reading on in it.
-void TableRows::FollowFile()
-{
-    try {
-        file_->FollowFile();
-    } catch (const RuntimeError& refusal) {
-        if (refusal.Number == ErrorNumber::DatabaseBusy)
-            throw;
-    }
-}
-
 void TableRows::Lock()
 {
     file_->Others().Patiently(file_->Path(), [this](int milliseconds) {
         file_->BePatient(milliseconds);
-        FollowFile();
+        file_->FollowUsableFile();
         if (opening_ != file_->Opening())
             Prepare();
         version_->Step();

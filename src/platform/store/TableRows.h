@@ -105,7 +105,6 @@ private:
     Print PrintAt(const Statement& row) const;
     static Renumbering StepBetween(const Entries& before, const Entries& now);
     void Prepare();
-    void FollowFile();
     void Lock();
     void Take();
     void Release();

@@ -186,7 +186,7 @@ TEST_F(StatementTest, Values_AreBoundAndReadByTheirKind)
 
     ASSERT_TRUE(statement->Step());
     EXPECT_EQ(statement->Columns(), 4);
-    EXPECT_EQ(statement->ColumnName(1), "Text");
+    EXPECT_EQ(statement->ColumnNames()[1], u"Text"_s);
     EXPECT_EQ(statement->Integer(0), std::int64_t{1} << 40);
     EXPECT_EQ(statement->Text(1).toByteArray(), "Zo\xC3\xAB");
     EXPECT_TRUE(statement->Text(2).isNull());

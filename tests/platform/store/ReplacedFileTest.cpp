@@ -162,20 +162,60 @@ TEST_F(ReplacedFileTest, FileThatIsNoDatabase_DoesNotKeepFromReading_ButFromWrit
 
     people.MoveNext();
     EXPECT_EQ(people.Text(u"Name"), u"Cid");
-    EXPECT_EQ(RefusalOf([&] { Rename(people, u"Sid"_s); }), ErrorNumber::NotADatabase);
+    EXPECT_EQ(RefusalOf([&] { Rename(people, u"Sid"_s); }), ErrorNumber::DatabaseBusy);
     EXPECT_EQ(home.ReadFile(u"people.db"), QByteArray(5000, 'x'));
     EXPECT_EQ(Told(), QStringList());
 }
 
-TEST_F(ReplacedFileTest, FileOfAnotherTable_IsRefused)
+// As programs leave it that put the content in later.
+TEST_F(ReplacedFileTest, EmptyFile_DoesNotKeepFromReading_ButFromWriting_UntilItsContentHasCome)
+{
+    Recordset people = Open();
+    OnBob(people);
+    Replace("UPDATE People SET Name = 'Sid' WHERE Name = 'Cid'");
+    const QByteArray content = home.ReadFile(u"people.db");
+    TakeItsPlace(home.WriteFile(u"fresh.db", {}));
+
+    EXPECT_EQ(RefusalOf([&] { Rename(people, u"Bobby"_s); }), ErrorNumber::DatabaseBusy);
+    people.MoveNext();
+    EXPECT_EQ(people.Text(u"Name"), u"Cid");
+    EXPECT_EQ(Told(), QStringList());
+    EXPECT_EQ(home.ReadFile(u"people.db"), QByteArray());
+    TakeItsPlace(home.WriteFile(u"fresh.db", content));
+
+    people.MoveFirst();
+    people.MoveNext();
+    people.MoveNext();
+
+    EXPECT_EQ(people.Text(u"Name"), u"Sid");
+    EXPECT_EQ(Told(), QStringList(FilePath()));
+}
+
+TEST_F(ReplacedFileTest, FileThatCanOnlyBeRead_DoesNotKeepFromReading_ButFromWriting)
+{
+    Recordset people = Open();
+    OnBob(people);
+    Replace();
+    home.MakeReadOnly(u"people.db");
+
+    people.MoveNext();
+    EXPECT_EQ(people.Text(u"Name"), u"Cid");
+    EXPECT_EQ(RefusalOf([&] { Rename(people, u"Sid"_s); }), ErrorNumber::DatabaseBusy);
+    EXPECT_EQ(Told(), QStringList());
+    home.MakeWritable(u"people.db");
+}
+
+TEST_F(ReplacedFileTest, FileOfAnotherTable_DoesNotKeepFromReading_ButFromWriting)
 {
     Recordset people = Open();
     OnBob(people);
     SqliteFile(home.Path(u"fresh.db")).Execute("CREATE TABLE People (Name TEXT, File TEXT)");
     TakeItsPlace(home.Path(u"fresh.db"));
 
-    EXPECT_EQ(RefusalOf([&] { people.MoveNext(); }), ErrorNumber::TableNotFound);
-    EXPECT_EQ(RefusalOf([&] { Rename(people, u"Sid"_s); }), ErrorNumber::TableNotFound);
+    people.MoveNext();
+    EXPECT_EQ(people.Text(u"Name"), u"Cid");
+    EXPECT_EQ(RefusalOf([&] { Rename(people, u"Sid"_s); }), ErrorNumber::DatabaseBusy);
+    EXPECT_EQ(Told(), QStringList());
 }
 
 TEST_F(ReplacedFileTest, FileThatHasGone_IsReadOn_AndCountsAsLockedForWhoWrites)
