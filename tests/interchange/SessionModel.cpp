@@ -238,11 +238,12 @@ void SessionModel::WriteMap()
     if (!WorkDir.isEmpty() && map_.Owner != WorkDir)
         return;
     const QString stem = WorkDir.isEmpty() ? QString() : WorkDir + u'/' + WorkDir;
-    if (!stem.isEmpty() && IsFile(stem + u".cfg"))
+    if (!stem.isEmpty() && map_.KeepsNext && IsFile(stem + u".cfg"))
         Files[stem + u".~cf"] = Files[Found(stem + u".cfg")];
     const QStringList lines{u'[' + WorkDir + u']', u"[Boxes]"_s, map_.Boxes, u"[Lines]"_s, map_.Lines,
                             u"[Text]"_s,           map_.Texts};
     Files[Found(stem + u".cfg")] = warning + lines.join(u"\r\n"_s).toUtf8() + "\r\n";
+    map_.KeepsNext = !map_.IsPart;
 }
 
 void SessionModel::SaveBoxes()
@@ -255,7 +256,10 @@ void SessionModel::ReadMap()
 {
     map_.Owner = WorkDir;
     const QString file = WorkDir + u"/LfgDat_" + WorkDir.back() + u".cfg";
-    if (!IsFile(file))
+    map_.IsPart = !IsFile(file);
+    // An imported branch writes another file than it reads.
+    map_.KeepsNext = !map_.IsPart || !Same(file, WorkDir + u'/' + WorkDir + u".cfg");
+    if (map_.IsPart)
         return Tell(u"Graphic Config File not Found."_s,
                     u"You need to create a new Ancestral Map for this Database."_s);
     const QStringList lines = QString::fromUtf8(Files[Found(file)]).split(u"\r\n"_s);

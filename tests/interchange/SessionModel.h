@@ -76,6 +76,8 @@ private:
         QString Boxes, Lines, Texts; // the lists of the file
         QString Rows;                // the boxes in memory, as the file would list them
         QString Owner;               // whose map it is; empty for none
+        bool IsPart = false;         // the file that it was read from is no whole map
+        bool KeepsNext = true;       // the file that it is written to becomes the generation before
     };
 
     // SessionModel.cpp: what the commands have in common.

@@ -1,5 +1,7 @@
 #include "map/items/MapFile.h"
 
+#include "map/items/MapValues.h"
+#include "platform/base/RuntimeError.h"
 #include "platform/base/Text.h"
 #include "platform/files/TextFile.h"
 #include "program/branch/BranchPaths.h"
@@ -8,7 +10,6 @@
 #include <QScopeGuard>
 
 #include <algorithm>
-#include <tuple>
 
 namespace lineforge
 {
@@ -77,36 +78,38 @@ bool ReadLists(TextReader& reader, MapState& map)
     return false;
 }
 
-void WarnOfFirstEmptyList(Program& p)
-{
-    const struct {
-        const QString& List;
-        QStringView Kind;
-    } lists[] = {{p.Map.sBoxesText, u"Box"}, {p.Map.sLinesText, u"Line"}, {p.Map.sTextsText, u"Text"}};
-    for (const auto& [list, kind] : lists) {
-        if (list.isEmpty()) {
-            p.Prompts.MsgBox(u"Box Config File record corrupt"_s, u"Config "_s + kind + u" Record empty",
-                             Buttons::Information);
-            return;
-        }
-    }
-}
-
 // A map goes to no branch but its own. With none open there is no branch to be spoilt.
 bool BelongsToOpenBranch(const Program& p)
 {
     return p.Branch.WorkDir.isEmpty() || p.Map.Owner == p.Branch.WorkDir;
 }
 
+// The file that is written may be another than the one that was read.
+MapSource SourceOfPart(const BranchState& branch)
+{
+    const QString written = MapFileToWrite(branch.WorkDir, branch.HomeDir, u".cfg");
+    return SameText(MapFileToRead(branch.WorkDir), written) ? MapSource::Torn : MapSource::Unread;
+}
+
+// Nothing follows the texts that would tell their end.
+bool HasWholeTexts(const MapState& map)
+{
+    const QString& texts = map.sTextsText;
+    return CountsAsEmpty(texts) || (texts.endsWith(u',') && texts.count(u',') % TextColumn::Count == 0);
+}
+
 void WriteLists(Program& p)
 {
     const QString file = MapFileToWrite(p.Branch.WorkDir, p.Branch.HomeDir, u".cfg");
-    if (p.Files.LookUpGivesTail(file, fileNameLength))
+    if (p.Map.Source != MapSource::Torn && p.Files.LookUpGivesTail(file, fileNameLength))
         p.Files.FileCopy(file, MapFileToWrite(p.Branch.WorkDir, p.Branch.HomeDir, u".~cf"));
     WriteTextLines(p.Files, file,
                    {u"This File Contains Graphic Data crucial to your program. Warning: DO NOT MODIFY."_s,
                     u'[' + DirectoryName(p.Branch.WorkDir) + u']', u"[Boxes]"_s, p.Map.sBoxesText, u"[Lines]"_s,
                     p.Map.sLinesText, u"[Text]"_s, p.Map.sTextsText});
+    // It holds a part of a map from now on, though it looks whole.
+    if (p.Map.Source == MapSource::Unread)
+        p.Map.Source = MapSource::Torn;
 }
 } // namespace
 
@@ -148,12 +151,39 @@ void ReadMapFile(Program& p)
     const QString file = MapFileToRead(p.Branch.WorkDir);
     p.Map.Owner = p.Branch.WorkDir;
     if (!p.Files.LookUpGivesTail(file, fileNameLength)) {
+        p.Map.Source = SourceOfPart(p.Branch);
         p.Prompts.MsgBox(u"Graphic Config File not Found."_s,
                          u"You need to create a new Ancestral Map for this Database."_s, Buttons::Information);
         return;
     }
-    std::ignore = ReadMapLists(p.Files, file, p.Map); // what is missing comes out empty
+    p.Map.Source = MapSource::Unread;
+    try {
+        // What is missing comes out empty.
+        if (ReadMapLists(p.Files, file, p.Map) && HasWholeTexts(p.Map))
+            p.Map.Source = MapSource::Whole;
+        else
+            p.Map.Source = SourceOfPart(p.Branch);
+    } catch (const RuntimeError& refusal) {
+        if (refusal.Number == ErrorNumber::InputPastEnd)
+            p.Map.Source = SourceOfPart(p.Branch);
+        throw;
+    }
     WarnOfFirstEmptyList(p);
+}
+
+void WarnOfFirstEmptyList(Program& p)
+{
+    const struct {
+        const QString& List;
+        QStringView Kind;
+    } lists[] = {{p.Map.sBoxesText, u"Box"}, {p.Map.sLinesText, u"Line"}, {p.Map.sTextsText, u"Text"}};
+    for (const auto& [list, kind] : lists) {
+        if (list.isEmpty()) {
+            p.Prompts.MsgBox(u"Box Config File record corrupt"_s, u"Config "_s + kind + u" Record empty",
+                             Buttons::Information);
+            return;
+        }
+    }
 }
 
 bool ReadMapLists(const FileSystem& files, const QString& path, MapState& map)

@@ -25,11 +25,15 @@ bool FitsList(QStringView value);
 // leaves the lists as they were. Error 62 when it ends inside the boxes or the lines.
 void ReadMapFile(Program& p);
 
+// Tells of the first list that is empty, if there is one.
+void WarnOfFirstEmptyList(Program& p);
+
 // Fills the three lists from that file; false when it lacks one of them. Error 53 or 70 when it can't be read, 62 as
 // above; the lists then hold what was read.
 [[nodiscard]] bool ReadMapLists(const FileSystem& files, const QString& path, MapState& map);
 
-// Writes the three lists, the old file becoming the previous generation. The file goes to the branch whose map is in
+// Writes the three lists, the old file becoming the previous generation, unless it was torn, or has been written from
+// lists that were read from a torn one. The file goes to the branch whose map is in
 // memory, also while a record of another branch is shown; lists of no branch, or of another one, are not written.
 // Errors of the disk; the old file then stays.
 void WriteMapFile(Program& p);

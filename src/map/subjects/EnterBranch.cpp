@@ -83,7 +83,15 @@ void ReturnToOwnSubject(Program& p)
 
 void DrawBranchMap(Program& p)
 {
-    p.Errors.Ignoring([&] { ReadMapFile(p); });
+    p.Errors.Ignoring([&] {
+        try {
+            ReadMapFile(p);
+        } catch (const RuntimeError&) {
+            // A part of the map has come.
+            WarnOfFirstEmptyList(p);
+            throw;
+        }
+    });
     ParseWhatIsThere(p);
 }
 

@@ -29,7 +29,7 @@ void ShowFirstSubject(Program& p);
 // Whether the branch that has been entered has no records: the panel beside the map is emptied then, and the user told.
 [[nodiscard]] bool EmptySubjectIfNoRecords(Program& p);
 
-// Reads the map of the branch in `WorkDir` and draws it.
+// Reads the map of the branch in `WorkDir` and draws it, as far as there is one; what is missing is told.
 void DrawBranchMap(Program& p);
 
 } // namespace lineforge

@@ -110,6 +110,10 @@ inline constexpr int BoxHeight = 217;
 inline constexpr int BoxCentreX = 307; // from its corner
 inline constexpr int BoxCentreY = 108;
 
+// The file that the map in memory is written to, as it was when the map was read. A torn one isn't there, or has only a
+// part of its lists; one that hasn't been read may be whole although the map isn't.
+enum class MapSource { Whole, Torn, Unread };
+
 // The map in memory: three arrays, and the three lists of the map file that they were made from.
 struct MapState {
     FixedArray<FixedArray<Cell, 0, 4>, 0, LastMapRow> BoxArr;
@@ -141,6 +145,8 @@ struct MapState {
     // The branch directory whose map this is; empty when none has been read since the arrays were erased. A map is
     // written to no other branch.
     QString Owner;
+    // While it is a torn one, the file of the generation before is the best that there is of the map, and stays.
+    MapSource Source = MapSource::Whole;
 
     // Before the arrays are filled again from the lists; the counts keep their values.
     void EraseArrays()
@@ -159,6 +165,7 @@ struct MapState {
         sLinesText.clear();
         sTextsText.clear();
         Owner.clear();
+        Source = MapSource::Whole;
     }
 };
 

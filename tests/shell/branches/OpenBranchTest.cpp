@@ -320,12 +320,27 @@ TEST_F(OpenBranchTest, MissingMap_IsTold_AndTheBranchOpens)
 TEST_F(OpenBranchTest, MapCutOffInItsBoxes_CostsWhatIsMissing_AndTheBranchOpens)
 {
     Home.WriteFile(u"LfgDat_A/LfgDat_A.cfg", "[Boxes]\r\n1200,600,255,A001,John,\r\n");
+    Prompts.Expect(u"Box Config File record corrupt", u"Config Line Record empty", Buttons::Information);
 
     Choose(u"Smiths");
 
     EXPECT_EQ(P.Map.SBoxes, 0);
     EXPECT_EQ(P.Form1->Label9.Caption.value(), u"John"_s);
     EXPECT_TRUE(P.Form1->Shape1.Visible);
+}
+
+TEST_F(OpenBranchTest, MapThatIsCutOff_LeavesTheGenerationBefore_WhenTheProgramIsLeft)
+{
+    Home.WriteFile(u"LfgDat_A/LfgDat_A.~cf", "the map before");
+    Home.WriteFile(u"LfgDat_A/LfgDat_A.cfg", "[Boxes]\r\n1200,600,255,A001,John,\r\n");
+    Prompts.Expect(u"Box Config File record corrupt", u"Config Line Record empty", Buttons::Information);
+    Choose(u"Smiths");
+
+    Click(P.Form1->mnuCloseDB.Click);
+    Click(P.Form1->mnuExit.Click);
+
+    EXPECT_EQ(ExitCode(), 0);
+    EXPECT_EQ(Home.ReadFile(u"LfgDat_A/LfgDat_A.~cf"), "the map before");
 }
 
 TEST_F(OpenBranchTest, LineThatIsNoNumber_CostsOnlyTheLines)
