@@ -237,6 +237,13 @@ void LiteralRecords::Exit()
     Leaving(Current);
 }
 
+void LiteralRecords::EndWithError()
+{
+    Current.Edit.reset();
+    Current.IsAddition = false;
+    PassOver([&] { Leaving(Current); });
+}
+
 void LiteralRecords::ReturnFromSibling()
 {
     WorkLetter = OwnLetter;

@@ -112,6 +112,8 @@ public:
     void OpenBranch(QChar letter);
     void CloseBranch();
     void Exit();
+    // By an error: what is typed is stored, what a command had begun isn't.
+    void EndWithError();
     void DoubleClick(int x, int y);
     void ShowRecords();
     void PressTree();

@@ -144,17 +144,25 @@ bool SessionPlayer::MakeMove(const std::vector<MoveKind>& kinds)
     const SessionMove move = kind.Make(next);
     bool isEnd = false;
     try {
-        if (!kind.KeepsSelection)
-            next.LoseSelection();
-        move.InModel(next);
-        next.FollowSubject();
-        next.FollowWithPicture();
+        try {
+            if (!kind.KeepsSelection)
+                next.LoseSelection();
+            move.InModel(next);
+            next.FollowSubject();
+            next.FollowWithPicture();
+        } catch (const RuntimeError& error) {
+            isEnd = true;
+            next.EndWithError();
+            next.Script.push_back({LiteralQuestion::Kind::Message,
+                                   u"Lineforge"_s,
+                                   FatalText(error),
+                                   Buttons::Error,
+                                   Answer::Ok,
+                                   {},
+                                   false});
+        }
     } catch (const Unmodelled&) {
         return false;
-    } catch (const RuntimeError& error) {
-        isEnd = true;
-        next.Script.push_back(
-            {LiteralQuestion::Kind::Message, u"Lineforge"_s, FatalText(error), Buttons::Error, Answer::Ok, {}, false});
     }
     if (isEnd && Dice(8) != 0)
         return false;

@@ -1,9 +1,11 @@
 #include "shell/run/RunHandler.h"
 
+#include "forms/Form3.h"
 #include "gedcom/report/GedcomConversion.h"
 #include "map/subjects/RecordFormPicture.h"
 #include "map/subjects/SubjectPanel.h"
 #include "platform/store/OtherPrograms.h"
+#include "program/branch/WorkDatabase.h"
 #include "shell/run/ErrorInWords.h"
 
 namespace lineforge
@@ -13,8 +15,22 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
+// What else has failed is no reason to lose what is typed. What a command was about to put in the record is given up:
+// it hasn't been finished.
+void StoreTypedAtTheEnd(Program& p)
+{
+    if (!p.Form3.IsLoaded() || !p.Form3->Data1.IsOpen())
+        return;
+    const OtherPrograms::Quiet quiet(p.Databases.Others());
+    p.Errors.Ignoring([&] {
+        Records(p.Form3).CancelUpdate();
+        StoreTyped(p.Form3);
+    });
+}
+
 void EndWithError(Program& p, const RuntimeError& error)
 {
+    StoreTypedAtTheEnd(p);
     p.Errors.Last = error;
     // What was written to them stays.
     p.Lineage.File.reset();
