@@ -8,6 +8,7 @@
 #include "platform/base/Number.h"
 #include "platform/base/Text.h"
 #include "platform/store/Fields.h"
+#include "program/branch/FormerGalleries.h"
 #include "program/branch/WorkDatabase.h"
 #include "program/state/RecordFields.h"
 
@@ -56,12 +57,15 @@ void NoteZNumber(CompareState& state, const QString& file)
         Concerning(u"Record "_s + file, [&] { state.ZNumberTable[ToLong(file.right(digits))] = file; });
 }
 
-// Empty when all are taken.
-QString FreeZNumber(const CompareState& state)
+// Empty when all are taken. Nobody gets one under which files of a deleted record stand in the gallery.
+QString FreeZNumber(const Comparison& comparison, const Direction& way)
 {
-    for (int number = 1; number <= state.ZNumberTable.Last(); ++number)
-        if (state.ZNumberTable[number].isEmpty())
-            return u"Z"_s + QString::number(number).rightJustified(3, u'0');
+    const FormerGalleries former(comparison.Files, way.To.Directory(comparison));
+    for (int number = 1; number <= comparison.State.ZNumberTable.Last(); ++number) {
+        const QString file = u"Z"_s + QString::number(number).rightJustified(3, u'0');
+        if (comparison.State.ZNumberTable[number].isEmpty() && !former.Has(file))
+            return file;
+    }
     return {};
 }
 
@@ -104,12 +108,12 @@ std::set<QString> NumbersIn(Recordset& records)
 
 // What stands in the file and isn't known to the cursor has a number of its own: another program has added it behind
 // the box, or the record form.
-QString NumberStillFree(CompareState& state, const Recordset& to, const std::set<QString>& known)
+QString NumberStillFree(const Comparison& comparison, const Direction& way, const std::set<QString>& known)
 {
-    for (const QString& file : NumbersIn(*to.Afresh()))
+    for (const QString& file : NumbersIn(*way.To.Records(comparison).Afresh()))
         if (!known.contains(file))
-            NoteZNumber(state, file);
-    return FreeZNumber(state);
+            NoteZNumber(comparison.State, file);
+    return FreeZNumber(comparison, way);
 }
 
 void TellAppended(Prompts& prompts, const Direction& way, const QString& number)
@@ -129,7 +133,7 @@ void Append(const Comparison& comparison, const Direction& way)
 {
     Recordset& from = way.From.Records(comparison);
     Recordset& to = way.To.Records(comparison);
-    const QString told = FreeZNumber(comparison.State);
+    const QString told = FreeZNumber(comparison, way);
     const std::set<QString> known = NumbersIn(to);
     to.MoveLast();
     // The scanner may run on behind the box.
@@ -139,7 +143,7 @@ void Append(const Comparison& comparison, const Direction& way)
     to.Edit();
     to.AddNew();
     QString number;
-    to.PutWhenWritten(Field::File, [&] { return number = NumberStillFree(comparison.State, to, known); });
+    to.PutWhenWritten(Field::File, [&] { return number = NumberStillFree(comparison, way, known); });
     CopyFields(from, to);
     PersonTexts added = ReadPerson(comparison, way.To, NullForename::Empty);
     to.Update();

@@ -13,6 +13,7 @@
 #include "platform/store/Fields.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/ComeBackAfterwards.h"
+#include "program/branch/FormerGalleries.h"
 #include "program/branch/SiblingBranch.h"
 #include "program/ui/BranchUi.h"
 
@@ -81,19 +82,26 @@ void LinkBox(Program& p, std::optional<int> row, const QString& file, const QStr
         TieBox(p, *row, file, forename);
 }
 
-// The first number that the records, in their stored order, run out of.
+// The first number that the records, in their stored order, run out of, and nobody's gallery has.
 // KEPT(NumberingTest.FirstGapInStoredOrder): it never starts over, so that numbers which don't rise can be given twice.
 // Mended, new records of such a branch would get other numbers.
 QString NextFreeNumber(Program& p, Recordset& records)
 {
-    int counter = 1;
+    const FormerGalleries former(p.Files, p.Branch.WorkDir);
+    int counter = 0;
     const auto candidate = [&]() -> QString {
         return p.Mapping.sBranchLetter + QString::number(counter).rightJustified(3, u'0');
     };
+    const auto advance = [&] {
+        do
+            ++counter;
+        while (former.Has(candidate()));
+    };
+    advance();
     for (records.MoveFirst(); !records.Eof(); records.MoveNext()) {
         p.Record.sCurFile = records.Text(Field::File);
         while (SameText(p.Record.sCurFile, candidate()))
-            ++counter;
+            advance();
     }
     return candidate();
 }
@@ -192,9 +200,9 @@ bool MapByOption(Program& p)
     }
 }
 
-void NamePictureFile(Program& p)
+void NamePictureFile(Program& p, const QString& subject)
 {
-    p.Mapping.PictureFile = SubjectPictureFile(p.Branch.WorkDir, p.Mapping.NewFile);
+    p.Mapping.PictureFile = SubjectPictureFile(p.Branch.WorkDir, subject);
 }
 
 void CopyBlankPortrait(Program& p)
@@ -228,11 +236,9 @@ void TakeMarker(Program& p)
     MarkCurrentBox(p);
 }
 
-// Without a mapping so far there is no file, and nothing to be seen.
 void ShowMappedPicture(Program& p)
 {
-    if (const QString& file = p.Mapping.PictureFile; !file.isEmpty())
-        ShowPicture(p, p.Pictures.Load(p.Files, file));
+    ShowPicture(p, p.Pictures.Load(p.Files, p.Mapping.PictureFile));
     p.Form1->Image1.Visible = true;
     p.Screen.Pointer = MousePointer::Default;
 }
@@ -240,7 +246,7 @@ void ShowMappedPicture(Program& p)
 // The record is there already and stays, without its picture, when that can't be had: the pointer then stays, too.
 void GiveNewSubjectItsPicture(Program& p)
 {
-    NamePictureFile(p);
+    NamePictureFile(p, p.Mapping.NewFile);
     p.Errors.Ignoring([&] { TakeMarker(p); });
     p.Errors.Ignoring([&] {
         if (p.Mapping.PictureOption == selectNow) {
@@ -341,11 +347,11 @@ void AskSubjectPicture(Program& p)
         StopMapping(p);
         return;
     }
-    p.Errors.Ignoring([&] { StandOn(Records(p.Form3), asked); });
-    p.Record.sCurFile = p.Form3->Label25.Caption;
     p.Errors.Ignoring([&] {
+        StandOn(Records(p.Form3), asked);
+        p.Record.sCurFile = p.Form3->Label25.Caption;
+        NamePictureFile(p, p.Record.sCurFile);
         if (p.Mapping.PictureOption == selectNow) {
-            NamePictureFile(p);
             const std::optional<QString> chosen = ChoosePicture(p);
             if (!chosen)
                 return;

@@ -276,7 +276,7 @@ TEST_F(AskSubjectPictureTest, WhateverIsToBeMapped_TheQuestionIsTheSame)
     ExpectNothingPending();
 }
 
-TEST_F(AskSubjectPictureTest, Yes_SelectNow_StoresThePictureUnderTheLastMappedNumber)
+TEST_F(AskSubjectPictureTest, Yes_SelectNow_ThePictureIsThatOfThePersonInTheBox_NotOfTheOneMappedLast)
 {
     GivenMappedA002();
     ChooseNewRecord(&Form7::Option7);
@@ -285,8 +285,8 @@ TEST_F(AskSubjectPictureTest, Yes_SelectNow_StoresThePictureUnderTheLastMappedNu
 
     DoubleClickBox(1);
 
-    EXPECT_EQ(PictureOf(u"A002"), BluePicture);
-    EXPECT_EQ(PictureOf(u"A001"), RedPicture);
+    EXPECT_EQ(PictureOf(u"A002"), Portrait);
+    EXPECT_EQ(PictureOf(u"A001"), BluePicture);
     EXPECT_TRUE(BothShow(Qt::blue));
     EXPECT_EQ(P.Record.sCurFile, u"A001"_s);
     EXPECT_EQ(Current(), u"A001"_s);
@@ -294,7 +294,7 @@ TEST_F(AskSubjectPictureTest, Yes_SelectNow_StoresThePictureUnderTheLastMappedNu
     EXPECT_EQ(P.Tools.MapCursorMode, 1);
 }
 
-TEST_F(AskSubjectPictureTest, Yes_SelectNow_NothingMappedSoFar_StoresThePictureUnderNoNumber)
+TEST_F(AskSubjectPictureTest, Yes_SelectNow_NothingMappedSoFar_ThePictureIsThatOfThePersonInTheBox)
 {
     ChooseNewRecord(&Form7::Option7);
     ExpectPictureQuestion(Answer::Yes);
@@ -302,8 +302,8 @@ TEST_F(AskSubjectPictureTest, Yes_SelectNow_NothingMappedSoFar_StoresThePictureU
 
     DoubleClickBox(1);
 
-    EXPECT_EQ(PictureOf(u""), BluePicture);
-    EXPECT_EQ(PictureOf(u"A001"), RedPicture);
+    EXPECT_FALSE(Home.Exists(PathOfPicture(u"")));
+    EXPECT_EQ(PictureOf(u"A001"), BluePicture);
     EXPECT_TRUE(BothShow(Qt::blue));
     ExpectNoRecordAdded();
 }
@@ -325,14 +325,14 @@ TEST_F(AskSubjectPictureTest, Yes_SelectNow_Cancelled_LeavesPointerAndPictures)
 TEST_F(AskSubjectPictureTest, Yes_SelectNow_CopyRefused_LeavesPointerAndPictures)
 {
     GivenMappedA002();
-    Home.MakeReadOnly(PathOfPicture(u"A002"));
+    Home.MakeReadOnly(PathOfPicture(u"A001"));
     ChooseNewRecord(&Form7::Option7);
     ExpectPictureQuestion(Answer::Yes);
     ExpectPictureDialog(Chosen);
 
     DoubleClickBox(1);
 
-    EXPECT_EQ(PictureOf(u"A002"), Portrait);
+    EXPECT_EQ(PictureOf(u"A001"), RedPicture);
     ExpectStillPending();
 }
 
@@ -347,13 +347,14 @@ TEST_F(AskSubjectPictureTest, Yes_SelectNow_RecordOfAnotherBranch_StoresThePictu
 
     DoubleClickBox(2);
 
-    EXPECT_EQ(Home.ReadFile(u"LfgDat_B/A002Sub.jpg"), BluePicture);
+    EXPECT_EQ(Home.ReadFile(u"LfgDat_B/B002Sub.jpg"), BluePicture);
+    EXPECT_FALSE(Home.Exists(u"LfgDat_B/A002Sub.jpg"));
     EXPECT_EQ(PictureOf(u"A002"), Portrait);
     EXPECT_EQ(P.Record.sCurFile, u"B002"_s);
     EXPECT_EQ(P.Branch.UsingAlternate, 1);
 }
 
-TEST_F(AskSubjectPictureTest, Yes_Later_ShowsThePictureOfTheLastMapping)
+TEST_F(AskSubjectPictureTest, Yes_Later_ShowsThePictureOfThePersonInTheBox_NotOfTheOneMappedLast)
 {
     GivenMappedA002();
     const Tree before = Home.Snapshot();
@@ -362,18 +363,18 @@ TEST_F(AskSubjectPictureTest, Yes_Later_ShowsThePictureOfTheLastMapping)
 
     DoubleClickBox(1);
 
-    EXPECT_TRUE(BothShow(Qt::yellow));
+    EXPECT_TRUE(BothShow(Qt::red));
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
     EXPECT_EQ(P.Record.sCurFile, u"A001"_s);
     EXPECT_EQ(P.Screen.Pointer, MousePointer::Default);
 }
 
-TEST_F(AskSubjectPictureTest, Yes_Later_ThePictureOfTheLastMappingHasGone_ShowsNone)
+TEST_F(AskSubjectPictureTest, Yes_Later_HisPictureHasGone_ShowsNone)
 {
     GivenMappedA002();
     DoubleClickBox(0);
     ASSERT_FALSE(P.Form1->Image1.Picture.value().isNull());
-    P.Files.Kill(Home.Path(PathOfPicture(u"A002")));
+    P.Files.Kill(Home.Path(PathOfPicture(u"A001")));
     ChooseNewRecord();
     ExpectPictureQuestion(Answer::Yes);
 
@@ -384,14 +385,14 @@ TEST_F(AskSubjectPictureTest, Yes_Later_ThePictureOfTheLastMappingHasGone_ShowsN
     EXPECT_TRUE(IsMarkerOnBox(1));
 }
 
-TEST_F(AskSubjectPictureTest, Yes_Later_NothingMappedSoFar_ShowsNone)
+TEST_F(AskSubjectPictureTest, Yes_Later_NothingMappedSoFar_ShowsThePictureOfThePersonInTheBox)
 {
     ChooseNewRecord();
     ExpectPictureQuestion(Answer::Yes);
 
     DoubleClickBox(1);
 
-    EXPECT_TRUE(P.Form1->Image1.Picture.value().isNull());
+    EXPECT_TRUE(BothShow(Qt::red));
     EXPECT_EQ(P.Screen.Pointer, MousePointer::Default);
     ExpectNoRecordAdded();
 }
