@@ -68,10 +68,10 @@ TEST_F(ThumbnailsTest, PageOfLargePictures_ComesOneByOne)
     large.fill(Qt::white);
     QByteArray bytes;
     QBuffer buffer(&bytes);
-    large.save(&buffer, "png");
+    large.save(&buffer, "jpg");
     QStringList paths;
     for (int number = 0; number < 3; ++number)
-        paths << home.WriteFile(u"%1.png"_s.arg(number), bytes);
+        paths << home.WriteFile(u"%1.jpg"_s.arg(number), bytes);
     thumbnails.Expect(files, paths, dots);
     for (const QString& path : paths)
         EXPECT_TRUE(IsLike(ColourOf(path), Qt::white));
