@@ -304,11 +304,11 @@ void MapModel::AskPicture()
         return;
     }
     CurFile = CurrentFile();
-    MappedPicture = {Branch, CurFile};
     if (PictureOption == 6) {
+        MappedPicture = {Branch, NewFile};
         if (!Next.ChoosesPicture)
             return;
-        AddPicture(Branch, CurFile);
+        AddPicture(Branch, NewFile);
     }
     MarkCurrentBox();
     ShowPicture();

@@ -200,9 +200,9 @@ bool MapByOption(Program& p)
     }
 }
 
-void NamePictureFile(Program& p, const QString& subject)
+void NamePictureFile(Program& p)
 {
-    p.Mapping.PictureFile = SubjectPictureFile(p.Branch.WorkDir, subject);
+    p.Mapping.PictureFile = SubjectPictureFile(p.Branch.WorkDir, p.Mapping.NewFile);
 }
 
 void CopyBlankPortrait(Program& p)
@@ -236,9 +236,11 @@ void TakeMarker(Program& p)
     MarkCurrentBox(p);
 }
 
+// Without a mapping so far there is no file, and nothing to be seen.
 void ShowMappedPicture(Program& p)
 {
-    ShowPicture(p, p.Pictures.Load(p.Files, p.Mapping.PictureFile));
+    if (const QString& file = p.Mapping.PictureFile; !file.isEmpty())
+        ShowPicture(p, p.Pictures.Load(p.Files, file));
     p.Form1->Image1.Visible = true;
     p.Screen.Pointer = MousePointer::Default;
 }
@@ -246,7 +248,7 @@ void ShowMappedPicture(Program& p)
 // The record is there already and stays, without its picture, when that can't be had: the pointer then stays, too.
 void GiveNewSubjectItsPicture(Program& p)
 {
-    NamePictureFile(p, p.Mapping.NewFile);
+    NamePictureFile(p);
     p.Errors.Ignoring([&] { TakeMarker(p); });
     p.Errors.Ignoring([&] {
         if (p.Mapping.PictureOption == selectNow) {
@@ -347,11 +349,11 @@ void AskSubjectPicture(Program& p)
         StopMapping(p);
         return;
     }
+    p.Errors.Ignoring([&] { StandOn(Records(p.Form3), asked); });
+    p.Record.sCurFile = p.Form3->Label25.Caption;
     p.Errors.Ignoring([&] {
-        StandOn(Records(p.Form3), asked);
-        p.Record.sCurFile = p.Form3->Label25.Caption;
-        NamePictureFile(p, p.Record.sCurFile);
         if (p.Mapping.PictureOption == selectNow) {
+            NamePictureFile(p);
             const std::optional<QString> chosen = ChoosePicture(p);
             if (!chosen)
                 return;

@@ -24,8 +24,10 @@ void TakeMappingOptions(Program& p);
 // mapping. Errors of the disk and of the record store, also when the branch of a number isn't there.
 void MapNewSubject(Program& p);
 
-// The box has its record already: asks whether its picture is to be changed, which is then chosen or, by the options,
-// left until later.
+// The box has its record already: asks whether its picture is to be changed.
+// KEPT(AskSubjectPictureTest.Yes_SelectNow_StoresThePictureUnderTheLastMappedNumber): the picture is stored under the
+// number of the last mapping, not under the record's own.
+// Mended, the record's own picture would be written over, and not that of the record mapped last.
 void AskSubjectPicture(Program& p);
 
 // After two questions the next two double clicks move a record from its box to another one.
