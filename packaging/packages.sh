@@ -11,9 +11,10 @@ queue_packages="cups-daemon cups-client cups-filters-core-drivers" # a print ser
 reader_packages="python3-gi gir1.2-atspi-2.0 at-spi2-core dbus" # what screen readers reach a program by
 foreign_packages="gramps" # which reads what we hand on
 compositor_packages="weston" # whose screen nobody sees
+manager_packages="openbox" # a window manager
 sound_packages="pipewire wireplumber pulseaudio-utils" # a sound device to which nobody listens
 rule_packages="appstream desktop-file-utils lintian" # which judge what is given away
-test_packages="libgtest-dev libgmock-dev $rule_packages $cpack_packages $screen_packages $queue_packages $reader_packages $compositor_packages $sound_packages $foreign_packages"
+test_packages="libgtest-dev libgmock-dev $rule_packages $cpack_packages $screen_packages $queue_packages $reader_packages $compositor_packages $manager_packages $sound_packages $foreign_packages"
 fuzz_packages="clang libclang-rt-dev"
 
 # From Debian 13 on some libraries are called otherwise.

@@ -87,7 +87,7 @@ protected:
     {
         BuildTwoBranches(Home);
         QFile::copy(QStringLiteral(LINEFORGE_MANUAL), Home.Path(u"LfgHelp.hlp"));
-        OpenBranch(QStringLiteral("Smiths"));
+        OpenBranchUnseen(QStringLiteral("Smiths"));
     }
 
     // The last two as the user does them, the first as he sees it.

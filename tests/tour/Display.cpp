@@ -176,14 +176,19 @@ QImage Display::Picture(const QRect& place) const
 
 void Display::AskToClose(const ScreenWindow& window) const
 {
+    Tell(window.Id, XCB_EVENT_MASK_NO_EVENT, window.Id, protocols_, {deleteWindow_, XCB_CURRENT_TIME});
+}
+
+void Display::Tell(xcb_window_t receiver, std::uint32_t listeners, xcb_window_t about, xcb_atom_t type,
+                   std::array<std::uint32_t, 2> content) const
+{
     xcb_client_message_event_t message{};
     message.response_type = XCB_CLIENT_MESSAGE;
     message.format = 32;
-    message.window = window.Id;
-    message.type = protocols_;
-    message.data.data32[0] = deleteWindow_;
-    message.data.data32[1] = XCB_CURRENT_TIME;
-    xcb_send_event(Connection(), 0, window.Id, XCB_EVENT_MASK_NO_EVENT, reinterpret_cast<const char*>(&message));
+    message.window = about;
+    message.type = type;
+    std::ranges::copy(content, message.data.data32);
+    xcb_send_event(Connection(), 0, receiver, listeners, reinterpret_cast<const char*>(&message));
     xcb_flush(Connection());
 }
 

@@ -4,6 +4,8 @@
 #include <QRect>
 #include <QString>
 
+#include <array>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -68,6 +70,11 @@ public:
 protected:
     // Those of the X screen itself, from the lowest to the topmost.
     std::vector<xcb_window_t> Children() const;
+    QByteArray Property(xcb_window_t id, xcb_atom_t property) const;
+    xcb_atom_t Atom(const char* name) const;
+    // A message about a window, to whoever listens at `receiver` for that; to its owner when nothing is named.
+    void Tell(xcb_window_t receiver, std::uint32_t listeners, xcb_window_t about, xcb_atom_t type,
+              std::array<std::uint32_t, 2> content) const;
 
 private:
     struct Disconnect {
@@ -77,8 +84,6 @@ private:
     xcb_window_t KeyboardOwner() const;
     std::optional<ScreenWindow> Describe(xcb_window_t id) const;
     QString TitleOf(xcb_window_t id) const;
-    QByteArray Property(xcb_window_t id, xcb_atom_t property) const;
-    xcb_atom_t Atom(const char* name) const;
 
     std::unique_ptr<xcb_connection_t, Disconnect> connection_;
     const xcb_screen_t* screen_ = nullptr;
