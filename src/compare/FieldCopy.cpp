@@ -8,7 +8,6 @@
 #include "platform/base/Number.h"
 #include "platform/base/Text.h"
 #include "platform/store/Fields.h"
-#include "program/branch/FormerGalleries.h"
 #include "program/branch/WorkDatabase.h"
 #include "program/state/RecordFields.h"
 
@@ -57,15 +56,12 @@ void NoteZNumber(CompareState& state, const QString& file)
         Concerning(u"Record "_s + file, [&] { state.ZNumberTable[ToLong(file.right(digits))] = file; });
 }
 
-// Empty when all are taken. Nobody gets one under which files of a deleted record stand in the gallery.
-QString FreeZNumber(const Comparison& comparison, const Direction& way)
+// Empty when all are taken.
+QString FreeZNumber(const CompareState& state)
 {
-    const FormerGalleries former(comparison.Files, way.To.Directory(comparison));
-    for (int number = 1; number <= comparison.State.ZNumberTable.Last(); ++number) {
-        const QString file = u"Z"_s + QString::number(number).rightJustified(3, u'0');
-        if (comparison.State.ZNumberTable[number].isEmpty() && !former.Has(file))
-            return file;
-    }
+    for (int number = 1; number <= state.ZNumberTable.Last(); ++number)
+        if (state.ZNumberTable[number].isEmpty())
+            return u"Z"_s + QString::number(number).rightJustified(3, u'0');
     return {};
 }
 
@@ -108,12 +104,12 @@ std::set<QString> NumbersIn(Recordset& records)
 
 // What stands in the file and isn't known to the cursor has a number of its own: another program has added it behind
 // the box, or the record form.
-QString NumberStillFree(const Comparison& comparison, const Direction& way, const std::set<QString>& known)
+QString NumberStillFree(CompareState& state, const Recordset& to, const std::set<QString>& known)
 {
-    for (const QString& file : NumbersIn(*way.To.Records(comparison).Afresh()))
+    for (const QString& file : NumbersIn(*to.Afresh()))
         if (!known.contains(file))
-            NoteZNumber(comparison.State, file);
-    return FreeZNumber(comparison, way);
+            NoteZNumber(state, file);
+    return FreeZNumber(state);
 }
 
 void TellAppended(Prompts& prompts, const Direction& way, const QString& number)
@@ -133,7 +129,7 @@ void Append(const Comparison& comparison, const Direction& way)
 {
     Recordset& from = way.From.Records(comparison);
     Recordset& to = way.To.Records(comparison);
-    const QString told = FreeZNumber(comparison, way);
+    const QString told = FreeZNumber(comparison.State);
     const std::set<QString> known = NumbersIn(to);
     to.MoveLast();
     // The scanner may run on behind the box.
@@ -143,7 +139,7 @@ void Append(const Comparison& comparison, const Direction& way)
     to.Edit();
     to.AddNew();
     QString number;
-    to.PutWhenWritten(Field::File, [&] { return number = NumberStillFree(comparison, way, known); });
+    to.PutWhenWritten(Field::File, [&] { return number = NumberStillFree(comparison.State, to, known); });
     CopyFields(from, to);
     PersonTexts added = ReadPerson(comparison, way.To, NullForename::Empty);
     to.Update();

@@ -5,7 +5,6 @@
 #include "platform/store/Fields.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/ComeBackAfterwards.h"
-#include "program/branch/FormerGalleries.h"
 #include "program/branch/SiblingBranch.h"
 #include "program/ui/BranchUi.h"
 
@@ -18,17 +17,11 @@ namespace
 {
 constexpr qsizetype digits = 3;
 
-// The last row decides, not the highest number; above 999 the number simply grows. Whose gallery is still there has had
-// the number, and keeps it.
-QString NumberAfter(const SubjectPictures& pictures, const QString& last)
+// The last row decides, not the highest number; above 999 the number simply grows.
+QString NumberAfter(const QString& last)
 {
-    const FormerGalleries former(pictures.Files, pictures.Branch.WorkDir);
-    int number = Concerning(u"Record "_s + last, [&] { return ToInteger(last.right(digits)); });
-    QString next;
-    do
-        next = last.left(1) + QString::number(++number).rightJustified(digits, u'0');
-    while (former.Has(next));
-    return next;
+    const int number = Concerning(u"Record "_s + last, [&] { return ToInteger(last.right(digits)) + 1; });
+    return last.left(1) + QString::number(number).rightJustified(digits, u'0');
 }
 
 // There is no last row to number on from.
@@ -40,18 +33,17 @@ bool IsTableEmpty(const Recordset& records, Prompts& prompts)
     return true;
 }
 
-QString AppendRow(const SubjectPictures& pictures)
+QString AppendRow(Recordset& records, RecordState& state)
 {
-    Recordset& records = Records(pictures.Form3);
     records.MoveLast();
-    pictures.Record.SavedBookmark = records.GetBookmark();
+    state.SavedBookmark = records.GetBookmark();
     QString file;
     records.AddNew();
     // The last of all that stand in the file when nobody else can add one.
     records.PutWhenWritten(Field::File, [&] {
         const auto all = records.Afresh();
         all->MoveLast();
-        return file = NumberAfter(pictures, all->Text(Field::File));
+        return file = NumberAfter(all->Text(Field::File));
     });
     records.Update();
     records.SetBookmark(records.LastModified());
@@ -70,7 +62,7 @@ void AddRecord(const SubjectPictures& pictures)
                                                Buttons::InformationOkCancel);
     if (add != Answer::Ok || IsTableEmpty(Records(pictures.Form3), pictures.Prompts))
         return;
-    const QString file = AppendRow(pictures);
+    const QString file = AppendRow(Records(pictures.Form3), pictures.Record);
     const QString picture = SubjectPictureFile(pictures.Branch.WorkDir, file);
     pictures.Files.FileCopy(pictures.Branch.HomeDir + u"Tree99.jpg", picture);
     PutRecordPicture(pictures.Branch, pictures.Form3, pictures.Pictures.Load(pictures.Files, picture));

@@ -41,21 +41,19 @@ bool ConfirmDeletion(Program& p)
                             Buttons::ErrorYesNo) == Answer::Yes;
 }
 
-// KEPT(DeletedGalleryTest.CurrentDirectoryIsTheBranch_EveryFileStays): the files of the gallery go only where it is the
-// current directory. Whose stay keeps his number, so that nobody else gets them.
+// The gallery is listed by its path, but a file killed by its bare name.
+// KEPT(DeletedGalleryTest.CurrentDirectoryIsTheBranch_EveryFileStays): it goes only where the gallery is the current
+// directory.
 // Mended, pictures would be lost that outlive their record now.
 void KillFiles(Program& p, const QString& file)
 {
     p.Errors.Ignoring([&] { p.Files.Kill(SubjectPictureFile(p.Branch.WorkDir, file)); });
-    const QString gallery = GalleryDirectory(p.Branch.WorkDir);
-    if (p.Files.Resolve(p.Files.CurDir()) != p.Files.Resolve(gallery))
-        return;
     const LikePattern ofRecord(QString(file + u"_##.jpg"));
     QStringList names;
-    p.Errors.Ignoring([&] { names = p.Files.Files(gallery + u'*'); });
+    p.Errors.Ignoring([&] { names = p.Files.Files(GalleryDirectory(p.Branch.WorkDir) + u'*'); });
     for (const QString& name : names)
         if (ofRecord.Matches(name))
-            p.Errors.Ignoring([&] { p.Files.Kill(gallery + name); });
+            p.Errors.Ignoring([&] { p.Files.Kill(name); });
 }
 
 void Unlink(Program& p)

@@ -259,17 +259,6 @@ TEST_F(FieldCopyTest, LowestFreeZNumber_IsTaken)
     EXPECT_EQ(NumbersIn(u'B').last(), u"Z002"_s);
 }
 
-TEST_F(FieldCopyTest, ZNumberWhoseGalleryIsStillThere_IsNotGivenAgain)
-{
-    GivenPair();
-    Home.WriteFile(u"LfgDat_A/LfgGal_A/Z001_01.jpg", "of somebody else");
-    Home.WriteFile(u"LfgDat_B/LfgGal_B/z001_07.txt", "of somebody deleted");
-    Home.WriteFile(u"LfgDat_B/LfgGal_B/Z002_01.jpg", "of somebody deleted");
-    ExpectAppended(u"Z003");
-    Append();
-    EXPECT_EQ(NumbersIn(u'B'), QStringList({u"B001"_s, u"Z003"_s}));
-}
-
 TEST_F(FieldCopyTest, ZNumberOnceSeen_StaysTakenWhileTheWindowLives)
 {
     GivenPair();

@@ -238,7 +238,7 @@ void SessionModel::WriteMap()
     if (!WorkDir.isEmpty() && map_.Owner != WorkDir)
         return;
     const QString stem = WorkDir.isEmpty() ? QString() : WorkDir + u'/' + WorkDir;
-    if (!stem.isEmpty() && map_.KeepsNext && IsFile(stem + u".cfg"))
+    if (!stem.isEmpty() && IsFile(stem + u".cfg") && (map_.KeepsNext || !IsFile(stem + u".~cf")))
         Files[stem + u".~cf"] = Files[Found(stem + u".cfg")];
     const QStringList lines{u'[' + WorkDir + u']', u"[Boxes]"_s, map_.Boxes, u"[Lines]"_s, map_.Lines,
                             u"[Text]"_s,           map_.Texts};
@@ -257,8 +257,7 @@ void SessionModel::ReadMap()
     map_.Owner = WorkDir;
     const QString file = WorkDir + u"/LfgDat_" + WorkDir.back() + u".cfg";
     map_.IsPart = !IsFile(file);
-    // An imported branch writes another file than it reads.
-    map_.KeepsNext = !map_.IsPart || !Same(file, WorkDir + u'/' + WorkDir + u".cfg");
+    map_.KeepsNext = true;
     if (map_.IsPart)
         return Tell(u"Graphic Config File not Found."_s,
                     u"You need to create a new Ancestral Map for this Database."_s);

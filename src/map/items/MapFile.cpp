@@ -95,14 +95,16 @@ MapSource SourceOfPart(const BranchState& branch)
 bool HasWholeTexts(const MapState& map)
 {
     const QString& texts = map.sTextsText;
-    return CountsAsEmpty(texts) || (texts.endsWith(u',') && texts.count(u',') % TextColumn::Count == 0);
+    return CountsAsEmpty(texts) || texts.endsWith(u',');
 }
 
 void WriteLists(Program& p)
 {
     const QString file = MapFileToWrite(p.Branch.WorkDir, p.Branch.HomeDir, u".cfg");
-    if (p.Map.Source != MapSource::Torn && p.Files.LookUpGivesTail(file, fileNameLength))
-        p.Files.FileCopy(file, MapFileToWrite(p.Branch.WorkDir, p.Branch.HomeDir, u".~cf"));
+    const QString before = MapFileToWrite(p.Branch.WorkDir, p.Branch.HomeDir, u".~cf");
+    const bool isBeforeKept = p.Map.Source == MapSource::Torn && !p.Files.Dir(before).isEmpty();
+    if (!isBeforeKept && p.Files.LookUpGivesTail(file, fileNameLength))
+        p.Files.FileCopy(file, before);
     WriteTextLines(p.Files, file,
                    {u"This File Contains Graphic Data crucial to your program. Warning: DO NOT MODIFY."_s,
                     u'[' + DirectoryName(p.Branch.WorkDir) + u']', u"[Boxes]"_s, p.Map.sBoxesText, u"[Lines]"_s,
@@ -151,7 +153,8 @@ void ReadMapFile(Program& p)
     const QString file = MapFileToRead(p.Branch.WorkDir);
     p.Map.Owner = p.Branch.WorkDir;
     if (!p.Files.LookUpGivesTail(file, fileNameLength)) {
-        p.Map.Source = SourceOfPart(p.Branch);
+        // It may be back when the map is written.
+        p.Map.Source = MapSource::Unread;
         p.Prompts.MsgBox(u"Graphic Config File not Found."_s,
                          u"You need to create a new Ancestral Map for this Database."_s, Buttons::Information);
         return;

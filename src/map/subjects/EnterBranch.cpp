@@ -86,9 +86,10 @@ void DrawBranchMap(Program& p)
     p.Errors.Ignoring([&] {
         try {
             ReadMapFile(p);
-        } catch (const RuntimeError&) {
+        } catch (const RuntimeError& refusal) {
             // A part of the map has come.
-            WarnOfFirstEmptyList(p);
+            if (refusal.Number == ErrorNumber::InputPastEnd)
+                WarnOfFirstEmptyList(p);
             throw;
         }
     });

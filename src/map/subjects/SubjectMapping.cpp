@@ -13,7 +13,6 @@
 #include "platform/store/Fields.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/ComeBackAfterwards.h"
-#include "program/branch/FormerGalleries.h"
 #include "program/branch/SiblingBranch.h"
 #include "program/ui/BranchUi.h"
 
@@ -82,26 +81,19 @@ void LinkBox(Program& p, std::optional<int> row, const QString& file, const QStr
         TieBox(p, *row, file, forename);
 }
 
-// The first number that the records, in their stored order, run out of, and nobody's gallery has.
+// The first number that the records, in their stored order, run out of.
 // KEPT(NumberingTest.FirstGapInStoredOrder): it never starts over, so that numbers which don't rise can be given twice.
 // Mended, new records of such a branch would get other numbers.
 QString NextFreeNumber(Program& p, Recordset& records)
 {
-    const FormerGalleries former(p.Files, p.Branch.WorkDir);
-    int counter = 0;
+    int counter = 1;
     const auto candidate = [&]() -> QString {
         return p.Mapping.sBranchLetter + QString::number(counter).rightJustified(3, u'0');
     };
-    const auto advance = [&] {
-        do
-            ++counter;
-        while (former.Has(candidate()));
-    };
-    advance();
     for (records.MoveFirst(); !records.Eof(); records.MoveNext()) {
         p.Record.sCurFile = records.Text(Field::File);
         while (SameText(p.Record.sCurFile, candidate()))
-            advance();
+            ++counter;
     }
     return candidate();
 }

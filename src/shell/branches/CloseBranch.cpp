@@ -39,7 +39,6 @@ void CloseBranch(Program& p)
     p.Record.sPicFile.clear();
     p.Branch.WorkDir.clear();
     p.Branch.WorkDirLen = 0;
-    LeaveOtherHomes(p.Processes, p.Branch);
 
     p.Form2.Unload();
     p.Form3.Unload();
@@ -49,6 +48,7 @@ void CloseBranch(Program& p)
     p.Form7.Unload();
     p.Form8.Unload();
     p.form9.Unload();
+    LeaveOtherHomes(p);
 }
 
 } // namespace lineforge

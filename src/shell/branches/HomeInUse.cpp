@@ -35,13 +35,15 @@ bool MayWorkIn(Processes& processes, Prompts& prompts, const QString& home)
     Q_UNREACHABLE();
 }
 
-void LeaveOtherHomes(Processes& processes, const BranchState& branch)
+void LeaveOtherHomes(Program& p)
 {
-    QStringList homes{branch.HomeDir};
-    for (const QString& directory : {branch.WorkDir, branch.WorkDirSaved})
+    QStringList homes{p.Branch.HomeDir};
+    const QString own = p.Branch.IsSiblingShown() ? p.Branch.WorkDirSaved : p.Branch.WorkDir;
+    const QString compared = p.Form6.IsLoaded() ? p.Compare.sCompDir : QString(); // with a trailing separator
+    for (const QString& directory : {own, compared})
         if (!directory.isEmpty())
-            homes << directory.first(directory.lastIndexOf(PathSeparator) + 1);
-    processes.LeaveHomesBut(homes);
+            homes << directory.first(directory.lastIndexOf(PathSeparator, -2) + 1);
+    p.Processes.LeaveHomesBut(homes);
 }
 
 } // namespace lineforge

@@ -2,7 +2,7 @@
 
 #include "platform/machine/Processes.h"
 #include "platform/machine/Prompts.h"
-#include "program/state/BranchState.h"
+#include "program/state/Program.h"
 
 namespace lineforge
 {
@@ -11,7 +11,7 @@ namespace lineforge
 // front then; one that can't be reached is his to judge.
 [[nodiscard]] bool MayWorkIn(Processes& processes, Prompts& prompts, const QString& home);
 
-// Leaves those homes to others in which neither the list nor the open branch is.
-void LeaveOtherHomes(Processes& processes, const BranchState& branch);
+// Leaves those homes to others in which neither the list is nor the open branch nor the one that it is compared with.
+void LeaveOtherHomes(Program& p);
 
 } // namespace lineforge

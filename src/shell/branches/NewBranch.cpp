@@ -145,7 +145,7 @@ void MakeBranch(Program& p, const QString& name, const QString& directory)
         ParseLines(p);
         ParseTexts(p);
     });
-    LeaveOtherHomes(p.Processes, p.Branch);
+    LeaveOtherHomes(p);
     EnableBranchUI(*p.Form1);
     std::ignore = TellIfEmptyTable(Records(p.Form3), p.Prompts); // nothing is left to be done
 }

@@ -73,7 +73,7 @@ void OpenSelectedBranch(Program& p)
     }
 
     const bool isOpen = EnterBranch(p, name, DirectoryName(entry));
-    LeaveOtherHomes(p.Processes, p.Branch);
+    LeaveOtherHomes(p);
     if (!isOpen)
         return;
     EnableBranchUI(*p.Form1);
@@ -116,7 +116,7 @@ void ChangeHomeDirectory(Program& p)
         p.Branch.HomeDirSaved = p.Branch.HomeDir;
         FillBranchList(p);
     }
-    LeaveOtherHomes(p.Processes, p.Branch);
+    LeaveOtherHomes(p);
 }
 
 } // namespace lineforge

@@ -23,6 +23,7 @@
 #include "shell/branches/BackUpBranch.h"
 #include "shell/branches/CloseBranch.h"
 #include "shell/branches/DeleteBranch.h"
+#include "shell/branches/HomeInUse.h"
 #include "shell/branches/NewBranch.h"
 #include "shell/branches/OpenBranch.h"
 #include "shell/handlers/InstallHandlers.h"
@@ -84,7 +85,10 @@ void InstallForm1(Program& p, forms::Form1& form)
     form.mnuBackup.Click = [&p] { BackUpBranch(p); };
     form.mnuExpSub.Click = [&p] { ChooseExport(p); };
     form.mnuExpGedcom.Click = [&p] { ShowGedcomForm(p.Form12); };
-    form.mnuImpSub.Click = [&p] { ImportBranch(p); };
+    form.mnuImpSub.Click = [&p] {
+        ImportBranch(p);
+        LeaveOtherHomes(p);
+    };
     form.mnuImpGedcom.Click = [&p] { ConvertGedcom(p); };
     form.mnuCloseDB.Click = [&p] { CloseBranch(p); };
     form.mnuExit.Click = [&p] { ExitProgram(p); };

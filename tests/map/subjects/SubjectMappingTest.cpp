@@ -302,20 +302,6 @@ TEST_P(NumberingTest, FirstGapInStoredOrder)
 
 INSTANTIATE_TEST_SUITE_P(Stored, NumberingTest, ValuesIn(numberings));
 
-// Nobody else gets what a deleted record has left in the gallery.
-TEST_F(SubjectMappingTest, NumberWhoseGalleryIsStillThere_IsNotGivenAgain)
-{
-    GivenRecords({u"A001"_s, u"A003"_s, u"A004"_s});
-    for (const QStringView name : {u"A001_01.jpg", u"a002_07.txt", u"A003_01.jpg"})
-        Home.WriteFile(QString(u"LfgDat_A/LfgGal_A/" + name), "picture");
-    ChooseNewRecord();
-
-    DoubleClickBox(0);
-
-    EXPECT_EQ(FileOf(0), u"A005"_s);
-    EXPECT_EQ(FilesOf(BranchA), QStringList({u"A001"_s, u"A003"_s, u"A004"_s, u"A005"_s}));
-}
-
 class UnmappedRecordTest : public SubjectMappingTest
 {
 protected:

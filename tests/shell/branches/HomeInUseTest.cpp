@@ -129,6 +129,7 @@ TEST_F(OtherHomeInUseTest, HomeOfTheOpenBranch_IsKept_UntilThatIsLeft)
     Click(P.Form8->Command3.Click);
     EXPECT_EQ(Machine.Processes.Kept, QStringList({There, Here}));
 
+    P.Branch.WorkDirSaved = Home.Path(u"LfgDat_A"); // as a visit to a sibling has left it
     P.Form8->List1.ListIndex = 0;
     Click(P.Form8->Command1.Click);
 
