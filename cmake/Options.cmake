@@ -7,7 +7,9 @@ target_compile_definitions(lineforge_options INTERFACE
     QT_NO_CONTEXTLESS_CONNECT
     QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
     QT_NO_URL_CAST_FROM_STRING
-    QT_USE_QSTRINGBUILDER)
+    QT_USE_QSTRINGBUILDER
+    # What later versions advise against is still the way of the oldest one that this project is built with.
+    QT_WARN_DEPRECATED_UP_TO=0x060400)
 target_compile_options(lineforge_options INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
     $<$<BOOL:${LINEFORGE_WERROR}>:-Werror>)

@@ -6,6 +6,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
+#include <QTimeZone>
 
 #include <unistd.h>
 
@@ -410,7 +411,7 @@ TEST_F(BranchExportTest, BranchWithoutGallery_GoesWithAnEmptyOne)
 
 TEST_F(BranchExportTest, TimesOfFiles_GoAlong)
 {
-    const QDateTime then(QDate(1999, 12, 31), QTime(23, 59, 58), Qt::UTC);
+    const QDateTime then(QDate(1999, 12, 31), QTime(23, 59, 58), QTimeZone::utc());
     QFile picture(Home.Path(u"LfgDat_A/A001Sub.jpg"));
     ASSERT_TRUE(picture.open(QFile::ReadWrite));
     ASSERT_TRUE(picture.setFileTime(then, QFileDevice::FileModificationTime));

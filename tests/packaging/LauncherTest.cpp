@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <QTimeZone>
 
 #include <gmock/gmock.h>
 
@@ -97,7 +98,7 @@ TEST_F(LauncherTest, NewerPackage_ReplacesProgramAndFixedFiles_KeepsWhatIsTheUse
 TEST_F(LauncherTest, SamePackage_WritesNothing)
 {
     Launch();
-    const QDateTime longAgo(QDate(2001, 1, 1), QTime(12, 0), Qt::UTC);
+    const QDateTime longAgo(QDate(2001, 1, 1), QTime(12, 0), QTimeZone::utc());
     for (const QString& name : FilesBelow(Home())) {
         QFile file(Home(name));
         ASSERT_TRUE(file.open(QIODevice::ReadWrite));

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QTimeZone>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -50,7 +51,7 @@ TEST_F(DirectoryFilesTest, Copy_TakesContentAndTime_HiddenFilesToo)
     Home.WriteFile(u"from/a.txt", "one");
     Home.WriteFile(u"from/.b", QByteArray(3'000'001, 'b'));
     Home.WriteFile(u"from/empty", "");
-    const QDateTime then(QDate(2001, 2, 3), QTime(4, 5, 6), Qt::UTC);
+    const QDateTime then(QDate(2001, 2, 3), QTime(4, 5, 6), QTimeZone::utc());
     QFile file(Home.Path(u"from/a.txt"));
     ASSERT_TRUE(file.open(QFile::ReadWrite) && file.setFileTime(then, QFileDevice::FileModificationTime));
     file.close();
