@@ -3,6 +3,7 @@
 #include "editor/EditorWindow.h"
 #include "editor/TextArea.h"
 #include "qt/Dialogs.h"
+#include "support/NamedChild.h"
 #include "support/Printing.h"
 #include "support/TemporaryHome.h"
 
@@ -21,7 +22,7 @@ protected:
     template <class Widget>
     Widget& Find(const QString& name)
     {
-        auto* found = Editor.findChild<Widget*>(name);
+        auto* found = NamedChild<Widget>(Editor, name);
         if (!found)
             throw std::runtime_error("nothing of the name " + name.toStdString());
         return *found;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "qt/QtPlatform.h"
+#include "support/NamedChild.h"
 #include "support/Printing.h"
 
 #include <QApplication>
@@ -32,7 +33,7 @@ protected:
     Widget& Find(const Form& form, const QString& name)
     {
         QWidget* window = System().WidgetOf(form);
-        auto* found = window ? window->findChild<Widget*>(name) : nullptr;
+        auto* found = window ? NamedChild<Widget>(*window, name) : nullptr;
         if (!found)
             throw std::runtime_error("no widget of the name " + name.toStdString());
         return *found;
