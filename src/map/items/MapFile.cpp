@@ -152,20 +152,17 @@ void ReadMapFile(Program& p)
 {
     const QString file = MapFileToRead(p.Branch.WorkDir);
     p.Map.Owner = p.Branch.WorkDir;
+    // One that isn't there, or can't be read, may be back when the map is written.
+    p.Map.Source = MapSource::Unread;
     if (!p.Files.LookUpGivesTail(file, fileNameLength)) {
-        // It may be back when the map is written.
-        p.Map.Source = MapSource::Unread;
         p.Prompts.MsgBox(u"Graphic Config File not Found."_s,
                          u"You need to create a new Ancestral Map for this Database."_s, Buttons::Information);
         return;
     }
-    p.Map.Source = MapSource::Unread;
     try {
         // What is missing comes out empty.
-        if (ReadMapLists(p.Files, file, p.Map) && HasWholeTexts(p.Map))
-            p.Map.Source = MapSource::Whole;
-        else
-            p.Map.Source = SourceOfPart(p.Branch);
+        const bool isWhole = ReadMapLists(p.Files, file, p.Map) && HasWholeTexts(p.Map);
+        p.Map.Source = isWhole ? MapSource::Whole : SourceOfPart(p.Branch);
     } catch (const RuntimeError& refusal) {
         if (refusal.Number == ErrorNumber::InputPastEnd)
             p.Map.Source = SourceOfPart(p.Branch);

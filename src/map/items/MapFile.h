@@ -33,7 +33,7 @@ void WarnOfFirstEmptyList(Program& p);
 [[nodiscard]] bool ReadMapLists(const FileSystem& files, const QString& path, MapState& map);
 
 // Writes the three lists, the old file becoming the previous generation, unless it was torn, or has been written from
-// lists that were read from a torn one. The file goes to the branch whose map is in
+// a part of a map, and there is an earlier generation to be kept. The file goes to the branch whose map is in
 // memory, also while a record of another branch is shown; lists of no branch, or of another one, are not written.
 // Errors of the disk; the old file then stays.
 void WriteMapFile(Program& p);

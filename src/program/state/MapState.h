@@ -110,8 +110,8 @@ inline constexpr int BoxHeight = 217;
 inline constexpr int BoxCentreX = 307; // from its corner
 inline constexpr int BoxCentreY = 108;
 
-// The file that the map in memory is written to, as it was when the map was read. A torn one isn't there, or has only a
-// part of its lists; one that hasn't been read may be whole although the map isn't.
+// The file that the map in memory is written to, as it was when the map was read. A torn one has only a part of its
+// lists; one that hasn't been read, or wasn't there, may be whole when it is written, although the map isn't.
 enum class MapSource { Whole, Torn, Unread };
 
 // The map in memory: three arrays, and the three lists of the map file that they were made from.

@@ -5,7 +5,6 @@
 
 #include <QFile>
 #include <QLocalSocket>
-#include <QWindow>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -30,12 +29,8 @@ QString NameOf(const struct stat& status)
 
 void ComeToFront()
 {
-    QWindow* window = LastWindowInUse();
-    if (!window)
-        return;
-    if (window->windowStates().testFlag(Qt::WindowMinimized))
-        window->setWindowStates(window->windowStates() & ~Qt::WindowMinimized);
-    BringToFront(*window);
+    if (QWidget* window = LastWindowInUse())
+        ShowInFront(*window);
 }
 
 QString NameOf(int directory)

@@ -19,7 +19,6 @@ public:
 
     bool IsOurs() const { return isOurs_; }
     bool IsOf(const QString& home) const;
-    bool IsOfSameHome(const HomeClaim& other) const { return name_ == other.name_; }
 
     // Of our own claim: from now on this run asks for the front whenever another one calls.
     void AnswerCalls();

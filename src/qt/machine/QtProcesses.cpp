@@ -23,10 +23,9 @@ qint64 QtProcesses::Shell(const QString& program, const QString& file)
 
 HomeOwner QtProcesses::ClaimHome(const QString& home)
 {
-    auto claim = std::make_unique<HomeClaim>(home);
-    const auto isSameHome = [&claim](const auto& held) { return held->IsOfSameHome(*claim); };
-    if (std::ranges::any_of(claims_, isSameHome))
+    if (std::ranges::any_of(claims_, [&home](const auto& held) { return held->IsOf(home); }))
         return HomeOwner::ThisRun;
+    auto claim = std::make_unique<HomeClaim>(home);
     if (!claim->IsOurs())
         return claim->CallOwner() ? HomeOwner::OtherInFront : HomeOwner::OtherOutOfReach;
     claim->AnswerCalls();

@@ -15,37 +15,31 @@ namespace lineforge
 namespace
 {
 // The one used last is the last.
-std::vector<QPointer<QWindow>>& Used()
+std::vector<QPointer<QWidget>>& Used()
 {
-    static std::vector<QPointer<QWindow>> windows;
+    static std::vector<QPointer<QWidget>> windows;
     return windows;
 }
 
-void Remember(QWindow* window)
+void Remember(const QWindow* focused)
 {
-    if (!window || window->type() == Qt::Popup)
+    QWidget* window = focused ? QWidget::find(focused->winId()) : nullptr;
+    if (!window || window->windowType() == Qt::Popup)
         return;
-    std::erase_if(Used(), [window](const QPointer<QWindow>& used) { return !used || used == window; });
+    std::erase_if(Used(), [window](const QPointer<QWidget>& used) { return !used || used == window; });
     Used().emplace_back(window);
 }
 
 template <typename Predicate>
-QWindow* LastUsed(const Predicate& isWanted)
+QWidget* LastUsed(const Predicate& isWanted)
 {
-    for (const QPointer<QWindow>& window : Used() | std::views::reverse)
+    for (const QPointer<QWidget>& window : Used() | std::views::reverse)
         if (window && window->isVisible() && isWanted(*window))
             return window;
-    for (QWindow* window : QGuiApplication::topLevelWindows())
-        if (window->isVisible() && window->type() != Qt::Popup && isWanted(*window))
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible() && window->windowType() != Qt::Popup && isWanted(*window))
             return window;
     return nullptr;
-}
-
-QWidget* WidgetOf(const QWindow& window)
-{
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    const auto found = std::ranges::find(widgets, &window, &QWidget::windowHandle);
-    return found == widgets.end() ? nullptr : *found;
 }
 } // namespace
 
@@ -55,18 +49,16 @@ void FollowWindowsInUse()
         QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, qGuiApp, &Remember);
 }
 
-QWindow* LastWindowInUse()
+QWidget* LastWindowInUse()
 {
-    return LastUsed([](const QWindow&) { return true; });
+    return LastUsed([](const QWidget&) { return true; });
 }
 
 QWidget* WindowInUse()
 {
     if (QWidget* active = QApplication::activeWindow())
         return active;
-    const QWindow* window = LastUsed(
-        [](const QWindow& used) { return !used.windowStates().testFlag(Qt::WindowMinimized) && WidgetOf(used); });
-    return window ? WidgetOf(*window) : nullptr;
+    return LastUsed([](const QWidget& window) { return !window.isMinimized(); });
 }
 
 } // namespace lineforge

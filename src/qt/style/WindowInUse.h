@@ -1,7 +1,6 @@
 #pragma once
 
 class QWidget;
-class QWindow;
 
 namespace lineforge
 {
@@ -11,7 +10,7 @@ void FollowWindowsInUse();
 
 // The window that the user works in, or worked in last while another program is in use; any that is shown when it was
 // none yet. Null when none is shown. It may be minimised.
-QWindow* LastWindowInUse();
+QWidget* LastWindowInUse();
 
 // The same, for a box to belong to: one that is to be seen.
 QWidget* WindowInUse();

@@ -19,7 +19,20 @@ protected:
         Home.WriteFile(beforeIt, "the map before");
     }
 
+    static QByteArray MapWithText(QStringView text)
+    {
+        return MapFileBytes(u"LfgDat_A", u"1200,600,255,A001,John,", u"1507,817,2307,817,0,",
+                            QString(u"300,150," + text + u",Arial,8,0,"));
+    }
+
     void GivenMapFile(const QByteArray& bytes) { Home.WriteFile(file, bytes); }
+    // It will be missed at the opening.
+    void GivenNoMapFile()
+    {
+        P.Files.Kill(Home.Path(file));
+        Prompts.Expect(u"Graphic Config File not Found.", u"You need to create a new Ancestral Map for this Database.",
+                       Buttons::Information);
+    }
 
     void ExpectWarning(QStringView text)
     {
@@ -36,13 +49,12 @@ protected:
     QByteArray Before() const { return Home.ReadFile(beforeIt); }
 
     static constexpr QStringView file = u"LfgDat_A/LfgDat_A.cfg";
+    const QByteArray whole = MapWithText(u"The Smiths");
     static constexpr QStringView beforeIt = u"LfgDat_A/LfgDat_A.~cf";
 };
 
 TEST_F(MapGenerationTest, WholeMap_BecomesTheGenerationBefore)
 {
-    const QByteArray whole = MapFileBytes(u"LfgDat_A", u"1200,600,255,A001,John,", u"1507,817,2307,817,0,",
-                                          u"300,150,The Smiths,Arial,8,0,");
     GivenMapFile(whole);
     Open();
 
@@ -97,8 +109,6 @@ TEST_P(TornMapTest, AfterAWholeOneHasBeenRead_GenerationsGoOn)
     if (!GetParam().Warning.isEmpty())
         ExpectWarning(GetParam().Warning);
     Open();
-    const QByteArray whole = MapFileBytes(u"LfgDat_A", u"1200,600,255,A001,John,", u"1507,817,2307,817,0,",
-                                          u"300,150,The Smiths,Arial,8,0,");
     GivenMapFile(whole);
     Open();
 
@@ -123,9 +133,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(MapGenerationTest, MapThatIsNotThere_TheGenerationBeforeStays)
 {
-    P.Files.Kill(Home.Path(file));
-    Prompts.Expect(u"Graphic Config File not Found.", u"You need to create a new Ancestral Map for this Database.",
-                   Buttons::Information);
+    GivenNoMapFile();
 
     Open();
     SaveBoxes(P);
@@ -137,9 +145,7 @@ TEST_F(MapGenerationTest, MapThatIsNotThere_TheGenerationBeforeStays)
 // A disk that comes late, or a program that puts files in place anew.
 TEST_F(MapGenerationTest, MapThatIsBackWhenItIsSaved_BecomesTheGenerationBefore_AndStaysIt)
 {
-    P.Files.Kill(Home.Path(file));
-    Prompts.Expect(u"Graphic Config File not Found.", u"You need to create a new Ancestral Map for this Database.",
-                   Buttons::Information);
+    GivenNoMapFile();
     Open();
     GivenMapFile("the map that was away");
 
@@ -151,10 +157,8 @@ TEST_F(MapGenerationTest, MapThatIsBackWhenItIsSaved_BecomesTheGenerationBefore_
 
 TEST_F(MapGenerationTest, MapThatIsNotThere_WithoutAGenerationBefore_HasThoseThatFollow)
 {
-    P.Files.Kill(Home.Path(file));
+    GivenNoMapFile();
     P.Files.Kill(Home.Path(beforeIt));
-    Prompts.Expect(u"Graphic Config File not Found.", u"You need to create a new Ancestral Map for this Database.",
-                   Buttons::Information);
     Open();
     SaveBoxes(P);
     const QByteArray first = Home.ReadFile(file);
@@ -167,8 +171,7 @@ TEST_F(MapGenerationTest, MapThatIsNotThere_WithoutAGenerationBefore_HasThoseTha
 // Which the text tool takes, and by which a list has more values than its items.
 TEST_F(MapGenerationTest, MapWithACommaInAText_BecomesTheGenerationBefore)
 {
-    const QByteArray map = MapFileBytes(u"LfgDat_A", u"1200,600,255,A001,John,", u"1507,817,2307,817,0,",
-                                        u"300,150,York, 1901,Arial,8,0,");
+    const QByteArray map = MapWithText(u"York, 1901");
     GivenMapFile(map);
 
     Open();
