@@ -103,7 +103,7 @@ void RedrawFullMap(benchmark::State& state)
 {
     Program& p = FullMap().P;
     for (auto _ : state)
-        RedrawMap(p, MapOnScreen(p));
+        RedrawMap(p, MapOnScreen(p.Map, *p.Form1));
 }
 
 // Takes the whole map.
@@ -234,7 +234,7 @@ private:
 void PaintFullMap(benchmark::State& state)
 {
     Program& p = FullMap().P;
-    RedrawMap(p, MapOnScreen(p));
+    RedrawMap(p, MapOnScreen(p.Map, *p.Form1));
     BareMap bare(p.Form1->Picture1);
     for (auto _ : state) {
         bare.PaintBoxes(p.Map);

@@ -86,7 +86,7 @@ void DoubleClickLast(benchmark::State& state)
     for (auto _ : state) {
         p.Mouse.DownX = 1100;
         p.Mouse.DownY = 1050;
-        DoubleClickOnMap(p);
+        DoubleClickOnMap(p, p);
         if (p.Record.sCurFile != last)
             state.SkipWithError("the record was not found");
     }
@@ -116,7 +116,7 @@ void ScannerStep(benchmark::State& state)
     static Program& p = (new OpenProgram)->P;
     const auto step = [&](ScanMode mode) {
         p.Record.RecordScanMode = static_cast<int>(mode);
-        TickScan(p);
+        TickScan(p, p, p.Databases.Others());
         if (p.Form3->Image1.Picture.value().isNull())
             state.SkipWithError("no picture is shown");
     };

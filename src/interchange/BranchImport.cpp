@@ -80,10 +80,10 @@ void OpenImported(Program& p, const QString& name, const QString& directory)
     p.Screen.Pointer = MousePointer::Default;
     if (!isOpen)
         return LeaveToolsIfOpen(p);
-    if (EmptySubjectIfNoRecords(p))
+    if (EmptySubjectIfNoRecords(p.Form1, p.Form3, p.Prompts))
         return;
     EnableBranchUI(*p.Form1);
-    ShowFirstSubject(p);
+    ShowFirstSubject(p, p);
 }
 } // namespace
 
@@ -108,7 +108,7 @@ void ImportBranch(Program& p)
     p.Scratch.sNewDir = directory;
     // Before anything is made: what is typed may have to stay, and its branch with it, and the user may not wait for
     // another program that works on the database.
-    StoreTypedOrStay(p);
+    StoreTypedOrStay(p.Form3, p.Errors, p.Prompts);
     const DatabaseToCopy database = TakeDatabase(p.Databases.Others(), p.Files, *chosen);
     if (!MakeTarget(p, directory))
         return;

@@ -2,7 +2,6 @@
 
 #include "map/items/MapDisplay.h"
 #include "output/PrintErrors.h"
-#include "program/state/Program.h"
 
 namespace lineforge
 {
@@ -13,37 +12,37 @@ namespace
 {
 constexpr Rectangle frame{1000, 0, 8700, 14000};
 
-void SetUpPage(Program& p)
+void SetUpPage(Printer& printer)
 {
-    p.Printer.Font = {u"Courier"_s, 7};
-    p.Printer.Landscape = true;
+    printer.Font = {u"Courier"_s, 7};
+    printer.Landscape = true;
 }
 
 // An item that fails costs its own drawing; the first of the failures is told. A printer that isn't there goes before
 // them all, whichever item would have been the first to need it.
-void DrawOnPaper(Program& p)
+void DrawOnPaper(const MapWork& work, Printer& printer)
 {
-    p.Printer.Begin();
-    p.Errors.Clear();
-    RedrawMap(p, MapOnPaper(p.Printer));
-    if (p.Errors.First)
-        throw RuntimeError(*p.Errors.First);
+    printer.Begin();
+    work.Errors.Clear();
+    RedrawMap(work, MapOnPaper(printer));
+    if (work.Errors.First)
+        throw RuntimeError(*work.Errors.First);
 }
 } // namespace
 
-void PrintMap(Program& p)
+void PrintMap(const MapWork& work, Printer& printer, Screen& screen)
 {
-    if (TellIfNoBranch(p.Branch, p.Form3, p.Prompts))
+    if (TellIfNoBranch(work.Branch, work.Form3, work.Prompts))
         return;
-    p.Screen.Pointer = MousePointer::Hourglass;
-    SetUpPage(p);
-    ReportingErrors(p.Errors, p.Prompts, [&] { DrawOnPaper(p); });
-    p.Printer.ForeColor = Black;
-    ReportingErrors(p.Errors, p.Prompts, [&] { p.Printer.Box(frame); });
-    ReportingErrors(p.Errors, p.Prompts, [&] { p.Printer.EndDoc(); });
-    p.Printer.Landscape = false;
-    p.Printer.DrawWidth = 1;
-    p.Screen.Pointer = MousePointer::Default;
+    screen.Pointer = MousePointer::Hourglass;
+    SetUpPage(printer);
+    ReportingErrors(work.Errors, work.Prompts, [&] { DrawOnPaper(work, printer); });
+    printer.ForeColor = Black;
+    ReportingErrors(work.Errors, work.Prompts, [&] { printer.Box(frame); });
+    ReportingErrors(work.Errors, work.Prompts, [&] { printer.EndDoc(); });
+    printer.Landscape = false;
+    printer.DrawWidth = 1;
+    screen.Pointer = MousePointer::Default;
 }
 
 } // namespace lineforge

@@ -9,7 +9,6 @@
 #include "program/branch/BranchPaths.h"
 #include "program/branch/ComeBackAfterwards.h"
 #include "program/branch/SiblingBranch.h"
-#include "program/state/Program.h"
 #include "program/ui/BranchUi.h"
 #include "records/RecordPicture.h"
 
@@ -20,103 +19,103 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-bool ConfirmUnlinking(Program& p)
+bool ConfirmUnlinking(Prompts& prompts)
 {
-    return p.Prompts.MsgBox(u"Deletion of Subject Records"_s,
-                            u"This Record is from another Tree Branch. You must \n"
-                            u"open that Tree Branch to delete the full record. This\n"
-                            u"delete will remove access to it from this Tree Branch.\n\n"
-                            u"             Is this what you want ? "_s,
-                            Buttons::QuestionYesNo) == Answer::Yes;
+    return prompts.MsgBox(u"Deletion of Subject Records"_s,
+                          u"This Record is from another Tree Branch. You must \n"
+                          u"open that Tree Branch to delete the full record. This\n"
+                          u"delete will remove access to it from this Tree Branch.\n\n"
+                          u"             Is this what you want ? "_s,
+                          Buttons::QuestionYesNo) == Answer::Yes;
 }
 
-bool ConfirmDeletion(Program& p)
+bool ConfirmDeletion(Prompts& prompts)
 {
-    return p.Prompts.MsgBox(u"Delete Record"_s, u"Do you really want to delete this record?"_s,
-                            Buttons::QuestionYesNo) == Answer::Yes &&
-           p.Prompts.MsgBox(u"Deletion of Subject Records"_s,
-                            u"All information in this record will be deleted\n"
-                            u"including any Subject and Gallery graphic files.\n"
-                            u"Are you sure this is what you want ? "_s,
-                            Buttons::ErrorYesNo) == Answer::Yes;
+    return prompts.MsgBox(u"Delete Record"_s, u"Do you really want to delete this record?"_s, Buttons::QuestionYesNo) ==
+               Answer::Yes &&
+           prompts.MsgBox(u"Deletion of Subject Records"_s,
+                          u"All information in this record will be deleted\n"
+                          u"including any Subject and Gallery graphic files.\n"
+                          u"Are you sure this is what you want ? "_s,
+                          Buttons::ErrorYesNo) == Answer::Yes;
 }
 
 // The gallery is listed by its path, but a file killed by its bare name.
 // KEPT(DeletedGalleryTest.CurrentDirectoryIsTheBranch_EveryFileStays): it goes only where the gallery is the current
 // directory.
 // Mended, pictures would be lost that outlive their record now.
-void KillFiles(Program& p, const QString& file)
+void KillFiles(FileSystem& files, ErrorState& errors, const QString& workDir, const QString& file)
 {
-    p.Errors.Ignoring([&] { p.Files.Kill(SubjectPictureFile(p.Branch.WorkDir, file)); });
+    errors.Ignoring([&] { files.Kill(SubjectPictureFile(workDir, file)); });
     const LikePattern ofRecord(QString(file + u"_##.jpg"));
     QStringList names;
-    p.Errors.Ignoring([&] { names = p.Files.Files(GalleryDirectory(p.Branch.WorkDir) + u'*'); });
+    errors.Ignoring([&] { names = files.Files(GalleryDirectory(workDir) + u'*'); });
     for (const QString& name : names)
         if (ofRecord.Matches(name))
-            p.Errors.Ignoring([&] { p.Files.Kill(name); });
+            errors.Ignoring([&] { files.Kill(name); });
 }
 
-void Unlink(Program& p)
+void Unlink(const MapWork& work)
 {
-    const QString file = Records(p.Form3).Text(Field::File);
-    p.Record.sAltName = Records(p.Form3).Text(Field::Forename);
-    OpenOwnBranch(p);
-    EraseSiblingsBox(p, file);
-    SaveBoxes(p);
-    EndAlternate(p.Branch, p.Form3);
-    Records(p.Form3).MoveFirst();
+    const QString file = Records(work.Form3).Text(Field::File);
+    work.Record.sAltName = Records(work.Form3).Text(Field::Forename);
+    OpenOwnBranch(work);
+    EraseSiblingsBox(work, file);
+    SaveBoxes(work.Map, work.Branch, work.Files);
+    EndAlternate(work.Branch, work.Form3);
+    Records(work.Form3).MoveFirst();
 }
 
 // Takes the record out of the table, and then out of its box. False when the table refuses.
-bool TakeOut(Program& p)
+bool TakeOut(const BoxWork& work)
 {
     std::optional<int> row;
-    p.Errors.Ignoring([&] { row = RowToErase(p); });
+    work.Errors.Ignoring([&] { row = RowToErase(work); });
     try {
-        Records(p.Form3).Delete();
+        Records(work.Form3).Delete();
     } catch (const RuntimeError& error) {
-        p.Errors.Last = error;
+        work.Errors.Last = error;
         return false;
     }
     if (row)
-        p.Errors.Ignoring([&] { EmptyBox(p, *row); });
+        work.Errors.Ignoring([&] { EmptyBox(work.Map, *work.Form1, *row); });
     return true;
 }
 
 // The files go last, so that a record which can't be deleted keeps its own. What is typed goes with the record, or
 // stays pending with it.
-void DeleteWithFiles(Program& p)
+void DeleteWithFiles(const MapWork& work)
 {
-    const QString file = Records(p.Form3).Text(Field::File);
-    if (!TakeOut(p))
+    const QString file = Records(work.Form3).Text(Field::File);
+    if (!TakeOut(work))
         return;
     if (!file.isEmpty())
-        KillFiles(p, file);
-    p.Errors.Ignoring([&] { Records(p.Form3).MoveFirst(); });
-    p.Errors.Ignoring([&] { Records(p.Form3).Update(); });
-    p.Errors.Ignoring([&] { SaveBoxes(p); });
+        KillFiles(work.Files, work.Errors, work.Branch.WorkDir, file);
+    work.Errors.Ignoring([&] { Records(work.Form3).MoveFirst(); });
+    work.Errors.Ignoring([&] { Records(work.Form3).Update(); });
+    work.Errors.Ignoring([&] { SaveBoxes(work.Map, work.Branch, work.Files); });
 }
 } // namespace
 
-void DeleteRecord(Program& p)
+void DeleteRecord(const MapWork& work, const SubjectPictures& pictures, Screen& screen)
 {
-    if (p.Tools.MapCursorMode == MapCursor::Mapping)
-        ClearMapCursor(p.Tools, p.Screen);
-    if (!Records(p.Form3).HasRow())
+    if (work.Tools.MapCursorMode == MapCursor::Mapping)
+        ClearMapCursor(work.Tools, screen);
+    if (!Records(work.Form3).HasRow())
         return;
-    const Bookmark asked = Records(p.Form3).GetBookmark();
-    if (p.Branch.IsSiblingShown()) {
-        if (!ConfirmUnlinking(p))
+    const Bookmark asked = Records(work.Form3).GetBookmark();
+    if (work.Branch.IsSiblingShown()) {
+        if (!ConfirmUnlinking(work.Prompts))
             return;
-        StandOn(Records(p.Form3), asked);
-        Unlink(p);
+        StandOn(Records(work.Form3), asked);
+        Unlink(work);
     } else {
-        if (!ConfirmDeletion(p))
+        if (!ConfirmDeletion(work.Prompts))
             return;
-        StandOn(Records(p.Form3), asked);
-        DeleteWithFiles(p);
+        StandOn(Records(work.Form3), asked);
+        DeleteWithFiles(work);
     }
-    p.Errors.Ignoring([&] { ShowRecordPicture(p); });
+    work.Errors.Ignoring([&] { ShowRecordPicture(pictures); });
 }
 
 } // namespace lineforge

@@ -15,7 +15,6 @@
 #include "platform/store/Fields.h"
 #include "program/branch/ComeBackAfterwards.h"
 #include "program/branch/SiblingBranch.h"
-#include "program/state/Program.h"
 #include "program/ui/BranchUi.h"
 #include "records/RecordPicture.h"
 
@@ -26,75 +25,76 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-void RenameBoxOfRecord(Program& p, const QString& forename)
+void RenameBoxOfRecord(MapState& map, Window<forms::Form1>& mainWindow, Window<forms::Form3>& recordForm,
+                       const QString& forename)
 {
-    if (const int row = RowOfRecord(p.Map, Records(p.Form3).Value(Field::File)); row <= LastFiledBox)
-        RenameBox(p, row, forename);
+    if (const int row = RowOfRecord(map, Records(recordForm).Value(Field::File)); row <= LastFiledBox)
+        RenameBox(map, *mainWindow, row, forename);
 }
 
 // A record without a box would be printed wherever the last one was, in somebody else's box maybe.
-void CaptionBoxOfRecord(Program& p)
+void CaptionBoxOfRecord(const BoxWork& work)
 {
-    const int row = RowOfRecord(p.Map, Records(p.Form3).Value(Field::File));
+    const int row = RowOfRecord(work.Map, Records(work.Form3).Value(Field::File));
     if (row > LastFiledBox)
         return;
-    TakeBoxPosition(p, row);
-    DrawRecordInBox(p, MapOnScreen(p));
-    RenameBox(p, row, Records(p.Form3).Text(Field::Forename));
+    TakeBoxPosition(work.Mouse, work.Map, row);
+    DrawRecordInBox(work, MapOnScreen(work.Map, *work.Form1));
+    RenameBox(work.Map, *work.Form1, row, Records(work.Form3).Text(Field::Forename));
 }
 
 // What is being drawn with the tools is saved when they are closed, or not at all.
-QString ListOfBoxesToSave(Program& p)
+QString ListOfBoxesToSave(const BoxWork& work)
 {
-    return AreToolsShown(p)
-               ? ListWithForename(p.Map.sBoxesText, Records(p.Form3).Text(Field::File), p.Form3->Text3.Text)
-               : ListOfBoxes(p.Map);
+    return AreToolsShown(*work.Form1)
+               ? ListWithForename(work.Map.sBoxesText, Records(work.Form3).Text(Field::File), work.Form3->Text3.Text)
+               : ListOfBoxes(work.Map);
 }
 
 // A forename changed only in its letters' case counts as unchanged.
-void CarryForenameToMap(Program& p)
+void CarryForenameToMap(const BoxWork& work)
 {
-    if (SameText(p.Form3->Text3.Text.value(), p.Record.sShownName))
+    if (SameText(work.Form3->Text3.Text.value(), work.Record.sShownName))
         return;
-    p.Errors.Ignoring([&] { RenameBoxOfRecord(p, p.Form3->Text3.Text); });
-    p.Errors.Ignoring([&] { p.Map.sBoxesText = ListOfBoxesToSave(p); });
+    work.Errors.Ignoring([&] { RenameBoxOfRecord(work.Map, work.Form1, work.Form3, work.Form3->Text3.Text); });
+    work.Errors.Ignoring([&] { work.Map.sBoxesText = ListOfBoxesToSave(work); });
 }
 
 // The boxes may still have to follow the last move. Where the database refuses that they show another record, whose
 // texts must be carried nowhere.
-bool BoxesAreCurrent(Program& p)
+bool BoxesAreCurrent(ErrorState& errors, Window<forms::Form3>& recordForm)
 {
     bool areCurrent = false;
-    p.Errors.Ignoring([&] {
-        p.Form3->Data1.Settle();
+    errors.Ignoring([&] {
+        recordForm->Data1.Settle();
         areCurrent = true;
     });
     return areCurrent;
 }
 
-void FinishMapping(Program& p)
+void FinishMapping(const BoxWork& work)
 {
-    if (p.Tools.MapCursorMode != MapCursor::Mapping)
+    if (work.Tools.MapCursorMode != MapCursor::Mapping)
         return;
-    p.Errors.Ignoring([&] { Records(p.Form3).Put(Field::Forename, p.Form3->Text3.Text.value()); });
-    p.Errors.Ignoring([&] { KeepPosition(p.Record, Records(p.Form3)); });
-    p.Errors.Ignoring([&] { Records(p.Form3).Update(); });
-    p.Errors.Ignoring([&] { ComeBack(p.Record, p.Form3); });
-    p.Errors.Ignoring([&] { CaptionBoxOfRecord(p); });
-    p.Tools.MapCursorMode = MapCursor::Normal;
+    work.Errors.Ignoring([&] { Records(work.Form3).Put(Field::Forename, work.Form3->Text3.Text.value()); });
+    work.Errors.Ignoring([&] { KeepPosition(work.Record, Records(work.Form3)); });
+    work.Errors.Ignoring([&] { Records(work.Form3).Update(); });
+    work.Errors.Ignoring([&] { ComeBack(work.Record, work.Form3); });
+    work.Errors.Ignoring([&] { CaptionBoxOfRecord(work); });
+    work.Tools.MapCursorMode = MapCursor::Normal;
 }
 
-void KeepGender(Program& p)
+void KeepGender(const BoxWork& work)
 {
-    const QString typed = p.Form3->Text23.Text;
+    const QString typed = work.Form3->Text23.Text;
     bool isChanged = false;
-    p.Errors.Ignoring([&] { isChanged = !SameText(Records(p.Form3).Text(Field::Gender), typed); });
+    work.Errors.Ignoring([&] { isChanged = !SameText(Records(work.Form3).Text(Field::Gender), typed); });
     if (!isChanged)
         return;
-    p.Errors.Ignoring([&] { Records(p.Form3).Edit(); });
-    p.Errors.Ignoring([&] { Records(p.Form3).Put(Field::Gender, typed); });
-    p.Errors.Ignoring([&] { Records(p.Form3).Update(); });
-    p.Errors.Ignoring([&] { MarkCurrentBox(p); });
+    work.Errors.Ignoring([&] { Records(work.Form3).Edit(); });
+    work.Errors.Ignoring([&] { Records(work.Form3).Put(Field::Gender, typed); });
+    work.Errors.Ignoring([&] { Records(work.Form3).Update(); });
+    work.Errors.Ignoring([&] { MarkCurrentBox(work); });
 }
 } // namespace
 
@@ -110,59 +110,59 @@ void LoadRecordForm(forms::Form3& form, const Screen& screen, Window<forms::Form
         DisableTransport(form);
 }
 
-void ShowRecordForm(Program& p)
+void ShowRecordForm(const ToolWork& work, const SubjectPictures& pictures)
 {
-    LeaveToolsAtDoor(p);
-    if (TellIfNoBranch(p.Branch, p.Form3, p.Prompts))
+    LeaveToolsAtDoor(work);
+    if (TellIfNoBranch(work.Branch, work.Form3, work.Prompts))
         return;
-    SetPictureName(p.Record, *p.Form3);
-    forms::Form3& form = *p.Form3;
-    ShowNamedPicture(p);
-    p.Record.sShownName = form.Text3.Text;
+    SetPictureName(work.Record, *work.Form3);
+    forms::Form3& form = *work.Form3;
+    ShowNamedPicture(pictures);
+    work.Record.sShownName = form.Text3.Text;
     form.Show();
-    ClearMapCursor(p.Tools, p.Screen);
-    p.Screen.Pointer = MousePointer::Default;
+    ClearMapCursor(work.Tools, work.Screen);
+    work.Screen.Pointer = MousePointer::Default;
 }
 
-bool CarryRecordToMap(Program& p)
+bool CarryRecordToMap(const BoxWork& work)
 {
-    if (!BoxesAreCurrent(p))
+    if (!BoxesAreCurrent(work.Errors, work.Form3))
         return false;
-    CarryForenameToMap(p);
-    KeepGender(p);
+    CarryForenameToMap(work);
+    KeepGender(work);
     return true;
 }
 
-void ReturnToTree(Program& p)
+void ReturnToTree(const BoxWork& work, const SubjectPanel& panel)
 {
-    const bool areCurrent = BoxesAreCurrent(p);
+    const bool areCurrent = BoxesAreCurrent(work.Errors, work.Form3);
     if (areCurrent)
-        CarryForenameToMap(p);
-    FinishMapping(p);
+        CarryForenameToMap(work);
+    FinishMapping(work);
     if (areCurrent)
-        KeepGender(p);
-    p.Errors.Ignoring([&] { ShowRecordOnMap(p); });
-    if (p.Gallery.FirstShow == 1)
-        p.Errors.Ignoring([&] { MarkCurrentBox(p); });
-    p.Form1->Show();
-    p.Form3->Hide();
+        KeepGender(work);
+    work.Errors.Ignoring([&] { ShowRecordOnMap(panel); });
+    if (work.Gallery.FirstShow == 1)
+        work.Errors.Ignoring([&] { MarkCurrentBox(work); });
+    work.Form1->Show();
+    work.Form3->Hide();
 }
 
-void EnlargeSubjectPicture(Program& p)
+void EnlargeSubjectPicture(const SubjectPanel& panel, Window<forms::Form2>& enlarged)
 {
-    const forms::Form3& record = *p.Form3;
-    SetPictureName(p.Record, *p.Form3);
-    p.Form2->Caption =
+    const forms::Form3& record = *panel.Form3;
+    SetPictureName(panel.Record, *panel.Form3);
+    enlarged->Caption =
         record.Label25.Caption.value() + u"     " + record.Text3.Text.value() + u"  " + record.Text2.Text.value();
     try {
-        LoadSubjectPicture(p, p.Form2->Image1);
-        p.Form2->Show();
+        LoadSubjectPicture(panel, enlarged->Image1);
+        enlarged->Show();
     } catch (const RuntimeError&) {
         // KEPT(RecordFormTest.PictureClickWithoutPicture_IsTold_AndEmptiesTheMapsPanel): the panel of the main window
         // is emptied, not the window that was to show the picture.
         // Mended, the panel would keep its picture.
-        p.Form1->Image1.Picture = QImage();
-        TellPictureMissing(p.Record, p.Prompts);
+        panel.Form1->Image1.Picture = QImage();
+        TellPictureMissing(panel.Record, panel.Prompts);
     }
 }
 

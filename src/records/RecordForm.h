@@ -1,15 +1,11 @@
 #pragma once
 
-#include "platform/machine/Platform.h"
-#include "program/state/BranchState.h"
-#include "program/state/RecordState.h"
-#include "program/state/ToolState.h"
-#include "program/state/Windows.h"
+#include "map/subjects/SubjectPanel.h"
+#include "map/tools/ToolWork.h"
 
 namespace lineforge
 {
 
-struct Program;
 struct TextBox;
 
 // The record form's load: its size and place, and the selected branch in its caption.
@@ -17,17 +13,17 @@ void LoadRecordForm(forms::Form3& form, const Screen& screen, Window<forms::Form
                     const BranchState& branch);
 
 // Shows the form at the current record: the Records button and the View Records entry of the main window.
-void ShowRecordForm(Program& p);
+void ShowRecordForm(const ToolWork& work, const SubjectPictures& pictures);
 
 // The Tree button: carries a changed forename to the record's box, keeps what was typed, and goes back to the map.
 // Whatever fails on the way costs only its own step.
-void ReturnToTree(Program& p);
+void ReturnToTree(const BoxWork& work, const SubjectPanel& panel);
 
 // The first half of that, without ending a mapping. False when the database refuses to tell the current record.
-[[nodiscard]] bool CarryRecordToMap(Program& p);
+[[nodiscard]] bool CarryRecordToMap(const BoxWork& work);
 
 // Shows the subject picture by itself; a picture that isn't there is told, and empties the main window's panel.
-void EnlargeSubjectPicture(Program& p);
+void EnlargeSubjectPicture(const SubjectPanel& panel, Window<forms::Form2>& enlarged);
 
 // A menu is opened whose commands work on the records by themselves: the data control's bar goes off.
 void OpenRecordMenu(ToolState& tools, Screen& screen, Window<forms::Form3>& recordForm);

@@ -5,7 +5,6 @@
 #include "map/subjects/SubjectPanel.h"
 #include "platform/store/OtherPrograms.h"
 #include "program/branch/WorkDatabase.h"
-#include "program/state/Program.h"
 #include "records/RecordPicture.h"
 
 namespace lineforge
@@ -62,15 +61,15 @@ void Put(Form3& form, const Face& face)
     (form.*face.Transport).Picture = (form.*face.Picture).Picture.value();
 }
 
-void PressButton(Program& p, ScanMode mode)
+void PressButton(forms::Form3& form, ScanMode mode)
 {
     for (const ButtonFaces& button : faces)
-        Put(*p.Form3, {button.Transport, button.Mode == mode ? button.Down : button.Up});
+        Put(form, {button.Transport, button.Mode == mode ? button.Down : button.Up});
 }
 
-ScanMode ModeOf(const Program& p)
+ScanMode ModeOf(const RecordState& record)
 {
-    return static_cast<ScanMode>(static_cast<int>(p.Record.RecordScanMode));
+    return static_cast<ScanMode>(static_cast<int>(record.RecordScanMode));
 }
 
 bool IsForward(ScanMode mode)
@@ -84,17 +83,17 @@ bool IsFast(ScanMode mode)
 }
 
 // The directory above the branch becomes the current one, and is left for the searches to find pictures in.
-void GoAboveBranch(Program& p)
+void GoAboveBranch(const SubjectPictures& pictures, ScratchState& scratch)
 {
     constexpr int directoryNameLength = 8;
-    p.Scratch.sNewDir = p.Branch.WorkDir.left(p.Branch.WorkDirLen - directoryNameLength);
-    p.Files.ChDir(p.Scratch.sNewDir);
+    scratch.sNewDir = pictures.Branch.WorkDir.left(pictures.Branch.WorkDirLen - directoryNameLength);
+    pictures.Files.ChDir(scratch.sNewDir);
 }
 
-void ShowOnMap(Program& p)
+void ShowOnMap(const SubjectPanel& panel, const BoxWork& work)
 {
-    ShowRecordOnMap(p);
-    MarkCurrentBox(p);
+    ShowRecordOnMap(panel);
+    MarkCurrentBox(work);
 }
 
 Step MoveOn(Recordset& records, bool forward)
@@ -109,70 +108,70 @@ Step MoveOn(Recordset& records, bool forward)
 }
 
 // Where the database refuses the step, and the user knows: without one more question at every tick.
-Step MoveOnOrHalt(Program& p, ScanMode mode)
+Step MoveOnOrHalt(const SubjectPictures& pictures, ScanMode mode)
 {
     try {
-        return MoveOn(Records(p.Form3), IsForward(mode));
+        return MoveOn(Records(pictures.Form3), IsForward(mode));
     } catch (const RuntimeError& refusal) {
         if (refusal.IsTold) {
-            p.Record.RecordScanMode = static_cast<int>(ScanMode::Stopped);
-            p.Form3->Timer1.Enabled = false;
-            PressButton(p, ScanMode::Stopped);
+            pictures.Record.RecordScanMode = static_cast<int>(ScanMode::Stopped);
+            pictures.Form3->Timer1.Enabled = false;
+            PressButton(*pictures.Form3, ScanMode::Stopped);
         }
         throw;
     }
 }
 
-void EndScan(Program& p, ScanMode mode, Step step)
+void EndScan(const SubjectPanel& panel, const BoxWork& work, ScanMode mode, Step step)
 {
-    p.Record.RecordScanMode = static_cast<int>(ScanMode::Stopped);
-    p.Form3->Timer1.Enabled = false;
+    panel.Record.RecordScanMode = static_cast<int>(ScanMode::Stopped);
+    panel.Form3->Timer1.Enabled = false;
     for (const EndFaces& end : endFaces)
         if (end.Mode == mode)
-            Put(*p.Form3, step == Step::EndBeforeMove ? end.BeforeMove : end.AfterMove);
-    Put(*p.Form3, {&Form3::Picture3, &Form3::Image7});
-    p.Files.ChDir(p.Branch.WorkDir);
-    ShowOnMap(p);
+            Put(*panel.Form3, step == Step::EndBeforeMove ? end.BeforeMove : end.AfterMove);
+    Put(*panel.Form3, {&Form3::Picture3, &Form3::Image7});
+    panel.Files.ChDir(panel.Branch.WorkDir);
+    ShowOnMap(panel, work);
 }
 } // namespace
 
-void StartScan(Program& p, ScanMode mode)
+void StartScan(const SubjectPictures& pictures, ScratchState& scratch, ScanMode mode)
 {
-    p.Record.RecordScanMode = static_cast<int>(mode);
-    p.Form3->Timer1.Enabled = true;
-    GoAboveBranch(p);
-    PressButton(p, mode);
+    pictures.Record.RecordScanMode = static_cast<int>(mode);
+    pictures.Form3->Timer1.Enabled = true;
+    GoAboveBranch(pictures, scratch);
+    PressButton(*pictures.Form3, mode);
 }
 
-void StopScan(Program& p)
+void StopScan(const SubjectPanel& panel, const BoxWork& work)
 {
-    p.Record.RecordScanMode = static_cast<int>(ScanMode::Stopped);
-    p.Form3->Timer1.Enabled = false;
-    GoAboveBranch(p);
-    PressButton(p, ScanMode::Stopped);
-    ShowOnMap(p);
+    panel.Record.RecordScanMode = static_cast<int>(ScanMode::Stopped);
+    panel.Form3->Timer1.Enabled = false;
+    GoAboveBranch(panel, work.Scratch);
+    PressButton(*panel.Form3, ScanMode::Stopped);
+    ShowOnMap(panel, work);
 }
 
-void TickScan(Program& p)
+void TickScan(const SubjectPanel& panel, const BoxWork& work, const OtherPrograms& others)
 {
     constexpr int fastMilliseconds = 250;
     constexpr int slowMilliseconds = 1000;
 
     // Under that question nothing moves; and a record of another branch stands alone until the return.
-    if (p.Databases.Others().IsAsking() || p.Branch.IsSiblingShown())
+    if (others.IsAsking() || panel.Branch.IsSiblingShown())
         return;
-    p.Gallery.FirstShow = 1;
-    const ScanMode mode = ModeOf(p);
+    work.Gallery.FirstShow = 1;
+    const ScanMode mode = ModeOf(panel.Record);
     if (mode < ScanMode::FastForward || mode == ScanMode::Stopped || mode > ScanMode::FastBack)
         return;
     // Takes effect after this step: the first one came after the interval that the last scan left.
-    p.Form3->Timer1.Interval = IsFast(mode) ? fastMilliseconds : slowMilliseconds;
+    panel.Form3->Timer1.Interval = IsFast(mode) ? fastMilliseconds : slowMilliseconds;
 
-    const Step step = MoveOnOrHalt(p, mode);
+    const Step step = MoveOnOrHalt(panel, mode);
     if (step == Step::Moved)
-        ShowRecordPicture(p);
+        ShowRecordPicture(panel);
     else
-        EndScan(p, mode, step);
+        EndScan(panel, work, mode, step);
 }
 
 } // namespace lineforge

@@ -1,23 +1,26 @@
 #pragma once
 
+#include "map/items/MapWork.h"
+#include "map/subjects/SubjectPanel.h"
+
 namespace lineforge
 {
-
-struct Program;
 
 // The record scanner: five buttons like those of a tape recorder, and a timer that steps through the records while one
 // of the four moving ones is down. The map stays behind until the scan ends.
 
+class OtherPrograms;
+
 enum class ScanMode { FastForward = 1, Forward = 2, Stopped = 3, Back = 4, FastBack = 5 };
 
 // A press of a moving button. Error 76 when the directory above the branch has gone.
-void StartScan(Program& p, ScanMode mode);
+void StartScan(const SubjectPictures& pictures, ScratchState& scratch, ScanMode mode);
 
 // A press of the stop button: the map follows. Leaves the current directory above the branch, unlike a scan that has
 // come to an end by itself.
-void StopScan(Program& p);
+void StopScan(const SubjectPanel& panel, const BoxWork& work);
 
 // One step of the timer.
-void TickScan(Program& p);
+void TickScan(const SubjectPanel& panel, const BoxWork& work, const OtherPrograms& others);
 
 } // namespace lineforge

@@ -15,7 +15,7 @@ using Lists = std::array<QString, 3>;
 // As it is read and drawn when its branch is opened; what the three arrays then hold, as it would be saved.
 Lists Enter(Program& p)
 {
-    ForgetMap(p);
+    ForgetMap(p.Map, p.Mouse, p.Tools);
     DrawBranchMap(p);
     return {ListOfBoxes(p.Map), ListOfLines(p.Map), ListOfTexts(p.Map)};
 }
@@ -37,7 +37,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     p.Map.sBoxesText = held[0];
     p.Map.sLinesText = held[1];
     p.Map.sTextsText = held[2];
-    WriteMapFile(p);
+    WriteMapFile(p.Map, p.Branch, p.Files);
     const Lists read = Enter(p);
     for (std::size_t list = 0; list < held.size(); ++list)
         Require(CountsAsEmpty(held[list]) ? read[list].isEmpty() : read[list] == held[list]);

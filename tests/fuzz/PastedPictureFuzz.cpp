@@ -50,8 +50,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static FuzzHome home;
     home.Clipboard.Picture = PictureOf(told, BytesOf(data + sizeof told, size - sizeof told));
     const QSize before = home.P.Form1->Picture1.Image().size();
-    PasteMapPicture(home.P);
+    PasteMapPicture(home.P.Map, *home.P.Form1, home.P.Clipboard);
     Require(home.P.Form1->Picture1.Image().size() == before);
-    CopyMapPicture(home.P);
+    CopyMapPicture(home.P.Map, *home.P.Form1, home.P.Clipboard);
     return 0;
 }

@@ -82,11 +82,11 @@ protected:
 
     void GivenPrinting() { IsPrinting = true; }
     // What the map is drawn on: the picture, unless it is printed.
-    MapSheet Sheet() { return IsPrinting ? MapOnPaper(Page) : MapOnScreen(P); }
+    MapSheet Sheet() { return IsPrinting ? MapOnPaper(Page) : MapOnScreen(P.Map, *P.Form1); }
 
     void OpenMap()
     {
-        ReadMapFile(P);
+        ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts);
         ParseBoxes(P);
         ParseLines(P);
         ParseTexts(P);

@@ -35,7 +35,7 @@ public:
     {
         P.Map = map;
         P.Form1->Picture1.Cls();
-        RedrawMap(P, MapOnScreen(P));
+        RedrawMap(P, MapOnScreen(P.Map, *P.Form1));
         return ShownBy(P.Form1->Picture1).copy();
     }
 
@@ -43,7 +43,7 @@ public:
     QImage Opened(const MapState& map)
     {
         P.Map = map;
-        EmptyMapArrays(P);
+        EmptyMapArrays(P.Map, P.Mouse, P.Tools);
         P.Form1->Picture1.Cls();
         P.Form1->Picture1.Font = {};
         ParseWhatIsThere(P);

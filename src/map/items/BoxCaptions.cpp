@@ -26,15 +26,15 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-bool IsPlacingSubject(const Program& p)
+bool IsPlacingSubject(const ToolState& tools)
 {
-    return p.Tools.MapCursorMode >= MapCursor::Mapping && p.Tools.MapCursorMode <= MapCursor::MovingSubject;
+    return tools.MapCursorMode >= MapCursor::Mapping && tools.MapCursorMode <= MapCursor::MovingSubject;
 }
 
 // Where a line of the caption of the box at hand begins.
-Point LinePlace(const Program& p, const MapSheet& sheet, Point line)
+Point LinePlace(const MapMouseState& mouse, const MapSheet& sheet, Point line)
 {
-    const Point corner = sheet.At({p.Mouse.BoxX, p.Mouse.BoxY});
+    const Point corner = sheet.At({mouse.BoxX, mouse.BoxY});
     return {corner.X + line.X, corner.Y + line.Y};
 }
 
@@ -52,10 +52,10 @@ void PrintCaption(const MapSheet& sheet, Point place, const QString& text)
 }
 
 // Prints what stands at that place once more, in the colour of the paper. The pen is black afterwards.
-void WipeTexts(Program& p, Point place)
+void WipeTexts(MapState& map, forms::Form1& form, Point place)
 {
-    PictureBox& picture = p.Form1->Picture1;
-    const auto there = p.Map.Captions.extract({place.X, place.Y});
+    PictureBox& picture = form.Picture1;
+    const auto there = map.Captions.extract({place.X, place.Y});
     if (there.empty())
         return;
     ResetMapFont(picture);
@@ -65,14 +65,14 @@ void WipeTexts(Program& p, Point place)
     picture.ForeColor = Black;
 }
 
-QString FiledNumber(const Program& p, int row)
+QString FiledNumber(const MapState& map, int row)
 {
-    return p.Map.BoxArr[row][BoxColumn::File].Text();
+    return map.BoxArr[row][BoxColumn::File].Text();
 }
 
-Point PlaceIn(const Program& p, int row, Point offset)
+Point PlaceIn(const MapState& map, int row, Point offset)
 {
-    const auto& box = p.Map.BoxArr[row];
+    const auto& box = map.BoxArr[row];
     return {box[BoxColumn::X].Number() + offset.X, box[BoxColumn::Y].Number() + offset.Y};
 }
 
@@ -80,18 +80,18 @@ Point PlaceIn(const Program& p, int row, Point offset)
 class Siblings
 {
 public:
-    explicit Siblings(Program& p) : p_(p) {}
+    explicit Siblings(const MapWork& work) : work_(work) {}
 
     // The cursor on the branch in `WorkDir`, standing on that record; null when there is no such record, or no
     // database that can be opened.
     Recordset* Find(const QString& file)
     {
         // A neighbour that is gone, spoilt or locked costs its forenames, not the drawing of this map, and no question.
-        const OtherPrograms::Quiet quiet(p_.Databases.Others());
+        const OtherPrograms::Quiet quiet(work_.Databases.Others());
         try {
-            const auto [records, isNew] = open_.try_emplace(p_.Branch.sDbaseName);
+            const auto [records, isNew] = open_.try_emplace(work_.Branch.sDbaseName);
             if (isNew)
-                records->second = Open(p_.Branch.sDbaseName);
+                records->second = Open(work_.Branch.sDbaseName);
             return records->second && records->second->Seek(Field::File, file) ? records->second.get() : nullptr;
         } catch (const RuntimeError&) {
             return nullptr;
@@ -101,58 +101,59 @@ public:
 private:
     std::unique_ptr<Recordset> Open(const QString& database)
     {
-        ConvertIfOld(p_, database, OldDatabaseUse::Caption);
-        return std::make_unique<Recordset>(p_.Databases.Open(p_.Files, database), u"Tree99"_s, Recordset::Use::Brief);
+        ConvertIfOld(work_, database, OldDatabaseUse::Caption);
+        return std::make_unique<Recordset>(work_.Databases.Open(work_.Files, database), u"Tree99"_s,
+                                           Recordset::Use::Brief);
     }
 
-    Program& p_;
+    const MapWork& work_;
     std::map<QString, std::unique_ptr<Recordset>> open_; // nothing: it can't be opened
 };
 
 // A record of another branch: the program points there for the time of the drawing.
-void DrawForeignCaption(Program& p, const MapSheet& sheet, Siblings& siblings, int row)
+void DrawForeignCaption(const MapWork& work, const MapSheet& sheet, Siblings& siblings, int row)
 {
-    const QString file = FiledNumber(p, row);
-    KeepOwnDirectories(p.Branch);
-    const auto pointBack = qScopeGuard([&p, before = p.Branch] { p.Branch = before; });
-    p.Branch.WorkDir = SiblingDirectory(p.Branch.WorkDir, file.first(1));
-    p.Branch.sDbaseName = DatabasePath(p.Branch.WorkDir);
-    p.Branch.UsingAlternate = 1;
+    const QString file = FiledNumber(work.Map, row);
+    KeepOwnDirectories(work.Branch);
+    const auto pointBack = qScopeGuard([&work, before = work.Branch] { work.Branch = before; });
+    work.Branch.WorkDir = SiblingDirectory(work.Branch.WorkDir, file.first(1));
+    work.Branch.sDbaseName = DatabasePath(work.Branch.WorkDir);
+    work.Branch.UsingAlternate = 1;
 
-    TakeBoxPosition(p, row);
+    TakeBoxPosition(work.Mouse, work.Map, row);
     if (const Recordset* record = siblings.Find(file))
-        DrawRecordInBox(p, sheet, *record);
+        DrawRecordInBox(work, sheet, *record);
     else
-        DrawBoxNumber(p, sheet);
+        DrawBoxNumber(work, sheet);
 }
 
 // The caption of a box by its number alone: without a walk through the own branch's table.
-void DrawCaption(Program& p, const MapSheet& sheet, Siblings& siblings, int row)
+void DrawCaption(const MapWork& work, const MapSheet& sheet, Siblings& siblings, int row)
 {
-    p.Scratch.IdxA = row;
-    const QString letter = FiledNumber(p, row).left(1);
-    if (letter.isEmpty() || letter == u"0" || !HasPlace(p.Map, row))
+    work.Scratch.IdxA = row;
+    const QString letter = FiledNumber(work.Map, row).left(1);
+    if (letter.isEmpty() || letter == u"0" || !HasPlace(work.Map, row))
         return;
-    const bool isOwn = SameText(letter, BranchLetter(p.Branch.WorkDir));
+    const bool isOwn = SameText(letter, BranchLetter(work.Branch.WorkDir));
     // A caption that can't be told costs none of those behind it.
-    p.Errors.Ignoring([&] {
+    work.Errors.Ignoring([&] {
         // The neighbours of an imported branch can't be reached. Their numbers, too, stand in their own boxes.
-        if (isOwn || IsImported(p.Branch.WorkDir)) {
-            TakeBoxPosition(p, row);
-            DrawBoxNumber(p, sheet);
+        if (isOwn || IsImported(work.Branch.WorkDir)) {
+            TakeBoxPosition(work.Mouse, work.Map, row);
+            DrawBoxNumber(work, sheet);
         } else {
-            DrawForeignCaption(p, sheet, siblings, row);
+            DrawForeignCaption(work, sheet, siblings, row);
         }
     });
 }
 
 // The mouse hit the box of a record from which the record bar may have gone on since.
-std::optional<int> RowOfSibling(const Program& p, const QString& file)
+std::optional<int> RowOfSibling(const MapState& map, const MapMouseState& mouse, const QString& file)
 {
-    const int hit = p.Mouse.BoxIdx;
-    if (hit <= LastMapRow && !file.isEmpty() && SameText(FiledNumber(p, hit), file))
+    const int hit = mouse.BoxIdx;
+    if (hit <= LastMapRow && !file.isEmpty() && SameText(FiledNumber(map, hit), file))
         return hit;
-    const int row = RowOfRecord(p.Map, file);
+    const int row = RowOfRecord(map, file);
     return row <= LastFiledBox ? std::optional(row) : std::nullopt;
 }
 
@@ -178,127 +179,124 @@ QString FittedForename(const QString& forename)
     return first.size() < room ? first : first.first(5) + u'\'' + first.back();
 }
 
-void FitForename(Program& p, const Recordset& row)
+void FitForename(RecordState& record, const Recordset& row)
 {
-    p.Record.sForeName = FittedForename(row.Text(Field::Forename));
+    record.sForeName = FittedForename(row.Text(Field::Forename));
 }
 
-void FitForename(Program& p)
-{
-    FitForename(p, Records(p.Form3));
-}
-
-void DrawRecordInBox(Program& p, const MapSheet& sheet, const Recordset& row)
+void DrawRecordInBox(const BoxWork& work, const MapSheet& sheet, const Recordset& row)
 {
     if (row.Eof())
         return;
-    FitForename(p, row);
-    if (IsPlacingSubject(p))
-        FindBoxOfRecord(p);
+    FitForename(work.Record, row);
+    if (IsPlacingSubject(work.Tools))
+        FindBoxOfRecord(work);
     const MapSheet::CaptionLines& lines = sheet.Caption;
-    PrintCaption(sheet, LinePlace(p, sheet, lines.Number), row.Text(Field::File));
-    PrintCaption(sheet, LinePlace(p, sheet, lines.Forename), p.Record.sForeName);
+    PrintCaption(sheet, LinePlace(work.Mouse, sheet, lines.Number), row.Text(Field::File));
+    PrintCaption(sheet, LinePlace(work.Mouse, sheet, lines.Forename), work.Record.sForeName);
     if (lines.BirthYear)
-        PrintCaption(sheet, LinePlace(p, sheet, *lines.BirthYear), u"B :"_s + row.Text(Field::BirthDate).right(4));
+        PrintCaption(sheet, LinePlace(work.Mouse, sheet, *lines.BirthYear),
+                     u"B :"_s + row.Text(Field::BirthDate).right(4));
 }
 
-void DrawRecordInBox(Program& p, const MapSheet& sheet)
+void DrawRecordInBox(const BoxWork& work, const MapSheet& sheet)
 {
-    DrawRecordInBox(p, sheet, Records(p.Form3));
+    DrawRecordInBox(work, sheet, Records(work.Form3));
 }
 
-void DrawBoxNumber(Program& p, const MapSheet& sheet)
+void DrawBoxNumber(const BoxWork& work, const MapSheet& sheet)
 {
-    if (IsPlacingSubject(p))
-        FindBoxOfRecord(p);
+    if (IsPlacingSubject(work.Tools))
+        FindBoxOfRecord(work);
     // A record without a box has no place for its number, and the place in hand is another's.
-    if (p.Scratch.IdxA <= LastFiledBox)
-        PrintCaption(sheet, LinePlace(p, sheet, sheet.Caption.NumberAlone), FiledNumber(p, p.Scratch.IdxA));
+    if (work.Scratch.IdxA <= LastFiledBox)
+        PrintCaption(sheet, LinePlace(work.Mouse, sheet, sheet.Caption.NumberAlone),
+                     FiledNumber(work.Map, work.Scratch.IdxA));
 }
 
-void DrawBoxCaptions(Program& p, const MapSheet& sheet)
+void DrawBoxCaptions(const MapWork& work, const MapSheet& sheet)
 {
-    Siblings siblings(p);
+    Siblings siblings(work);
     for (int row = 0; row <= LastFiledBox; ++row)
-        DrawCaption(p, sheet, siblings, row);
+        DrawCaption(work, sheet, siblings, row);
 }
 
-void DrawOwnCaptions(Program& p, const MapSheet& sheet)
+void DrawOwnCaptions(const BoxWork& work, const MapSheet& sheet)
 {
-    Recordset& records = Records(p.Form3);
+    Recordset& records = Records(work.Form3);
     if (records.IsEmpty())
         return;
-    const QMultiHash<QString, int> boxes = BoxesByRecord(p.Map);
+    const QMultiHash<QString, int> boxes = BoxesByRecord(work.Map);
     for (records.MoveFirst(); !records.Eof(); records.MoveNext()) {
         const QString file = records.Text(Field::File);
         const auto [first, last] = boxes.equal_range(file.toCaseFolded());
         for (auto box = first; box != last; ++box) {
-            if (!SameText(FiledNumber(p, *box), file))
+            if (!SameText(FiledNumber(work.Map, *box), file))
                 continue;
-            p.Errors.Ignoring([&] {
-                TakeBoxPosition(p, *box);
-                DrawRecordInBox(p, sheet);
+            work.Errors.Ignoring([&] {
+                TakeBoxPosition(work.Mouse, work.Map, *box);
+                DrawRecordInBox(work, sheet);
             });
         }
     }
 }
 
-void WipeCaption(Program& p, int row)
+void WipeCaption(MapState& map, forms::Form1& form, int row)
 {
-    WipeTexts(p, PlaceIn(p, row, NumberInBox));
-    WipeTexts(p, PlaceIn(p, row, ForenameInBox));
+    WipeTexts(map, form, PlaceIn(map, row, NumberInBox));
+    WipeTexts(map, form, PlaceIn(map, row, ForenameInBox));
 }
 
-void TieBox(Program& p, int row, const QString& file, const QString& forename)
+void TieBox(MapState& map, forms::Form1& form, int row, const QString& file, const QString& forename)
 {
-    WipeCaption(p, row);
-    p.Map.BoxArr[row][BoxColumn::File] = file;
-    p.Map.BoxArr[row][BoxColumn::Forename] = FiledForename(forename);
+    WipeCaption(map, form, row);
+    map.BoxArr[row][BoxColumn::File] = file;
+    map.BoxArr[row][BoxColumn::Forename] = FiledForename(forename);
 }
 
-void RenameBox(Program& p, int row, const QString& forename)
+void RenameBox(MapState& map, forms::Form1& form, int row, const QString& forename)
 {
-    const Point place = PlaceIn(p, row, ForenameInBox);
-    p.Form1->Picture1.Font = {};
-    WipeTexts(p, place);
-    p.Map.BoxArr[row][BoxColumn::Forename] = FiledForename(forename);
-    PrintCaption(MapOnScreen(p), place, FittedForename(forename));
+    const Point place = PlaceIn(map, row, ForenameInBox);
+    form.Picture1.Font = {};
+    WipeTexts(map, form, place);
+    map.BoxArr[row][BoxColumn::Forename] = FiledForename(forename);
+    PrintCaption(MapOnScreen(map, form), place, FittedForename(forename));
 }
 
-std::optional<int> RowToErase(Program& p)
+std::optional<int> RowToErase(const BoxWork& work)
 {
-    FindBoxOfRecord(p);
+    FindBoxOfRecord(work);
     // A record without a box has no caption.
     // KEPT(EraseBoxCaptionTest.LastBoxRow_IsLeftAlone): the last box can't be erased this way either.
     // Mended, it would be emptied when its record is deleted or moves to another box.
-    if (p.Scratch.IdxA >= LastFiledBox)
+    if (work.Scratch.IdxA >= LastFiledBox)
         return std::nullopt;
-    FitForename(p);
-    return p.Scratch.IdxA;
+    FitForename(work.Record, Records(work.Form3));
+    return work.Scratch.IdxA;
 }
 
-void EmptyBox(Program& p, int row)
+void EmptyBox(MapState& map, forms::Form1& form, int row)
 {
-    TieBox(p, row, u"0"_s, {});
-    ResetMapFont(p.Form1->Picture1);
-    p.Form1->Picture1.ForeColor = Black;
+    TieBox(map, form, row, u"0"_s, {});
+    ResetMapFont(form.Picture1);
+    form.Picture1.ForeColor = Black;
 }
 
-void EraseBoxCaption(Program& p)
+void EraseBoxCaption(const BoxWork& work)
 {
-    if (const std::optional<int> row = RowToErase(p))
-        EmptyBox(p, *row);
+    if (const std::optional<int> row = RowToErase(work))
+        EmptyBox(work.Map, *work.Form1, *row);
 }
 
-void EraseSiblingsBox(Program& p, const QString& file)
+void EraseSiblingsBox(const BoxWork& work, const QString& file)
 {
-    p.Record.sForeName = FittedForename(p.Record.sAltName);
-    const std::optional<int> row = RowOfSibling(p, file);
+    work.Record.sForeName = FittedForename(work.Record.sAltName);
+    const std::optional<int> row = RowOfSibling(work.Map, work.Mouse, file);
     if (!row)
         return;
-    p.Scratch.IdxA = *row;
-    TakeBoxPosition(p, *row);
-    EmptyBox(p, *row);
+    work.Scratch.IdxA = *row;
+    TakeBoxPosition(work.Mouse, work.Map, *row);
+    EmptyBox(work.Map, *work.Form1, *row);
 }
 
 } // namespace lineforge

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "map/items/MapSheet.h"
+#include "map/items/MapWork.h"
 #include "platform/store/Recordset.h"
-#include "program/state/Program.h"
 
 #include <optional>
 
@@ -16,48 +16,47 @@ namespace lineforge
 // apostrophe and its last.
 QString FittedForename(const QString& forename);
 
-// `sForeName` from the current row; Null gives empty text.
-void FitForename(Program& p, const Recordset& row);
-void FitForename(Program& p);
+// `sForeName` from that row; Null gives empty text.
+void FitForename(RecordState& record, const Recordset& row);
 
 // Prints number and forename of that cursor's row in the box at `BoxX`, `BoxY`, and the year of birth where the sheet
 // has a place for it; nothing at `Eof`. While a subject is being mapped or moved the box is looked for first.
-void DrawRecordInBox(Program& p, const MapSheet& sheet, const Recordset& row);
-void DrawRecordInBox(Program& p, const MapSheet& sheet);
+void DrawRecordInBox(const BoxWork& work, const MapSheet& sheet, const Recordset& row);
+void DrawRecordInBox(const BoxWork& work, const MapSheet& sheet);
 
 // Prints the number that row `IdxA` of the boxes holds, at `BoxX`, `BoxY`; behind the filed rows there is none. While a
 // subject is being mapped or moved it is the current record's, in its own box.
-void DrawBoxNumber(Program& p, const MapSheet& sheet);
+void DrawBoxNumber(const BoxWork& work, const MapSheet& sheet);
 
 // Prints the number in each box that has one, and the forename too where the record is another branch's. A free row, or
 // a box at an impossible place, is passed over, here and below.
-void DrawBoxCaptions(Program& p, const MapSheet& sheet);
+void DrawBoxCaptions(const MapWork& work, const MapSheet& sheet);
 
 // Walks the open branch's table once and prints each record in every box that holds it; ends at `Eof`.
-void DrawOwnCaptions(Program& p, const MapSheet& sheet);
+void DrawOwnCaptions(const BoxWork& work, const MapSheet& sheet);
 
 // Overprints in the background colour what stands in the box of that row. The row keeps its number.
-void WipeCaption(Program& p, int row);
+void WipeCaption(MapState& map, forms::Form1& form, int row);
 
 // Wipes what stands in the box of that row and gives it that record, number and forename. The caption is still to be
 // printed.
-void TieBox(Program& p, int row, const QString& file, const QString& forename);
+void TieBox(MapState& map, forms::Form1& form, int row, const QString& file, const QString& forename);
 
 // The one way in which a box gets another forename of its record: in its row, and on the picture in the place of what
 // stands there. The list of boxes follows when it is rebuilt. The pen is black afterwards.
-void RenameBox(Program& p, int row, const QString& forename);
+void RenameBox(MapState& map, forms::Form1& form, int row, const QString& forename);
 
 // The row of the current record's box, for `EmptyBox`; nothing without a box, or where it is the last.
-[[nodiscard]] std::optional<int> RowToErase(Program& p);
+[[nodiscard]] std::optional<int> RowToErase(const BoxWork& work);
 
 // Wipes the caption of that row's box and empties the box. The pen is black afterwards.
-void EmptyBox(Program& p, int row);
+void EmptyBox(MapState& map, forms::Form1& form, int row);
 
 // Wipes the caption of the current record's box and empties the box.
-void EraseBoxCaption(Program& p);
+void EraseBoxCaption(const BoxWork& work);
 
 // The same for that record of another branch, whose forename is `sAltName`: of several boxes the one that the mouse
 // hit. A record without a box takes nobody else's.
-void EraseSiblingsBox(Program& p, const QString& file);
+void EraseSiblingsBox(const BoxWork& work, const QString& file);
 
 } // namespace lineforge

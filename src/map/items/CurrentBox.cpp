@@ -50,37 +50,37 @@ bool HasPlace(const MapState& map, int row)
            FitsPlace(box[BoxColumn::Y], BoxCentreY - markerOffset);
 }
 
-void TakeBoxPosition(Program& p, int row)
+void TakeBoxPosition(MapMouseState& mouse, const MapState& map, int row)
 {
-    p.Mouse.BoxX = p.Map.BoxArr[row][BoxColumn::X].Number();
-    p.Mouse.BoxY = p.Map.BoxArr[row][BoxColumn::Y].Number();
+    mouse.BoxX = map.BoxArr[row][BoxColumn::X].Number();
+    mouse.BoxY = map.BoxArr[row][BoxColumn::Y].Number();
 }
 
-void FindBoxOfRecord(Program& p)
+void FindBoxOfRecord(const BoxWork& work)
 {
-    if (p.Branch.IsSiblingShown())
+    if (work.Branch.IsSiblingShown())
         return;
-    p.Scratch.IdxA = RowOfRecord(p.Map, Records(p.Form3).Value(Field::File));
-    if (p.Scratch.IdxA <= LastFiledBox)
-        TakeBoxPosition(p, p.Scratch.IdxA);
+    work.Scratch.IdxA = RowOfRecord(work.Map, Records(work.Form3).Value(Field::File));
+    if (work.Scratch.IdxA <= LastFiledBox)
+        TakeBoxPosition(work.Mouse, work.Map, work.Scratch.IdxA);
 }
 
-void MarkCurrentBox(Program& p)
+void MarkCurrentBox(const BoxWork& work)
 {
-    forms::Form1& form = *p.Form1;
+    forms::Form1& form = *work.Form1;
     form.Shape1.Visible = false;
-    p.Gallery.FirstShow = 1;
+    work.Gallery.FirstShow = 1;
 
-    const Recordset& records = Records(p.Form3);
+    const Recordset& records = Records(work.Form3);
     if (!records.HasRow())
         return;
-    const int row = RowOfRecord(p.Map, records.Value(Field::File));
+    const int row = RowOfRecord(work.Map, records.Value(Field::File));
     if (row > LastFiledBox)
         return;
-    TakeBoxPosition(p, row);
-    p.Mouse.BoxX += BoxCentreX - markerOffset;
-    p.Mouse.BoxY += BoxCentreY - markerOffset;
-    form.Shape1.Move({p.Mouse.BoxX, p.Mouse.BoxY});
+    TakeBoxPosition(work.Mouse, work.Map, row);
+    work.Mouse.BoxX += BoxCentreX - markerOffset;
+    work.Mouse.BoxY += BoxCentreY - markerOffset;
+    form.Shape1.Move({work.Mouse.BoxX, work.Mouse.BoxY});
     form.Shape1.BorderColor = MarkerColour(records.Text(Field::Gender));
     form.Shape1.Visible = true;
 }

@@ -10,54 +10,54 @@ bool HasPosition(const Cell& x, const Cell& y)
     return !x.IsZero() && x.IsNumber() && y.IsNumber();
 }
 
-bool IsPressInside(const Program& p, const Cell& x, const Cell& y, Size size)
+bool IsPressInside(const MapMouseState& mouse, const Cell& x, const Cell& y, Size size)
 {
     if (!HasPosition(x, y))
         return false;
     const int left = x.Number();
     const int top = y.Number();
-    return p.Mouse.DownX > left && p.Mouse.DownX - size.Width < left && p.Mouse.DownY > top &&
-           p.Mouse.DownY - size.Height < top;
+    return mouse.DownX > left && mouse.DownX - size.Width < left && mouse.DownY > top &&
+           mouse.DownY - size.Height < top;
 }
 
-bool PressIsInBox(const Program& p, int row)
+bool PressIsInBox(const MapState& map, const MapMouseState& mouse, int row)
 {
-    const auto& box = p.Map.BoxArr[row];
-    return IsPressInside(p, box[BoxColumn::X], box[BoxColumn::Y], {BoxWidth, BoxHeight});
+    const auto& box = map.BoxArr[row];
+    return IsPressInside(mouse, box[BoxColumn::X], box[BoxColumn::Y], {BoxWidth, BoxHeight});
 }
 
 namespace
 {
 // The first box under the press, or the row behind `SBoxes`.
-int FirstPressed(const Program& p)
+int FirstPressed(const MapState& map, const MapMouseState& mouse)
 {
     int row = 0;
-    while (row <= p.Map.SBoxes && !PressIsInBox(p, row))
+    while (row <= map.SBoxes && !PressIsInBox(map, mouse, row))
         ++row;
     return row;
 }
 } // namespace
 
-std::optional<int> PressedRow(const Program& p)
+std::optional<int> PressedRow(const MapState& map, const MapMouseState& mouse)
 {
-    const int row = FirstPressed(p);
-    return p.Map.SBoxes != 0 && row <= p.Map.SBoxes ? std::optional(row) : std::nullopt;
+    const int row = FirstPressed(map, mouse);
+    return map.SBoxes != 0 && row <= map.SBoxes ? std::optional(row) : std::nullopt;
 }
 
-void HitBox(Program& p)
+void HitBox(const MapState& map, MapMouseState& mouse)
 {
-    if (p.Map.SBoxes == 0)
+    if (map.SBoxes == 0)
         return;
-    p.Mouse.BoxIdx = FirstPressed(p);
-    p.Mouse.BoxMiss = p.Mouse.BoxIdx > p.Map.SBoxes ? 1 : 0;
+    mouse.BoxIdx = FirstPressed(map, mouse);
+    mouse.BoxMiss = mouse.BoxIdx > map.SBoxes ? 1 : 0;
 }
 
-bool FindsBox(Program& p)
+bool FindsBox(const MapState& map, MapMouseState& mouse)
 {
-    HitBox(p);
-    if (p.Mouse.BoxMiss == 0 && !HasPlace(p.Map, p.Mouse.BoxIdx))
-        p.Mouse.BoxMiss = 1;
-    return p.Mouse.BoxMiss == 0;
+    HitBox(map, mouse);
+    if (mouse.BoxMiss == 0 && !HasPlace(map, mouse.BoxIdx))
+        mouse.BoxMiss = 1;
+    return mouse.BoxMiss == 0;
 }
 
 } // namespace lineforge

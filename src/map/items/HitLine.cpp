@@ -40,30 +40,30 @@ bool IsInChain(const MapState& map, int row)
     return false;
 }
 
-void AddToChain(Program& p, int row)
+void AddToChain(MapState& map, ToolState& tools, int row)
 {
-    if (IsInChain(p.Map, row))
+    if (IsInChain(map, row))
         return;
-    p.Tools.ChainTop += 1;
-    p.Map.LineChain[p.Tools.ChainTop] = row;
+    tools.ChainTop += 1;
+    map.LineChain[tools.ChainTop] = row;
 }
 
-bool IsChainFull(const Program& p)
+bool IsChainFull(const ToolState& tools)
 {
-    return p.Tools.ChainTop > lastOfChain;
+    return tools.ChainTop > lastOfChain;
 }
 
 // Adds the lines that hang on that one.
-void AddNeighbours(Program& p, const LineRow& line)
+void AddNeighbours(MapState& map, ToolState& tools, const LineRow& line)
 {
-    for (int row = 0; row <= p.Map.SLines && !IsChainFull(p); ++row) {
-        const LineRow& other = p.Map.LineArr[row];
+    for (int row = 0; row <= map.SLines && !IsChainFull(tools); ++row) {
+        const LineRow& other = map.LineArr[row];
         if (IsFreeRow(other))
             continue;
         if (StartOf(line) == EndOf(other) || StartOf(line) == StartOf(other))
-            AddToChain(p, row);
-        if (!IsChainFull(p) && (EndOf(line) == StartOf(other) || EndOf(line) == EndOf(other)))
-            AddToChain(p, row);
+            AddToChain(map, tools, row);
+        if (!IsChainFull(tools) && (EndOf(line) == StartOf(other) || EndOf(line) == EndOf(other)))
+            AddToChain(map, tools, row);
     }
 }
 
@@ -71,28 +71,28 @@ void AddNeighbours(Program& p, const LineRow& line)
 // KEPT(LineChainTest.Fork_BothBranchesAreCarried_ButOnlyTheHigherIsFollowed): of two lines that fork from one, the
 // higher is followed and the other is carried along.
 // Mended, what hangs on the other would move and be deleted as well.
-void FollowChain(Program& p)
+void FollowChain(MapState& map, ToolState& tools)
 {
     int followed = -1;
-    while (p.Tools.ChainTop > followed && !IsChainFull(p)) {
-        followed = p.Tools.ChainTop;
-        AddNeighbours(p, p.Map.LineArr[p.Map.LineChain[followed]]);
+    while (tools.ChainTop > followed && !IsChainFull(tools)) {
+        followed = tools.ChainTop;
+        AddNeighbours(map, tools, map.LineArr[map.LineChain[followed]]);
     }
 }
 
 // After a miss the chain begins with the row behind the last, which nothing reads; with all rows in use there is none.
-void FindLine(Program& p)
+void FindLine(MapState& map, ToolState& tools, const MapMouseState& mouse)
 {
-    const Point press{p.Mouse.DownX, p.Mouse.DownY};
+    const Point press{mouse.DownX, mouse.DownY};
     for (int entry = 0; entry <= lastOfChain; ++entry)
-        p.Map.LineChain[entry] = 0;
+        map.LineChain[entry] = 0;
     int row = 0;
-    while (row <= p.Map.SLines && (IsFreeRow(p.Map.LineArr[row]) || !IsLineHit(p.Map.LineArr[row], press)))
+    while (row <= map.SLines && (IsFreeRow(map.LineArr[row]) || !IsLineHit(map.LineArr[row], press)))
         ++row;
-    p.Tools.LineMiss = row > p.Map.SLines ? 1 : 0;
-    p.Tools.ChainTop = 0;
-    p.Map.LineChain[0] = row;
-    FollowChain(p);
+    tools.LineMiss = row > map.SLines ? 1 : 0;
+    tools.ChainTop = 0;
+    map.LineChain[0] = row;
+    FollowChain(map, tools);
 }
 } // namespace
 
@@ -106,24 +106,24 @@ bool IsLineHit(const LineRow& line, Point press)
     return IsBetween(y, y1, y2) && ((x - band > x2 && x + band < x1) || (x + band > x2 && x - band < x1));
 }
 
-void HitLine(Program& p)
+void HitLine(MapState& map, ToolState& tools, const MapMouseState& mouse, ErrorState& errors, Prompts& prompts)
 {
-    if (p.Map.SLines == 0)
+    if (map.SLines == 0)
         return;
     try {
-        FindLine(p);
+        FindLine(map, tools, mouse);
     } catch (const RuntimeError& error) {
-        p.Errors.Last = error;
-        ReportError(p.Errors, p.Prompts);
+        errors.Last = error;
+        ReportError(errors, prompts);
     }
 }
 
-bool FindsLine(Program& p)
+bool FindsLine(MapState& map, ToolState& tools, const MapMouseState& mouse, ErrorState& errors, Prompts& prompts)
 {
-    HitLine(p);
-    if (p.Tools.LineMiss == 0 && IsFreeRow(p.Map.LineArr[p.Map.LineChain[0]]))
-        p.Tools.LineMiss = 1;
-    return p.Tools.LineMiss == 0;
+    HitLine(map, tools, mouse, errors, prompts);
+    if (tools.LineMiss == 0 && IsFreeRow(map.LineArr[map.LineChain[0]]))
+        tools.LineMiss = 1;
+    return tools.LineMiss == 0;
 }
 
 } // namespace lineforge

@@ -11,46 +11,45 @@
 namespace lineforge
 {
 
-void RedrawMap(Program& p, const MapSheet& sheet)
+void RedrawMap(const MapWork& work, const MapSheet& sheet)
 {
-    PictureBox& picture = p.Form1->Picture1;
-    for (int row = 0; row <= p.Map.SBoxes; ++row)
-        p.Errors.Ignoring([&] { DrawBox(p.Map, sheet, row); });
+    PictureBox& picture = work.Form1->Picture1;
+    for (int row = 0; row <= work.Map.SBoxes; ++row)
+        work.Errors.Ignoring([&] { DrawBox(work.Map, sheet, row); });
 
     const Colour pen = picture.ForeColor;
     const TextFont font = picture.Font;
-    for (int row = 0; row <= p.Map.STexts; ++row) {
-        p.Errors.Ignoring([&] { DrawText(p, sheet, row); });
+    for (int row = 0; row <= work.Map.STexts; ++row) {
+        work.Errors.Ignoring([&] { DrawText(work, sheet, row); });
         picture.ForeColor = pen;
         picture.Font = font;
         if (!SameText(picture.Font.Name, u"Arial"))
             ResetMapFont(picture);
     }
-    for (int row = 0; row <= p.Map.SLines; ++row)
-        DrawLine(p.Map, sheet, row);
+    for (int row = 0; row <= work.Map.SLines; ++row)
+        DrawLine(work.Map, sheet, row);
 
     // A backup that failed leaves the branch without its records.
-    if (!IsBranchOpen(p.Branch, p.Form3))
+    if (!IsBranchOpen(work.Branch, work.Form3))
         return;
-    KeepPosition(p.Record, Records(p.Form3));
-    DrawOwnCaptions(p, sheet);
-    DrawBoxCaptions(p, sheet);
-    ComeBack(p.Record, p.Form3);
+    KeepPosition(work.Record, Records(work.Form3));
+    DrawOwnCaptions(work, sheet);
+    DrawBoxCaptions(work, sheet);
+    ComeBack(work.Record, work.Form3);
 }
 
-void ShowCoordinates(Program& p, double x, double y)
+void ShowCoordinates(MapMouseState& mouse, forms::Form1& form, double x, double y)
 {
     const Point pointer = PointerOnMap(x, y);
-    p.Mouse.BoxX = pointer.X;
-    p.Mouse.BoxY = pointer.Y;
-    p.Mouse.BoxLeft = p.Mouse.BoxX - BoxCentreX;
-    p.Mouse.BoxTop = p.Mouse.BoxY - BoxCentreY;
-    p.Mouse.sCoords = QString::number(p.Mouse.BoxLeft) + u',' + QString::number(p.Mouse.BoxTop);
+    mouse.BoxX = pointer.X;
+    mouse.BoxY = pointer.Y;
+    mouse.BoxLeft = mouse.BoxX - BoxCentreX;
+    mouse.BoxTop = mouse.BoxY - BoxCentreY;
+    mouse.sCoords = QString::number(mouse.BoxLeft) + u',' + QString::number(mouse.BoxTop);
 
-    forms::Form1& form = *p.Form1;
-    form.Text9.Text = QString::number(p.Mouse.BoxX);
-    form.Text10.Text = QString::number(p.Mouse.BoxY);
-    form.Text8.Text = p.Mouse.sCoords;
+    form.Text9.Text = QString::number(mouse.BoxX);
+    form.Text10.Text = QString::number(mouse.BoxY);
+    form.Text8.Text = mouse.sCoords;
 }
 
 } // namespace lineforge

@@ -79,9 +79,9 @@ bool ReadLists(TextReader& reader, MapState& map)
 }
 
 // A map goes to no branch but its own. With none open there is no branch to be spoilt.
-bool BelongsToOpenBranch(const Program& p)
+bool BelongsToOpenBranch(const MapState& map, const BranchState& branch)
 {
-    return p.Branch.WorkDir.isEmpty() || p.Map.Owner == p.Branch.WorkDir;
+    return branch.WorkDir.isEmpty() || map.Owner == branch.WorkDir;
 }
 
 // The file that is written may be another than the one that was read.
@@ -98,43 +98,43 @@ bool HasWholeTexts(const MapState& map)
     return CountsAsEmpty(texts) || texts.endsWith(u',');
 }
 
-void WriteLists(Program& p)
+void WriteLists(MapState& map, const BranchState& branch, FileSystem& files)
 {
-    const QString file = MapFileToWrite(p.Branch.WorkDir, p.Branch.HomeDir, u".cfg");
-    const QString before = MapFileToWrite(p.Branch.WorkDir, p.Branch.HomeDir, u".~cf");
-    const bool isBeforeKept = p.Map.Source == MapSource::Torn && !p.Files.Dir(before).isEmpty();
-    if (!isBeforeKept && p.Files.LookUpGivesTail(file, fileNameLength))
-        p.Files.FileCopy(file, before);
-    WriteTextLines(p.Files, file,
+    const QString file = MapFileToWrite(branch.WorkDir, branch.HomeDir, u".cfg");
+    const QString before = MapFileToWrite(branch.WorkDir, branch.HomeDir, u".~cf");
+    const bool isBeforeKept = map.Source == MapSource::Torn && !files.Dir(before).isEmpty();
+    if (!isBeforeKept && files.LookUpGivesTail(file, fileNameLength))
+        files.FileCopy(file, before);
+    WriteTextLines(files, file,
                    {u"This File Contains Graphic Data crucial to your program. Warning: DO NOT MODIFY."_s,
-                    u'[' + DirectoryName(p.Branch.WorkDir) + u']', u"[Boxes]"_s, p.Map.sBoxesText, u"[Lines]"_s,
-                    p.Map.sLinesText, u"[Text]"_s, p.Map.sTextsText});
+                    u'[' + DirectoryName(branch.WorkDir) + u']', u"[Boxes]"_s, map.sBoxesText, u"[Lines]"_s,
+                    map.sLinesText, u"[Text]"_s, map.sTextsText});
     // It holds a part of a map from now on, though it looks whole.
-    if (p.Map.Source == MapSource::Unread)
-        p.Map.Source = MapSource::Torn;
+    if (map.Source == MapSource::Unread)
+        map.Source = MapSource::Torn;
 }
 } // namespace
 
-void EmptyMapArrays(Program& p)
+void EmptyMapArrays(MapState& map, MapMouseState& mouse, ToolState& tools)
 {
-    p.Map.EraseArrays();
-    p.Mouse.BoxIdx = 0;
-    p.Mouse.BoxMiss = 0;
-    p.Tools.TextIdx = 0;
-    p.Tools.TextMiss = 0;
-    p.Tools.LineMiss = 0;
-    p.Tools.ChainTop = 0;
-    p.Tools.LineRow = -1;
-    p.Tools.ZoneTexts.Erase();
-    p.Tools.ZoneBoxes.Erase();
-    p.Tools.ZoneLines.Erase();
+    map.EraseArrays();
+    mouse.BoxIdx = 0;
+    mouse.BoxMiss = 0;
+    tools.TextIdx = 0;
+    tools.TextMiss = 0;
+    tools.LineMiss = 0;
+    tools.ChainTop = 0;
+    tools.LineRow = -1;
+    tools.ZoneTexts.Erase();
+    tools.ZoneBoxes.Erase();
+    tools.ZoneLines.Erase();
 }
 
-void ForgetMap(Program& p)
+void ForgetMap(MapState& map, MapMouseState& mouse, ToolState& tools)
 {
-    EmptyMapArrays(p);
-    p.Map.EraseLists();
-    p.Tools.ToolBookmark.reset();
+    EmptyMapArrays(map, mouse, tools);
+    map.EraseLists();
+    tools.ToolBookmark.reset();
 }
 
 QString FiledForename(QString forename)
@@ -148,39 +148,39 @@ bool FitsList(QStringView value)
     return std::ranges::none_of(value, BreaksList);
 }
 
-void ReadMapFile(Program& p)
+void ReadMapFile(MapState& map, const BranchState& branch, const FileSystem& files, Prompts& prompts)
 {
-    const QString file = MapFileToRead(p.Branch.WorkDir);
-    p.Map.Owner = p.Branch.WorkDir;
+    const QString file = MapFileToRead(branch.WorkDir);
+    map.Owner = branch.WorkDir;
     // One that isn't there, or can't be read, may be back when the map is written.
-    p.Map.Source = MapSource::Unread;
-    if (!p.Files.LookUpGivesTail(file, fileNameLength)) {
-        p.Prompts.MsgBox(u"Graphic Config File not Found."_s,
-                         u"You need to create a new Ancestral Map for this Database."_s, Buttons::Information);
+    map.Source = MapSource::Unread;
+    if (!files.LookUpGivesTail(file, fileNameLength)) {
+        prompts.MsgBox(u"Graphic Config File not Found."_s,
+                       u"You need to create a new Ancestral Map for this Database."_s, Buttons::Information);
         return;
     }
     try {
         // What is missing comes out empty.
-        const bool isWhole = ReadMapLists(p.Files, file, p.Map) && HasWholeTexts(p.Map);
-        p.Map.Source = isWhole ? MapSource::Whole : SourceOfPart(p.Branch);
+        const bool isWhole = ReadMapLists(files, file, map) && HasWholeTexts(map);
+        map.Source = isWhole ? MapSource::Whole : SourceOfPart(branch);
     } catch (const RuntimeError& refusal) {
         if (refusal.Number == ErrorNumber::InputPastEnd)
-            p.Map.Source = SourceOfPart(p.Branch);
+            map.Source = SourceOfPart(branch);
         throw;
     }
-    WarnOfFirstEmptyList(p);
+    WarnOfFirstEmptyList(map, prompts);
 }
 
-void WarnOfFirstEmptyList(Program& p)
+void WarnOfFirstEmptyList(const MapState& map, Prompts& prompts)
 {
     const struct {
         const QString& List;
         QStringView Kind;
-    } lists[] = {{p.Map.sBoxesText, u"Box"}, {p.Map.sLinesText, u"Line"}, {p.Map.sTextsText, u"Text"}};
+    } lists[] = {{map.sBoxesText, u"Box"}, {map.sLinesText, u"Line"}, {map.sTextsText, u"Text"}};
     for (const auto& [list, kind] : lists) {
         if (list.isEmpty()) {
-            p.Prompts.MsgBox(u"Box Config File record corrupt"_s, u"Config "_s + kind + u" Record empty",
-                             Buttons::Information);
+            prompts.MsgBox(u"Box Config File record corrupt"_s, u"Config "_s + kind + u" Record empty",
+                           Buttons::Information);
             return;
         }
     }
@@ -192,23 +192,23 @@ bool ReadMapLists(const FileSystem& files, const QString& path, MapState& map)
     return ReadLists(reader, map);
 }
 
-void WriteMapFile(Program& p)
+void WriteMapFile(MapState& map, BranchState& branch, FileSystem& files)
 {
-    const bool isAlternate = p.Branch.IsSiblingShown();
+    const bool isAlternate = branch.IsSiblingShown();
     if (isAlternate)
-        SwapBranchDirs(p.Branch);
+        SwapBranchDirs(branch);
     const auto swapBack = qScopeGuard([&] {
         if (isAlternate)
-            SwapBranchDirs(p.Branch);
+            SwapBranchDirs(branch);
     });
-    if (BelongsToOpenBranch(p))
-        WriteLists(p);
+    if (BelongsToOpenBranch(map, branch))
+        WriteLists(map, branch, files);
 }
 
-void SaveBoxes(Program& p)
+void SaveBoxes(MapState& map, BranchState& branch, FileSystem& files)
 {
-    p.Map.sBoxesText = ListOfBoxes(p.Map);
-    WriteMapFile(p);
+    map.sBoxesText = ListOfBoxes(map);
+    WriteMapFile(map, branch, files);
 }
 
 QString ListWithForename(const QString& boxes, const QString& file, const QString& forename)

@@ -30,34 +30,34 @@ void DrawWithPen(const MapSheet& sheet, Colour colour, Draw&& draw)
     sheet.On.ForeColor = pen;
 }
 
-void PickTextFont(Program& p, const MapSheet& sheet, int row)
+void PickTextFont(const MapPicture& shown, const MapSheet& sheet, int row)
 {
-    const auto& text = p.Map.TextArr[row];
+    const auto& text = shown.Map.TextArr[row];
     const QString name = text[TextColumn::FontName].Text();
     if (sheet.InsteadOfArial && SameText(name, u"Arial")) {
         sheet.On.Font = *sheet.InsteadOfArial;
         return;
     }
     sheet.On.Font.Name = name;
-    p.Errors.Ignoring([&] { sheet.On.Font.Size = text[TextColumn::FontSize].Fraction(); });
+    shown.Errors.Ignoring([&] { sheet.On.Font.Size = text[TextColumn::FontSize].Fraction(); });
 }
 
-void DropTextFont(Program& p, const MapSheet& sheet)
+void DropTextFont(const MapPicture& shown, const MapSheet& sheet)
 {
-    TextFont& font = p.Form1->Picture1.Font;
+    TextFont& font = shown.Form1->Picture1.Font;
     if (!SameText(font.Name, u"Arial"))
         font = sheet.PictureFont;
 }
 
 // A size or colour that is spoilt leaves what is in force.
-void DrawTextWith(Program& p, const MapSheet& sheet, int row, std::optional<Colour> pen)
+void DrawTextWith(const MapPicture& shown, const MapSheet& sheet, int row, std::optional<Colour> pen)
 {
-    const auto& text = p.Map.TextArr[row];
+    const auto& text = shown.Map.TextArr[row];
     const Point place = sheet.At({text[TextColumn::X].Number(), text[TextColumn::Y].Number()});
-    PickTextFont(p, sheet, row);
-    p.Errors.Ignoring([&] { sheet.On.ForeColor = pen ? *pen : ColourOf(text[TextColumn::Colour]); });
+    PickTextFont(shown, sheet, row);
+    shown.Errors.Ignoring([&] { sheet.On.ForeColor = pen ? *pen : ColourOf(text[TextColumn::Colour]); });
     PrintOnMap(sheet.On, place, text[TextColumn::Text].Text());
-    DropTextFont(p, sheet);
+    DropTextFont(shown, sheet);
 }
 } // namespace
 
@@ -71,10 +71,10 @@ void ResetMapFont(Surface& surface)
     surface.Font = {};
 }
 
-void ClearMapPicture(Program& p)
+void ClearMapPicture(MapState& map, forms::Form1& form)
 {
-    p.Form1->Picture1.Cls();
-    p.Map.Captions.clear();
+    form.Picture1.Cls();
+    map.Captions.clear();
 }
 
 void DrawBox(const MapState& map, const MapSheet& sheet, int row)
@@ -107,15 +107,15 @@ void DrawLineIn(const MapState& map, const MapSheet& sheet, int row, Colour pen)
     DrawWithPen(sheet, pen, [&](Surface& surface) { surface.Line(start, end); });
 }
 
-void DrawText(Program& p, const MapSheet& sheet, int row)
+void DrawText(const MapPicture& shown, const MapSheet& sheet, int row)
 {
-    if (!IsFreeRow(p.Map.TextArr[row]))
-        DrawTextWith(p, sheet, row, {});
+    if (!IsFreeRow(shown.Map.TextArr[row]))
+        DrawTextWith(shown, sheet, row, {});
 }
 
-void DrawTextIn(Program& p, const MapSheet& sheet, int row, Colour pen)
+void DrawTextIn(const MapPicture& shown, const MapSheet& sheet, int row, Colour pen)
 {
-    DrawTextWith(p, sheet, row, pen);
+    DrawTextWith(shown, sheet, row, pen);
 }
 
 Colour ColourOfBox(const MapState& map, int row)

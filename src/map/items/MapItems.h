@@ -1,8 +1,8 @@
 #pragma once
 
 #include "map/items/MapSheet.h"
+#include "map/items/MapWork.h"
 #include "platform/drawing/Surface.h"
-#include "program/state/Program.h"
 
 namespace lineforge
 {
@@ -11,12 +11,12 @@ namespace lineforge
 // others leave the pen as it was. Error 13 for a value that is no number.
 void DrawBox(const MapState& map, const MapSheet& sheet, int row);
 void DrawLine(const MapState& map, const MapSheet& sheet, int row);
-void DrawText(Program& p, const MapSheet& sheet, int row);
+void DrawText(const MapPicture& shown, const MapSheet& sheet, int row);
 
 // The same in that colour instead of the item's own, and a free row as well.
 void DrawBoxIn(const MapState& map, const MapSheet& sheet, int row, Colour pen);
 void DrawLineIn(const MapState& map, const MapSheet& sheet, int row, Colour pen);
-void DrawTextIn(Program& p, const MapSheet& sheet, int row, Colour pen);
+void DrawTextIn(const MapPicture& shown, const MapSheet& sheet, int row, Colour pen);
 
 // The outline of a box in its row's colour; black for one that is no number.
 Colour ColourOfBox(const MapState& map, int row);
@@ -31,6 +31,6 @@ void PrintOnMap(Surface& surface, Point place, const QString& text);
 void ResetMapFont(Surface& surface);
 
 // Wipes the whole picture of the map.
-void ClearMapPicture(Program& p);
+void ClearMapPicture(MapState& map, forms::Form1& form);
 
 } // namespace lineforge

@@ -18,12 +18,12 @@ int HighestRow(int rows)
     return std::min(rows - 1, LastMapRow);
 }
 
-void DrawAllCaptions(Program& p)
+void DrawAllCaptions(const MapWork& work)
 {
-    p.Errors.Ignoring([&] { KeepPosition(p.Record, Records(p.Form3)); });
-    p.Errors.Ignoring([&] { DrawBoxCaptions(p, MapOnScreen(p)); });
-    p.Errors.Ignoring([&] { DrawOwnCaptions(p, MapOnScreen(p)); });
-    p.Errors.Ignoring([&] { ComeBack(p.Record, p.Form3); });
+    work.Errors.Ignoring([&] { KeepPosition(work.Record, Records(work.Form3)); });
+    work.Errors.Ignoring([&] { DrawBoxCaptions(work, MapOnScreen(work.Map, *work.Form1)); });
+    work.Errors.Ignoring([&] { DrawOwnCaptions(work, MapOnScreen(work.Map, *work.Form1)); });
+    work.Errors.Ignoring([&] { ComeBack(work.Record, work.Form3); });
 }
 
 // How many lines can be read before the list breaks off.
@@ -43,67 +43,70 @@ int WholeLines(const QString& list)
 }
 } // namespace
 
-void ParseBoxes(Program& p)
+void ParseBoxes(const MapWork& work)
 {
-    if (CountsAsEmpty(p.Map.sBoxesText))
+    if (CountsAsEmpty(work.Map.sBoxesText))
         return;
-    const MapSheet screen = MapOnScreen(p);
-    const int rows = ForEachValue(p.Map.sBoxesText, BoxColumn::Count, [&](int row, int column, const QString& value) {
-        if (row > LastMapRow)
-            return;
-        p.Map.BoxArr[row][column] = value;
-        // The outline needs no more than the columns before the record's.
-        if (column == BoxColumn::File)
-            p.Errors.Ignoring([&] { DrawBox(p.Map, screen, row); });
-    });
-    p.Map.SBoxes = HighestRow(rows);
-    DrawAllCaptions(p);
+    const MapSheet screen = MapOnScreen(work.Map, *work.Form1);
+    const int rows =
+        ForEachValue(work.Map.sBoxesText, BoxColumn::Count, [&](int row, int column, const QString& value) {
+            if (row > LastMapRow)
+                return;
+            work.Map.BoxArr[row][column] = value;
+            // The outline needs no more than the columns before the record's.
+            if (column == BoxColumn::File)
+                work.Errors.Ignoring([&] { DrawBox(work.Map, screen, row); });
+        });
+    work.Map.SBoxes = HighestRow(rows);
+    DrawAllCaptions(work);
 }
 
-void ParseLines(Program& p)
+void ParseLines(const MapPicture& shown)
 {
-    p.Form1->Picture1.ForeColor = Black;
-    if (CountsAsEmpty(p.Map.sLinesText))
+    shown.Form1->Picture1.ForeColor = Black;
+    if (CountsAsEmpty(shown.Map.sLinesText))
         return;
-    const MapSheet screen = MapOnScreen(p);
-    const int rows = ForEachValue(p.Map.sLinesText, LineColumn::Count, [&](int row, int column, const QString& value) {
-        p.Map.LineArr[row][column] = ToLong(value);
-        if (column == LineColumn::Colour)
-            DrawLine(p.Map, screen, row);
-    });
-    p.Map.SLines = rows - 1;
+    const MapSheet screen = MapOnScreen(shown.Map, *shown.Form1);
+    const int rows =
+        ForEachValue(shown.Map.sLinesText, LineColumn::Count, [&](int row, int column, const QString& value) {
+            shown.Map.LineArr[row][column] = ToLong(value);
+            if (column == LineColumn::Colour)
+                DrawLine(shown.Map, screen, row);
+        });
+    shown.Map.SLines = rows - 1;
 }
 
-void ParseTexts(Program& p)
+void ParseTexts(const MapPicture& shown)
 {
-    p.Map.STexts = -1;
-    if (CountsAsEmpty(p.Map.sTextsText))
+    shown.Map.STexts = -1;
+    if (CountsAsEmpty(shown.Map.sTextsText))
         return;
-    const MapSheet screen = MapOnScreen(p);
-    const int rows = ForEachValue(p.Map.sTextsText, TextColumn::Count, [&](int row, int column, const QString& value) {
-        if (row > LastMapRow)
-            return;
-        p.Map.TextArr[row][column] = value;
-        if (column == TextColumn::Colour)
-            p.Errors.Ignoring([&] { DrawText(p, screen, row); });
-    });
-    p.Map.STexts = HighestRow(rows);
-    ResetMapFont(p.Form1->Picture1);
+    const MapSheet screen = MapOnScreen(shown.Map, *shown.Form1);
+    const int rows =
+        ForEachValue(shown.Map.sTextsText, TextColumn::Count, [&](int row, int column, const QString& value) {
+            if (row > LastMapRow)
+                return;
+            shown.Map.TextArr[row][column] = value;
+            if (column == TextColumn::Colour)
+                shown.Errors.Ignoring([&] { DrawText(shown, screen, row); });
+        });
+    shown.Map.STexts = HighestRow(rows);
+    ResetMapFont(shown.Form1->Picture1);
 }
 
-void ParseWhatIsThere(Program& p)
+void ParseWhatIsThere(const MapWork& work)
 {
-    p.Errors.Ignoring([&] { ParseBoxes(p); });
+    work.Errors.Ignoring([&] { ParseBoxes(work); });
     try {
-        ParseLines(p);
+        ParseLines(work);
     } catch (const RuntimeError&) {
-        const int whole = WholeLines(p.Map.sLinesText);
+        const int whole = WholeLines(work.Map.sLinesText);
         for (int row = whole; row <= LastMapRow; ++row)
-            p.Map.LineArr[row].Erase();
+            work.Map.LineArr[row].Erase();
         // So that a new line takes the place of none.
-        p.Map.SLines = whole - 1;
+        work.Map.SLines = whole - 1;
     }
-    p.Errors.Ignoring([&] { ParseTexts(p); });
+    work.Errors.Ignoring([&] { ParseTexts(work); });
 }
 
 } // namespace lineforge

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "map/items/MapWork.h"
 
 namespace lineforge
 {
@@ -10,11 +10,11 @@ namespace lineforge
 // error 9, and a value that is no number error 13.
 
 // Then draws the captions of all boxes; the current record stays.
-void ParseBoxes(Program& p);
-void ParseLines(Program& p);
-void ParseTexts(Program& p);
+void ParseBoxes(const MapWork& work);
+void ParseLines(const MapPicture& shown);
+void ParseTexts(const MapPicture& shown);
 
 // All three, whatever is spoilt: a list of lines that breaks off costs the lines from there on, and nothing else.
-void ParseWhatIsThere(Program& p);
+void ParseWhatIsThere(const MapWork& work);
 
 } // namespace lineforge

@@ -25,12 +25,12 @@ Point MapSheet::At(Point place) const
     return {Within(place.X) + ToTheRight, Down(Within(place.Y))};
 }
 
-MapSheet MapOnScreen(Program& p)
+MapSheet MapOnScreen(MapState& map, forms::Form1& form)
 {
-    return {.On = p.Form1->Picture1,
+    return {.On = form.Picture1,
             .Caption = {.Number = NumberInBox, .Forename = ForenameInBox, .NumberAlone = NumberInBox, .BirthYear = {}},
             .CaptionFont = TextFont(),
-            .Printed = &p.Map.Captions};
+            .Printed = &map.Captions};
 }
 
 MapSheet MapOnPaper(Surface& page)

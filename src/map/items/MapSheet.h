@@ -1,7 +1,8 @@
 #pragma once
 
 #include "platform/drawing/Surface.h"
-#include "program/state/Program.h"
+#include "program/state/MapState.h"
+#include "program/state/Windows.h"
 
 #include <optional>
 
@@ -45,7 +46,7 @@ struct MapSheet {
 };
 
 // The picture of the main window, twip for twip.
-MapSheet MapOnScreen(Program& p);
+MapSheet MapOnScreen(MapState& map, forms::Form1& form);
 
 // The printer's page: 1200 twips to the right, and 1.8 times as far down, with a broad pen, an Arial text in the
 // printer's own small Courier, and years of birth in the boxes.

@@ -21,11 +21,11 @@ namespace
 // By the folded numbers of their records. Of several records of one number the first counts, as everywhere.
 using Forenames = QHash<QString, QString>;
 
-Forenames ReadForenames(Program& p, const QString& database)
+Forenames ReadForenames(const DatabaseOpening& opening, const QString& database)
 {
     Forenames forenames;
     try {
-        Recordset records(p.Databases.Open(p.Files, database), u"Tree99"_s);
+        Recordset records(opening.Databases.Open(opening.Files, database), u"Tree99"_s);
         for (; !records.Eof(); records.MoveNext())
             if (const QString number = Folded(records.Text(Field::File)); !forenames.contains(number))
                 forenames.insert(number, records.Text(Field::Forename));
@@ -40,15 +40,15 @@ Forenames ReadForenames(Program& p, const QString& database)
 class People
 {
 public:
-    explicit People(Program& p) : p_(p) {}
+    People(const MapState& map, const BranchAccess& access) : map_(map), access_(access) {}
 
     QString ForenameOf(const QString& number)
     {
-        const QString& own = p_.Map.Owner;
+        const QString& own = map_.Owner;
         if (own.isEmpty())
             return {};
         if (IsOnShow(number))
-            return p_.Form3->Text3.Text;
+            return access_.Form3->Text3.Text;
         const Forenames& ours = Of(own);
         // The neighbours of an imported branch can't be reached.
         if (ours.contains(Folded(number)) || IsImported(own))
@@ -60,8 +60,8 @@ private:
     // What is typed into the record form may stand in the box before it is stored.
     bool IsOnShow(const QString& number)
     {
-        return p_.Form3.IsLoaded() && p_.Branch.UsingAlternate == 0 &&
-               SameText(p_.Form3->Label25.Caption.value(), number);
+        return access_.Form3.IsLoaded() && access_.Branch.UsingAlternate == 0 &&
+               SameText(access_.Form3->Label25.Caption.value(), number);
     }
 
     const Forenames& Of(const QString& branch)
@@ -69,10 +69,11 @@ private:
         const auto known = branches_.find(branch);
         return known != branches_.end()
                    ? known->second
-                   : branches_.emplace(branch, ReadForenames(p_, DatabasePath(branch))).first->second;
+                   : branches_.emplace(branch, ReadForenames(access_, DatabasePath(branch))).first->second;
     }
 
-    Program& p_;
+    const MapState& map_;
+    const BranchAccess& access_;
     std::map<QString, Forenames> branches_;
 };
 
@@ -84,13 +85,13 @@ QString SpokenName(People& people, const QString& number)
 }
 } // namespace
 
-std::vector<PicturePart> SpokenBoxes(Program& p)
+std::vector<PicturePart> SpokenBoxes(const MapState& map, const BranchAccess& access)
 {
     std::vector<PicturePart> boxes;
-    People people(p);
+    People people(map, access);
     for (int row = 0; row <= LastMapRow; ++row) {
-        const auto& box = p.Map.BoxArr[row];
-        if (!HasPlace(p.Map, row))
+        const auto& box = map.BoxArr[row];
+        if (!HasPlace(map, row))
             continue;
         const Rectangle place{box[BoxColumn::X].Number(), box[BoxColumn::Y].Number(), BoxWidth, BoxHeight};
         boxes.push_back(

@@ -15,6 +15,7 @@
 #include "program/branch/OldDatabase.h"
 #include "program/branch/SiblingBranch.h"
 #include "program/branch/WorkDatabase.h"
+#include "program/state/Program.h"
 #include "program/ui/BranchUi.h"
 
 namespace lineforge
@@ -54,54 +55,54 @@ bool OpenDatabase(Program& p, const QString& directory)
 }
 
 // The current record beside the map and its marker, each as far as it can be had. False without a picture.
-bool ShowSubject(Program& p)
+bool ShowSubject(const BoxWork& work, const SubjectPanel& panel)
 {
-    p.Errors.Ignoring([&] { SetPictureName(p.Record, *p.Form3); });
-    const bool hasPicture = ShowSubjectPicture(p);
-    p.Errors.Ignoring([&] { MarkCurrentBox(p); });
-    p.Errors.Ignoring([&] { FillSubjectLabels(p.Form1, p.Form3); });
+    work.Errors.Ignoring([&] { SetPictureName(work.Record, *work.Form3); });
+    const bool hasPicture = ShowSubjectPicture(panel);
+    work.Errors.Ignoring([&] { MarkCurrentBox(work); });
+    work.Errors.Ignoring([&] { FillSubjectLabels(work.Form1, work.Form3); });
     return hasPicture;
 }
 } // namespace
 
-void PutMapAway(Program& p)
+void PutMapAway(const BoxWork& work)
 {
-    ClearMapPicture(p);
-    ResetMapFont(p.Form1->Picture1);
-    ForgetMap(p);
-    if (p.Branch.IsSiblingShown())
-        EndAlternate(p.Branch, p.Form3);
+    ClearMapPicture(work.Map, *work.Form1);
+    ResetMapFont(work.Form1->Picture1);
+    ForgetMap(work.Map, work.Mouse, work.Tools);
+    if (work.Branch.IsSiblingShown())
+        EndAlternate(work.Branch, work.Form3);
 }
 
-void ReturnToOwnSubject(Program& p)
+void ReturnToOwnSubject(const MapWork& work, const SubjectPanel& panel)
 {
-    if (!p.Branch.IsSiblingShown())
+    if (!work.Branch.IsSiblingShown())
         return;
-    ReturnFromSibling(p);
-    ShowSubject(p);
+    ReturnFromSibling(work);
+    ShowSubject(work, panel);
 }
 
-void DrawBranchMap(Program& p)
+void DrawBranchMap(const MapWork& work)
 {
-    p.Errors.Ignoring([&] {
+    work.Errors.Ignoring([&] {
         try {
-            ReadMapFile(p);
+            ReadMapFile(work.Map, work.Branch, work.Files, work.Prompts);
         } catch (const RuntimeError& refusal) {
             // A part of the map has come.
             if (refusal.Number == ErrorNumber::InputPastEnd)
-                WarnOfFirstEmptyList(p);
+                WarnOfFirstEmptyList(work.Map, work.Prompts);
             throw;
         }
     });
-    ParseWhatIsThere(p);
+    ParseWhatIsThere(work);
 }
 
-void StoreTypedOrStay(Program& p)
+void StoreTypedOrStay(Window<forms::Form3>& recordForm, ErrorState& errors, Prompts& prompts)
 {
     try {
-        StoreTyped(p.Form3);
+        StoreTyped(recordForm);
     } catch (RuntimeError& refusal) {
-        ReportError(p.Errors, p.Prompts, refusal);
+        ReportError(errors, prompts, refusal);
         refusal.IsTold = true;
         throw;
     }
@@ -109,7 +110,7 @@ void StoreTypedOrStay(Program& p)
 
 bool EnterBranch(Program& p, const QString& name, const QString& directory)
 {
-    StoreTypedOrStay(p);
+    StoreTypedOrStay(p.Form3, p.Errors, p.Prompts);
     // Who doesn't wait for another program keeps the branch that he has.
     const auto database = ReachDatabase(p.Databases, p.Files, DatabasePath(p.Branch.HomeDir + directory));
     p.Branch.sBranchName = name;
@@ -122,24 +123,24 @@ bool EnterBranch(Program& p, const QString& name, const QString& directory)
     return true;
 }
 
-bool EmptySubjectIfNoRecords(Program& p)
+bool EmptySubjectIfNoRecords(Window<forms::Form1>& mainWindow, Window<forms::Form3>& recordForm, Prompts& prompts)
 {
-    if (!TellIfEmptyTable(Records(p.Form3), p.Prompts))
+    if (!TellIfEmptyTable(Records(recordForm), prompts))
         return false;
     // The picture of the branch before would stand for nobody here.
-    EmptySubjectPanel(*p.Form1, EmptiedBy::BranchWithoutRecords);
+    EmptySubjectPanel(*mainWindow, EmptiedBy::BranchWithoutRecords);
     return true;
 }
 
-void ShowFirstSubject(Program& p)
+void ShowFirstSubject(const BoxWork& work, const SubjectPanel& panel)
 {
-    forms::Form1& form = *p.Form1;
-    const bool hasPicture = ShowSubject(p);
-    form.Caption = u"Lineforge "_s + p.Branch.sBranchName + u" Tree Branch.";
-    p.Form3->Caption = u"Lineforge "_s + p.Branch.sBranchName + u" Records.";
+    forms::Form1& form = *work.Form1;
+    const bool hasPicture = ShowSubject(work, panel);
+    form.Caption = u"Lineforge "_s + work.Branch.sBranchName + u" Tree Branch.";
+    work.Form3->Caption = u"Lineforge "_s + work.Branch.sBranchName + u" Records.";
     if (!hasPicture) {
         form.Shape1.Visible = false;
-        TellPictureMissing(p.Record, p.Prompts);
+        TellPictureMissing(work.Record, panel.Prompts);
     }
 }
 

@@ -15,23 +15,23 @@ bool IsSamePicture(const QImage& one, const QImage& other)
 }
 } // namespace
 
-void CopyMapPicture(Program& p)
+void CopyMapPicture(MapState& map, forms::Form1& form, Clipboard& clipboard)
 {
-    p.Map.Copied = {p.Form1->Picture1.Image(), p.Map.Captions};
-    p.Clipboard.Clear();
-    p.Clipboard.SetPicture(p.Map.Copied.Picture);
+    map.Copied = {form.Picture1.Image(), map.Captions};
+    clipboard.Clear();
+    clipboard.SetPicture(map.Copied.Picture);
 }
 
-void PasteMapPicture(Program& p)
+void PasteMapPicture(MapState& map, forms::Form1& form, Clipboard& clipboard)
 {
-    const QImage picture = p.Clipboard.HasPicture() ? p.Clipboard.GetPicture() : QImage();
+    const QImage picture = clipboard.HasPicture() ? clipboard.GetPicture() : QImage();
     if (picture.isNull())
         return;
-    p.Form1->Picture1.ShowPicture(picture);
+    form.Picture1.ShowPicture(picture);
     // On a picture from elsewhere none of them stands.
-    p.Map.Captions.clear();
-    if (IsSamePicture(picture, p.Map.Copied.Picture))
-        p.Map.Captions = p.Map.Copied.Captions;
+    map.Captions.clear();
+    if (IsSamePicture(picture, map.Copied.Picture))
+        map.Captions = map.Copied.Captions;
 }
 
 } // namespace lineforge

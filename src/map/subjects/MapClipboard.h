@@ -1,12 +1,14 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "platform/machine/Clipboard.h"
+#include "program/state/MapState.h"
+#include "program/state/Windows.h"
 
 namespace lineforge
 {
 
 // The picture of the map, as it stands, and any picture over it. The map's items stay what they are.
-void CopyMapPicture(Program& p);
-void PasteMapPicture(Program& p);
+void CopyMapPicture(MapState& map, forms::Form1& form, Clipboard& clipboard);
+void PasteMapPicture(MapState& map, forms::Form1& form, Clipboard& clipboard);
 
 } // namespace lineforge

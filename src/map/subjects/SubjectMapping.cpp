@@ -38,9 +38,8 @@ constexpr int leaveUntilLater = 7;
 
 constexpr qsizetype numberLength = 4;
 
-void ShowOption(Program& p, OptionButton forms::Form7::*chosen)
+void ShowOption(forms::Form7& form, OptionButton forms::Form7::*chosen)
 {
-    forms::Form7& form = *p.Form7;
     for (OptionButton forms::Form7::*option : {&forms::Form7::Option1, &forms::Form7::Option2, &forms::Form7::Option3})
         (form.*option).Value = option == chosen;
     const bool isNew = chosen == &forms::Form7::Option1;
@@ -50,332 +49,333 @@ void ShowOption(Program& p, OptionButton forms::Form7::*chosen)
     form.Frame3.Enabled = isNew;
 }
 
-void StopMapping(Program& p)
+void StopMapping(ToolState& tools, Screen& screen)
 {
-    p.Tools.MapCursorMode = MapCursor::Normal;
-    p.Screen.Pointer = MousePointer::Default;
+    tools.MapCursorMode = MapCursor::Normal;
+    screen.Pointer = MousePointer::Default;
 }
 
-void TellNotPresent(Program& p, const QString& text)
+void TellNotPresent(const MappingWork& work, const QString& text)
 {
-    p.Prompts.MsgBox(u"Record not Present"_s, text, Buttons::Information);
-    StopMapping(p);
+    work.Prompts.MsgBox(u"Record not Present"_s, text, Buttons::Information);
+    StopMapping(work.Tools, work.Screen);
 }
 
 // The row of the pressed box; none beside all boxes. A lone box isn't searched for, but has to be pressed as well.
-std::optional<int> PressedBox(Program& p)
+std::optional<int> PressedBox(const MapState& map, MapMouseState& mouse)
 {
-    p.Mouse.BoxX = p.Mouse.BoxLeft;
-    p.Mouse.BoxY = p.Mouse.BoxTop;
-    if (p.Map.SBoxes == 0)
-        return PressIsInBox(p, 0) ? std::optional(0) : std::nullopt;
-    HitBox(p);
-    return p.Mouse.BoxMiss == 0 ? std::optional<int>(p.Mouse.BoxIdx) : std::nullopt;
+    mouse.BoxX = mouse.BoxLeft;
+    mouse.BoxY = mouse.BoxTop;
+    if (map.SBoxes == 0)
+        return PressIsInBox(map, mouse, 0) ? std::optional(0) : std::nullopt;
+    HitBox(map, mouse);
+    return mouse.BoxMiss == 0 ? std::optional<int>(mouse.BoxIdx) : std::nullopt;
 }
 
 // Without a box the number goes into none. The new caption comes with the return from the record form.
-void LinkBox(Program& p, std::optional<int> row, const QString& file, const QString& forename = {})
+void LinkBox(const MappingWork& work, std::optional<int> row, const QString& file, const QString& forename = {})
 {
-    p.Mapping.NewFile = file;
+    work.Mapping.NewFile = file;
     if (row)
-        TieBox(p, *row, file, forename);
+        TieBox(work.Map, *work.Form1, *row, file, forename);
 }
 
 // The first number that the records, in their stored order, run out of.
 // KEPT(NumberingTest.FirstGapInStoredOrder): it never starts over, so that numbers which don't rise can be given twice.
 // Mended, new records of such a branch would get other numbers.
-QString NextFreeNumber(Program& p, Recordset& records)
+QString NextFreeNumber(RecordState& record, const QString& letter, Recordset& records)
 {
     int counter = 1;
-    const auto candidate = [&]() -> QString {
-        return p.Mapping.sBranchLetter + QString::number(counter).rightJustified(3, u'0');
-    };
+    const auto candidate = [&]() -> QString { return letter + QString::number(counter).rightJustified(3, u'0'); };
     for (records.MoveFirst(); !records.Eof(); records.MoveNext()) {
-        p.Record.sCurFile = records.Text(Field::File);
-        while (SameText(p.Record.sCurFile, candidate()))
+        record.sCurFile = records.Text(Field::File);
+        while (SameText(record.sCurFile, candidate()))
             ++counter;
     }
     return candidate();
 }
 
 // Its number is chosen among all that stand in the file when nobody else can add one.
-void AddSubject(Program& p)
+void AddSubject(const MappingWork& work)
 {
-    Recordset& records = Records(p.Form3);
+    Recordset& records = Records(work.Form3);
     QString file;
     records.AddNew();
-    records.PutWhenWritten(Field::File, [&] { return file = NextFreeNumber(p, *records.Afresh()); });
-    records.Put(Field::Gender, p.Mapping.NewGender);
+    records.PutWhenWritten(
+        Field::File, [&] { return file = NextFreeNumber(work.Record, work.Mapping.sBranchLetter, *records.Afresh()); });
+    records.Put(Field::Gender, work.Mapping.NewGender);
     records.Update();
     records.SetBookmark(records.LastModified());
-    p.Mapping.NewFile = file;
+    work.Mapping.NewFile = file;
 }
 
 // The box comes after the record, so that it leads to no record that the database has refused.
-void MapNewRecord(Program& p)
+void MapNewRecord(const MappingWork& work)
 {
-    AddSubject(p);
-    LinkBox(p, PressedBox(p), p.Mapping.NewFile);
-    SaveBoxes(p);
+    AddSubject(work);
+    LinkBox(work, PressedBox(work.Map, work.Mouse), work.Mapping.NewFile);
+    SaveBoxes(work.Map, work.Branch, work.Files);
 }
 
 // Whatever the options said.
-void MapFirstRecord(Program& p)
+void MapFirstRecord(const MappingWork& work)
 {
-    MapNewRecord(p);
-    p.Record.sCurFile = p.Mapping.NewFile;
+    MapNewRecord(work);
+    work.Record.sCurFile = work.Mapping.NewFile;
 }
 
 // Nothing, and a box, when no number of four characters was entered, or one that would break the map file. Kept by the
 // command: under each further box the scanner puts its own record at hand.
-std::optional<QString> TakeEnteredNumber(Program& p)
+std::optional<QString> TakeEnteredNumber(const MappingWork& work)
 {
-    const QString number = p.Form7->Text1.Text;
-    p.Record.sCurFile = number;
+    const QString number = work.Form7->Text1.Text;
+    work.Record.sCurFile = number;
     if (number.size() == numberLength && FitsList(number))
         return number;
-    TellNotPresent(p, u"Incorrect Record Number "_s + number);
+    TellNotPresent(work, u"Incorrect Record Number "_s + number);
     return std::nullopt;
 }
 
 // False, and a box, when the open database has no such record.
-bool StandOnRecord(Program& p, const QString& number)
+bool StandOnRecord(const MappingWork& work, const QString& number)
 {
-    if (Records(p.Form3).Seek(Field::File, number))
+    if (Records(work.Form3).Seek(Field::File, number))
         return true;
-    TellNotPresent(p, u"Record not Found: "_s + number);
+    TellNotPresent(work, u"Record not Found: "_s + number);
     return false;
 }
 
-bool MapUnmappedRecord(Program& p)
+bool MapUnmappedRecord(const MappingWork& work)
 {
-    const std::optional<QString> number = TakeEnteredNumber(p);
-    if (!number || !StandOnRecord(p, *number))
+    const std::optional<QString> number = TakeEnteredNumber(work);
+    if (!number || !StandOnRecord(work, *number))
         return false;
-    LinkBox(p, PressedBox(p), *number, Records(p.Form3).Text(Field::Forename));
-    p.Mapping.MapOption = newRecord;
-    SaveBoxes(p);
+    LinkBox(work, PressedBox(work.Map, work.Mouse), *number, Records(work.Form3).Text(Field::Forename));
+    work.Mapping.MapOption = newRecord;
+    SaveBoxes(work.Map, work.Branch, work.Files);
     return true;
 }
 
-bool MapAlternateRecord(Program& p)
+bool MapAlternateRecord(const MappingWork& work)
 {
-    const std::optional<QString> number = TakeEnteredNumber(p);
+    const std::optional<QString> number = TakeEnteredNumber(work);
     if (!number)
         return false;
     const QString letter = number->first(1);
     // Before the box is tied to it.
-    if (!TakeOldSibling(p, letter))
+    if (!TakeOldSibling(work, letter))
         return false;
-    const auto sibling = ReachDatabase(p.Databases, p.Files, DatabasePath(SiblingDirectory(p.Branch.WorkDir, letter)));
-    Records(p.Form3).Seek(Field::File, *number);
-    const std::optional<int> row = PressedBox(p);
-    p.Screen.Pointer = MousePointer::Hourglass;
-    LinkBox(p, row, *number);
-    p.Mapping.PictureOption = leaveUntilLater;
-    DrawBoxCaptions(p, MapOnScreen(p));
-    SaveBoxes(p);
-    SwitchToSibling(p, letter);
-    return StandOnRecord(p, *number);
+    const auto sibling =
+        ReachDatabase(work.Databases, work.Files, DatabasePath(SiblingDirectory(work.Branch.WorkDir, letter)));
+    Records(work.Form3).Seek(Field::File, *number);
+    const std::optional<int> row = PressedBox(work.Map, work.Mouse);
+    work.Screen.Pointer = MousePointer::Hourglass;
+    LinkBox(work, row, *number);
+    work.Mapping.PictureOption = leaveUntilLater;
+    DrawBoxCaptions(work, MapOnScreen(work.Map, *work.Form1));
+    SaveBoxes(work.Map, work.Branch, work.Files);
+    SwitchToSibling(work, letter);
+    return StandOnRecord(work, *number);
 }
 
-bool MapByOption(Program& p)
+bool MapByOption(const MappingWork& work)
 {
-    switch (p.Mapping.MapOption) {
+    switch (work.Mapping.MapOption) {
     case unmappedRecord:
-        return MapUnmappedRecord(p);
+        return MapUnmappedRecord(work);
     case alternateRecord:
-        return MapAlternateRecord(p);
+        return MapAlternateRecord(work);
     default:
-        MapNewRecord(p);
+        MapNewRecord(work);
         return true;
     }
 }
 
-void NamePictureFile(Program& p)
+void NamePictureFile(MappingState& mapping, const BranchState& branch)
 {
-    p.Mapping.PictureFile = SubjectPictureFile(p.Branch.WorkDir, p.Mapping.NewFile);
+    mapping.PictureFile = SubjectPictureFile(branch.WorkDir, mapping.NewFile);
 }
 
-void CopyBlankPortrait(Program& p)
+void CopyBlankPortrait(const MappingWork& work)
 {
-    p.Files.ChDir(p.Branch.WorkDir);
-    const auto changeBack = qScopeGuard([&] { p.Errors.Ignoring([&] { p.Files.ChDir(p.Branch.WorkDir); }); });
-    p.Files.ChDir(u".."_s);
-    p.Files.FileCopy(p.Files.CurDir() + PathSeparator + u"Tree99.jpg", p.Mapping.PictureFile);
+    work.Files.ChDir(work.Branch.WorkDir);
+    const auto changeBack = qScopeGuard([&] { work.Errors.Ignoring([&] { work.Files.ChDir(work.Branch.WorkDir); }); });
+    work.Files.ChDir(u".."_s);
+    work.Files.FileCopy(work.Files.CurDir() + PathSeparator + u"Tree99.jpg", work.Mapping.PictureFile);
 }
 
 // Nothing when the user cancels. The scanner may go on behind the dialog.
-std::optional<QString> ChoosePicture(Program& p)
+std::optional<QString> ChoosePicture(Window<forms::Form3>& recordForm, Prompts& prompts)
 {
-    const Bookmark subject = Records(p.Form3).GetBookmark();
+    const Bookmark subject = Records(recordForm).GetBookmark();
     std::optional<QString> chosen =
-        p.Prompts.OpenFile({u"Select Picture Source File"_s, u"DataBase|*.jpg|All Files|*.*|"_s});
-    StandOn(Records(p.Form3), subject);
+        prompts.OpenFile({u"Select Picture Source File"_s, u"DataBase|*.jpg|All Files|*.*|"_s});
+    StandOn(Records(recordForm), subject);
     return chosen;
 }
 
-void ShowPicture(Program& p, const QImage& picture)
+void ShowPicture(const BoxWork& work, const QImage& picture)
 {
-    PutRecordPicture(p.Branch, p.Form3, picture);
-    p.Form1->Image1.Picture = picture;
+    PutRecordPicture(work.Branch, work.Form3, picture);
+    work.Form1->Image1.Picture = picture;
 }
 
 // Whoever was shown before has neither picture nor marker any more, whatever becomes of the current record's.
-void TakeMarker(Program& p)
+void TakeMarker(const BoxWork& work)
 {
-    ShowPicture(p, QImage());
-    MarkCurrentBox(p);
+    ShowPicture(work, QImage());
+    MarkCurrentBox(work);
 }
 
 // Without a mapping so far there is no file, and nothing to be seen.
-void ShowMappedPicture(Program& p)
+void ShowMappedPicture(const MappingWork& work)
 {
-    if (const QString& file = p.Mapping.PictureFile; !file.isEmpty())
-        ShowPicture(p, p.Pictures.Load(p.Files, file));
-    p.Form1->Image1.Visible = true;
-    p.Screen.Pointer = MousePointer::Default;
+    if (const QString& file = work.Mapping.PictureFile; !file.isEmpty())
+        ShowPicture(work, work.Pictures.Load(work.Files, file));
+    work.Form1->Image1.Visible = true;
+    work.Screen.Pointer = MousePointer::Default;
 }
 
 // The record is there already and stays, without its picture, when that can't be had: the pointer then stays, too.
-void GiveNewSubjectItsPicture(Program& p)
+void GiveNewSubjectItsPicture(const MappingWork& work)
 {
-    NamePictureFile(p);
-    p.Errors.Ignoring([&] { TakeMarker(p); });
-    p.Errors.Ignoring([&] {
-        if (p.Mapping.PictureOption == selectNow) {
-            const std::optional<QString> chosen = ChoosePicture(p);
+    NamePictureFile(work.Mapping, work.Branch);
+    work.Errors.Ignoring([&] { TakeMarker(work); });
+    work.Errors.Ignoring([&] {
+        if (work.Mapping.PictureOption == selectNow) {
+            const std::optional<QString> chosen = ChoosePicture(work.Form3, work.Prompts);
             // A scan that has ended meanwhile has shown its last record.
-            TakeMarker(p);
+            TakeMarker(work);
             if (!chosen)
                 return;
-            p.Files.FileCopy(*chosen, p.Mapping.PictureFile);
-        } else if (p.Mapping.MapOption == alternateRecord) {
-            ClearMapCursor(p.Tools, p.Screen);
-            p.Mapping.MapOption = newRecord;
+            work.Files.FileCopy(*chosen, work.Mapping.PictureFile);
+        } else if (work.Mapping.MapOption == alternateRecord) {
+            ClearMapCursor(work.Tools, work.Screen);
+            work.Mapping.MapOption = newRecord;
         } else {
-            CopyBlankPortrait(p);
+            CopyBlankPortrait(work);
         }
-        ShowMappedPicture(p);
+        ShowMappedPicture(work);
     });
 }
 
-bool TellIfNothingToMap(Program& p)
+bool TellIfNothingToMap(const BranchState& branch, Window<forms::Form3>& recordForm, Prompts& prompts)
 {
-    const bool isNone = !IsBranchOpen(p.Branch, p.Form3);
+    const bool isNone = !IsBranchOpen(branch, recordForm);
     if (isNone)
-        p.Prompts.MsgBox(u"Data not available"_s, u"Cannot Map until database file is Opened"_s, Buttons::Information);
+        prompts.MsgBox(u"Data not available"_s, u"Cannot Map until database file is Opened"_s, Buttons::Information);
     return isNone;
 }
 } // namespace
 
-void ShowMappingOptions(Program& p)
+void ShowMappingOptions(const BranchState& branch, Window<forms::Form3>& recordForm, Prompts& prompts,
+                        Window<forms::Form7>& options)
 {
-    if (!TellIfNothingToMap(p))
-        p.Form7->Show();
+    if (!TellIfNothingToMap(branch, recordForm, prompts))
+        options->Show();
 }
 
-void ChooseBlankRecord(Program& p)
+void ChooseBlankRecord(forms::Form7& form)
 {
-    ShowOption(p, &forms::Form7::Option1);
-    p.Form7->Text1.Text = QString();
+    ShowOption(form, &forms::Form7::Option1);
+    form.Text1.Text = QString();
 }
 
-void ChooseUnmappedRecord(Program& p)
+void ChooseUnmappedRecord(forms::Form7& form)
 {
-    ShowOption(p, &forms::Form7::Option2);
+    ShowOption(form, &forms::Form7::Option2);
 }
 
-void ChooseAlternateRecord(Program& p)
+void ChooseAlternateRecord(forms::Form7& form)
 {
-    ShowOption(p, &forms::Form7::Option3);
+    ShowOption(form, &forms::Form7::Option3);
 }
 
-void TakeMappingOptions(Program& p)
+void TakeMappingOptions(MappingState& mapping, ToolState& tools, Screen& screen, forms::Form7& form)
 {
-    forms::Form7& form = *p.Form7;
-    p.Screen.Pointer = MousePointer::Cross;
-    p.Tools.MapCursorMode = MapCursor::Mapping;
+    screen.Pointer = MousePointer::Cross;
+    tools.MapCursorMode = MapCursor::Mapping;
     form.Hide();
     if (form.Option1.Value)
-        p.Mapping.MapOption = newRecord;
+        mapping.MapOption = newRecord;
     else if (form.Option2.Value)
-        p.Mapping.MapOption = unmappedRecord;
+        mapping.MapOption = unmappedRecord;
     else if (form.Option3.Value)
-        p.Mapping.MapOption = alternateRecord;
+        mapping.MapOption = alternateRecord;
     if (form.Option4.Value)
-        p.Mapping.NewGender = u"Male"_s;
+        mapping.NewGender = u"Male"_s;
     else if (form.Option5.Value)
-        p.Mapping.NewGender = u"Female"_s;
+        mapping.NewGender = u"Female"_s;
     if (form.Option6.Value)
-        p.Mapping.PictureOption = leaveUntilLater;
+        mapping.PictureOption = leaveUntilLater;
     else if (form.Option7.Value)
-        p.Mapping.PictureOption = selectNow;
+        mapping.PictureOption = selectNow;
 }
 
-void MapNewSubject(Program& p)
+void MapNewSubject(const MappingWork& work)
 {
-    PutRecordPicture(p.Branch, p.Form3, QImage());
-    p.Form3->Show();
-    p.Mapping.sBranchLetter = BranchLetter(p.Branch.WorkDir);
-    if (Records(p.Form3).IsEmpty())
-        MapFirstRecord(p);
-    else if (!MapByOption(p))
+    PutRecordPicture(work.Branch, work.Form3, QImage());
+    work.Form3->Show();
+    work.Mapping.sBranchLetter = BranchLetter(work.Branch.WorkDir);
+    if (Records(work.Form3).IsEmpty())
+        MapFirstRecord(work);
+    else if (!MapByOption(work))
         return;
-    GiveNewSubjectItsPicture(p);
-    FillSubjectLabels(p.Form1, p.Form3);
+    GiveNewSubjectItsPicture(work);
+    FillSubjectLabels(work.Form1, work.Form3);
     // The record form stays in front, for the new record is to be written now; one of another branch stands there
     // already.
-    if (p.Branch.IsSiblingShown())
-        p.Form1->Show();
+    if (work.Branch.IsSiblingShown())
+        work.Form1->Show();
 }
 
-void AskSubjectPicture(Program& p)
+void AskSubjectPicture(const MappingWork& work)
 {
-    const Bookmark asked = Records(p.Form3).GetBookmark();
-    const Answer change = p.Prompts.MsgBox(u"New Subject Mapping"_s,
-                                           u"This Subject has already been Logged into the Database.\n"
-                                           u"Do you want to change the Subject Picture ? "_s,
-                                           Buttons::QuestionYesNo);
+    const Bookmark asked = Records(work.Form3).GetBookmark();
+    const Answer change = work.Prompts.MsgBox(u"New Subject Mapping"_s,
+                                              u"This Subject has already been Logged into the Database.\n"
+                                              u"Do you want to change the Subject Picture ? "_s,
+                                              Buttons::QuestionYesNo);
     if (change != Answer::Yes) {
-        StopMapping(p);
+        StopMapping(work.Tools, work.Screen);
         return;
     }
-    p.Errors.Ignoring([&] { StandOn(Records(p.Form3), asked); });
-    p.Record.sCurFile = p.Form3->Label25.Caption;
-    p.Errors.Ignoring([&] {
-        if (p.Mapping.PictureOption == selectNow) {
-            NamePictureFile(p);
-            const std::optional<QString> chosen = ChoosePicture(p);
+    work.Errors.Ignoring([&] { StandOn(Records(work.Form3), asked); });
+    work.Record.sCurFile = work.Form3->Label25.Caption;
+    work.Errors.Ignoring([&] {
+        if (work.Mapping.PictureOption == selectNow) {
+            NamePictureFile(work.Mapping, work.Branch);
+            const std::optional<QString> chosen = ChoosePicture(work.Form3, work.Prompts);
             if (!chosen)
                 return;
-            p.Files.FileCopy(*chosen, p.Mapping.PictureFile);
+            work.Files.FileCopy(*chosen, work.Mapping.PictureFile);
         }
-        TakeMarker(p);
-        ShowMappedPicture(p);
+        TakeMarker(work);
+        ShowMappedPicture(work);
     });
 }
 
-void RemapSubject(Program& p)
+void RemapSubject(const BranchState& branch, Window<forms::Form3>& recordForm, Prompts& prompts, ToolState& tools,
+                  Screen& screen)
 {
-    if (TellIfNothingToMap(p))
+    if (TellIfNothingToMap(branch, recordForm, prompts))
         return;
-    const Answer begin = p.Prompts.MsgBox(u"Subject re Position"_s,
-                                          u"You are about to move the position of a subject. \n"
-                                          u"Please ensure that an empty subject box position is \n"
-                                          u"available for substitution."_s,
-                                          Buttons::InformationOkCancel);
+    const Answer begin = prompts.MsgBox(u"Subject re Position"_s,
+                                        u"You are about to move the position of a subject. \n"
+                                        u"Please ensure that an empty subject box position is \n"
+                                        u"available for substitution."_s,
+                                        Buttons::InformationOkCancel);
     if (begin != Answer::Ok)
         return;
-    p.Tools.MapCursorMode = MapCursor::Repositioning;
+    tools.MapCursorMode = MapCursor::Repositioning;
     // A cross that a mapping has left would make the first double click the second.
-    p.Screen.Pointer = MousePointer::Default;
-    const Answer select = p.Prompts.MsgBox(u"Data link Transfer"_s,
-                                           u"Select subject old map position then select \n"
-                                           u"subject new map position to transfer data link"_s,
-                                           Buttons::InformationOkCancel);
+    screen.Pointer = MousePointer::Default;
+    const Answer select = prompts.MsgBox(u"Data link Transfer"_s,
+                                         u"Select subject old map position then select \n"
+                                         u"subject new map position to transfer data link"_s,
+                                         Buttons::InformationOkCancel);
     if (select == Answer::Cancel)
-        ClearMapCursor(p.Tools, p.Screen);
+        ClearMapCursor(tools, screen);
 }
 
 } // namespace lineforge

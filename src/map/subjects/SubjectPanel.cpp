@@ -84,12 +84,11 @@ void FillSubjectLabels(Window<forms::Form1>& mainWindow, Window<forms::Form3>& r
 
 void EmptySubjectPanel(forms::Form1& form, EmptiedBy command)
 {
-    const auto* emptying = std::ranges::find(emptyings, command, &Emptying::Command);
-    Q_ASSERT(emptying != std::end(emptyings));
+    const Emptying& emptying = *std::ranges::find(emptyings, command, &Emptying::Command);
     for (const PanelField& field : panelFields)
-        if (std::ranges::find(emptying->Kept, field.Shown) == std::end(emptying->Kept))
+        if (std::ranges::find(emptying.Kept, field.Shown) == std::end(emptying.Kept))
             (form.*field.Shown).Caption = QString();
-    form.Frame1.Caption = emptying->Frame.toString();
+    form.Frame1.Caption = emptying.Frame.toString();
     form.Image1.Picture = QImage();
 }
 

@@ -16,11 +16,11 @@ namespace
 constexpr int frameOffset = 40; // twips left of the box and above it
 const QString frames = u"The frames of a surname's line"_s;
 
-void RemoveFrames(Program& p)
+void RemoveFrames(const MapPicture& shown)
 {
-    Concerning(frames, [&p] {
-        for (int index = 1; index <= p.Map.MarkCount; ++index)
-            p.Form1->Shape2.Unload(index);
+    Concerning(frames, [&shown] {
+        for (int index = 1; index <= shown.Map.MarkCount; ++index)
+            shown.Form1->Shape2.Unload(index);
     });
     // KEPT(LineageMarksTest.SecondClearInARow_IsRefused): the count stays, so that a second clearing in a row asks for
     // frames that are gone.
@@ -32,72 +32,72 @@ bool IsOfLine(const Recordset& record, const QString& surname)
     return record.FieldIs(Field::Surname, surname) && record.FieldIs(Field::Gender, u"Male"_s);
 }
 
-void AddFrame(Program& p)
+void AddFrame(const MapPicture& shown, const MapMouseState& mouse)
 {
-    forms::Form1& form = *p.Form1;
+    forms::Form1& form = *shown.Form1;
     form.Picture1.Mode = DrawMode::Copy;
     form.Picture1.DrawWidth = 1;
-    p.Map.MarkCount += 1;
-    Shape& frame = Concerning(frames, [&]() -> Shape& { return form.Shape2.Load(p.Map.MarkCount); });
-    frame.Move({p.Mouse.BoxX - frameOffset, p.Mouse.BoxY - frameOffset});
+    shown.Map.MarkCount += 1;
+    Shape& frame = Concerning(frames, [&]() -> Shape& { return form.Shape2.Load(shown.Map.MarkCount); });
+    frame.Move({mouse.BoxX - frameOffset, mouse.BoxY - frameOffset});
     frame.Visible = true;
 }
 
 // A record without a box gets its frame where the last box was found. Everything is asked for afresh at each step:
 // while events are served the cursor can move, the record be changed, or the branch closed, which ends it.
-void FrameLine(Program& p, const QString& surname)
+void FrameLine(const BoxWork& work, EventLoop& loop, const QString& surname)
 {
-    Records(p.Form3).MoveFirst();
-    while (IsBranchOpen(p.Branch, p.Form3) && !Records(p.Form3).Eof()) {
-        if (IsOfLine(Records(p.Form3), surname)) {
-            FindBoxOfRecord(p);
-            if (p.Mouse.BoxY == 0 && p.Mouse.BoxX != 0) {
-                p.Loop.DoEvents();
+    Records(work.Form3).MoveFirst();
+    while (IsBranchOpen(work.Branch, work.Form3) && !Records(work.Form3).Eof()) {
+        if (IsOfLine(Records(work.Form3), surname)) {
+            FindBoxOfRecord(work);
+            if (work.Mouse.BoxY == 0 && work.Mouse.BoxX != 0) {
+                loop.DoEvents();
                 continue;
             }
-            AddFrame(p);
+            AddFrame(work, work.Mouse);
         }
-        Records(p.Form3).MoveNext();
+        Records(work.Form3).MoveNext();
     }
 }
 } // namespace
 
-void LineageView(Program& p)
+void LineageView(const BoxWork& work, Prompts& prompts, EventLoop& loop)
 {
-    if (p.Tools.ToolMode == 0) {
-        RemoveFrames(p);
+    if (work.Tools.ToolMode == 0) {
+        RemoveFrames(work);
         return;
     }
-    const QString surname = p.Form1->Text1.Text;
+    const QString surname = work.Form1->Text1.Text;
     if (surname.isEmpty()) {
-        p.Prompts.MsgBox(u"Lineage View"_s, u"Enter Surname for view."_s, Buttons::Information);
+        prompts.MsgBox(u"Lineage View"_s, u"Enter Surname for view."_s, Buttons::Information);
         return;
     }
-    p.Map.MarkCount = 0;
-    if (Records(p.Form3).IsEmpty()) {
-        TellNoRecords(p.Prompts);
+    work.Map.MarkCount = 0;
+    if (Records(work.Form3).IsEmpty()) {
+        TellNoRecords(prompts);
         return;
     }
-    KeepPosition(p.Record, Records(p.Form3));
-    FrameLine(p, surname);
-    if (IsBranchOpen(p.Branch, p.Form3))
-        ComeBack(p.Record, p.Form3);
+    KeepPosition(work.Record, Records(work.Form3));
+    FrameLine(work, loop, surname);
+    if (IsBranchOpen(work.Branch, work.Form3))
+        ComeBack(work.Record, work.Form3);
 }
 
-void ViewLineage(Program& p)
+void ViewLineage(const BoxWork& work, Prompts& prompts, EventLoop& loop)
 {
-    if (TellIfNoBranch(p.Branch, p.Form3, p.Prompts))
+    if (TellIfNoBranch(work.Branch, work.Form3, prompts))
         return;
-    p.Tools.ToolMode = 1;
-    LineageView(p);
+    work.Tools.ToolMode = 1;
+    LineageView(work, prompts, loop);
 }
 
-void ClearLineage(Program& p)
+void ClearLineage(const BoxWork& work, Prompts& prompts, EventLoop& loop)
 {
-    if (TellIfNoBranch(p.Branch, p.Form3, p.Prompts))
+    if (TellIfNoBranch(work.Branch, work.Form3, prompts))
         return;
-    p.Tools.ToolMode = 0;
-    LineageView(p);
+    work.Tools.ToolMode = 0;
+    LineageView(work, prompts, loop);
 }
 
 } // namespace lineforge

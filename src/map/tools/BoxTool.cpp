@@ -16,158 +16,158 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-Point NewCorner(const Program& p)
+Point NewCorner(const MapMouseState& mouse)
 {
-    return {p.Mouse.DownX - BoxCentreX, p.Mouse.DownY - BoxCentreY};
+    return {mouse.DownX - BoxCentreX, mouse.DownY - BoxCentreY};
 }
 
-void DrawNewOutline(Program& p)
+void DrawNewOutline(PictureBox& picture, const MapMouseState& mouse)
 {
-    const Point corner = NewCorner(p);
-    p.Form1->Picture1.Box({corner.X, corner.Y, BoxWidth, BoxHeight});
+    const Point corner = NewCorner(mouse);
+    picture.Box({corner.X, corner.Y, BoxWidth, BoxHeight});
 }
 
-QString NumberInHitBox(const Program& p)
+QString NumberInHitBox(const MapState& map, const MapMouseState& mouse)
 {
-    return p.Map.BoxArr[p.Mouse.BoxIdx][BoxColumn::File].Text();
+    return map.BoxArr[mouse.BoxIdx][BoxColumn::File].Text();
 }
 
 // What is to become of the cursor where the box has a record; without one it stays where it is.
 enum class Cursor { GoesThere, Stays };
 
-bool HasRecord(Program& p, Cursor cursor)
+bool HasRecord(Recordset& records, const QString& file, Cursor cursor)
 {
-    Recordset& records = Records(p.Form3);
     if (records.IsEmpty())
         return false;
     const Bookmark before = records.HasRow() ? records.GetBookmark() : Bookmark();
-    const bool isFound = records.Seek(Field::File, NumberInHitBox(p));
+    const bool isFound = records.Seek(Field::File, file);
     if (before && (!isFound || cursor == Cursor::Stays))
         records.SetBookmark(before);
     return isFound;
 }
 
-Pressed TakeHitBox(Program& p, const Pointing& pointing)
+Pressed TakeHitBox(const ToolWork& work, const Pointing& pointing)
 {
-    PictureBox& picture = p.Form1->Picture1;
-    p.Tools.PenSave = picture.ForeColor;
-    WipeCaption(p, p.Mouse.BoxIdx);
-    picture.ForeColor = p.Tools.PenSave;
-    KeepLast(p, pointing.At);
+    PictureBox& picture = work.Form1->Picture1;
+    work.Tools.PenSave = picture.ForeColor;
+    WipeCaption(work.Map, *work.Form1, work.Mouse.BoxIdx);
+    picture.ForeColor = work.Tools.PenSave;
+    KeepLast(work.Tools, pointing.At);
     return Pressed::Yes;
 }
 
-void PutSubjectDown(Program& p)
+void PutSubjectDown(const ToolWork& work)
 {
-    Records(p.Form3).Edit();
-    Records(p.Form3).Update();
-    Records(p.Form3).SetBookmark(p.Record.SavedBookmark);
-    p.Form1->Picture1.ForeColor = Black;
-    if (HasPlace(p.Map, p.Mouse.BoxIdx)) {
-        TakeBoxPosition(p, p.Mouse.BoxIdx);
-        DrawRecordInBox(p, MapOnScreen(p));
+    Records(work.Form3).Edit();
+    Records(work.Form3).Update();
+    Records(work.Form3).SetBookmark(work.Record.SavedBookmark);
+    work.Form1->Picture1.ForeColor = Black;
+    if (HasPlace(work.Map, work.Mouse.BoxIdx)) {
+        TakeBoxPosition(work.Mouse, work.Map, work.Mouse.BoxIdx);
+        DrawRecordInBox(work, MapOnScreen(work.Map, *work.Form1));
     }
 }
 } // namespace
 
-Pressed BeginBox(Program& p, const Pointing& pointing)
+Pressed BeginBox(const ToolWork& work, const Pointing& pointing)
 {
-    PictureBox& picture = p.Form1->Picture1;
-    p.Tools.NewRow = TakeRow(p.Map.BoxArr, p.Map.SBoxes, LastFiledBox);
-    p.Tools.PenSave = picture.ForeColor;
-    picture.ForeColor = p.Form1->CommonDialog1.Color;
-    DrawNewOutline(p);
-    KeepLast(p, pointing.At);
+    PictureBox& picture = work.Form1->Picture1;
+    work.Tools.NewRow = TakeRow(work.Map.BoxArr, work.Map.SBoxes, LastFiledBox);
+    work.Tools.PenSave = picture.ForeColor;
+    picture.ForeColor = work.Form1->CommonDialog1.Color;
+    DrawNewOutline(picture, work.Mouse);
+    KeepLast(work.Tools, pointing.At);
     return Pressed::Yes;
 }
 
-Released EndBox(Program& p)
+Released EndBox(const ToolWork& work)
 {
-    PictureBox& picture = p.Form1->Picture1;
-    DrawNewOutline(p);
-    auto& box = p.Map.BoxArr[p.Tools.NewRow];
-    box[BoxColumn::X] = NewCorner(p).X;
-    box[BoxColumn::Y] = NewCorner(p).Y;
+    PictureBox& picture = work.Form1->Picture1;
+    DrawNewOutline(picture, work.Mouse);
+    auto& box = work.Map.BoxArr[work.Tools.NewRow];
+    box[BoxColumn::X] = NewCorner(work.Mouse).X;
+    box[BoxColumn::Y] = NewCorner(work.Mouse).Y;
     box[BoxColumn::Colour] = static_cast<int>(picture.ForeColor);
     box[BoxColumn::File] = 0;
     // The row may have been another box's.
     box[BoxColumn::Forename] = QString();
-    picture.ForeColor = p.Tools.PenSave;
+    picture.ForeColor = work.Tools.PenSave;
     return Released::Repaint;
 }
 
-Pressed TakeBox(Program& p, const Pointing& pointing)
+Pressed TakeBox(const ToolWork& work, const Pointing& pointing)
 {
-    if (!FindsBox(p))
+    if (!FindsBox(work.Map, work.Mouse))
         return Pressed::No;
-    if (HasRecord(p, Cursor::GoesThere)) {
-        p.Record.sCurFile = NumberInHitBox(p);
-        p.Record.SavedBookmark = Records(p.Form3).GetBookmark();
-        p.Tools.MapCursorMode = MapCursor::MovingSubject;
+    if (HasRecord(Records(work.Form3), NumberInHitBox(work.Map, work.Mouse), Cursor::GoesThere)) {
+        work.Record.sCurFile = NumberInHitBox(work.Map, work.Mouse);
+        work.Record.SavedBookmark = Records(work.Form3).GetBookmark();
+        work.Tools.MapCursorMode = MapCursor::MovingSubject;
     }
-    return TakeHitBox(p, pointing);
+    return TakeHitBox(work, pointing);
 }
 
-Pressed TakeBoxToDelete(Program& p, const Pointing& pointing)
+Pressed TakeBoxToDelete(const ToolWork& work, const Pointing& pointing)
 {
     // An empty box has no caption to be wiped; the release deletes it.
-    if (!FindsBox(p) || NumberInHitBox(p) == u"0")
+    if (!FindsBox(work.Map, work.Mouse) || NumberInHitBox(work.Map, work.Mouse) == u"0")
         return Pressed::No;
-    if (HasRecord(p, Cursor::Stays)) {
-        p.Prompts.MsgBox(u"Tree Box deletion"_s,
-                         u"You must delete or transfer the Record for this subject \n"
-                         u"before deleting the subject box."_s,
-                         Buttons::Information);
-        p.Mouse.BoxMiss = 1;
+    if (HasRecord(Records(work.Form3), NumberInHitBox(work.Map, work.Mouse), Cursor::Stays)) {
+        work.Prompts.MsgBox(u"Tree Box deletion"_s,
+                            u"You must delete or transfer the Record for this subject \n"
+                            u"before deleting the subject box."_s,
+                            Buttons::Information);
+        work.Mouse.BoxMiss = 1;
         return Pressed::No;
     }
-    return TakeHitBox(p, pointing);
+    return TakeHitBox(work, pointing);
 }
 
-void DragBox(Program& p, const Pointing& pointing)
+void DragBox(const ToolWork& work, const Pointing& pointing)
 {
-    KeepPointer(p, pointing);
-    if (p.Mouse.BoxMiss != 0)
+    KeepPointer(work, pointing);
+    if (work.Mouse.BoxMiss != 0)
         return;
-    PictureBox& picture = p.Form1->Picture1;
-    const int row = p.Mouse.BoxIdx;
-    TakeDelta(p, pointing.At);
+    PictureBox& picture = work.Form1->Picture1;
+    const int row = work.Mouse.BoxIdx;
+    TakeDelta(work.Tools, pointing.At);
     // The rubber pen takes off what it has drawn; before its first stroke the box is wiped.
-    DrawBoxIn(p.Map, MapOnScreen(p), row,
-              picture.Mode == DrawMode::NotXor ? ColourOfBox(p.Map, row) : picture.BackColor);
-    CarryBox(p, row);
+    DrawBoxIn(work.Map, MapOnScreen(work.Map, *work.Form1), row,
+              picture.Mode == DrawMode::NotXor ? ColourOfBox(work.Map, row) : picture.BackColor);
+    CarryBox(work.Map, work.Tools, row);
     picture.Mode = DrawMode::NotXor;
-    DrawBoxIn(p.Map, MapOnScreen(p), row, ColourOfBox(p.Map, row));
-    KeepLast(p, pointing.At);
+    DrawBoxIn(work.Map, MapOnScreen(work.Map, *work.Form1), row, ColourOfBox(work.Map, row));
+    KeepLast(work.Tools, pointing.At);
 }
 
-Released DropBox(Program& p)
+Released DropBox(const ToolWork& work)
 {
-    if (p.Mouse.BoxMiss != 0)
+    if (work.Mouse.BoxMiss != 0)
         return Released::Repaint;
-    PictureBox& picture = p.Form1->Picture1;
+    PictureBox& picture = work.Form1->Picture1;
     picture.Mode = DrawMode::Copy;
-    DrawBoxIn(p.Map, MapOnScreen(p), p.Mouse.BoxIdx, ColourOfBox(p.Map, p.Mouse.BoxIdx));
-    if (p.Tools.MapCursorMode == MapCursor::MovingSubject) {
+    DrawBoxIn(work.Map, MapOnScreen(work.Map, *work.Form1), work.Mouse.BoxIdx,
+              ColourOfBox(work.Map, work.Mouse.BoxIdx));
+    if (work.Tools.MapCursorMode == MapCursor::MovingSubject) {
         // A backup that has failed meanwhile has left the branch without its records.
-        if (IsBranchOpen(p.Branch, p.Form3))
-            PutSubjectDown(p);
-        p.Tools.MapCursorMode = MapCursor::Normal;
+        if (IsBranchOpen(work.Branch, work.Form3))
+            PutSubjectDown(work);
+        work.Tools.MapCursorMode = MapCursor::Normal;
     }
     return Released::Repaint;
 }
 
-Released DeleteBox(Program& p)
+Released DeleteBox(const ToolWork& work)
 {
-    if (p.Mouse.BoxMiss != 0)
+    if (work.Mouse.BoxMiss != 0)
         return Released::Repaint;
-    DrawBoxIn(p.Map, MapOnScreen(p), p.Mouse.BoxIdx, p.Form1->Picture1.BackColor);
+    DrawBoxIn(work.Map, MapOnScreen(work.Map, *work.Form1), work.Mouse.BoxIdx, work.Form1->Picture1.BackColor);
     // The forename stays in the free row.
-    auto& box = p.Map.BoxArr[p.Mouse.BoxIdx];
+    auto& box = work.Map.BoxArr[work.Mouse.BoxIdx];
     for (const int column : {BoxColumn::X, BoxColumn::Y, BoxColumn::Colour, BoxColumn::File})
         box[column] = 0;
     // The rows behind keep their places: the highest of them is out of the count until the tools are closed.
-    p.Map.SBoxes -= 1;
+    work.Map.SBoxes -= 1;
     return Released::Repaint;
 }
 

@@ -6,17 +6,17 @@ namespace lineforge
 {
 
 // A new box, its middle where the press was; in the colour of the dialog.
-Pressed BeginBox(Program& p, const Pointing& pointing);
-Released EndBox(Program& p);
+Pressed BeginBox(const ToolWork& work, const Pointing& pointing);
+Released EndBox(const ToolWork& work);
 
 // The box under the press, to be moved or deleted; its caption is wiped. The box of a record that exists can't be
 // deleted, which is told.
-Pressed TakeBox(Program& p, const Pointing& pointing);
-Pressed TakeBoxToDelete(Program& p, const Pointing& pointing);
+Pressed TakeBox(const ToolWork& work, const Pointing& pointing);
+Pressed TakeBoxToDelete(const ToolWork& work, const Pointing& pointing);
 
-void DragBox(Program& p, const Pointing& pointing);
-Released DropBox(Program& p);
+void DragBox(const ToolWork& work, const Pointing& pointing);
+Released DropBox(const ToolWork& work);
 
-Released DeleteBox(Program& p);
+Released DeleteBox(const ToolWork& work);
 
 } // namespace lineforge

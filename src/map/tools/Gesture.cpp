@@ -5,22 +5,22 @@
 namespace lineforge
 {
 
-void KeepPointer(Program& p, const Pointing& pointing)
+void KeepPointer(const ToolWork& work, const Pointing& pointing)
 {
-    p.Tools.MoveX = pointing.At.X;
-    p.Tools.MoveY = pointing.At.Y;
+    work.Tools.MoveX = pointing.At.X;
+    work.Tools.MoveY = pointing.At.Y;
 }
 
-void KeepLast(Program& p, Point pointer)
+void KeepLast(ToolState& tools, Point pointer)
 {
-    p.Tools.LastX = pointer.X;
-    p.Tools.LastY = pointer.Y;
+    tools.LastX = pointer.X;
+    tools.LastY = pointer.Y;
 }
 
-void TakeDelta(Program& p, Point pointer)
+void TakeDelta(ToolState& tools, Point pointer)
 {
-    p.Tools.DeltaX = pointer.X - p.Tools.LastX;
-    p.Tools.DeltaY = pointer.Y - p.Tools.LastY;
+    tools.DeltaX = pointer.X - tools.LastX;
+    tools.DeltaY = pointer.Y - tools.LastY;
 }
 
 int Carried(int place, int delta)
@@ -31,27 +31,27 @@ int Carried(int place, int delta)
     return static_cast<int>(sum);
 }
 
-void CarryBox(Program& p, int row)
+void CarryBox(MapState& map, const ToolState& tools, int row)
 {
-    auto& box = p.Map.BoxArr[row];
-    box[BoxColumn::X] = Carried(box[BoxColumn::X].Number(), p.Tools.DeltaX);
-    box[BoxColumn::Y] = Carried(box[BoxColumn::Y].Number(), p.Tools.DeltaY);
+    auto& box = map.BoxArr[row];
+    box[BoxColumn::X] = Carried(box[BoxColumn::X].Number(), tools.DeltaX);
+    box[BoxColumn::Y] = Carried(box[BoxColumn::Y].Number(), tools.DeltaY);
 }
 
-void CarryLine(Program& p, int row)
+void CarryLine(MapState& map, const ToolState& tools, int row)
 {
-    auto& line = p.Map.LineArr[row];
+    auto& line = map.LineArr[row];
     for (const int x : {LineColumn::X1, LineColumn::X2})
-        line[x] = Carried(line[x], p.Tools.DeltaX);
+        line[x] = Carried(line[x], tools.DeltaX);
     for (const int y : {LineColumn::Y1, LineColumn::Y2})
-        line[y] = Carried(line[y], p.Tools.DeltaY);
+        line[y] = Carried(line[y], tools.DeltaY);
 }
 
-void CarryText(Program& p, int row)
+void CarryText(MapState& map, const ToolState& tools, int row)
 {
-    auto& text = p.Map.TextArr[row];
-    text[TextColumn::X] = Carried(text[TextColumn::X].Number(), p.Tools.DeltaX);
-    text[TextColumn::Y] = Carried(text[TextColumn::Y].Number(), p.Tools.DeltaY);
+    auto& text = map.TextArr[row];
+    text[TextColumn::X] = Carried(text[TextColumn::X].Number(), tools.DeltaX);
+    text[TextColumn::Y] = Carried(text[TextColumn::Y].Number(), tools.DeltaY);
 }
 
 } // namespace lineforge

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "map/tools/ToolWork.h"
 
 #include <algorithm>
 
@@ -43,20 +43,20 @@ template <class Rows>
 }
 
 // Keeps the pointer of a move; of a line that is drawn it is the far end.
-void KeepPointer(Program& p, const Pointing& pointing);
+void KeepPointer(const ToolWork& work, const Pointing& pointing);
 
 // Keeps the place from which the next step of a drag is counted.
-void KeepLast(Program& p, Point pointer);
+void KeepLast(ToolState& tools, Point pointer);
 
 // `DeltaX`, `DeltaY` become the way from there to the pointer.
-void TakeDelta(Program& p, Point pointer);
+void TakeDelta(ToolState& tools, Point pointer);
 
 // A place that has gone along with the drag; error 6 when that is outside 32 bits.
 [[nodiscard]] int Carried(int place, int delta);
 
 // Adds the step of the drag to an item's ends or corner.
-void CarryBox(Program& p, int row);
-void CarryLine(Program& p, int row);
-void CarryText(Program& p, int row);
+void CarryBox(MapState& map, const ToolState& tools, int row);
+void CarryLine(MapState& map, const ToolState& tools, int row);
+void CarryText(MapState& map, const ToolState& tools, int row);
 
 } // namespace lineforge

@@ -19,44 +19,43 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-void PutToolsDown(Program& p)
+void PutToolsDown(ToolState& tools, PictureBox& picture)
 {
-    p.Form1->Picture1.Mode = DrawMode::Copy;
-    p.Tools.ToolSel = ToolSelection::None;
-    p.Tools.ToolMode = 0;
-    p.Tools.ToolStep = 0;
-    p.Tools.IsPressed = false;
+    picture.Mode = DrawMode::Copy;
+    tools.ToolSel = ToolSelection::None;
+    tools.ToolMode = 0;
+    tools.ToolStep = 0;
+    tools.IsPressed = false;
 }
 
-void SaveMap(Program& p)
+void SaveMap(const ToolWork& work)
 {
-    p.Map.sLinesText = ListOfLines(p.Map);
-    p.Map.sBoxesText = ListOfBoxes(p.Map);
-    p.Map.sTextsText = ListOfTexts(p.Map);
-    WriteMapFile(p);
-    RaiseAllTools(p);
+    work.Map.sLinesText = ListOfLines(work.Map);
+    work.Map.sBoxesText = ListOfBoxes(work.Map);
+    work.Map.sTextsText = ListOfTexts(work.Map);
+    WriteMapFile(work.Map, work.Branch, work.Files);
+    RaiseAllTools(*work.Form1);
 }
 
-void ReadBackFromLists(Program& p)
+void ReadBackFromLists(const ToolWork& work)
 {
-    ClearMapPicture(p);
-    ResetMapFont(p.Form1->Picture1);
-    EmptyMapArrays(p);
-    ParseWhatIsThere(p);
+    ClearMapPicture(work.Map, *work.Form1);
+    ResetMapFont(work.Form1->Picture1);
+    EmptyMapArrays(work.Map, work.Mouse, work.Tools);
+    ParseWhatIsThere(work);
 }
 
-void PutCursorDown(Program& p)
+void PutCursorDown(ToolState& tools, Screen& screen)
 {
-    p.Tools.MapCursorMode = MapCursor::Normal;
-    p.Screen.Pointer = MousePointer::Default;
+    tools.MapCursorMode = MapCursor::Normal;
+    screen.Pointer = MousePointer::Default;
 }
 
 // Where that record has been deleted meanwhile, whoever is current stays so; is that nobody, the first becomes it.
-void StandOnRecordOfOpening(Program& p)
+void StandOnRecordOfOpening(Recordset& records, const Bookmark& opening)
 {
-    Recordset& records = Records(p.Form3);
     const Bookmark here = records.HasRow() ? records.GetBookmark() : Bookmark();
-    records.SetBookmark(p.Tools.ToolBookmark);
+    records.SetBookmark(opening);
     if (records.HasRow())
         return;
     if (here)
@@ -65,80 +64,81 @@ void StandOnRecordOfOpening(Program& p)
         records.MoveFirst();
 }
 
-void ReturnToRecord(Program& p)
+void ReturnToRecord(const ToolWork& work)
 {
-    if (IsBranchOpen(p.Branch, p.Form3) && !Records(p.Form3).IsEmpty()) {
-        p.Errors.Ignoring([&] { StandOnRecordOfOpening(p); });
-        MarkCurrentBox(p);
+    if (IsBranchOpen(work.Branch, work.Form3) && !Records(work.Form3).IsEmpty()) {
+        work.Errors.Ignoring([&] { StandOnRecordOfOpening(Records(work.Form3), work.Tools.ToolBookmark); });
+        MarkCurrentBox(work);
         // KEPT(LeaveToolsAnswerTest.RecordWithoutABox_ShowsTheMarkerWhereItStood): even where no box holds the record
         // and the marker stands wherever it stood.
         // Mended, no marker would show for such a record.
-        p.Form1->Shape1.Visible = true;
+        work.Form1->Shape1.Visible = true;
     }
-    PutCursorDown(p);
+    PutCursorDown(work.Tools, work.Screen);
 }
 } // namespace
 
-void LeaveTools(Program& p)
+void LeaveTools(const ToolWork& work)
 {
-    const bool isAlternate = p.Branch.IsSiblingShown();
-    FinishGesture(p);
+    const bool isAlternate = work.Branch.IsSiblingShown();
+    FinishGesture(work);
     // The branch has been left behind the tools for one that can't be opened: there is nothing left to be saved.
-    const bool isBranchGone = p.Branch.sDbaseName.isEmpty() || (!isAlternate && p.Map.Owner != p.Branch.WorkDir);
+    const bool isBranchGone =
+        work.Branch.sDbaseName.isEmpty() || (!isAlternate && work.Map.Owner != work.Branch.WorkDir);
     // The tools left to themselves, somebody may be looking at a subject of another branch: the map is the own one's.
     // Where the way back is refused they stay, for the next command to ask.
     if (isAlternate && !isBranchGone)
-        ReturnFromSibling(p);
-    p.Form1->Picture1.ForeColor = p.Tools.ToolColour;
-    HideTools(p);
+        ReturnFromSibling(work);
+    work.Form1->Picture1.ForeColor = work.Tools.ToolColour;
+    HideTools(*work.Form1);
     if (isBranchGone) {
-        PutToolsDown(p);
-        PutCursorDown(p);
+        PutToolsDown(work.Tools, work.Form1->Picture1);
+        PutCursorDown(work.Tools, work.Screen);
         return;
     }
-    const Answer save =
-        p.Prompts.MsgBox(u"Closing Graphics Tools"_s, u"Save the Tree Graphic changes ?"_s, Buttons::InformationYesNo);
-    p.Screen.Pointer = MousePointer::Hourglass;
+    const Answer save = work.Prompts.MsgBox(u"Closing Graphics Tools"_s, u"Save the Tree Graphic changes ?"_s,
+                                            Buttons::InformationYesNo);
+    work.Screen.Pointer = MousePointer::Hourglass;
     if (save == Answer::Yes)
-        SaveMap(p);
-    PutToolsDown(p);
-    ReadBackFromLists(p);
-    ReturnToRecord(p);
+        SaveMap(work);
+    PutToolsDown(work.Tools, work.Form1->Picture1);
+    ReadBackFromLists(work);
+    ReturnToRecord(work);
 }
 
-void LeaveToolsIfOpen(Program& p)
+void LeaveToolsIfOpen(const ToolWork& work)
 {
     // Not by their mode: View and Clear take it from them, with what has been drawn still to be saved.
-    if (AreToolsShown(p))
-        LeaveTools(p);
+    if (AreToolsShown(*work.Form1))
+        LeaveTools(work);
 }
 
-void LeaveToolsAtDoor(Program& p)
+void LeaveToolsAtDoor(const ToolWork& work)
 {
-    if (p.Tools.ToolMode == ToolsOpen)
-        LeaveTools(p);
+    if (work.Tools.ToolMode == ToolsOpen)
+        LeaveTools(work);
 }
 
-void ChooseExit(Program& p)
+void ChooseExit(const ToolWork& work)
 {
-    p.Screen.Pointer = MousePointer::Hourglass;
-    SinkTool(p, &forms::Form1::Image8);
+    work.Screen.Pointer = MousePointer::Hourglass;
+    SinkTool(*work.Form1, &forms::Form1::Image8);
     // So that the sunken button is seen before the question.
-    p.Loop.DoEvents();
+    work.Loop.DoEvents();
     // Unless a second press that was waiting has closed them meanwhile.
-    if (AreToolsShown(p))
-        LeaveTools(p);
+    if (AreToolsShown(*work.Form1))
+        LeaveTools(work);
 }
 
-void OpenEditingMenu(Program& p)
+void OpenEditingMenu(const ToolWork& work, PictureCache& pictures)
 {
-    if (p.Tools.ToolSel > ToolSelection::None) {
+    if (work.Tools.ToolSel > ToolSelection::None) {
         // A home without the picture costs the look of the button, not the map.
-        p.Errors.Ignoring(
-            [&] { p.Form1->Image8.Picture = p.Pictures.Load(p.Files, p.Branch.HomeDir + u"Save-Dwn.bmp"); });
-        LeaveTools(p);
+        work.Errors.Ignoring(
+            [&] { work.Form1->Image8.Picture = pictures.Load(work.Files, work.Branch.HomeDir + u"Save-Dwn.bmp"); });
+        LeaveTools(work);
     }
-    ClearMapCursor(p.Tools, p.Screen);
+    ClearMapCursor(work.Tools, work.Screen);
 }
 
 } // namespace lineforge

@@ -1,5 +1,6 @@
 #include "map/tools/MapMouse.h"
 
+#include "forms/Form1.h"
 #include "map/items/MapDisplay.h"
 #include "map/items/PointerOnMap.h"
 #include "map/subjects/MapInteraction.h"
@@ -19,14 +20,14 @@ namespace lineforge
 
 namespace
 {
-Pressed PressNothing(Program&, const Pointing&)
+Pressed PressNothing(const ToolWork&, const Pointing&)
 {
     return Pressed::Yes;
 }
 
-void MoveNothing(Program&, const Pointing&) {}
+void MoveNothing(const ToolWork&, const Pointing&) {}
 
-Released ReleaseNothing(Program&)
+Released ReleaseNothing(const ToolWork&)
 {
     return Released::Repaint;
 }
@@ -35,9 +36,9 @@ Released ReleaseNothing(Program&)
 // buttons (ToolButtons), and by the zone, which goes from drawn to fixed to dragged to none.
 struct ToolBehaviour {
     int Sel;
-    Pressed (*Press)(Program&, const Pointing&);
-    void (*Move)(Program&, const Pointing&);
-    Released (*Release)(Program&);
+    Pressed (*Press)(const ToolWork&, const Pointing&);
+    void (*Move)(const ToolWork&, const Pointing&);
+    Released (*Release)(const ToolWork&);
     // A zone that has been begun goes on even when the tools have been switched off in the middle of it.
     bool WithoutTools = false;
 };
@@ -60,73 +61,73 @@ constexpr ToolBehaviour behaviours[] = {
     {Tool::TextDelete, TakeText, KeepPointer, DeleteText},
 };
 
-const ToolBehaviour& InHand(const Program& p)
+const ToolBehaviour& InHand(const ToolState& tools)
 {
-    const auto* tool = std::ranges::find(behaviours, static_cast<int>(p.Tools.ToolSel), &ToolBehaviour::Sel);
+    const auto* tool = std::ranges::find(behaviours, static_cast<int>(tools.ToolSel), &ToolBehaviour::Sel);
     Q_ASSERT(tool != std::end(behaviours));
     return *tool;
 }
 
-bool AreToolsOpen(const Program& p)
+bool AreToolsOpen(const ToolState& tools)
 {
-    return p.Tools.ToolMode == ToolsOpen;
+    return tools.ToolMode == ToolsOpen;
 }
 
-void PressTool(Program& p, const Pointing& pointing)
+void PressTool(const ToolWork& work, const Pointing& pointing)
 {
-    if (InHand(p).Press(p, pointing) == Pressed::Yes)
-        p.Tools.ToolStep = -1;
+    if (InHand(work.Tools).Press(work, pointing) == Pressed::Yes)
+        work.Tools.ToolStep = -1;
 }
 
-void ReleaseTool(Program& p)
+void ReleaseTool(const ToolWork& work)
 {
-    if (InHand(p).Release(p) == Released::Repaint)
-        RedrawMap(p, MapOnScreen(p));
-    p.Tools.ToolStep = 0;
+    if (InHand(work.Tools).Release(work) == Released::Repaint)
+        RedrawMap(work, MapOnScreen(work.Map, *work.Form1));
+    work.Tools.ToolStep = 0;
 }
 } // namespace
 
-void FinishGesture(Program& p)
+void FinishGesture(const ToolWork& work)
 {
-    if (!std::exchange(p.Tools.IsPressed, false))
+    if (!std::exchange(work.Tools.IsPressed, false))
         return;
-    if (AreToolsOpen(p) || p.Tools.ToolSel == Tool::ZoneDraw || p.Tools.ToolSel == Tool::ZoneDrag)
-        ReleaseTool(p);
+    if (AreToolsOpen(work.Tools) || work.Tools.ToolSel == Tool::ZoneDraw || work.Tools.ToolSel == Tool::ZoneDrag)
+        ReleaseTool(work);
 }
 
-void PressMap(Program& p, int shift, double x, double y)
+void PressMap(const ToolWork& work, int shift, double x, double y)
 {
-    FinishGesture(p);
+    FinishGesture(work);
     // Where the records have gone behind the tools, these can only be closed.
-    if (AreToolsOpen(p) && TellIfNoBranch(p.Branch, p.Form3, p.Prompts))
+    if (AreToolsOpen(work.Tools) && TellIfNoBranch(work.Branch, work.Form3, work.Prompts))
         return;
-    p.Tools.IsPressed = true;
+    work.Tools.IsPressed = true;
     const Pointing pointing{PointerOnMap(x, y), shift};
-    p.Mouse.DownX = pointing.At.X;
-    p.Mouse.DownY = pointing.At.Y;
-    if (AreToolsOpen(p))
-        PressTool(p, pointing);
+    work.Mouse.DownX = pointing.At.X;
+    work.Mouse.DownY = pointing.At.Y;
+    if (AreToolsOpen(work.Tools))
+        PressTool(work, pointing);
     else
-        AnswerPress(p);
+        AnswerPress(work.Map, work.Mouse, work.Form1, work.Loop);
 }
 
-void MoveOverMap(Program& p, int buttons, int shift, double x, double y)
+void MoveOverMap(const ToolWork& work, int buttons, int shift, double x, double y)
 {
     if (buttons == 0) {
-        FinishGesture(p);
+        FinishGesture(work);
         return;
     }
-    const ToolBehaviour& tool = InHand(p);
-    if (p.Tools.ToolStep != 0 && (AreToolsOpen(p) || tool.WithoutTools))
-        tool.Move(p, {PointerOnMap(x, y), shift});
+    const ToolBehaviour& tool = InHand(work.Tools);
+    if (work.Tools.ToolStep != 0 && (AreToolsOpen(work.Tools) || tool.WithoutTools))
+        tool.Move(work, {PointerOnMap(x, y), shift});
 }
 
 // The second release of a double click comes without a press of its own and ends no gesture.
-void ReleaseMap(Program& p, double x, double y)
+void ReleaseMap(const ToolWork& work, double x, double y)
 {
-    if (p.Tools.MapCursorMode != MapCursor::MovingSubject)
-        ShowCoordinates(p, x, y);
-    FinishGesture(p);
+    if (work.Tools.MapCursorMode != MapCursor::MovingSubject)
+        ShowCoordinates(work.Mouse, *work.Form1, x, y);
+    FinishGesture(work);
 }
 
 } // namespace lineforge

@@ -35,135 +35,135 @@ constexpr ItemTool boxTool{&Form1::Image7, Tool::BoxDraw, Tool::BoxMove, Tool::B
 constexpr ItemTool textTool{&Form1::Image9, Tool::TextDraw, Tool::TextMove, Tool::TextDelete};
 constexpr ItemTool itemTools[] = {lineTool, boxTool, textTool};
 
-const ItemTool* ItemToolInHand(const Program& p)
+const ItemTool* ItemToolInHand(const ToolState& tools)
 {
-    const auto* tool = std::ranges::find_if(itemTools, [&](const ItemTool& t) { return t.IsInHand(p.Tools.ToolSel); });
+    const auto* tool = std::ranges::find_if(itemTools, [&](const ItemTool& t) { return t.IsInHand(tools.ToolSel); });
     return tool == std::end(itemTools) ? nullptr : tool;
 }
 
-void RaiseTools(Program& p, std::initializer_list<Image Form1::*> buttons)
+void RaiseTools(Form1& form, std::initializer_list<Image Form1::*> buttons)
 {
     for (Image Form1::*button : buttons)
-        RaiseTool(p, button);
+        RaiseTool(form, button);
 }
 
-void RaiseOtherItemTools(Program& p, const ItemTool& tool)
+void RaiseOtherItemTools(Form1& form, const ItemTool& tool)
 {
     for (const ItemTool& other : itemTools)
         if (other.Button != tool.Button)
-            RaiseTool(p, other.Button);
+            RaiseTool(form, other.Button);
 }
 
-void ChooseItemTool(Program& p, const ItemTool& tool)
+void ChooseItemTool(const ToolWork& work, const ItemTool& tool)
 {
-    FinishGesture(p);
-    const bool goesOn = !tool.IsInHand(p.Tools.ToolSel);
-    p.Tools.ToolSel = goesOn ? tool.Draw : Tool::None;
-    p.Tools.ToolStep = 0;
-    p.Form1->Shape3.Visible = false;
+    FinishGesture(work);
+    const bool goesOn = !tool.IsInHand(work.Tools.ToolSel);
+    work.Tools.ToolSel = goesOn ? tool.Draw : Tool::None;
+    work.Tools.ToolStep = 0;
+    work.Form1->Shape3.Visible = false;
     if (goesOn)
-        SinkTool(p, tool.Button);
+        SinkTool(*work.Form1, tool.Button);
     else
-        RaiseTool(p, tool.Button);
-    p.Screen.Pointer = goesOn ? MousePointer::Cross : MousePointer::Default;
-    RaiseTools(p, {&Form1::Image2, &Form1::Image3, &Form1::Image4, &Form1::Image5});
-    RaiseOtherItemTools(p, tool);
+        RaiseTool(*work.Form1, tool.Button);
+    work.Screen.Pointer = goesOn ? MousePointer::Cross : MousePointer::Default;
+    RaiseTools(*work.Form1, {&Form1::Image2, &Form1::Image3, &Form1::Image4, &Form1::Image5});
+    RaiseOtherItemTools(*work.Form1, tool);
 }
 
-void LeaveZone(Program& p)
+void LeaveZone(ToolState& tools, Form1& form)
 {
-    p.Tools.ToolSel = Tool::None;
-    p.Form1->Shape3.Visible = false;
-    RaiseTool(p, &Form1::Image2);
+    tools.ToolSel = Tool::None;
+    form.Shape3.Visible = false;
+    RaiseTool(form, &Form1::Image2);
 }
 } // namespace
 
-void OpenTools(Program& p)
+void OpenTools(const ToolWork& work)
 {
-    if (TellIfAlternate(p.Branch, p.Prompts, u"Using Alternate Tree Branch."_s,
+    if (TellIfAlternate(work.Branch, work.Prompts, u"Using Alternate Tree Branch."_s,
                         u"Cannot Change Tree Map until local Tree Branch\nRecord is Selected."_s))
         return;
     // Neither can the map of no branch: after a New that was given up none is in memory, though one is open.
-    if (!IsBranchOpen(p.Branch, p.Form3) || p.Map.Owner != p.Branch.WorkDir) {
-        p.Prompts.MsgBox(u"DataBase not Opened"_s,
-                         u"Cannot Change Tree Map until database\nfile is Opened or begins from New"_s,
-                         Buttons::Information);
+    if (!IsBranchOpen(work.Branch, work.Form3) || work.Map.Owner != work.Branch.WorkDir) {
+        work.Prompts.MsgBox(u"DataBase not Opened"_s,
+                            u"Cannot Change Tree Map until database\nfile is Opened or begins from New"_s,
+                            Buttons::Information);
         return;
     }
-    p.Tools.ToolMode = ToolsOpen;
-    p.Form1->Picture1.ForeColor = p.Tools.ToolColour;
-    ShowTools(p);
-    p.Form1->Shape1.Visible = false;
-    p.Errors.Ignoring([&] { p.Tools.ToolBookmark = p.Form3->Data1.Records().GetBookmark(); });
+    work.Tools.ToolMode = ToolsOpen;
+    work.Form1->Picture1.ForeColor = work.Tools.ToolColour;
+    ShowTools(*work.Form1);
+    work.Form1->Shape1.Visible = false;
+    work.Errors.Ignoring([&] { work.Tools.ToolBookmark = work.Form3->Data1.Records().GetBookmark(); });
 }
 
-void ChooseLineTool(Program& p)
+void ChooseLineTool(const ToolWork& work)
 {
-    ChooseItemTool(p, lineTool);
+    ChooseItemTool(work, lineTool);
 }
 
-void ChooseBoxTool(Program& p)
+void ChooseBoxTool(const ToolWork& work)
 {
-    ChooseItemTool(p, boxTool);
+    ChooseItemTool(work, boxTool);
 }
 
-void ChooseTextTool(Program& p)
+void ChooseTextTool(const ToolWork& work)
 {
-    ChooseItemTool(p, textTool);
+    ChooseItemTool(work, textTool);
 }
 
-void ChooseMove(Program& p)
+void ChooseMove(const ToolWork& work)
 {
-    FinishGesture(p);
-    SinkTool(p, &Form1::Image2);
-    p.Screen.Pointer = MousePointer::Default;
-    const int sel = p.Tools.ToolSel;
+    FinishGesture(work);
+    SinkTool(*work.Form1, &Form1::Image2);
+    work.Screen.Pointer = MousePointer::Default;
+    const int sel = work.Tools.ToolSel;
     if (sel == Tool::None) {
-        p.Tools.ToolSel = Tool::ZoneDraw;
-        p.Screen.Pointer = MousePointer::Cross;
+        work.Tools.ToolSel = Tool::ZoneDraw;
+        work.Screen.Pointer = MousePointer::Cross;
     } else if (sel == Tool::ZoneDraw || sel == Tool::ZoneFixed) {
-        LeaveZone(p);
-    } else if (const ItemTool* tool = ItemToolInHand(p); tool && sel != tool->Move) {
-        p.Tools.ToolSel = tool->Move;
-        RaiseTools(p, {&Form1::Image3, &Form1::Image4, &Form1::Image5});
+        LeaveZone(work.Tools, *work.Form1);
+    } else if (const ItemTool* tool = ItemToolInHand(work.Tools); tool && sel != tool->Move) {
+        work.Tools.ToolSel = tool->Move;
+        RaiseTools(*work.Form1, {&Form1::Image3, &Form1::Image4, &Form1::Image5});
     }
 }
 
-void ChooseDelete(Program& p)
+void ChooseDelete(const ToolWork& work)
 {
-    FinishGesture(p);
-    SinkTool(p, &Form1::Image5);
-    const ItemTool* tool = ItemToolInHand(p);
-    if (!tool || p.Tools.ToolSel == tool->Delete)
+    FinishGesture(work);
+    SinkTool(*work.Form1, &Form1::Image5);
+    const ItemTool* tool = ItemToolInHand(work.Tools);
+    if (!tool || work.Tools.ToolSel == tool->Delete)
         return;
-    p.Tools.ToolSel = tool->Delete;
-    p.Screen.Pointer = MousePointer::Default;
-    RaiseTools(p, {&Form1::Image2, &Form1::Image3, &Form1::Image4});
-    RaiseOtherItemTools(p, *tool);
+    work.Tools.ToolSel = tool->Delete;
+    work.Screen.Pointer = MousePointer::Default;
+    RaiseTools(*work.Form1, {&Form1::Image2, &Form1::Image3, &Form1::Image4});
+    RaiseOtherItemTools(*work.Form1, *tool);
 }
 
-void ChooseColour(Program& p)
+void ChooseColour(const ToolWork& work)
 {
-    FinishGesture(p);
-    SinkTool(p, &Form1::Image3);
-    forms::CommonDialog& dialog = p.Form1->CommonDialog1;
-    if (const std::optional<Colour> chosen = p.Prompts.PickColour(dialog.Color))
+    FinishGesture(work);
+    SinkTool(*work.Form1, &Form1::Image3);
+    forms::CommonDialog& dialog = work.Form1->CommonDialog1;
+    if (const std::optional<Colour> chosen = work.Prompts.PickColour(dialog.Color))
         dialog.Color = *chosen;
-    RaiseTool(p, &Form1::Image3);
+    RaiseTool(*work.Form1, &Form1::Image3);
 }
 
 // Whether the dialog's font is bold counts for nothing: no text is ever drawn so.
-void ChooseFont(Program& p)
+void ChooseFont(const ToolWork& work)
 {
-    FinishGesture(p);
-    SinkTool(p, &Form1::Image4);
-    forms::CommonDialog& dialog = p.Form1->CommonDialog1;
-    if (const std::optional<TextFont> chosen = p.Prompts.PickFont({dialog.FontName, dialog.FontSize})) {
+    FinishGesture(work);
+    SinkTool(*work.Form1, &Form1::Image4);
+    forms::CommonDialog& dialog = work.Form1->CommonDialog1;
+    if (const std::optional<TextFont> chosen = work.Prompts.PickFont({dialog.FontName, dialog.FontSize})) {
         dialog.FontName = chosen->Name;
         dialog.FontSize = chosen->Size;
-        p.Form1->Picture1.Font = {dialog.FontName, dialog.FontSize};
+        work.Form1->Picture1.Font = {dialog.FontName, dialog.FontSize};
     }
-    RaiseTool(p, &Form1::Image4);
+    RaiseTool(*work.Form1, &Form1::Image4);
 }
 
 } // namespace lineforge

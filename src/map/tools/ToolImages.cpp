@@ -18,42 +18,40 @@ const ToolImage& ImagesOf(Image Form1::*button)
 }
 } // namespace
 
-void RaiseTool(Program& p, Image Form1::*button)
+void RaiseTool(Form1& form, Image Form1::*button)
 {
-    Form1& form = *p.Form1;
     (form.*button).Picture = (form.*ImagesOf(button).Raised).Picture.value();
 }
 
-void SinkTool(Program& p, Image Form1::*button)
+void SinkTool(Form1& form, Image Form1::*button)
 {
-    Form1& form = *p.Form1;
     (form.*button).Picture = (form.*ImagesOf(button).Sunken).Picture.value();
 }
 
-void RaiseAllTools(Program& p)
+void RaiseAllTools(Form1& form)
 {
     for (const ToolImage& tool : Form1::Tools)
-        RaiseTool(p, tool.Button);
+        RaiseTool(form, tool.Button);
 }
 
-void ShowTools(Program& p)
+void ShowTools(Form1& form)
 {
-    p.Form1->DrawToolFaces();
-    RaiseAllTools(p);
+    form.DrawToolFaces();
+    RaiseAllTools(form);
     for (const ToolImage& tool : Form1::Tools)
-        ((*p.Form1).*tool.Button).Visible = true;
+        (form.*tool.Button).Visible = true;
 }
 
-void HideTools(Program& p)
+void HideTools(Form1& form)
 {
     for (const ToolImage& tool : Form1::Tools)
-        ((*p.Form1).*tool.Button).Visible = false;
-    p.Form1->Shape3.Visible = false;
+        (form.*tool.Button).Visible = false;
+    form.Shape3.Visible = false;
 }
 
-bool AreToolsShown(Program& p)
+bool AreToolsShown(const Form1& form)
 {
-    return p.Form1->Image8.Visible;
+    return form.Image8.Visible;
 }
 
 } // namespace lineforge

@@ -1,19 +1,18 @@
 #pragma once
 
 #include "forms/Form1.h"
-#include "program/state/Program.h"
 
 namespace lineforge
 {
 
 // The buttons of the drawing tools, which are images with two faces.
-void RaiseTool(Program& p, Image forms::Form1::*button);
-void SinkTool(Program& p, Image forms::Form1::*button);
-void RaiseAllTools(Program& p);
+void RaiseTool(forms::Form1& form, Image forms::Form1::*button);
+void SinkTool(forms::Form1& form, Image forms::Form1::*button);
+void RaiseAllTools(forms::Form1& form);
 
-void ShowTools(Program& p);
+void ShowTools(forms::Form1& form);
 // With the rectangle of a zone.
-void HideTools(Program& p);
-bool AreToolsShown(Program& p);
+void HideTools(forms::Form1& form);
+bool AreToolsShown(const forms::Form1& form);
 
 } // namespace lineforge

@@ -15,36 +15,35 @@ namespace lineforge
 
 namespace
 {
-bool IsInZone(const Program& p, const Cell& x, const Cell& y)
+bool IsInZone(const ToolState& tools, const Cell& x, const Cell& y)
 {
-    return HasPosition(x, y) && x.Number() > p.Tools.ZoneLeft && x.Number() < p.Tools.ZoneLeft + p.Tools.ZoneWidth &&
-           y.Number() > p.Tools.ZoneTop && y.Number() < p.Tools.ZoneTop + p.Tools.ZoneHeight;
+    return HasPosition(x, y) && x.Number() > tools.ZoneLeft && x.Number() < tools.ZoneLeft + tools.ZoneWidth &&
+           y.Number() > tools.ZoneTop && y.Number() < tools.ZoneTop + tools.ZoneHeight;
 }
 
-void TakeWhatLiesInside(Program& p)
+void TakeWhatLiesInside(const MapState& map, ToolState& tools)
 {
-    for (int row = 0; row <= p.Tools.ZoneTexts.Last(); ++row) {
-        const auto& text = p.Map.TextArr[row];
-        const auto& box = p.Map.BoxArr[row];
-        const auto& line = p.Map.LineArr[row];
-        p.Tools.ZoneTexts[row] = IsInZone(p, text[TextColumn::X], text[TextColumn::Y]);
-        p.Tools.ZoneBoxes[row] = IsInZone(p, box[BoxColumn::X], box[BoxColumn::Y]);
-        p.Tools.ZoneLines[row] = IsInZone(p, line[LineColumn::X1], line[LineColumn::Y1]);
+    for (int row = 0; row <= tools.ZoneTexts.Last(); ++row) {
+        const auto& text = map.TextArr[row];
+        const auto& box = map.BoxArr[row];
+        const auto& line = map.LineArr[row];
+        tools.ZoneTexts[row] = IsInZone(tools, text[TextColumn::X], text[TextColumn::Y]);
+        tools.ZoneBoxes[row] = IsInZone(tools, box[BoxColumn::X], box[BoxColumn::Y]);
+        tools.ZoneLines[row] = IsInZone(tools, line[LineColumn::X1], line[LineColumn::Y1]);
     }
 }
 
 // On its way a box shows the name in its row. What stands in it at first may be another.
-void WipeCaptionsInside(Program& p)
+void WipeCaptionsInside(const ToolWork& work)
 {
-    for (int row = 0; row <= p.Tools.ZoneBoxes.Last(); ++row)
-        if (p.Tools.ZoneBoxes[row])
-            WipeCaption(p, row);
+    for (int row = 0; row <= work.Tools.ZoneBoxes.Last(); ++row)
+        if (work.Tools.ZoneBoxes[row])
+            WipeCaption(work.Map, *work.Form1, row);
 }
 
-void PrintBoxTexts(Program& p, int row, Colour pen)
+void PrintBoxTexts(const MapState& map, int row, PictureBox& picture, Colour pen)
 {
-    PictureBox& picture = p.Form1->Picture1;
-    const auto& box = p.Map.BoxArr[row];
+    const auto& box = map.BoxArr[row];
     const int x = box[BoxColumn::X].Number();
     const int y = box[BoxColumn::Y].Number();
     ResetMapFont(picture);
@@ -56,34 +55,34 @@ void PrintBoxTexts(Program& p, int row, Colour pen)
     PrintOnMap(picture, {x + ForenameInBox.X, y + ForenameInBox.Y}, FittedForename(box[BoxColumn::Forename].Text()));
 }
 
-void CarryTextAlong(Program& p, int row)
+void CarryTextAlong(const ToolWork& work, int row)
 {
-    DrawTextIn(p, MapOnScreen(p), row, p.Form1->Picture1.BackColor);
-    CarryText(p, row);
-    DrawText(p, MapOnScreen(p), row);
+    DrawTextIn(work, MapOnScreen(work.Map, *work.Form1), row, work.Form1->Picture1.BackColor);
+    CarryText(work.Map, work.Tools, row);
+    DrawText(work, MapOnScreen(work.Map, *work.Form1), row);
 }
 
-void CarryBoxAlong(Program& p, int row)
+void CarryBoxAlong(const ToolWork& work, int row)
 {
-    const Colour paper = p.Form1->Picture1.BackColor;
-    DrawBoxIn(p.Map, MapOnScreen(p), row, paper);
-    PrintBoxTexts(p, row, paper);
-    CarryBox(p, row);
-    DrawBoxIn(p.Map, MapOnScreen(p), row, ColourOfBox(p.Map, row));
-    PrintBoxTexts(p, row, Black);
+    const Colour paper = work.Form1->Picture1.BackColor;
+    DrawBoxIn(work.Map, MapOnScreen(work.Map, *work.Form1), row, paper);
+    PrintBoxTexts(work.Map, row, work.Form1->Picture1, paper);
+    CarryBox(work.Map, work.Tools, row);
+    DrawBoxIn(work.Map, MapOnScreen(work.Map, *work.Form1), row, ColourOfBox(work.Map, row));
+    PrintBoxTexts(work.Map, row, work.Form1->Picture1, Black);
 }
 
-void CarryLineAlong(Program& p, int row)
+void CarryLineAlong(const ToolWork& work, int row)
 {
-    DrawLineIn(p.Map, MapOnScreen(p), row, p.Form1->Picture1.BackColor);
-    CarryLine(p, row);
-    DrawLine(p.Map, MapOnScreen(p), row);
+    DrawLineIn(work.Map, MapOnScreen(work.Map, *work.Form1), row, work.Form1->Picture1.BackColor);
+    CarryLine(work.Map, work.Tools, row);
+    DrawLine(work.Map, MapOnScreen(work.Map, *work.Form1), row);
 }
 } // namespace
 
-Pressed BeginZone(Program& p, const Pointing& pointing)
+Pressed BeginZone(const ToolWork& work, const Pointing& pointing)
 {
-    Shape& zone = p.Form1->Shape3;
+    Shape& zone = work.Form1->Shape3;
     zone.Width = 0;
     zone.Height = 0;
     zone.Move(pointing.At);
@@ -94,78 +93,78 @@ Pressed BeginZone(Program& p, const Pointing& pointing)
 // KEPT(ZoneToolTest.RubberTurnedBackAcrossThePress_KeepsItsLastLeftAndTop): back on the right of the press, or below
 // it, the zone keeps the left or top that it had last.
 // Mended, it would stand elsewhere, and carry other items.
-void StretchZone(Program& p, const Pointing& pointing)
+void StretchZone(const ToolWork& work, const Pointing& pointing)
 {
-    KeepPointer(p, pointing);
-    Shape& zone = p.Form1->Shape3;
-    zone.Height = std::abs(p.Tools.MoveY - p.Mouse.DownY);
-    zone.Width = std::abs(p.Tools.MoveX - p.Mouse.DownX);
-    if (p.Tools.MoveX < p.Mouse.DownX)
-        zone.Left = p.Mouse.DownX - zone.Width;
-    if (p.Tools.MoveY < p.Mouse.DownY)
-        zone.Top = p.Mouse.DownY - zone.Height;
+    KeepPointer(work, pointing);
+    Shape& zone = work.Form1->Shape3;
+    zone.Height = std::abs(work.Tools.MoveY - work.Mouse.DownY);
+    zone.Width = std::abs(work.Tools.MoveX - work.Mouse.DownX);
+    if (work.Tools.MoveX < work.Mouse.DownX)
+        zone.Left = work.Mouse.DownX - zone.Width;
+    if (work.Tools.MoveY < work.Mouse.DownY)
+        zone.Top = work.Mouse.DownY - zone.Height;
 }
 
-Released FixZone(Program& p)
+Released FixZone(const ToolWork& work)
 {
-    const Shape& zone = p.Form1->Shape3;
-    p.Tools.ToolSel = ToolSelection::ZoneFixed;
-    p.Tools.ZoneLeft = zone.Left;
-    p.Tools.ZoneTop = zone.Top;
-    p.Tools.ZoneWidth = zone.Width;
-    p.Tools.ZoneHeight = zone.Height;
-    p.Screen.Pointer = MousePointer::SizeAll;
+    const Shape& zone = work.Form1->Shape3;
+    work.Tools.ToolSel = ToolSelection::ZoneFixed;
+    work.Tools.ZoneLeft = zone.Left;
+    work.Tools.ZoneTop = zone.Top;
+    work.Tools.ZoneWidth = zone.Width;
+    work.Tools.ZoneHeight = zone.Height;
+    work.Screen.Pointer = MousePointer::SizeAll;
     return Released::AsItStands;
 }
 
-Pressed TakeZone(Program& p, const Pointing&)
+Pressed TakeZone(const ToolWork& work, const Pointing&)
 {
-    KeepLast(p, {p.Form1->Shape3.Left, p.Form1->Shape3.Top});
+    KeepLast(work.Tools, {work.Form1->Shape3.Left, work.Form1->Shape3.Top});
     return Pressed::Yes;
 }
 
-void DragZone(Program& p, const Pointing& pointing)
+void DragZone(const ToolWork& work, const Pointing& pointing)
 {
-    Shape& zone = p.Form1->Shape3;
-    p.Form1->Shape1.Visible = false;
-    zone.Move({zone.Left + pointing.At.X - p.Mouse.DownX, zone.Top + pointing.At.Y - p.Mouse.DownY});
-    p.Mouse.DownX = pointing.At.X;
-    p.Mouse.DownY = pointing.At.Y;
-    p.Tools.DeltaX = zone.Left - p.Tools.ZoneLeft;
-    p.Tools.DeltaY = zone.Top - p.Tools.ZoneTop;
+    Shape& zone = work.Form1->Shape3;
+    work.Form1->Shape1.Visible = false;
+    zone.Move({zone.Left + pointing.At.X - work.Mouse.DownX, zone.Top + pointing.At.Y - work.Mouse.DownY});
+    work.Mouse.DownX = pointing.At.X;
+    work.Mouse.DownY = pointing.At.Y;
+    work.Tools.DeltaX = zone.Left - work.Tools.ZoneLeft;
+    work.Tools.DeltaY = zone.Top - work.Tools.ZoneTop;
 
-    PictureBox& picture = p.Form1->Picture1;
+    PictureBox& picture = work.Form1->Picture1;
     const Colour pen = picture.ForeColor;
     const TextFont font = picture.Font;
-    if (p.Tools.ToolSel == ToolSelection::ZoneFixed) {
-        TakeWhatLiesInside(p);
-        WipeCaptionsInside(p);
+    if (work.Tools.ToolSel == ToolSelection::ZoneFixed) {
+        TakeWhatLiesInside(work.Map, work.Tools);
+        WipeCaptionsInside(work);
     }
-    for (int row = 0; row <= p.Tools.ZoneTexts.Last(); ++row) {
-        if (p.Tools.ZoneTexts[row])
-            CarryTextAlong(p, row);
-        if (p.Tools.ZoneBoxes[row])
-            CarryBoxAlong(p, row);
-        if (p.Tools.ZoneLines[row])
-            CarryLineAlong(p, row);
+    for (int row = 0; row <= work.Tools.ZoneTexts.Last(); ++row) {
+        if (work.Tools.ZoneTexts[row])
+            CarryTextAlong(work, row);
+        if (work.Tools.ZoneBoxes[row])
+            CarryBoxAlong(work, row);
+        if (work.Tools.ZoneLines[row])
+            CarryLineAlong(work, row);
     }
     picture.ForeColor = pen;
     picture.Font = font;
-    p.Tools.ZoneLeft = zone.Left;
-    p.Tools.ZoneTop = zone.Top;
-    p.Tools.ToolSel = ToolSelection::ZoneDrag;
+    work.Tools.ZoneLeft = zone.Left;
+    work.Tools.ZoneTop = zone.Top;
+    work.Tools.ToolSel = ToolSelection::ZoneDrag;
 }
 
-Released DropZone(Program& p)
+Released DropZone(const ToolWork& work)
 {
-    p.Screen.Pointer = MousePointer::Hourglass;
-    p.Tools.ToolSel = ToolSelection::None;
-    p.Form1->Shape3.Visible = false;
-    RaiseTool(p, &forms::Form1::Image2);
-    ClearMapPicture(p);
-    RedrawMap(p, MapOnScreen(p));
-    p.Tools.MapCursorMode = MapCursor::Normal;
-    p.Screen.Pointer = MousePointer::Default;
+    work.Screen.Pointer = MousePointer::Hourglass;
+    work.Tools.ToolSel = ToolSelection::None;
+    work.Form1->Shape3.Visible = false;
+    RaiseTool(*work.Form1, &forms::Form1::Image2);
+    ClearMapPicture(work.Map, *work.Form1);
+    RedrawMap(work, MapOnScreen(work.Map, *work.Form1));
+    work.Tools.MapCursorMode = MapCursor::Normal;
+    work.Screen.Pointer = MousePointer::Default;
     return Released::AsItStands;
 }
 

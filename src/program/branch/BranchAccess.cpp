@@ -11,6 +11,13 @@ DatabaseOpening::DatabaseOpening(Program& p)
 {
 }
 
-BranchAccess::BranchAccess(Program& p) : DatabaseOpening(p), Branch(p.Branch), Record(p.Record), Form3(p.Form3) {}
+BranchRecords::BranchRecords(Program& p) : Branch(p.Branch), Record(p.Record), Form3(p.Form3) {}
+
+BranchAccess::BranchAccess(Program& p) : DatabaseOpening(p), BranchRecords(p) {}
+
+BranchAccess::BranchAccess(const DatabaseOpening& opening, const BranchRecords& records)
+    : DatabaseOpening(opening), BranchRecords(records)
+{
+}
 
 } // namespace lineforge

@@ -29,14 +29,19 @@ struct DatabaseOpening {
     EventLoop& Loop;
 };
 
-// What pointing the program at a branch works with: its directories, and the one cursor on its records with the place
-// that is kept there.
-struct BranchAccess : DatabaseOpening {
-    BranchAccess(Program& p);
+// The branch that the program is pointed at, and the one cursor on its records with the place that is kept there.
+struct BranchRecords {
+    BranchRecords(Program& p);
 
     BranchState& Branch;
     RecordState& Record;
     Window<forms::Form3>& Form3;
+};
+
+// What pointing the program at a branch works with.
+struct BranchAccess : DatabaseOpening, BranchRecords {
+    BranchAccess(Program& p);
+    BranchAccess(const DatabaseOpening& opening, const BranchRecords& records);
 };
 
 } // namespace lineforge

@@ -28,48 +28,48 @@ QString StemOf(const QString& path)
 }
 
 // After Open the name is a bare one, and the current directory may be another branch's by now.
-QString OpenDatabasePath(const Program& p)
+QString OpenDatabasePath(const BranchState& branch)
 {
-    const QString& name = p.Branch.sDbaseName;
-    return name.contains(PathSeparator) ? name : QString(p.Branch.WorkDir + PathSeparator + name);
+    const QString& name = branch.sDbaseName;
+    return name.contains(PathSeparator) ? name : QString(branch.WorkDir + PathSeparator + name);
 }
 
 // Another program may be at it. What can't be opened is copied all the same.
-void CopyDatabase(Program& p, const QString& copy)
+void CopyDatabase(const BranchAccess& access, const QString& copy)
 {
-    const QString database = p.Files.Resolve(DatabasePath(p.Branch.WorkDir));
-    if (const std::optional<QByteArray> bytes = DatabaseBytes(p.Databases.Others(), database))
-        WriteWholeFile(p.Files.Resolve(copy), *bytes, QFileInfo(database).lastModified());
+    const QString database = access.Files.Resolve(DatabasePath(access.Branch.WorkDir));
+    if (const std::optional<QByteArray> bytes = DatabaseBytes(access.Databases.Others(), database))
+        WriteWholeFile(access.Files.Resolve(copy), *bytes, QFileInfo(database).lastModified());
     else
-        p.Files.FileCopy(database, copy);
+        access.Files.FileCopy(database, copy);
 }
 
 // The map goes along as it is read at the next opening: in an imported branch that is the file which came with it.
-void WriteBackup(Program& p, const QString& chosen)
+void WriteBackup(const BranchAccess& access, const QString& chosen)
 {
-    p.Form3.Unload(); // closes the database
+    access.Form3.Unload(); // closes the database
     const QString stem = StemOf(chosen);
-    CopyDatabase(p, stem + u".~md");
-    p.Files.FileCopy(MapFileToRead(p.Branch.WorkDir), stem + u".~cf");
-    PointAtDatabase(p, OpenDatabasePath(p));
+    CopyDatabase(access, stem + u".~md");
+    access.Files.FileCopy(MapFileToRead(access.Branch.WorkDir), stem + u".~cf");
+    PointAtDatabase(access, OpenDatabasePath(access.Branch));
 }
 } // namespace
 
-void BackUpBranch(Program& p)
+void BackUpBranch(const BranchAccess& access, MapState& map, ErrorState& errors)
 {
     // Also one whose database can't be opened: its files can be copied all the same.
-    if (p.Branch.sDbaseName.isEmpty())
-        return TellNoBranch(p.Prompts);
-    p.Prompts.MsgBox(
+    if (access.Branch.sDbaseName.isEmpty())
+        return TellNoBranch(access.Prompts);
+    access.Prompts.MsgBox(
         u"Backup Database"_s,
         u"Backup will copy your current Database File \nand Tree Config file to your chosen destination."_s,
         Buttons::Information);
-    WriteMapFile(p);
+    WriteMapFile(map, access.Branch, access.Files);
     const std::optional<QString> chosen =
-        p.Prompts.SaveFile({u"Select Backup Destination Directory"_s, u"DataBase *.mdb|*.mdb|All Files|*.*|"_s});
+        access.Prompts.SaveFile({u"Select Backup Destination Directory"_s, u"DataBase *.mdb|*.mdb|All Files|*.*|"_s});
     if (!chosen)
         return;
-    p.Errors.Ignoring([&] { WriteBackup(p, *chosen); });
+    errors.Ignoring([&] { WriteBackup(access, *chosen); });
 }
 
 } // namespace lineforge

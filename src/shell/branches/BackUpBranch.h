@@ -1,6 +1,7 @@
 #pragma once
 
-#include "program/state/Program.h"
+#include "program/branch/BranchAccess.h"
+#include "program/state/MapState.h"
 
 namespace lineforge
 {
@@ -10,6 +11,6 @@ namespace lineforge
 // long as the user wants to. A failure ends it in silence. KEPT(BackUpBranchTest.PlaceThatCantBeWritten_EndsInSilence):
 // it may leave the record form closed then, and with it the database. Mended, a backup that failed would be told, and
 // the records be open behind it.
-void BackUpBranch(Program& p);
+void BackUpBranch(const BranchAccess& access, MapState& map, ErrorState& errors);
 
 } // namespace lineforge

@@ -21,11 +21,11 @@ namespace lineforge
 void CloseBranch(Program& p)
 {
     LeaveToolsIfOpen(p);
-    SaveBoxes(p);
+    SaveBoxes(p.Map, p.Branch, p.Files);
     const QString maidenName = p.Form1->Label15.Caption;
     StoreTyped(p.Form3);
     p.Form5->MMControl1.Command(u"Close");
-    ForgetMap(p);
+    ForgetMap(p.Map, p.Mouse, p.Tools);
     p.Branch.UsingAlternate = 0;
 
     forms::Form1& form = *p.Form1;

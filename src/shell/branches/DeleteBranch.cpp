@@ -94,7 +94,7 @@ void DeleteBranch(Program& p)
     const QString name = NameOfBranch(p);
     if (!RequireBranch(p, name) || !Ask(p, name))
         return;
-    ReturnToOwnSubject(p);
+    ReturnToOwnSubject(p, p);
     if (!AskAgain(p, name))
         return;
     LeaveToolsIfOpen(p);

@@ -34,11 +34,11 @@ constexpr QStringView ordinaryPrefix = u"LfgDat_";
 void PutOldMapAway(Program& p)
 {
     if (!p.Branch.WorkDir.isEmpty())
-        SaveBoxes(p);
+        SaveBoxes(p.Map, p.Branch, p.Files);
     LeaveToolsIfOpen(p);
     StoreTyped(p.Form3);
     // Whoever gives the command up stays in the branch that he has open.
-    ReturnToOwnSubject(p);
+    ReturnToOwnSubject(p, p);
     PutMapAway(p);
 }
 
@@ -140,7 +140,7 @@ void MakeBranch(Program& p, const QString& name, const QString& directory)
     ShowNoSubject(p);
     AddAlias(p, name, directory, Refusals::EndIt);
     Concerning(stem + u".cfg", [&p] {
-        ReadMapFile(p);
+        ReadMapFile(p.Map, p.Branch, p.Files, p.Prompts);
         ParseBoxes(p);
         ParseLines(p);
         ParseTexts(p);

@@ -36,7 +36,7 @@ QString FirstEntryThatBegins(const Program& p, const QString& name)
 void ChooseBranch(Program& p)
 {
     if (!p.Branch.WorkDir.isEmpty())
-        SaveBoxes(p);
+        SaveBoxes(p.Map, p.Branch, p.Files);
     LeaveToolsIfOpen(p);
     WithdrawCompareRequest(p.Compare);
     p.Form8->Show();
@@ -78,8 +78,8 @@ void OpenSelectedBranch(Program& p)
         return;
     EnableBranchUI(*p.Form1);
     p.Screen.Pointer = MousePointer::Default;
-    if (!EmptySubjectIfNoRecords(p))
-        ShowFirstSubject(p);
+    if (!EmptySubjectIfNoRecords(p.Form1, p.Form3, p.Prompts))
+        ShowFirstSubject(p, p);
     CloseBranchList(p);
 }
 

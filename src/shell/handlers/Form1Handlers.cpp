@@ -50,7 +50,7 @@ void InstallOutput(Program& p, forms::Form1& form)
     form.mnuAddBkMark.Click = [&p] { AddBookmark(p.Bookmarks, p.Branch, p.Form3, p.Prompts); };
     form.mnuClrList.Click = [&p] { ClearBookmarks(p.Bookmarks); };
     form.mnuPrinterSetUp.Click = [&p] { p.Prompts.PickPrinter(); };
-    form.mnuPrint.Click = [&p] { PrintMap(p); };
+    form.mnuPrint.Click = [&p] { PrintMap(p, p.Printer, p.Screen); };
     form.mnuPrintPage.Click = [&p, &form] { PrintMainWindow(form, p.Printer, p.Errors, p.Prompts); };
     form.mnuPrintRecord.Click = [&p] { PrintCurrentRecord(p); };
     form.mnuPrinList.Click = [&p] { PrintBookmarks(p); };
@@ -82,7 +82,7 @@ void InstallForm1(Program& p, forms::Form1& form)
     form.New.Click = [&p] { NewBranch(p); };
     form.Open.Click = [&p] { ChooseBranch(p); };
     InstallOutput(p, form);
-    form.mnuBackup.Click = [&p] { BackUpBranch(p); };
+    form.mnuBackup.Click = [&p] { BackUpBranch(p, p.Map, p.Errors); };
     form.mnuExpSub.Click = [&p] { ChooseExport(p); };
     form.mnuExpGedcom.Click = [&p] { ShowGedcomForm(p.Form12); };
     form.mnuImpSub.Click = [&p] {
@@ -93,17 +93,17 @@ void InstallForm1(Program& p, forms::Form1& form)
     form.mnuCloseDB.Click = [&p] { CloseBranch(p); };
     form.mnuExit.Click = [&p] { ExitProgram(p); };
 
-    form.mnuEdit.Click = [&p] { OpenEditingMenu(p); };
-    form.mnuCopy.Click = [&p] { CopyMapPicture(p); };
-    form.mnuPaste.Click = [&p] { PasteMapPicture(p); };
+    form.mnuEdit.Click = [&p] { OpenEditingMenu(p, p.Pictures); };
+    form.mnuCopy.Click = [&p] { CopyMapPicture(p.Map, *p.Form1, p.Clipboard); };
+    form.mnuPaste.Click = [&p] { PasteMapPicture(p.Map, *p.Form1, p.Clipboard); };
     form.mnuDataBase.Click = [&p] { std::ignore = TellIfNoBranch(p.Branch, p.Form3, p.Prompts); };
-    form.mnuViewRecs.Click = [&p] { ShowRecordForm(p); };
+    form.mnuViewRecs.Click = [&p] { ShowRecordForm(p, p); };
     form.mnuComp.Click = [&p] { OpenComparison(p, p.Form1); };
     form.mnuDelSub.Click = [&p] { DeleteBranch(p); };
-    form.mnuTreeGraphics.Click = [&p] { OpenEditingMenu(p); };
+    form.mnuTreeGraphics.Click = [&p] { OpenEditingMenu(p, p.Pictures); };
     form.mnuTreeTools.Click = [&p] { OpenTools(p); };
-    form.mnuMapSubject.Click = [&p] { ShowMappingOptions(p); };
-    form.mnuRemap.Click = [&p] { RemapSubject(p); };
+    form.mnuMapSubject.Click = [&p] { ShowMappingOptions(p.Branch, p.Form3, p.Prompts, p.Form7); };
+    form.mnuRemap.Click = [&p] { RemapSubject(p.Branch, p.Form3, p.Prompts, p.Tools, p.Screen); };
 
     form.mnuHelp.Click = [&p] { OpenFileOrHelpMenu(p); };
     form.mnuConts.Click = [&p] { ShowHelpContents(p.Prompts, p.Branch); };
@@ -115,13 +115,13 @@ void InstallForm1(Program& p, forms::Form1& form)
         MoveOverMap(p, buttons, shift, x, y);
     };
     form.Picture1.MouseUp = [&p](int, int, double x, double y) { ReleaseMap(p, x, y); };
-    form.Picture1.DblClick = [&p] { DoubleClickOnMap(p); };
-    form.Picture1.Parts = [&p] { return SpokenBoxes(p); };
+    form.Picture1.DblClick = [&p] { DoubleClickOnMap(p, p); };
+    form.Picture1.Parts = [&p] { return SpokenBoxes(p.Map, p); };
 
-    form.Command1.Click = [&p] { ShowRecordForm(p); };
+    form.Command1.Click = [&p] { ShowRecordForm(p, p); };
     form.Command2.Click = [&p] { GoToGalleryFromMap(p); };
-    form.Command3.Click = [&p] { ViewLineage(p); };
-    form.Command4.Click = [&p] { ClearLineage(p); };
+    form.Command3.Click = [&p] { ViewLineage(p, p.Prompts, p.Loop); };
+    form.Command4.Click = [&p] { ClearLineage(p, p.Prompts, p.Loop); };
     form.Command5.Click = [&p] { ReturnToComparison(p, p.Form1); };
     InstallTools(p, form);
 }

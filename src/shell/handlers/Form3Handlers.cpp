@@ -43,12 +43,12 @@ void InstallSelection(Program& p, forms::Form3& form)
 
 void InstallScanner(Program& p, forms::Form3& form)
 {
-    form.Picture1.Click = [&p] { StartScan(p, ScanMode::FastForward); };
-    form.Picture2.Click = [&p] { StartScan(p, ScanMode::Forward); };
-    form.Picture3.Click = [&p] { StopScan(p); };
-    form.Picture4.Click = [&p] { StartScan(p, ScanMode::Back); };
-    form.Picture5.Click = [&p] { StartScan(p, ScanMode::FastBack); };
-    form.Timer1.Tick = [&p] { TickScan(p); };
+    form.Picture1.Click = [&p] { StartScan(p, p.Scratch, ScanMode::FastForward); };
+    form.Picture2.Click = [&p] { StartScan(p, p.Scratch, ScanMode::Forward); };
+    form.Picture3.Click = [&p] { StopScan(p, p); };
+    form.Picture4.Click = [&p] { StartScan(p, p.Scratch, ScanMode::Back); };
+    form.Picture5.Click = [&p] { StartScan(p, p.Scratch, ScanMode::FastBack); };
+    form.Timer1.Tick = [&p] { TickScan(p, p, p.Databases.Others()); };
 }
 
 void InstallPrinting(Program& p, forms::Form3& form)
@@ -70,8 +70,8 @@ void InstallEditing(Program& p, forms::Form3& form)
     form.mnuPaste.Click = [&p, &form] { PasteOverSelection(p.Record, form, p.Clipboard); };
     form.mnuSubPicture.Click = [&p] { ChangeSubjectPicture(p); };
     form.mnuAdd.Click = [&p] { AddRecord(p); };
-    form.mnuDelete.Click = [&p] { DeleteRecord(p); };
-    form.MnuRecTransfer.Click = [&p] { TransferRecord(p); };
+    form.mnuDelete.Click = [&p] { DeleteRecord(p, p, p.Screen); };
+    form.MnuRecTransfer.Click = [&p] { TransferRecord(p, p); };
 }
 
 void InstallSearches(Program& p, forms::Form3& form)
@@ -100,11 +100,11 @@ void InstallForm3(Program& p, forms::Form3& form)
     BindSubjectLabels(*p.Form1, form);
     form.Load = [&p, &form] { LoadRecordForm(form, p.Screen, p.Form8, p.Branch); };
     // Unloaded, the form would take the open database with it: its frame leads back to the map.
-    form.CloseByFrame = [&p] { ReturnToTree(p); };
+    form.CloseByFrame = [&p] { ReturnToTree(p, p); };
 
     form.Command1.Click = [&p] { GoToGalleryFromRecords(p); };
-    form.Command2.Click = [&p] { ReturnToTree(p); };
-    form.Image1.Click = [&p] { EnlargeSubjectPicture(p); };
+    form.Command2.Click = [&p] { ReturnToTree(p, p); };
+    form.Image1.Click = [&p] { EnlargeSubjectPicture(p, p.Form2); };
     form.Data1.Stepped = [&p] { FollowStep(p); };
     InstallSelection(p, form);
     InstallScanner(p, form);

@@ -7,11 +7,11 @@ namespace lineforge
 
 void InstallForm7(Program& p, forms::Form7& form)
 {
-    form.Load = [&p] { ChooseBlankRecord(p); };
-    form.Option1.Click = [&p] { ChooseBlankRecord(p); };
-    form.Option2.Click = [&p] { ChooseUnmappedRecord(p); };
-    form.Option3.Click = [&p] { ChooseAlternateRecord(p); };
-    form.Command1.Click = [&p] { TakeMappingOptions(p); };
+    form.Load = [&form] { ChooseBlankRecord(form); };
+    form.Option1.Click = [&form] { ChooseBlankRecord(form); };
+    form.Option2.Click = [&form] { ChooseUnmappedRecord(form); };
+    form.Option3.Click = [&form] { ChooseAlternateRecord(form); };
+    form.Command1.Click = [&p, &form] { TakeMappingOptions(p.Mapping, p.Tools, p.Screen, form); };
     form.Command2.Click = [&form] { form.Hide(); };
 }
 

@@ -24,10 +24,10 @@ namespace lineforge
 namespace
 {
 // False when the step was refused for what no answer can help, which is told.
-bool TellIfRefused(Program& p, void (*step)(Program& p))
+bool TellIfRefused(Program& p, const std::function<void()>& step)
 {
     try {
-        step(p);
+        step();
     } catch (const RuntimeError& refusal) {
         if (!refusal.IsTold)
             TellError(p, refusal);
@@ -39,7 +39,7 @@ bool TellIfRefused(Program& p, void (*step)(Program& p))
 
 void ExitProgram(Program& p)
 {
-    SaveBoxes(p);
+    SaveBoxes(p.Map, p.Branch, p.Files);
     StoreTyped(p.Form3);
     LeaveToolsIfOpen(p);
     p.Form5->MMControl1.Command(u"Close");
@@ -60,10 +60,10 @@ void ExitFromRecords(Program& p)
     // Who has been told that a text isn't stored wants to see to it.
     if (p.Errors.Last && p.Errors.Last->IsTold)
         return;
-    TellIfRefused(p, SaveBoxes);
+    TellIfRefused(p, [&p] { SaveBoxes(p.Map, p.Branch, p.Files); });
     // Or the windows' end would ask for the tools again.
-    if (!TellIfRefused(p, LeaveToolsIfOpen))
-        HideTools(p);
+    if (!TellIfRefused(p, [&p] { LeaveToolsIfOpen(p); }))
+        HideTools(*p.Form1);
     p.Form5->MMControl1.Command(u"Close");
     // The main window takes all others with it and ends the program; a text that still can't be stored is told.
     p.Form1.Unload();

@@ -65,7 +65,7 @@ TEST_F(BoxCaptionsTest, FitForename_TakesTheCurrentRecords)
 {
     GivenRecord(u"Christopher");
 
-    FitForename(P);
+    FitForename(P.Record, Records(P.Form3));
 
     EXPECT_EQ(P.Record.sForeName, u"Chris'r"_s);
 }
@@ -75,7 +75,7 @@ TEST_F(BoxCaptionsTest, FitForename_NullForename_GivesEmptyText)
     GivenOpen(BranchA.Row({{u"File", u"A001"}}));
     P.Record.sForeName = u"left behind"_s;
 
-    FitForename(P);
+    FitForename(P.Record, Records(P.Form3));
 
     EXPECT_EQ(P.Record.sForeName, QString());
 }

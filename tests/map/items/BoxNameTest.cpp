@@ -34,9 +34,9 @@ protected:
     }
     void ReopenMap()
     {
-        SaveBoxes(P);
+        SaveBoxes(P.Map, P.Branch, P.Files);
         Picture.Cls();
-        ForgetMap(P);
+        ForgetMap(P.Map, P.Mouse, P.Tools);
         OpenMap();
     }
     void DoubleClick(Point at)

@@ -98,11 +98,11 @@ TEST_F(CurrentBoxTest, Find_RecordOfSiblingShown_DoesNothing)
 TEST_F(CurrentBoxTest, Take_PositionOutsideSixteenBits_IsOverflow)
 {
     GivenBox(0, {32767, -32768});
-    TakeBoxPosition(P, 0);
+    TakeBoxPosition(P.Mouse, P.Map, 0);
     EXPECT_EQ(Position(), (Point{32767, -32768}));
 
     GivenBox(0, {32768, 0});
-    EXPECT_EQ(RefusalOf([&] { TakeBoxPosition(P, 0); }), ErrorNumber::Overflow);
+    EXPECT_EQ(RefusalOf([&] { TakeBoxPosition(P.Mouse, P.Map, 0); }), ErrorNumber::Overflow);
 }
 
 TEST_F(CurrentBoxTest, BoxWhoseMarkerWouldStandOutsideSixteenBits_IsNoBoxOfTheRecord)

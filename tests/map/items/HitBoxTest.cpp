@@ -40,7 +40,7 @@ TEST_P(BoxEdgeTest, EdgesAreOutside)
     GivenBox(0, corner);
     GivenPress(GetParam().At);
 
-    EXPECT_EQ(PressIsInBox(P, 0), GetParam().IsInside);
+    EXPECT_EQ(PressIsInBox(P.Map, P.Mouse, 0), GetParam().IsInside);
 }
 
 INSTANTIATE_TEST_SUITE_P(Points, BoxEdgeTest,
@@ -52,21 +52,21 @@ INSTANTIATE_TEST_SUITE_P(Points, BoxEdgeTest,
 TEST_F(HitTestTest, FreeRow_AndOneAtNoPlace_AreNeverHit)
 {
     GivenPress({100, 100});
-    EXPECT_FALSE(PressIsInBox(P, 0));
+    EXPECT_FALSE(PressIsInBox(P.Map, P.Mouse, 0));
 
     GivenBox(0, {1, 1});
     P.Map.BoxArr[0][BoxColumn::Y] = QStringLiteral("Ann");
-    EXPECT_FALSE(PressIsInBox(P, 0));
+    EXPECT_FALSE(PressIsInBox(P.Map, P.Mouse, 0));
 }
 
 TEST_F(HitTestTest, RowWithXOfZero_IsNeverHit_WhateverElseItHolds)
 {
     GivenBox(0, {0, 500}, u"A001");
     GivenPress({300, 600});
-    EXPECT_FALSE(PressIsInBox(P, 0));
+    EXPECT_FALSE(PressIsInBox(P.Map, P.Mouse, 0));
 
     GivenBox(0, {1, 500}, u"A001");
-    EXPECT_TRUE(PressIsInBox(P, 0));
+    EXPECT_TRUE(PressIsInBox(P.Map, P.Mouse, 0));
 }
 
 TEST_F(HitTestTest, Hit_GivesTheRow)
@@ -77,7 +77,7 @@ TEST_F(HitTestTest, Hit_GivesTheRow)
     P.Mouse.BoxMiss = 1;
     GivenPress({1300, 600});
 
-    HitBox(P);
+    HitBox(P.Map, P.Mouse);
 
     EXPECT_EQ(P.Mouse.BoxIdx, 1);
     EXPECT_EQ(P.Mouse.BoxMiss, 0);
@@ -90,7 +90,7 @@ TEST_F(HitTestTest, OverlappingBoxes_TheLowerRowWins)
     P.Map.SBoxes = 2;
     GivenPress({1300, 600});
 
-    HitBox(P);
+    HitBox(P.Map, P.Mouse);
 
     EXPECT_EQ(P.Mouse.BoxIdx, 1);
 }
@@ -102,7 +102,7 @@ TEST_F(HitTestTest, Miss_GivesTheRowBehindTheLast)
     P.Map.SBoxes = 1;
     GivenPress({3000, 3000});
 
-    HitBox(P);
+    HitBox(P.Map, P.Mouse);
 
     EXPECT_EQ(P.Mouse.BoxIdx, 2);
     EXPECT_EQ(P.Mouse.BoxMiss, 1);
@@ -114,7 +114,7 @@ TEST_F(HitTestTest, RowBehindTheHighestInUse_IsNotLookedAt)
     P.Map.SBoxes = 1;
     GivenPress({1300, 600});
 
-    HitBox(P);
+    HitBox(P.Map, P.Mouse);
 
     EXPECT_EQ(P.Mouse.BoxIdx, 2);
     EXPECT_EQ(P.Mouse.BoxMiss, 1);
@@ -128,7 +128,7 @@ TEST_F(HitTestTest, NoBoxesCounted_BothStayAsTheyWere)
     P.Mouse.BoxMiss = 1;
     GivenPress({1300, 600});
 
-    HitBox(P);
+    HitBox(P.Map, P.Mouse);
 
     EXPECT_EQ(P.Mouse.BoxIdx, 7);
     EXPECT_EQ(P.Mouse.BoxMiss, 1);
@@ -140,7 +140,7 @@ TEST_F(HitTestTest, RowsFrom100On_AreHit)
     P.Map.SBoxes = LastMapRow;
     GivenPress({1300, 600});
 
-    HitBox(P);
+    HitBox(P.Map, P.Mouse);
 
     EXPECT_EQ(P.Mouse.BoxIdx, LastMapRow);
     EXPECT_EQ(P.Mouse.BoxMiss, 0);

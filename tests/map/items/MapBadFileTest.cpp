@@ -28,8 +28,10 @@ protected:
         constexpr qint64 patience = 100'000; // milliseconds, for a build with sanitizers on a busy machine
         QElapsedTimer time;
         time.start();
-        for (auto* step : {ReadMapFile, ParseBoxes, ParseLines, ParseTexts})
-            Refusals.push_back(RefusalOf([&] { step(P); }));
+        Refusals.push_back(RefusalOf([&] { ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts); }));
+        Refusals.push_back(RefusalOf([&] { ParseBoxes(P); }));
+        Refusals.push_back(RefusalOf([&] { ParseLines(P); }));
+        Refusals.push_back(RefusalOf([&] { ParseTexts(P); }));
         EXPECT_LT(time.elapsed(), patience);
     }
 
@@ -99,7 +101,7 @@ TEST_F(MapBadFileTest, FileCutOffAnywhere_EndsAsTheReaderMeetsIt)
         SCOPED_TRACE(length);
         GivenMapFile(whole.first(length));
         const Tree before = Home.Snapshot();
-        ForgetMap(P);
+        ForgetMap(P.Map, P.Mouse, P.Tools);
         const bool endsInList =
             (length >= boxesBegin && length < boxesEnd) || (length >= linesBegin && length < linesEnd);
         if (length < boxesBegin)
@@ -109,7 +111,8 @@ TEST_F(MapBadFileTest, FileCutOffAnywhere_EndsAsTheReaderMeetsIt)
         else if (!endsInList && length < textsBegin)
             ExpectWarning(u"Config Text Record empty");
 
-        EXPECT_EQ(RefusalOf([&] { ReadMapFile(P); }), endsInList ? ErrorNumber::InputPastEnd : 0);
+        EXPECT_EQ(RefusalOf([&] { ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts); }),
+                  endsInList ? ErrorNumber::InputPastEnd : 0);
 
         Prompts.Verify();
         EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
@@ -122,10 +125,10 @@ TEST_F(MapBadFileTest, FileCutOffAnywhere_WhatIsLeftIsDrawn)
     for (qsizetype length = 9; length < boxes.size(); ++length) {
         SCOPED_TRACE(length);
         GivenMapFile("[Boxes]" + boxes.first(length));
-        ForgetMap(P);
+        ForgetMap(P.Map, P.Mouse, P.Tools);
         Picture.Cls();
 
-        EXPECT_EQ(RefusalOf([&] { ReadMapFile(P); }), ErrorNumber::InputPastEnd);
+        EXPECT_EQ(RefusalOf([&] { ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts); }), ErrorNumber::InputPastEnd);
         ParseBoxes(P);
 
         // The outline needs all values up to the record's number.

@@ -34,7 +34,7 @@ TEST_F(MapFileReadTest, EightLines_FillThreeLists)
                  "[LfgDat_A]\r\n[Boxes]\r\n1200,600,255,A001,John,\r\n[Lines]\r\n1,2,3,4,5,\r\n[Text]\r\n"
                  "300,150,The Smiths,Arial,8,0,\r\n");
 
-    ReadMapFile(P);
+    ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts);
 
     ExpectLists(u"1200,600,255,A001,John,", u"1,2,3,4,5,", u"300,150,The Smiths,Arial,8,0,");
 }
@@ -43,7 +43,7 @@ TEST_F(MapFileReadTest, SectionNames_AreFoundInAnyCase)
 {
     GivenMapFile("[bOXES]\r\n1,\r\n[LINES]\r\n2,\r\n[text]\r\n3,\r\n");
 
-    ReadMapFile(P);
+    ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts);
 
     ExpectLists(u"1,", u"2,", u"3,");
 }
@@ -52,7 +52,7 @@ TEST_F(MapFileReadTest, AnythingBeforeTheBoxes_IsPassedOver)
 {
     GivenMapFile("[Lines]9,[Text]9,[Box][Boxe s]\r\n\r\nBoxes]9,[Boxes]1,[Lines]2,[Text]3,");
 
-    ReadMapFile(P);
+    ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts);
 
     ExpectLists(u"1,", u"2,", u"3,");
 }
@@ -63,7 +63,7 @@ TEST_F(MapFileReadTest, MismatchInTheName_RestartsAtTheNextCharacter)
     GivenMapFile("[[Boxes]9,[Lines]9,[Text]9,");
     ExpectWarning(u"Config Box Record empty");
 
-    ReadMapFile(P);
+    ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts);
 
     ExpectLists(u"", u"", u"");
 }
@@ -72,7 +72,7 @@ TEST_F(MapFileReadTest, LineEndsWithinLists_AreLeftOut)
 {
     GivenMapFile("[Boxes]\r\n1,\r2,\n3,\r\n[Lines]\n4,\r\n\r\n5,[Text]6\r\n7,\n");
 
-    ReadMapFile(P);
+    ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts);
 
     ExpectLists(u"1,2,3,", u"4,5,", u"67,");
 }
@@ -81,7 +81,7 @@ TEST_F(MapFileReadTest, BracketInAText_IsPartOfIt)
 {
     GivenMapFile("[Boxes]1,[Lines]2,[Text]3,4,[sic] [Boxes] [Lines],");
 
-    ReadMapFile(P);
+    ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts);
 
     ExpectLists(u"1,", u"2,", u"3,4,[sic] [Boxes] [Lines],");
 }
@@ -91,7 +91,7 @@ TEST_F(MapFileReadTest, BracketInAForename_EndsTheBoxes)
     GivenMapFile("[Boxes]1,2,3,A001,Jo[hn,[Lines]2,[Text]3,");
     ExpectWarning(u"Config Line Record empty");
 
-    ReadMapFile(P);
+    ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts);
 
     ExpectLists(u"1,2,3,A001,Jo", u"", u"");
 }
@@ -101,7 +101,7 @@ TEST_F(MapFileReadTest, WrongNameAfterTheBoxes_LeavesTheLinesUnread)
     GivenMapFile("[Boxes]1,[Linen]2,[Text]3,");
     ExpectWarning(u"Config Line Record empty");
 
-    ReadMapFile(P);
+    ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts);
 
     ExpectLists(u"1,", u"", u"");
 }
@@ -110,7 +110,7 @@ TEST_F(MapFileReadTest, WrongNameAfterTheBoxes_BoxesThatFollowAreReadInstead)
 {
     GivenMapFile("[Boxes]1,[Linen]2,[Boxes]11,[Lines]12,[Text]13,");
 
-    ReadMapFile(P);
+    ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts);
 
     ExpectLists(u"11,", u"12,", u"13,");
 }
@@ -120,7 +120,7 @@ TEST_F(MapFileReadTest, WrongNameAfterTheLines_LeavesTheTextsUnread)
     GivenMapFile("[Boxes]1,[Lines]2,[Texts]3,");
     ExpectWarning(u"Config Text Record empty");
 
-    ReadMapFile(P);
+    ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts);
 
     ExpectLists(u"1,", u"2,", u"");
 }
@@ -129,7 +129,7 @@ TEST_F(MapFileReadTest, WrongNameAfterTheLines_WholeMapThatFollowsIsReadInstead)
 {
     GivenMapFile("[Boxes]1,[Lines]2,[Tex][Boxes]11,[Lines]12,[Text]13,");
 
-    ReadMapFile(P);
+    ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts);
 
     ExpectLists(u"11,", u"12,", u"13,");
 }
@@ -140,7 +140,7 @@ TEST_F(MapFileReadTest, SectionThatIsNotReached_KeepsItsList)
     P.Map.sTextsText = u"texts"_s;
     GivenMapFile("[Boxes]1,[Linen]2,");
 
-    ReadMapFile(P);
+    ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts);
 
     ExpectLists(u"1,", u"lines", u"texts");
 }
@@ -154,7 +154,7 @@ TEST_F(MapFileReadTest, MissingFile_Tells_AndLeavesTheListsAsTheyWere)
     Prompts.Expect(u"Graphic Config File not Found.", u"You need to create a new Ancestral Map for this Database.",
                    Buttons::Information);
 
-    ReadMapFile(P);
+    ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts);
 
     ExpectLists(u"boxes", u"lines", u"texts");
 }
@@ -166,7 +166,7 @@ TEST_F(MapFileReadTest, DirectoryOfThatName_IsNoMap)
     Prompts.Expect(u"Graphic Config File not Found.", u"You need to create a new Ancestral Map for this Database.",
                    Buttons::Information);
 
-    ReadMapFile(P);
+    ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts);
 
     ExpectLists(u"", u"", u"");
 }
@@ -176,7 +176,7 @@ TEST_F(MapFileReadTest, NameSpeltInAnotherCase_IsFound)
     P.Files.Kill(Home.Path(u"LfgDat_A/LfgDat_A.cfg"));
     Home.WriteFile(u"LfgDat_A/LFGDAT_a.CFG", "[Boxes]1,[Lines]2,[Text]3,");
 
-    ReadMapFile(P);
+    ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts);
 
     ExpectLists(u"1,", u"2,", u"3,");
 }
@@ -185,7 +185,7 @@ TEST_F(MapFileReadTest, MapThatWasRead_BelongsToTheBranch)
 {
     P.Map.Owner.clear();
 
-    ReadMapFile(P);
+    ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts);
 
     EXPECT_EQ(P.Map.Owner, P.Branch.WorkDir);
 }
@@ -194,7 +194,7 @@ TEST_F(MapFileReadTest, MapOfAnOlderInstallation_KeepsItsAccents)
 {
     GivenMapFile("[Boxes]1,2,3,A001,Andr\xE9,[Lines]2,[Text]3,");
 
-    ReadMapFile(P);
+    ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts);
 
     EXPECT_EQ(P.Map.sBoxesText, u"1,2,3,A001,André,"_s);
 }
@@ -221,7 +221,7 @@ TEST_P(EmptyListTest, FirstEmptyListAlone_IsToldOf)
     if (!GetParam().Warning.isEmpty())
         ExpectWarning(GetParam().Warning);
 
-    ReadMapFile(P);
+    ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts);
 
     ExpectLists(GetParam().Boxes, GetParam().Lines, GetParam().Texts);
 }
@@ -239,7 +239,7 @@ TEST_F(MapFileReadTest, CutOffInTheBoxes_IsInputPastEnd_WithWhatWasThere)
 {
     GivenMapFile("[Boxes]\r\n1200,600,");
 
-    EXPECT_EQ(RefusalOf([&] { ReadMapFile(P); }), ErrorNumber::InputPastEnd);
+    EXPECT_EQ(RefusalOf([&] { ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts); }), ErrorNumber::InputPastEnd);
 
     ExpectLists(u"1200,600,", u"", u"");
 }
@@ -248,7 +248,7 @@ TEST_F(MapFileReadTest, CutOffInTheLines_IsInputPastEnd_WithWhatWasThere)
 {
     GivenMapFile("[Boxes]\r\n1200,600,\r\n[Lines]\r\n1,2,");
 
-    EXPECT_EQ(RefusalOf([&] { ReadMapFile(P); }), ErrorNumber::InputPastEnd);
+    EXPECT_EQ(RefusalOf([&] { ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts); }), ErrorNumber::InputPastEnd);
 
     ExpectLists(u"1200,600,", u"1,2,", u"");
 }
@@ -257,7 +257,7 @@ TEST_F(MapFileReadTest, CutOffInTheTexts_IsNoFailure)
 {
     GivenMapFile("[Boxes]1,[Lines]2,[Text]300,15");
 
-    ReadMapFile(P);
+    ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts);
 
     ExpectLists(u"1,", u"2,", u"300,15");
 }

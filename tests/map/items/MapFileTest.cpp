@@ -65,7 +65,7 @@ TEST_F(MapFileTest, WrittenMap_IsEightLines_ByteForByte)
     P.Map.sLinesText = u"1507,817,2307,817,0,"_s;
     P.Map.sTextsText = u"300,150,The Smiths,Arial,8,0,"_s;
 
-    WriteMapFile(P);
+    WriteMapFile(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(Home.ReadFile(u"LfgDat_A/LfgDat_A.cfg"),
               QByteArray("This File Contains Graphic Data crucial to your program. Warning: DO NOT MODIFY.\r\n"
@@ -83,7 +83,7 @@ TEST_F(MapFileTest, WrittenMap_LongList_StaysOnOneLine)
     GivenOpen(BranchA);
     P.Map.sBoxesText = u"1200,600,255,A001,John,"_s.repeated(1000);
 
-    WriteMapFile(P);
+    WriteMapFile(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(Home.ReadFile(u"LfgDat_A/LfgDat_A.cfg").count('\n'), 8);
 }
@@ -92,10 +92,10 @@ TEST_F(MapFileTest, OrdinaryBranch_IsWrittenWhereItIsRead)
 {
     GivenOpen(BranchA);
     GivenLists();
-    WriteMapFile(P);
+    WriteMapFile(P.Map, P.Branch, P.Files);
     P.Map.EraseLists();
 
-    ReadMapFile(P);
+    ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts);
 
     EXPECT_EQ(P.Map.sBoxesText, u"1200,600,255,A001,John,"_s);
     EXPECT_EQ(P.Map.sLinesText, u"1507,817,2307,817,0,"_s);
@@ -109,13 +109,13 @@ TEST_F(MapFileTest, ImportedBranch_IsWrittenBesideTheFileThatCameWithIt_SoThatCh
     const QByteArray imported = Home.ReadFile(u"Import_A/LfgDat_A.cfg");
     GivenLists();
 
-    WriteMapFile(P);
+    WriteMapFile(P.Map, P.Branch, P.Files);
     EXPECT_EQ(Home.ReadFile(u"Import_A/LfgDat_A.cfg"), imported);
     EXPECT_EQ(Home.ReadFile(u"Import_A/Import_A.cfg"),
               MapFileBytes(u"Import_A", u"1200,600,255,A001,John,", u"1507,817,2307,817,0,",
                            u"300,150,The Smiths,Arial,8,0,"));
 
-    ReadMapFile(P);
+    ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts);
     EXPECT_EQ(P.Map.sBoxesText, u"900,900,0,A009,Anne,"_s);
 }
 
@@ -123,12 +123,12 @@ TEST_F(MapFileTest, ImportedBranch_KeepsItsOwnPreviousGeneration)
 {
     GivenOpen(BranchA.InDirectory(u"Import_A"));
     GivenLists();
-    WriteMapFile(P);
+    WriteMapFile(P.Map, P.Branch, P.Files);
     const QByteArray first = Home.ReadFile(u"Import_A/Import_A.cfg");
     EXPECT_FALSE(Home.Exists(u"Import_A/Import_A.~cf"));
 
     P.Map.sBoxesText = u"1500,900,0,0,,"_s;
-    WriteMapFile(P);
+    WriteMapFile(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(Home.ReadFile(u"Import_A/Import_A.~cf"), first);
 }
@@ -138,12 +138,12 @@ TEST_F(MapFileTest, PreviousGeneration_IsOneBack)
     GivenOpen(BranchA);
     GivenLists();
 
-    WriteMapFile(P);
+    WriteMapFile(P.Map, P.Branch, P.Files);
     const QByteArray first = Home.ReadFile(u"LfgDat_A/LfgDat_A.cfg");
     EXPECT_EQ(Home.ReadFile(u"LfgDat_A/LfgDat_A.~cf"), oldMap);
 
     P.Map.sBoxesText = u"1500,900,0,0,,"_s;
-    WriteMapFile(P);
+    WriteMapFile(P.Map, P.Branch, P.Files);
     EXPECT_EQ(Home.ReadFile(u"LfgDat_A/LfgDat_A.~cf"), first);
 }
 
@@ -152,7 +152,7 @@ TEST_F(MapFileTest, PreviousGeneration_FirstMapOfABranch_HasNone)
     GivenOpen(BranchA);
     P.Files.Kill(Home.Path(u"LfgDat_A/LfgDat_A.cfg"));
 
-    WriteMapFile(P);
+    WriteMapFile(P.Map, P.Branch, P.Files);
 
     EXPECT_TRUE(Home.Exists(u"LfgDat_A/LfgDat_A.cfg"));
     EXPECT_FALSE(Home.Exists(u"LfgDat_A/LfgDat_A.~cf"));
@@ -165,13 +165,13 @@ TEST_F(MapFileTest, MapSpeltInAnotherCase_IsTheSameFile)
     Home.WriteFile(u"LfgDat_A/LFGDAT_A.CFG", oldMap);
     GivenLists();
 
-    WriteMapFile(P);
+    WriteMapFile(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(Home.ReadFile(u"LfgDat_A/LfgDat_A.~cf"), oldMap);
     EXPECT_NE(Home.ReadFile(u"LfgDat_A/LFGDAT_A.CFG"), oldMap);
     EXPECT_FALSE(Home.Exists(u"LfgDat_A/LfgDat_A.cfg"));
     P.Map.EraseLists();
-    ReadMapFile(P);
+    ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts);
     EXPECT_EQ(P.Map.sBoxesText, u"1200,600,255,A001,John,"_s);
 }
 
@@ -180,7 +180,7 @@ TEST_F(MapFileTest, NoBranchOpen_WritesNamelessFileInTheHome)
     const Tree before = Home.Snapshot();
     GivenLists();
 
-    WriteMapFile(P);
+    WriteMapFile(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList(u"new: .cfg"_s));
     EXPECT_EQ(Home.ReadFile(u".cfg"),
@@ -191,7 +191,7 @@ TEST_F(MapFileTest, NoBranchOpen_NamelessFileHasNoPreviousGeneration)
 {
     Home.WriteFile(u".cfg", "old");
 
-    SaveBoxes(P);
+    SaveBoxes(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(Home.ReadFile(u".cfg"), MapFileBytes(u"", u"", u"", u""));
     EXPECT_FALSE(Home.Exists(u".~cf"));
@@ -205,7 +205,7 @@ TEST_F(MapFileTest, RecordOfSiblingShown_MapGoesToItsOwnBranch)
     GivenRecordOfSibling();
     const Tree before = Home.Snapshot();
 
-    WriteMapFile(P);
+    WriteMapFile(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(Differences(before, Home.Snapshot()),
               QStringList({u"changed: LfgDat_A/LfgDat_A.cfg"_s, u"new: LfgDat_A/LfgDat_A.~cf"_s}));
@@ -224,7 +224,7 @@ TEST_F(MapFileTest, RecordOfSiblingShown_DirectoriesComeBackWhenTheWriteFails)
     GivenRecordOfSibling();
     Home.MakeReadOnly(u"LfgDat_A/LfgDat_A.cfg");
 
-    EXPECT_EQ(RefusalOf([&] { WriteMapFile(P); }), ErrorNumber::PathFileAccess);
+    EXPECT_EQ(RefusalOf([&] { WriteMapFile(P.Map, P.Branch, P.Files); }), ErrorNumber::PathFileAccess);
 
     EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_B"));
     EXPECT_EQ(P.Branch.HomeDir, u"/elsewhere/"_s);
@@ -240,8 +240,8 @@ TEST_F(MapFileTest, MapOfAnotherBranch_IsLeftOutSilently)
     P.Map.Owner = Home.Path(u"LfgDat_B");
     const Tree before = Home.Snapshot();
 
-    WriteMapFile(P);
-    SaveBoxes(P);
+    WriteMapFile(P.Map, P.Branch, P.Files);
+    SaveBoxes(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
 }
@@ -252,7 +252,7 @@ TEST_F(MapFileTest, MapOfNoBranch_IsLeftOutSilently)
     P.Map.EraseLists();
     const Tree before = Home.Snapshot();
 
-    SaveBoxes(P);
+    SaveBoxes(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
 }
@@ -264,7 +264,7 @@ TEST_F(MapFileTest, MapOfAnotherBranch_RecordOfSiblingShown_IsLeftOutAndDirector
     P.Map.Owner = P.Branch.WorkDir;
     const Tree before = Home.Snapshot();
 
-    SaveBoxes(P);
+    SaveBoxes(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
     EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_B"));
@@ -276,7 +276,7 @@ TEST_F(MapFileTest, ReadOnlyMap_IsReadWithoutComplaint)
     GivenOpen(BranchA.Boxes(u"1200,600,255,A001,John,"));
     Home.MakeReadOnly(u"LfgDat_A/LfgDat_A.cfg");
 
-    ReadMapFile(P);
+    ReadMapFile(P.Map, P.Branch, P.Files, P.Prompts);
 
     EXPECT_EQ(P.Map.sBoxesText, u"1200,600,255,A001,John,"_s);
 }
@@ -288,7 +288,7 @@ TEST_F(MapFileTest, ReadOnlyMap_WriterFailsAndOldMapStaysWhole)
     Home.MakeReadOnly(u"LfgDat_A/LfgDat_A.cfg");
     const Tree before = Home.Snapshot();
 
-    EXPECT_EQ(RefusalOf([&] { WriteMapFile(P); }), ErrorNumber::PathFileAccess);
+    EXPECT_EQ(RefusalOf([&] { WriteMapFile(P.Map, P.Branch, P.Files); }), ErrorNumber::PathFileAccess);
 
     // The previous generation is copied before the old map is in the way.
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList(u"new: LfgDat_A/LfgDat_A.~cf"_s));
@@ -302,7 +302,7 @@ TEST_F(MapFileTest, ReadOnlyDirectory_WriterFailsAndNothingChanges)
     Home.MakeReadOnly(u"LfgDat_A");
     const Tree before = Home.Snapshot();
 
-    EXPECT_EQ(RefusalOf([&] { WriteMapFile(P); }), ErrorNumber::PathFileAccess);
+    EXPECT_EQ(RefusalOf([&] { WriteMapFile(P.Map, P.Branch, P.Files); }), ErrorNumber::PathFileAccess);
 
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
 }
@@ -315,7 +315,7 @@ TEST_F(MapFileTest, PreviousGenerationThatCannotBeReplaced_WriterFailsAndNothing
     Home.MakeReadOnly(u"LfgDat_A/LfgDat_A.~cf");
     const Tree before = Home.Snapshot();
 
-    EXPECT_EQ(RefusalOf([&] { WriteMapFile(P); }), ErrorNumber::PathFileAccess);
+    EXPECT_EQ(RefusalOf([&] { WriteMapFile(P.Map, P.Branch, P.Files); }), ErrorNumber::PathFileAccess);
 
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
 }
@@ -326,7 +326,7 @@ TEST_F(MapFileTest, DirectoryOfTheBranchGone_WriterFails)
     P.Branch.WorkDir = Home.Path(u"LfgDat_Q");
     P.Map.Owner = P.Branch.WorkDir;
 
-    EXPECT_EQ(RefusalOf([&] { WriteMapFile(P); }), ErrorNumber::PathNotFound);
+    EXPECT_EQ(RefusalOf([&] { WriteMapFile(P.Map, P.Branch, P.Files); }), ErrorNumber::PathNotFound);
     EXPECT_FALSE(Home.Exists(u"LfgDat_Q"));
 }
 
@@ -337,7 +337,7 @@ TEST_F(MapFileTest, WriteThatFailsHalfWay_LeavesTheOldMapAndNoRemains)
     const Tree before = Home.Snapshot();
     {
         const FileSizeLimit limit(20000);
-        EXPECT_NE(RefusalOf([&] { WriteMapFile(P); }), 0);
+        EXPECT_NE(RefusalOf([&] { WriteMapFile(P.Map, P.Branch, P.Files); }), 0);
     }
 
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList(u"new: LfgDat_A/LfgDat_A.~cf"_s));
@@ -353,7 +353,7 @@ TEST_F(MapFileTest, SaveBoxes_TakesBoxesFromTheArray_LinesAndTextsAsTheyWereRead
     GivenLine(0, {1, 1}, {2, 2});
     GivenText(0, {1, 1}, u"changed");
 
-    SaveBoxes(P);
+    SaveBoxes(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(P.Map.sBoxesText, u"1200,600,255,A001,John,2000,600,0,A002,,"_s);
     EXPECT_EQ(Home.ReadFile(u"LfgDat_A/LfgDat_A.cfg"),
@@ -367,7 +367,7 @@ TEST_F(MapFileTest, SaveBoxes_BoxWhosePositionIsNoNumber_IsWrittenAsItWasRead)
     OpenMap();
     const QByteArray before = Home.ReadFile(BranchA.MapFile());
 
-    SaveBoxes(P);
+    SaveBoxes(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(Home.ReadFile(BranchA.MapFile()), before);
 }
@@ -378,7 +378,7 @@ TEST_F(MapFileTest, SaveBoxes_ForenameThatWouldBreakTheList_GoesOutWithoutWhatBr
     OpenMap();
     P.Map.BoxArr[0][BoxColumn::Forename] = u"Mary, [Ann]\r\nJane"_s;
 
-    SaveBoxes(P);
+    SaveBoxes(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(P.Map.sBoxesText, u"1200,600,255,A001,Mary Ann]Jane,2000,600,255,A002,Ann,"_s);
     OpenMap();
@@ -393,7 +393,7 @@ TEST_F(MapFileTest, SaveBoxes_NumberThatWouldBreakTheList_GoesOutAsAnEmptyBox)
     for (const QString& number : {u"A,002"_s, u"A[002"_s, u"A002\r"_s, u"\nA002"_s}) {
         P.Map.BoxArr[0][BoxColumn::File] = number;
 
-        SaveBoxes(P);
+        SaveBoxes(P.Map, P.Branch, P.Files);
 
         EXPECT_EQ(P.Map.sBoxesText, u"1200,600,255,0,,2000,600,255,A002,Ann,"_s) << number.toStdString();
     }
@@ -408,7 +408,7 @@ TEST_F(MapFileTest, RoundTrip_FullMap_IsUnchanged)
     const QByteArray before = Home.ReadFile(u"LfgDat_A/LfgDat_A.cfg");
     OpenMap();
 
-    SaveBoxes(P);
+    SaveBoxes(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(Home.ReadFile(u"LfgDat_A/LfgDat_A.cfg"), before);
 }
@@ -417,7 +417,7 @@ TEST_F(MapFileTest, RoundTrip_FreeBox_IsLeftOutAndLaterBoxesMoveUp)
 {
     GivenOpen(BranchA.Boxes(u"1200,600,255,A001,John,0,700,255,A002,Anne,2000,800,255,A003,Mary,"));
     OpenMap();
-    SaveBoxes(P);
+    SaveBoxes(P.Map, P.Branch, P.Files);
     P.Map.EraseLists();
 
     OpenMap();
@@ -432,7 +432,7 @@ TEST_F(MapFileTest, RoundTrip_BoxesBeyondTheHundredth_AreLost)
     OpenMap();
     ASSERT_EQ(P.Map.SBoxes, 102);
 
-    SaveBoxes(P);
+    SaveBoxes(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(P.Map.sBoxesText, u"1200,600,255,0,,"_s.repeated(100));
 }
@@ -443,7 +443,7 @@ TEST_F(MapFileTest, BoxAtXZero_VanishesAtTheNextSave)
     OpenMap();
     P.Map.BoxArr[0][BoxColumn::X] = 0;
 
-    SaveBoxes(P);
+    SaveBoxes(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(Home.ReadFile(u"LfgDat_A/LfgDat_A.cfg"), MapFileBytes(u"LfgDat_A", u"", u"0,0,0,", u"0,0,0,"));
 }
@@ -453,7 +453,7 @@ TEST_F(MapFileTest, MapWithoutTexts_WarnsAtTheNextOpening_AndStillOpens)
     GivenOpen(BranchA.Boxes(u"1200,600,255,0,,").Lines(u"1507,817,2307,817,0,"));
     OpenMap();
     P.Map.sTextsText = ListOfTexts(P.Map);
-    SaveBoxes(P);
+    SaveBoxes(P.Map, P.Branch, P.Files);
     EXPECT_TRUE(Home.ReadFile(u"LfgDat_A/LfgDat_A.cfg").endsWith("\r\n[Text]\r\n\r\n"));
     P.Map.EraseLists();
     Picture.Cls();
@@ -474,7 +474,7 @@ TEST_F(MapFileTest, BranchThatWasOpen_ClosedWithNothingOpen_WritesNoOtherBranch)
     P.Map.EraseLists();
     const Tree before = Home.Snapshot();
 
-    SaveBoxes(P);
+    SaveBoxes(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList(u"new: .cfg"_s));
 }

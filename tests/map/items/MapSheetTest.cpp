@@ -13,7 +13,7 @@ class MapSheetTest : public MapTest
 
 TEST_F(MapSheetTest, OnScreen_ItIsThePicture_TwipForTwip)
 {
-    const MapSheet screen = MapOnScreen(P);
+    const MapSheet screen = MapOnScreen(P.Map, *P.Form1);
 
     EXPECT_EQ(&screen.On, &Picture);
     EXPECT_EQ(screen.At({1000, 500}), (Point{1000, 500}));
@@ -32,7 +32,7 @@ TEST_F(MapSheetTest, OnPaper_ItIsThePage_FurtherRight_AndStretchedDownwards)
 // On paper the lines of a caption lie lower, since the box is higher; below them there is room for the year of birth.
 TEST_F(MapSheetTest, CaptionsOnPaper_LieLower_AndHaveAThirdLine)
 {
-    const MapSheet::CaptionLines screen = MapOnScreen(P).Caption;
+    const MapSheet::CaptionLines screen = MapOnScreen(P.Map, *P.Form1).Caption;
     const MapSheet::CaptionLines paper = MapOnPaper(Page).Caption;
 
     EXPECT_EQ(screen.Number, (Point{100, 0}));
@@ -49,7 +49,7 @@ TEST_F(MapSheetTest, PlaceFarOutside_DoesntOverflow)
 
     EXPECT_GT(MapOnPaper(Page).At({far, far}).Y, 0);
     EXPECT_LT(MapOnPaper(Page).At({-far, -far}).Y, 0);
-    EXPECT_GT(MapOnScreen(P).At({far, far}).X, 0);
+    EXPECT_GT(MapOnScreen(P.Map, *P.Form1).At({far, far}).X, 0);
 }
 
 } // namespace

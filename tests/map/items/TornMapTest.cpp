@@ -42,7 +42,7 @@ protected:
     // As when the branch is opened.
     void Open()
     {
-        ForgetMap(P);
+        ForgetMap(P.Map, P.Mouse, P.Tools);
         DrawBranchMap(P);
     }
 
@@ -58,7 +58,7 @@ TEST_F(MapGenerationTest, WholeMap_BecomesTheGenerationBefore)
     GivenMapFile(whole);
     Open();
 
-    SaveBoxes(P);
+    SaveBoxes(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(Before(), whole);
 }
@@ -69,7 +69,7 @@ TEST_F(MapGenerationTest, MapOfTemplates_BecomesTheGenerationBefore)
     GivenMapFile(fresh);
     Open();
 
-    SaveBoxes(P);
+    SaveBoxes(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(Before(), fresh);
 }
@@ -96,8 +96,8 @@ TEST_P(TornMapTest, IsTold_AndTheGenerationBeforeStays_HoweverOftenItIsSaved)
         ExpectWarning(GetParam().Warning);
 
     Open();
-    SaveBoxes(P);
-    SaveBoxes(P);
+    SaveBoxes(P.Map, P.Branch, P.Files);
+    SaveBoxes(P.Map, P.Branch, P.Files);
 
     Prompts.Verify();
     EXPECT_EQ(Before(), "the map before");
@@ -112,7 +112,7 @@ TEST_P(TornMapTest, AfterAWholeOneHasBeenRead_GenerationsGoOn)
     GivenMapFile(whole);
     Open();
 
-    SaveBoxes(P);
+    SaveBoxes(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(Before(), whole);
 }
@@ -136,8 +136,8 @@ TEST_F(MapGenerationTest, MapThatIsNotThere_TheGenerationBeforeStays)
     GivenNoMapFile();
 
     Open();
-    SaveBoxes(P);
-    SaveBoxes(P);
+    SaveBoxes(P.Map, P.Branch, P.Files);
+    SaveBoxes(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(Before(), "the map before");
 }
@@ -149,8 +149,8 @@ TEST_F(MapGenerationTest, MapThatIsBackWhenItIsSaved_BecomesTheGenerationBefore_
     Open();
     GivenMapFile("the map that was away");
 
-    SaveBoxes(P);
-    SaveBoxes(P);
+    SaveBoxes(P.Map, P.Branch, P.Files);
+    SaveBoxes(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(Before(), "the map that was away");
 }
@@ -160,10 +160,10 @@ TEST_F(MapGenerationTest, MapThatIsNotThere_WithoutAGenerationBefore_HasThoseTha
     GivenNoMapFile();
     P.Files.Kill(Home.Path(beforeIt));
     Open();
-    SaveBoxes(P);
+    SaveBoxes(P.Map, P.Branch, P.Files);
     const QByteArray first = Home.ReadFile(file);
 
-    SaveBoxes(P);
+    SaveBoxes(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(Before(), first);
 }
@@ -175,7 +175,7 @@ TEST_F(MapGenerationTest, MapWithACommaInAText_BecomesTheGenerationBefore)
     GivenMapFile(map);
 
     Open();
-    SaveBoxes(P);
+    SaveBoxes(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(Before(), map);
 }
@@ -186,8 +186,8 @@ TEST_F(MapGenerationTest, MapThatCouldNotBeRead_BecomesTheGenerationBefore_AndSt
     GivenMapFile("whatever there is");
     P.Map.Source = MapSource::Unread;
 
-    SaveBoxes(P);
-    SaveBoxes(P);
+    SaveBoxes(P.Map, P.Branch, P.Files);
+    SaveBoxes(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(Before(), "whatever there is");
 }
@@ -200,8 +200,8 @@ TEST_F(MapGenerationTest, ImportedBranchWhoseMapIsTorn_KeepsWhatItHadWrittenItse
     ExpectWarning(u"Config Line Record empty");
 
     Open();
-    SaveBoxes(P);
-    SaveBoxes(P);
+    SaveBoxes(P.Map, P.Branch, P.Files);
+    SaveBoxes(P.Map, P.Branch, P.Files);
 
     EXPECT_EQ(Home.ReadFile(u"Import_B/Import_B.~cf"), "its own");
 }

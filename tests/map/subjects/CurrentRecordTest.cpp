@@ -170,7 +170,7 @@ TEST_F(CurrentRecordTest, AnotherBranchEntered_ItsToolsKnowNoRecordOfTheOneBefor
     OpenTools();
     Leave(Answer::No);
     BranchB.Row({{u"File", u"B001"}}).Row({{u"File", u"B002"}}).Row({{u"File", u"B003"}}).Boxes(u"1000,500,0,B003,,");
-    ForgetMap(P);
+    ForgetMap(P.Map, P.Mouse, P.Tools);
     GivenOpen(BranchB);
     OpenMap();
     GoBehindTheLastRow();

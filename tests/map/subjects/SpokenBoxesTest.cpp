@@ -23,7 +23,7 @@ protected:
     QStringList Names()
     {
         QStringList names;
-        for (const PicturePart& part : SpokenBoxes(P))
+        for (const PicturePart& part : SpokenBoxes(P.Map, P))
             names += part.SpokenName;
         return names;
     }
@@ -35,7 +35,7 @@ TEST_F(SpokenBoxesTest, ABox_HasNumberAndWholeForename_AndItsPlace)
     GivenBox(0, {1200, 600}, u"A001");
     GivenBox(2, {2400, 900}, u"a002");
 
-    const std::vector<PicturePart> boxes = SpokenBoxes(P);
+    const std::vector<PicturePart> boxes = SpokenBoxes(P.Map, P);
 
     ASSERT_EQ(boxes.size(), 2u);
     EXPECT_EQ(boxes[0].Number, 0);
@@ -118,7 +118,7 @@ TEST_F(SpokenBoxesTest, NeitherTheCursor_NorTheDisk_IsTouched)
     Records(P.Form3).MoveNext();
     const Tree before = Home.Snapshot();
 
-    SpokenBoxes(P);
+    SpokenBoxes(P.Map, P);
 
     EXPECT_EQ(Records(P.Form3).Text(u"File"), u"A002"_s);
     EXPECT_EQ(P.Branch.UsingAlternate, 0);
@@ -127,7 +127,7 @@ TEST_F(SpokenBoxesTest, NeitherTheCursor_NorTheDisk_IsTouched)
 
 TEST_F(SpokenBoxesTest, WithoutABranch_TheBoxesOfTheToolsAreEmpty)
 {
-    EXPECT_TRUE(SpokenBoxes(P).empty());
+    EXPECT_TRUE(SpokenBoxes(P.Map, P).empty());
     GivenBox(0, {1200, 600});
     GivenBox(1, {2400, 600}, u"A001");
     EXPECT_EQ(Names(), QStringList({u"Empty box"_s, u"A001"_s}));

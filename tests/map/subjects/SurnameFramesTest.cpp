@@ -404,7 +404,7 @@ TEST_F(LineageMarksTest, Redraw_LeavesTheFrames)
     P.Map.SBoxes = 6;
     View(u"Smith"_s);
 
-    RedrawMap(P, MapOnScreen(P));
+    RedrawMap(P, MapOnScreen(P.Map, *P.Form1));
 
     ASSERT_EQ(Frames.Count(), 2U);
     EXPECT_EQ(PlaceOf(2), (Point{1960, 660}));

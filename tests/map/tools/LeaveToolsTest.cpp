@@ -269,7 +269,7 @@ TEST_F(LeaveToolsTest, BoxesBeyondRow99_AreLost)
         hundred += u"%1,%2,0,0,,"_s.arg(10 + row % 10 * 700).arg(500 + row / 10 * 300);
     BranchBuilder full(Home, u'C');
     GivenOpen(full.Boxes(hundred));
-    ForgetMap(P);
+    ForgetMap(P.Map, P.Mouse, P.Tools);
     P.Map.Owner = P.Branch.WorkDir;
     OpenMap();
     P.Form1->mnuTreeTools.Click();

@@ -202,7 +202,7 @@ TEST_F(LoneItemTest, ZoneInTheMiddleOfItsDrag_CarriesNothingOfTheNextMap)
     Drag({{500, 500}, {3000, 3000}});
     Press({1000, 1000});
     Move({1100, 1100});
-    ForgetMap(P);
+    ForgetMap(P.Map, P.Mouse, P.Tools);
     OpenMap();
 
     Move({1300, 1300});

@@ -170,7 +170,7 @@ TEST_F(ToolGestureTest, MapGoneBehindTheTools_NothingIsAskedOrWritten)
 {
     GivenTools();
     Choose(ToolSelection::BoxDraw);
-    ForgetMap(P);
+    ForgetMap(P.Map, P.Mouse, P.Tools);
     const Tree before = Home.Snapshot();
 
     P.Form1->mnuEdit.Click();
@@ -184,7 +184,7 @@ TEST_F(ToolGestureTest, MapGoneBehindTheTools_ThePointerIsTheArrowAgain)
 {
     GivenTools();
     Choose(ToolSelection::BoxDraw);
-    ForgetMap(P);
+    ForgetMap(P.Map, P.Mouse, P.Tools);
     ASSERT_EQ(P.Screen.Pointer, MousePointer::Cross);
 
     P.Form1->mnuEdit.Click();
@@ -196,7 +196,7 @@ TEST_F(ToolGestureTest, MapGoneBehindTheTools_ThePointerIsTheArrowAgain)
 TEST_F(ToolGestureTest, MapGoneBehindTheTools_ExitLeavesNoHourglass)
 {
     GivenTools();
-    ForgetMap(P);
+    ForgetMap(P.Map, P.Mouse, P.Tools);
 
     P.Form1->Image8.Click();
 
@@ -207,7 +207,7 @@ TEST_F(ToolGestureTest, MapGoneBehindTheTools_ExitLeavesNoHourglass)
 TEST_F(ToolGestureTest, MapOfNoBranch_CantBeDrawnOn)
 {
     GivenMap();
-    ForgetMap(P);
+    ForgetMap(P.Map, P.Mouse, P.Tools);
     Prompts.Expect(u"DataBase not Opened", u"Cannot Change Tree Map until database\nfile is Opened or begins from New",
                    Buttons::Information);
 

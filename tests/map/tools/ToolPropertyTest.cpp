@@ -136,13 +136,13 @@ protected:
                          u"300,1300,One,Arial,8,0,1800,400,Two,Courier,10,255,1000,2600,Three,Arial,8,0,"));
         P.Branch.WorkDir = workDir_;
         OpenWorkDatabase(P);
-        ForgetMap(P);
+        ForgetMap(P.Map, P.Mouse, P.Tools);
         ReadMap(P);
     }
 
     static void ReadMap(Program& p)
     {
-        ReadMapFile(p);
+        ReadMapFile(p.Map, p.Branch, p.Files, p.Prompts);
         ParseBoxes(p);
         ParseLines(p);
         ParseTexts(p);
@@ -261,7 +261,7 @@ protected:
     // The map that another program finds on disk.
     Arrays OnDisk()
     {
-        ForgetMap(Reader);
+        ForgetMap(Reader.Map, Reader.Mouse, Reader.Tools);
         Reader.Branch.WorkDir = workDir_;
         ReadMap(Reader);
         return Arrays(Reader.Map);

@@ -124,7 +124,7 @@ protected:
 
     void GivenOnTheMap(const Dragged& item)
     {
-        ForgetMap(P);
+        ForgetMap(P.Map, P.Mouse, P.Tools);
         P.Map.SLines = 0;
         GivenLine(0, {7000, 100}, {8000, 100}, Blue);
         for (const std::vector<Point>& run : item.Runs)
@@ -253,7 +253,7 @@ protected:
     // Lines that hang together more often than not, boxes and texts anywhere.
     void GivenAnyMap()
     {
-        ForgetMap(P);
+        ForgetMap(P.Map, P.Mouse, P.Tools);
         P.Map.SLines = Any(3, 30);
         for (int row = 0; row <= P.Map.SLines; ++row) {
             const auto& before = P.Map.LineArr[std::max(0, row - Any(1, 3))];

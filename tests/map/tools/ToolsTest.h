@@ -151,7 +151,7 @@ protected:
     QImage Afresh()
     {
         Picture.Cls();
-        RedrawMap(P, MapOnScreen(P));
+        RedrawMap(P, MapOnScreen(P.Map, *P.Form1));
         return Shown();
     }
     // Whether the picture was, until now, what that gives.
