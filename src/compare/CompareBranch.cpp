@@ -75,7 +75,7 @@ void ShowFirstPair(const Comparison& comparison, const QString& name)
 }
 } // namespace
 
-bool TellIfComparesAlternate(const BranchState& branch, Prompts& prompts)
+bool TellIfComparesSibling(const BranchState& branch, Prompts& prompts)
 {
     return TellIfAlternate(branch, prompts, u"Compare Record Data not available"_s,
                            u"Cannot compare this alternate Tree Branch Database record\n"
@@ -84,7 +84,7 @@ bool TellIfComparesAlternate(const BranchState& branch, Prompts& prompts)
 
 void OpenComparison(const Comparison& comparison, Window<forms::Form1>& mainWindow)
 {
-    if (TellIfComparesAlternate(comparison.Branch, comparison.Prompts) ||
+    if (TellIfComparesSibling(comparison.Branch, comparison.Prompts) ||
         TellIfNoBranch(comparison.Branch, comparison.Form3, comparison.Prompts))
         return;
     if (Records(comparison.Form3).IsEmpty())
@@ -100,7 +100,7 @@ void ReturnToComparison(const Comparison& comparison, Window<forms::Form1>& main
 {
     if (!comparison.Form6.IsLoaded() || !comparison.Form6->Visible)
         return OpenComparison(comparison, mainWindow);
-    if (TellIfComparesAlternate(comparison.Branch, comparison.Prompts))
+    if (TellIfComparesSibling(comparison.Branch, comparison.Prompts))
         return;
     if (HasRecord(comparison, CurrentSide))
         ShowCurrentAgain(comparison);

@@ -7,7 +7,7 @@ namespace lineforge
 {
 
 // Tells that the record of another branch can't be compared; false while the open branch's own is shown.
-[[nodiscard]] bool TellIfComparesAlternate(const BranchState& branch, Prompts& prompts);
+[[nodiscard]] bool TellIfComparesSibling(const BranchState& branch, Prompts& prompts);
 
 // The main window's command: shows the window on the first record of the open branch. Refused with a box on the record
 // of another branch, and on a branch without records.

@@ -7,6 +7,7 @@
 #include "gallery/GalleryTile.h"
 #include "gallery/PageRecord.h"
 #include "program/branch/BranchPaths.h"
+#include "program/ui/BranchUi.h"
 
 #include <algorithm>
 
@@ -131,9 +132,7 @@ void ShowTiles(const GalleryWork& work, const PageFiles& files, int page)
 
 void LoadImageGrid(forms::Form5& form, const Screen& screen)
 {
-    form.Width = screen.Width;
-    form.Height = screen.Height - 500;
-    form.Centre(screen.Area(), 250);
+    FillScreen(form, screen, 500);
     form.Image1[0].Picture = QImage();
     // The last one is never placed, and stands where the first does.
     for (int index = 1; index <= forms::Form5::LastTile; ++index) {

@@ -28,7 +28,7 @@ std::optional<QString> AskDatabase(Prompts& prompts, const QString& title)
     return prompts.OpenFile({title, u"DataBase *.mdb|*.mdb|All Files|*.*|"_s});
 }
 
-bool IsBranchDatabase(const FileSystem& files, Prompts& prompts, const QString& path, const QString& notDatabase)
+bool RequireBranchDatabase(const FileSystem& files, Prompts& prompts, const QString& path, const QString& notDatabase)
 {
     const auto refuse = [&prompts](const QString& title, const QString& text) {
         prompts.MsgBox(title, text, Buttons::Information);

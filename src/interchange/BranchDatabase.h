@@ -20,7 +20,8 @@ class OtherPrograms;
 
 // Whether that can be the database of a branch; tells the user why it can't. `notDatabase` is the text for a file of
 // another kind.
-bool IsBranchDatabase(const FileSystem& files, Prompts& prompts, const QString& path, const QString& notDatabase);
+[[nodiscard]] bool RequireBranchDatabase(const FileSystem& files, Prompts& prompts, const QString& path,
+                                         const QString& notDatabase);
 
 // "LfgDat_X.mdb" of such a path.
 QString DatabaseFile(const QString& path);
@@ -33,7 +34,7 @@ struct DatabaseToCopy {
 };
 // The database at that path; waits for other programs as long as the user wants to, and is refused with 3260, told,
 // when he doesn't.
-DatabaseToCopy TakeDatabase(OtherPrograms& others, const FileSystem& files, const QString& path);
+[[nodiscard]] DatabaseToCopy TakeDatabase(OtherPrograms& others, const FileSystem& files, const QString& path);
 
 // Copies a directory's files, what can't be copied left out; the windows stay painted meanwhile.
 void CopyDirectory(const FileSystem& files, EventLoop& loop, const QString& from, const QString& to);

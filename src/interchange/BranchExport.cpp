@@ -90,7 +90,7 @@ void ChooseExport(const BranchExport& work)
     if (!database)
         return;
     work.State.sExportSource = *database;
-    if (!IsBranchDatabase(work.Files, work.Prompts, *database, u" Must select a database"_s) ||
+    if (!RequireBranchDatabase(work.Files, work.Prompts, *database, u" Must select a database"_s) ||
         TellIfOpen(work.Branch, work.Prompts, *database))
         return;
     work.Form4->Dir1.GoTo(work.Branch.HomeDir);

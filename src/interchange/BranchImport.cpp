@@ -91,7 +91,7 @@ void ImportBranch(Program& p)
 {
     p.Form4.Load(); // whose dialog it is
     const std::optional<QString> chosen = AskDatabase(p.Prompts, u"Select Import Database File"_s);
-    if (!chosen || !IsBranchDatabase(p.Files, p.Prompts, *chosen, u" Must select a database *.mdb file"_s))
+    if (!chosen || !RequireBranchDatabase(p.Files, p.Prompts, *chosen, u" Must select a database *.mdb file"_s))
         return;
     const QString file = DatabaseFile(*chosen);
     const QString letter = file.mid(7, 1);

@@ -21,11 +21,11 @@ public:
     JetText& operator=(const JetText&) = delete;
 
     // Appends the text; false when some of it is no character, which then reads as U+FFFD.
-    bool Append(std::string_view stored, std::string& utf8);
+    [[nodiscard]] bool Append(std::string_view stored, std::string& utf8);
 
 private:
     JetText(const char* encoding, std::size_t unit);
-    bool Convert(std::string_view stored, std::string& utf8);
+    [[nodiscard]] bool Convert(std::string_view stored, std::string& utf8);
     void Flush(std::string& utf8);
 
     iconv_t converter_;

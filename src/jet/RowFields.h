@@ -25,6 +25,6 @@ enum class RowLayout { Jet3, Jet4 };
 
 // Takes a row's bytes apart, field by field as the places tell. Nothing is taken from beyond the row: false when it
 // leads there.
-bool SplitRow(std::string_view row, RowLayout layout, std::span<const FieldPlace> places, Fields& fields);
+[[nodiscard]] bool SplitRow(std::string_view row, RowLayout layout, std::span<const FieldPlace> places, Fields& fields);
 
 } // namespace lineforge::jet

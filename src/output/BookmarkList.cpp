@@ -1,9 +1,9 @@
 #include "output/BookmarkList.h"
 
+#include "output/OpenTextFile.h"
 #include "output/OutputMode.h"
 #include "output/PrintErrors.h"
 #include "output/RecordReport.h"
-#include "output/TextFile.h"
 #include "platform/store/Fields.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/ComeBackAfterwards.h"

@@ -1,9 +1,9 @@
 #include "output/TextReport.h"
 
 #include "output/BookmarkList.h"
+#include "output/OpenTextFile.h"
 #include "output/OutputMode.h"
 #include "output/RecordReport.h"
-#include "output/TextFile.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/ComeBackAfterwards.h"
 #include "program/branch/SiblingBranch.h"

@@ -25,7 +25,7 @@ QString NumberAfter(const QString& last)
 }
 
 // There is no last row to number on from.
-bool IsTableEmpty(const Recordset& records, Prompts& prompts)
+bool TellIfNoRecords(const Recordset& records, Prompts& prompts)
 {
     if (!records.IsEmpty())
         return false;
@@ -60,7 +60,7 @@ void AddRecord(const SubjectPictures& pictures)
     const Answer add = pictures.Prompts.MsgBox(u"New Database Record"_s,
                                                u"Adding a new Record here will not \nbe mapped into the Tree system."_s,
                                                Buttons::InformationOkCancel);
-    if (add != Answer::Ok || IsTableEmpty(Records(pictures.Form3), pictures.Prompts))
+    if (add != Answer::Ok || TellIfNoRecords(Records(pictures.Form3), pictures.Prompts))
         return;
     const QString file = AppendRow(Records(pictures.Form3), pictures.Record);
     const QString picture = SubjectPictureFile(pictures.Branch.WorkDir, file);

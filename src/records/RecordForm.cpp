@@ -101,9 +101,7 @@ void KeepGender(const BoxWork& work)
 void LoadRecordForm(forms::Form3& form, const Screen& screen, Window<forms::Form8>& listOfBranches,
                     const BranchState& branch)
 {
-    form.Width = screen.Width;
-    form.Height = screen.Height - 400;
-    form.Centre(screen.Area(), 200);
+    FillScreen(form, screen, 400);
     form.Caption = listOfBranches->List1.Text() + u" Ancestral Records.";
     // A backup makes the form anew on whatever record is shown.
     if (branch.IsSiblingShown())

@@ -35,6 +35,20 @@ QStringList OdditiesWithoutATest(const Sources& sources, const Sources& tests)
     return findings;
 }
 
+QStringList OdditiesWithoutAReason(const Sources& sources)
+{
+    // Up to the end of the comment, or to the next one of these in it.
+    static const QRegularExpression kept(u"\\bKEPT\\([^)]*\\)(?:(?!KEPT\\().|\\n *//)*"_s);
+    static const QRegularExpression mended(u"\\bMended, "_s);
+    QStringList findings;
+    for (auto source = sources.begin(); source != sources.end(); ++source)
+        for (const auto& match : kept.globalMatch(source.value()))
+            if (!mended.match(match.captured()).hasMatch())
+                findings.push_back(source.key() + u" doesn't tell what mending would change: "_s +
+                                   match.captured().section(u':', 0, 0));
+    return findings;
+}
+
 QStringList WindowsOf(const Sources& sources)
 {
     static const QRegularExpression window(u"^forms/([Ff]orm\\d+)\\.h$"_s);

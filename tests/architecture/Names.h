@@ -9,6 +9,9 @@ namespace lineforge::architecture
 // Comments KEPT(Suite.Name) whose test isn't there, and those that name none: oddities that nobody holds.
 QStringList OdditiesWithoutATest(const Sources& sources, const Sources& tests);
 
+// Comments KEPT(...) that don't go on to say what would be otherwise, were the oddity mended.
+QStringList OdditiesWithoutAReason(const Sources& sources);
+
 // The windows of the program, after the headers in forms/.
 QStringList WindowsOf(const Sources& sources);
 

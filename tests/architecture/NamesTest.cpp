@@ -33,6 +33,11 @@ TEST(NamesTest, EveryOddityThatIsKeptIsHeldByATest)
     EXPECT_EQ(OdditiesWithoutATest(sources, tests), QStringList());
 }
 
+TEST(NamesTest, EveryOddityThatIsKeptTellsWhatMendingItWouldChange)
+{
+    EXPECT_EQ(OdditiesWithoutAReason(ReadSources(root + u"/src"_s)), QStringList());
+}
+
 TEST(NamesTest, EveryWindowThatASourceSpeaksOfIsThere)
 {
     EXPECT_EQ(UnknownWindows(ReadSources(root + u"/src"_s)), QStringList());
@@ -60,6 +65,18 @@ TEST(OdditiesTest, NamedTest_MustBeThere)
     EXPECT_EQ(findings(u"// KEPT(ATest.Hold): so."_s),
               QStringList{u"map/A.cpp is held by no test: KEPT(ATest.Hold)"_s});
     EXPECT_EQ(findings(u"// KEPT: so."_s), QStringList{u"map/A.cpp is held by no test: KEPT"_s});
+}
+
+TEST(OdditiesTest, WhatMendingWouldChange_MustBeTold_InTheSameComment)
+{
+    const auto findings = [](const QString& text) { return OdditiesWithoutAReason({{u"map/A.cpp"_s, text}}); };
+    const QStringList untold{u"map/A.cpp doesn't tell what mending would change: KEPT(ATest.Holds)"_s};
+
+    EXPECT_EQ(findings(u"// Oddly so. KEPT(ATest.Holds): so. Mended, not."_s), QStringList());
+    EXPECT_EQ(findings(u"    // KEPT(ATest.Holds): so\n    // and so.\n    // Mended, not.\nint a;"_s), QStringList());
+    EXPECT_EQ(findings(u"// KEPT(ATest.Holds): so."_s), untold);
+    EXPECT_EQ(findings(u"// KEPT(ATest.Holds): so.\nint a;\n// Mended, not."_s), untold);
+    EXPECT_EQ(findings(u"// KEPT(ATest.Holds): so.\n// KEPT(BTest.Holds): so.\n// Mended, not."_s), untold);
 }
 
 TEST(WindowNamesTest, Name_MustBeThatOfAWindow)

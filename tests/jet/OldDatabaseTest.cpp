@@ -9,6 +9,7 @@ namespace lineforge
 namespace
 {
 
+// What the program does with the databases of older installations, real ones of which stand here.
 class OldDatabaseTest : public OldBranchTest
 {
 };

@@ -1,6 +1,6 @@
+#include "output/OpenTextFile.h"
 #include "output/OutputTest.h"
 #include "output/RecordReport.h"
-#include "output/TextFile.h"
 #include "output/TextReport.h"
 
 #include <QFile>

@@ -608,10 +608,10 @@ TEST_F(RecordScannerTest, RecordOfAnotherBranch_TheScanWaitsForTheReturn)
     EXPECT_EQ(Current(), u"A002"_s);
 }
 
-class AlternateScannerTest : public RecordScannerTest
+class SiblingScannerTest : public RecordScannerTest
 {
 protected:
-    AlternateScannerTest()
+    SiblingScannerTest()
     {
         P.Form3->Hide();
         GivenRecordOfSibling();
@@ -629,7 +629,7 @@ protected:
     const QList<bool> AllOn = QList<bool>(5, true);
 };
 
-TEST_F(AlternateScannerTest, RecordOfAnotherBranch_TurnsAllFiveButtonsOff)
+TEST_F(SiblingScannerTest, RecordOfAnotherBranch_TurnsAllFiveButtonsOff)
 {
     EXPECT_EQ(Enabled(), AllOff);
 
@@ -639,7 +639,7 @@ TEST_F(AlternateScannerTest, RecordOfAnotherBranch_TurnsAllFiveButtonsOff)
     EXPECT_EQ(P.Form3->Label25.Caption.value(), u"B002"_s);
 }
 
-TEST_F(AlternateScannerTest, NothingOnTheFormTurnsThemOnAgain)
+TEST_F(SiblingScannerTest, NothingOnTheFormTurnsThemOnAgain)
 {
     GivenRecordForm();
 
@@ -652,7 +652,7 @@ TEST_F(AlternateScannerTest, NothingOnTheFormTurnsThemOnAgain)
     EXPECT_EQ(Enabled(), AllOff);
 }
 
-TEST_F(AlternateScannerTest, TheReturnToTheOwnBranchOnTheMap_TurnsThemOn)
+TEST_F(SiblingScannerTest, TheReturnToTheOwnBranchOnTheMap_TurnsThemOn)
 {
     GivenRecordForm();
     P.Form3->Command2.Click();

@@ -16,7 +16,7 @@ class OtherPrograms;
 // taken back before. Nothing where there is no database of ours, or one that can't be opened and beside which nothing
 // is kept: its file can be copied like any other. 3260, told, when the user doesn't wait for another program any
 // longer; otherwise as `Statement`.
-std::optional<QByteArray> DatabaseBytes(OtherPrograms& others, const QString& path);
+[[nodiscard]] std::optional<QByteArray> DatabaseBytes(OtherPrograms& others, const QString& path);
 
 // The files beside a database of that name in which the engine keeps changes. To a copy of those bytes they are none.
 QStringList ChangesBeside(const QString& database);

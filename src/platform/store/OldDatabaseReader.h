@@ -16,7 +16,8 @@ QString OldDatabaseReader(const QString& executableDirectory);
 
 // Lets that program read a file, and calls `meanwhile` again and again until it is done. Nothing when it refuses, dies,
 // tells something that is no whole stream, or isn't done in time; it never outlives the call.
-std::optional<JetRows> ReadOldDatabase(const QString& reader, const QString& file, std::chrono::milliseconds patience,
-                                       const std::function<void()>& meanwhile);
+[[nodiscard]] std::optional<JetRows> ReadOldDatabase(const QString& reader, const QString& file,
+                                                     std::chrono::milliseconds patience,
+                                                     const std::function<void()>& meanwhile);
 
 } // namespace lineforge

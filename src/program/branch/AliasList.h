@@ -49,7 +49,8 @@ QString ListedName(const AliasState& alias, const BranchState& branch, const QSt
 
 // A friendly name that no branch has, and that the branch list gives back as it was typed; others are refused and asked
 // for again. Empty for a cancelled question.
-QString AskBranchName(const AliasState& alias, Prompts& prompts, const QString& title, const QString& prompt);
+[[nodiscard]] QString AskBranchName(const AliasState& alias, Prompts& prompts, const QString& title,
+                                    const QString& prompt);
 
 // What a refusal of the disk does to the steps of bringing the registry up to date.
 enum class Refusals {

@@ -14,7 +14,8 @@ namespace lineforge
 void DisableBranchUI(forms::Form1& form);
 void EnableBranchUI(forms::Form1& form);
 
-// As wide as the screen and as high, less the spared twips.
+// As wide as the screen and as high, less the spared twips, half of which it stands above the middle.
+void FillScreen(Form& form, const Screen& screen, int spared);
 // KEPT(GedcomFormTest.Window_IsAsWideAsTheScreen_AndSomewhatLessHigh): placed by the record form's size, not its own.
 // Mended, the window of the GEDCOM file would have another `Top`, and stand where it stands on the screen.
 void FillScreen(Form& form, const Screen& screen, Window<forms::Form3>& recordForm, int spared);

@@ -42,7 +42,7 @@ class HelpBook
 {
 public:
     // Nothing when the file isn't such a bundle or has no contents page.
-    static std::unique_ptr<HelpBook> Open(const QString& path);
+    [[nodiscard]] static std::unique_ptr<HelpBook> Open(const QString& path);
     ~HelpBook();
     HelpBook(const HelpBook&) = delete;
     HelpBook& operator=(const HelpBook&) = delete;

@@ -30,7 +30,9 @@ void CloseBranch(Program& p)
 
     forms::Form1& form = *p.Form1;
     EmptySubjectPanel(*p.Form1, EmptiedBy::CloseBranch);
-    // It is meant to keep its text, whatever has been stored meanwhile.
+    // KEPT(CloseBranchTest.MaidenName_KeepsWhatItShowed_WhereAnotherWasStillPending): it keeps its text, whatever has
+    // been stored meanwhile.
+    // Mended, it would be emptied with its sisters.
     form.Label15.Caption = maidenName;
     form.Picture1.Cls();
     form.Shape1.Visible = false;

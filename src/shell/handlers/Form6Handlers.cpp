@@ -17,7 +17,7 @@ namespace
 Event OnOwnBranch(Program& p, const Event& command)
 {
     return [&p, command] {
-        if (!TellIfComparesAlternate(p.Branch, p.Prompts))
+        if (!TellIfComparesSibling(p.Branch, p.Prompts))
             command();
     };
 }

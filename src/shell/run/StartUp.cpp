@@ -89,9 +89,7 @@ void ChooseSplash(Program& p)
 void LoadMainWindow(Program& p)
 {
     forms::Form1& form = *p.Form1;
-    form.Width = p.Screen.Width;
-    form.Height = p.Screen.Height - 400;
-    form.Centre(p.Screen.Area(), 200);
+    FillScreen(form, p.Screen, 400);
 
     p.Branch.HomeDir = p.FirstHome;
     ReadAliasList(p);

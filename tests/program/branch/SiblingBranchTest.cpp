@@ -14,10 +14,10 @@ namespace
 {
 using namespace Qt::StringLiterals;
 
-class AlternateBranchTest : public ProgramTest
+class SiblingBranchTest : public ProgramTest
 {
 protected:
-    AlternateBranchTest() { WriteAliasList(Home, {}); }
+    SiblingBranchTest() { WriteAliasList(Home, {}); }
 
     void GivenBranch(QChar letter, QStringView prefix = u"LfgDat_")
     {
@@ -43,7 +43,7 @@ protected:
     QString CurrentRecord() { return Records(P.Form3).Text(u"File"); }
 };
 
-TEST_F(AlternateBranchTest, Swap_ExchangesBothDirectoriesWithTheSavedOnes)
+TEST_F(SiblingBranchTest, Swap_ExchangesBothDirectoriesWithTheSavedOnes)
 {
     P.Branch.WorkDir = u"work"_s;
     P.Branch.HomeDir = u"home"_s;
@@ -58,7 +58,7 @@ TEST_F(AlternateBranchTest, Swap_ExchangesBothDirectoriesWithTheSavedOnes)
     EXPECT_EQ(P.Branch.HomeDirSaved, u"home"_s);
 }
 
-TEST_F(AlternateBranchTest, TransportButtons_AreOffUntilTheReturn)
+TEST_F(SiblingBranchTest, TransportButtons_AreOffUntilTheReturn)
 {
     const auto areAll = [this](bool enabled) {
         return std::ranges::all_of(forms::Form3::Transport, [&](Button forms::Form3::*transport) {
@@ -77,7 +77,7 @@ TEST_F(AlternateBranchTest, TransportButtons_AreOffUntilTheReturn)
     EXPECT_TRUE(areAll(true));
 }
 
-TEST_F(AlternateBranchTest, Switching_PointsAtTheSibling_AndSavesTheMapsOwnDirectories)
+TEST_F(SiblingBranchTest, Switching_PointsAtTheSibling_AndSavesTheMapsOwnDirectories)
 {
     GivenBranch(u'A');
     GivenBranch(u'B');
@@ -93,7 +93,7 @@ TEST_F(AlternateBranchTest, Switching_PointsAtTheSibling_AndSavesTheMapsOwnDirec
     EXPECT_EQ(CurrentRecord(), u"B001"_s);
 }
 
-TEST_F(AlternateBranchTest, Switching_LeavesTheMapAsItIs)
+TEST_F(SiblingBranchTest, Switching_LeavesTheMapAsItIs)
 {
     GivenBranch(u'A');
     GivenBranch(u'B');
@@ -107,7 +107,7 @@ TEST_F(AlternateBranchTest, Switching_LeavesTheMapAsItIs)
     EXPECT_EQ(P.Map.sLinesText, u"1,2,3,4,5,"_s);
 }
 
-TEST_F(AlternateBranchTest, Return_ReversesTheSwitch)
+TEST_F(SiblingBranchTest, Return_ReversesTheSwitch)
 {
     GivenBranch(u'A');
     GivenBranch(u'B');
@@ -122,7 +122,7 @@ TEST_F(AlternateBranchTest, Return_ReversesTheSwitch)
     EXPECT_EQ(CurrentRecord(), u"A001"_s);
 }
 
-TEST_F(AlternateBranchTest, ImportedBranch_SwitchesToItsImportedSibling)
+TEST_F(SiblingBranchTest, ImportedBranch_SwitchesToItsImportedSibling)
 {
     GivenBranch(u'A', u"Import_");
     GivenBranch(u'B', u"Import_");
@@ -134,7 +134,7 @@ TEST_F(AlternateBranchTest, ImportedBranch_SwitchesToItsImportedSibling)
     EXPECT_EQ(CurrentRecord(), u"B001"_s);
 }
 
-TEST_F(AlternateBranchTest, SiblingThatIsThere_IsNotTalkedAbout)
+TEST_F(SiblingBranchTest, SiblingThatIsThere_IsNotTalkedAbout)
 {
     GivenBranch(u'A');
     GivenBranch(u'B');
@@ -144,7 +144,7 @@ TEST_F(AlternateBranchTest, SiblingThatIsThere_IsNotTalkedAbout)
     EXPECT_TRUE(RequireSibling(P, u"b"));
 }
 
-TEST_F(AlternateBranchTest, MissingSibling_IsTold_WithThePathItShouldHave)
+TEST_F(SiblingBranchTest, MissingSibling_IsTold_WithThePathItShouldHave)
 {
     GivenBranch(u'A');
     GivenOpenBranch(u"LfgDat_A");
@@ -156,7 +156,7 @@ TEST_F(AlternateBranchTest, MissingSibling_IsTold_WithThePathItShouldHave)
     EXPECT_EQ(P.Branch.UsingAlternate, 0);
 }
 
-TEST_F(AlternateBranchTest, SiblingDirectoryWithoutADatabase_IsMissing)
+TEST_F(SiblingBranchTest, SiblingDirectoryWithoutADatabase_IsMissing)
 {
     GivenBranch(u'A');
     GivenOpenBranch(u"LfgDat_A");
@@ -166,7 +166,7 @@ TEST_F(AlternateBranchTest, SiblingDirectoryWithoutADatabase_IsMissing)
     EXPECT_FALSE(RequireSibling(P, u"B"));
 }
 
-TEST_F(AlternateBranchTest, MissingSiblingOfAnImportedBranch_IsToldInItsOwnWords)
+TEST_F(SiblingBranchTest, MissingSiblingOfAnImportedBranch_IsToldInItsOwnWords)
 {
     GivenBranch(u'A', u"Import_");
     GivenBranch(u'B');

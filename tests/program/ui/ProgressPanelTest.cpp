@@ -7,7 +7,7 @@ namespace lineforge
 namespace
 {
 
-class PanelStepTest : public GedcomTest
+class ProgressPanelTest : public GedcomTest
 {
 protected:
     TextPanel& Shown() { return P.Form12->Picture1; }
@@ -25,7 +25,7 @@ protected:
     }
 };
 
-TEST_F(PanelStepTest, TextFarFromThePanelsEnd_OnlyYields)
+TEST_F(ProgressPanelTest, TextFarFromThePanelsEnd_OnlyYields)
 {
     Print(3);
     EXPECT_EQ(Step(), 1);
@@ -34,7 +34,7 @@ TEST_F(PanelStepTest, TextFarFromThePanelsEnd_OnlyYields)
     EXPECT_EQ(Bar().Max.value(), 8000);
 }
 
-TEST_F(PanelStepTest, TextNearThePanelsEnd_MakesItHigher_AndMovesTheBarByHalfOfThat)
+TEST_F(ProgressPanelTest, TextNearThePanelsEnd_MakesItHigher_AndMovesTheBarByHalfOfThat)
 {
     Print(7000 / TextPanel::LineHeight + 1);
     EXPECT_EQ(Step(), 2);
@@ -43,7 +43,7 @@ TEST_F(PanelStepTest, TextNearThePanelsEnd_MakesItHigher_AndMovesTheBarByHalfOfT
     EXPECT_EQ(Bar().Max.value(), 8500);
 }
 
-TEST_F(PanelStepTest, TextExactlyAThousandFromTheEnd_IsNotYetNear)
+TEST_F(ProgressPanelTest, TextExactlyAThousandFromTheEnd_IsNotYetNear)
 {
     Shown().Height = 1000 + 10 * TextPanel::LineHeight;
     Print(10);
@@ -52,7 +52,7 @@ TEST_F(PanelStepTest, TextExactlyAThousandFromTheEnd_IsNotYetNear)
     EXPECT_EQ(Step(), 2);
 }
 
-TEST_F(PanelStepTest, Bar_MovesThePanelByTwice_AlsoByMillions)
+TEST_F(ProgressPanelTest, Bar_MovesThePanelByTwice_AlsoByMillions)
 {
     for (const int value : {0, 500, 8000, 200'000'000}) {
         Bar().Value = value;
@@ -61,7 +61,7 @@ TEST_F(PanelStepTest, Bar_MovesThePanelByTwice_AlsoByMillions)
     }
 }
 
-TEST_F(PanelStepTest, NewestLine_StaysInView)
+TEST_F(ProgressPanelTest, NewestLine_StaysInView)
 {
     for (int line = 0; line < 2000; ++line) {
         Print(1);
@@ -74,7 +74,7 @@ TEST_F(PanelStepTest, NewestLine_StaysInView)
 }
 
 // The window keeps the height that an earlier run has come to.
-TEST_F(PanelStepTest, InAPanelThatIsHighAlready_TheNewestLineStaysInViewAsWell)
+TEST_F(ProgressPanelTest, InAPanelThatIsHighAlready_TheNewestLineStaysInViewAsWell)
 {
     Shown().Height = 100'000;
     Bar().Max = 50'000;
@@ -90,7 +90,7 @@ TEST_F(PanelStepTest, InAPanelThatIsHighAlready_TheNewestLineStaysInViewAsWell)
 }
 
 // A user who reads while the text comes.
-class ReadingMeanwhileTest : public PanelStepTest
+class ReadingMeanwhileTest : public ProgressPanelTest
 {
 protected:
     ReadingMeanwhileTest() { Run(200); }

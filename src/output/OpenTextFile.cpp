@@ -1,4 +1,4 @@
-#include "output/TextFile.h"
+#include "output/OpenTextFile.h"
 
 namespace lineforge
 {

@@ -1,4 +1,5 @@
 #include "editor/TextFormat.h"
+
 #include "support/Printing.h"
 
 #include <gmock/gmock.h>
@@ -46,7 +47,7 @@ TextForm FormOf(const QByteArray& bytes)
     return formed ? formed->Form : TextForm();
 }
 
-TEST(TextFormTest, Encoding_IsTheOneThatFits)
+TEST(TextFormatTest, Encoding_IsTheOneThatFits)
 {
     EXPECT_EQ(FormOf("plain").Encoding, TextEncoding::Utf8);
     EXPECT_EQ(FormOf("caf\xC3\xA9").Encoding, TextEncoding::Utf8);
@@ -54,17 +55,17 @@ TEST(TextFormTest, Encoding_IsTheOneThatFits)
     EXPECT_EQ(FormOf("caf\xE9").Encoding, TextEncoding::Windows1252);
 }
 
-TEST(TextFormTest, Mark_IsNoPartOfTheText)
+TEST(TextFormatTest, Mark_IsNoPartOfTheText)
 {
     EXPECT_EQ(ReadForm("\xEF\xBB\xBFplain")->Text, u"plain"_s);
 }
 
-TEST(TextFormTest, Windows1252_IsReadWithItsOwnCharacters)
+TEST(TextFormatTest, Windows1252_IsReadWithItsOwnCharacters)
 {
     EXPECT_EQ(ReadForm("\x80 caf\xE9")->Text, u"\u20AC caf\u00E9"_s);
 }
 
-TEST(TextFormTest, LineEnds_AreThoseThatComeFirst)
+TEST(TextFormatTest, LineEnds_AreThoseThatComeFirst)
 {
     EXPECT_EQ(FormOf("a\r\nb\nc").Ends, LineEnds::CrLf);
     EXPECT_EQ(FormOf("a\nb\r\nc").Ends, LineEnds::Lf);
@@ -72,7 +73,7 @@ TEST(TextFormTest, LineEnds_AreThoseThatComeFirst)
     EXPECT_EQ(FormOf("none").Ends, LineEnds::CrLf);
 }
 
-TEST(TextFormTest, MixedLineEnds_AreTold_AndBecomeAlike)
+TEST(TextFormatTest, MixedLineEnds_AreTold_AndBecomeAlike)
 {
     const auto mixed = ReadForm("a\nb\r\nc\rd");
     ASSERT_TRUE(mixed);
@@ -88,14 +89,14 @@ TEST(TextFormTest, MixedLineEnds_AreTold_AndBecomeAlike)
     EXPECT_TRUE(FormOf("a\r\nb\n").HasMixedEnds);
 }
 
-TEST(TextFormTest, ZeroByte_IsNoText)
+TEST(TextFormatTest, ZeroByte_IsNoText)
 {
     EXPECT_FALSE(ReadForm("a\0b"_ba));
     EXPECT_FALSE(ReadForm("\0"_ba));
     EXPECT_FALSE(ReadForm("caf\xE9\0"_ba));
 }
 
-TEST(TextFormTest, CodeThatIsNoCharacter_IsNoText)
+TEST(TextFormatTest, CodeThatIsNoCharacter_IsNoText)
 {
     EXPECT_FALSE(ReadForm("a\xEF\xB7\x90"_ba)); // U+FDD0
     EXPECT_FALSE(ReadForm("a\xEF\xB7\xAF"_ba)); // U+FDEF
@@ -103,12 +104,12 @@ TEST(TextFormTest, CodeThatIsNoCharacter_IsNoText)
     EXPECT_TRUE(ReadForm("a\xEF\xB7\xB0"_ba));
 }
 
-TEST(TextFormTest, NewText_IsUtf8WithCrLf)
+TEST(TextFormatTest, NewText_IsUtf8WithCrLf)
 {
     EXPECT_EQ(WriteForm({u"a\n\u00E9\n"_s, {}}).Bytes, "a\r\n\xC3\xA9\r\n"_ba);
 }
 
-TEST(TextFormTest, TextThatBeginsWithTheMarksCharacter_GetsAMarkBeforeIt)
+TEST(TextFormatTest, TextThatBeginsWithTheMarksCharacter_GetsAMarkBeforeIt)
 {
     for (const TextEncoding encoding : {TextEncoding::Utf8, TextEncoding::Utf8WithMark, TextEncoding::Windows1252}) {
         const FormedBytes written = WriteForm({u"\uFEFFa"_s, {encoding}});
@@ -119,21 +120,21 @@ TEST(TextFormTest, TextThatBeginsWithTheMarksCharacter_GetsAMarkBeforeIt)
     }
 }
 
-TEST(TextFormTest, Windows1252_StaysWhereAllCharactersFit)
+TEST(TextFormatTest, Windows1252_StaysWhereAllCharactersFit)
 {
     const FormedBytes written = WriteForm({u"\u20AC \u00E9\n"_s, {TextEncoding::Windows1252, LineEnds::Lf}});
     EXPECT_EQ(written.Bytes, "\x80 \xE9\n"_ba);
     EXPECT_EQ(written.Form.Encoding, TextEncoding::Windows1252);
 }
 
-TEST(TextFormTest, Windows1252_BecomesUtf8WhereACharacterDoesNotFit)
+TEST(TextFormatTest, Windows1252_BecomesUtf8WhereACharacterDoesNotFit)
 {
     const FormedBytes written = WriteForm({u"\u00E9 \u4E2D"_s, {TextEncoding::Windows1252, LineEnds::Lf}});
     EXPECT_EQ(written.Bytes, "\xC3\xA9 \xE4\xB8\xAD"_ba);
     EXPECT_EQ(written.Form.Encoding, TextEncoding::Utf8);
 }
 
-TEST(TextFormTest, Windows1252_BecomesUtf8WhereItWouldBeReadAsSomethingElse)
+TEST(TextFormatTest, Windows1252_BecomesUtf8WhereItWouldBeReadAsSomethingElse)
 {
     // The two accents alone would be the bytes of another one in UTF-8.
     const FormedText text{u"\u00C3\u00A9"_s, {TextEncoding::Windows1252, LineEnds::Lf}};
