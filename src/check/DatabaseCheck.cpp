@@ -3,6 +3,7 @@
 #include "check/UntouchedDatabase.h"
 #include "platform/base/RuntimeError.h"
 #include "platform/base/Text.h"
+#include "platform/store/DataRef.h"
 #include "platform/store/DatabaseFormat.h"
 #include "platform/store/Fields.h"
 #include "platform/store/JetStreamFormat.h"
@@ -20,7 +21,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-constexpr QStringView appendedLetter = u"Z"; // of records that a comparison has appended to another branch
 
 DatabaseFormat FormatOfFile(const QString& path)
 {
@@ -115,7 +115,7 @@ bool RequireOurs(Home& home, const QString& path)
 
 void ReadRecords(Home& home, const QString& path, Branch& branch)
 {
-    const UntouchedDatabase database(path);
+    const UntouchedDatabase database(path, home.Patience);
     TellDamage(home, path, database);
     if (!RequireTable(home, path, database))
         return;
@@ -124,26 +124,14 @@ void ReadRecords(Home& home, const QString& path, Branch& branch)
         branch.Records = RecordsOf(database, fields);
 }
 
-bool IsDigit(QChar character)
-{
-    return character >= u'0' && character <= u'9';
-}
-
-bool IsNumber(const QString& number)
-{
-    const auto isLetter = [](QChar character) { return character >= u'A' && character <= u'Z'; };
-    return number.size() == 4 && isLetter(number.front().toUpper()) &&
-           std::ranges::all_of(QStringView(number).sliced(1), IsDigit);
-}
-
 // Nothing for a number as it should be.
-QString FaultOf(const QString& number, int times, const QString& letter)
+QString FaultOf(const DataRef& number, int times, const QString& letter)
 {
     if (times > 1)
         return times == 2 ? u"more than one record has this number"_s : QString();
-    if (!IsNumber(number))
+    if (!number.IsWhole())
         return u"the number isn't a letter and three digits"_s;
-    if (!SameText(number.left(1), letter) && !SameText(number.left(1), appendedLetter))
+    if (!number.IsOf(letter) && !number.IsOf(AppendedLetter))
         return u"the number has the letter of another branch"_s;
     return {};
 }
@@ -155,7 +143,7 @@ void CheckNumbers(Home& home, const QString& path, Branch& branch)
         if (record.Number.isEmpty())
             home.Add(Kind::RecordNumber, path, u"the record in row %1 has no number"_s.arg(row));
         else if (const QString fault =
-                     FaultOf(record.Number, ++times[Folded(record.Number)], BranchLetter(branch.Name));
+                     FaultOf(DataRef(record.Number), ++times[Folded(record.Number)], BranchLetter(branch.Name));
                  !fault.isEmpty())
             home.Add(Kind::RecordNumber, path, fault, record.Number);
         ++row;

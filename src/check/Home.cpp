@@ -1,6 +1,7 @@
 #include "check/Home.h"
 
 #include "platform/base/Text.h"
+#include "platform/store/DataRef.h"
 #include "program/branch/BranchPaths.h"
 
 #include <QDir>
@@ -33,11 +34,14 @@ QString InOneLine(QString text)
 // Where the records of that letter are, seen from a branch: in the same family of directories.
 QString SiblingName(const Branch& from, const QString& number)
 {
-    return SiblingDirectory(from.Name, QStringView(number).first(1));
+    return SiblingDirectory(from.Name, DataRef(number).Letter());
 }
 } // namespace
 
-Home::Home(const QString& directory) : Path(WithSeparator(directory)), Files(Path) {}
+Home::Home(const QString& directory, std::chrono::milliseconds patience)
+    : Path(WithSeparator(directory)), Files(Path), Patience(patience)
+{
+}
 
 void Home::Add(Kind kind, const QString& path, const QString& text, const QString& record)
 {

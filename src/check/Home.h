@@ -7,6 +7,7 @@
 #include <QSet>
 
 #include <array>
+#include <chrono>
 #include <optional>
 
 namespace lineforge::check
@@ -34,7 +35,7 @@ struct Branch {
 
 // A home that is being checked.
 struct Home {
-    explicit Home(const QString& directory);
+    Home(const QString& directory, std::chrono::milliseconds patience);
 
     // What stands under an absolute path is wrong so.
     void Add(Kind kind, const QString& path, const QString& text, const QString& record = {});
@@ -61,6 +62,7 @@ struct Home {
 
     const QString Path; // with a trailing separator
     const FileSystem Files;
+    const std::chrono::milliseconds Patience; // with whoever has locked a database
     std::vector<Branch> Branches;
     check::Report Report;
 };

@@ -41,9 +41,9 @@ void CheckBranch(Home& home, Branch& branch)
 }
 } // namespace
 
-Report CheckHome(const QString& directory)
+Report CheckHome(const QString& directory, std::chrono::milliseconds patience)
 {
-    Home home(directory);
+    Home home(directory, patience);
     CheckRegistry(home);
     FindClosed(home);
     auto open = home.Branches | std::views::filter([](const Branch& branch) { return !branch.IsClosed; });

@@ -17,7 +17,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-constexpr int busyMilliseconds = 2000;
 constexpr QStringView changesBeside[] = {u"-journal", u"-wal"};
 
 // In that mode the engine makes files beside a database even to read it.
@@ -49,7 +48,7 @@ void UntouchedDatabase::Closing::operator()(sqlite3* handle) const
     sqlite3_close_v2(handle);
 }
 
-UntouchedDatabase::UntouchedDatabase(const QString& file)
+UntouchedDatabase::UntouchedDatabase(const QString& file, std::chrono::milliseconds patience) : patience_(patience)
 {
     if (QFileInfo::exists(file + u"-wal"))
         OpenCopy(file);
@@ -74,7 +73,7 @@ void UntouchedDatabase::Open(const QString& file, const QByteArray& how)
     handle_.reset(handle);
     if (result != SQLITE_OK)
         throw RuntimeError(ErrorNumber::DatabaseNotFound, file);
-    sqlite3_busy_timeout(handle, busyMilliseconds);
+    sqlite3_busy_timeout(handle, static_cast<int>(patience_.count()));
     // The file may be anybody's: what its schema brings along runs with no rights.
     sqlite3_db_config(handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
     // The engine looks into a file no sooner than it must.

@@ -4,6 +4,7 @@
 
 #include <QTemporaryDir>
 
+#include <chrono>
 #include <memory>
 #include <optional>
 
@@ -15,8 +16,8 @@ namespace lineforge::check
 class UntouchedDatabase
 {
 public:
-    // RuntimeError as `Statement`, and what the disk refuses to the copy.
-    explicit UntouchedDatabase(const QString& file);
+    // Waits that long for whoever has locked it. RuntimeError as `Statement`, and what the disk refuses to the copy.
+    UntouchedDatabase(const QString& file, std::chrono::milliseconds patience);
 
     std::unique_ptr<Statement> Prepare(const QByteArray& sql) const;
 
@@ -29,6 +30,7 @@ private:
     void OpenInPlace(const QString& file);
     void OpenCopy(const QString& file);
 
+    const std::chrono::milliseconds patience_;
     std::optional<QTemporaryDir> copy_;
     std::unique_ptr<sqlite3, Closing> handle_;
 };

@@ -6,7 +6,7 @@
 #include "compare/Sides.h"
 #include "forms/Form6.h"
 #include "platform/base/Number.h"
-#include "platform/base/Text.h"
+#include "platform/store/DataRef.h"
 #include "platform/store/Fields.h"
 #include "program/branch/WorkDatabase.h"
 #include "program/state/RecordFields.h"
@@ -49,11 +49,10 @@ void CopyFields(const Recordset& from, Recordset& to)
 }
 
 // Keeps the number for as long as the window lives, whatever becomes of its record.
-void NoteZNumber(CompareState& state, const QString& file)
+void NoteZNumber(CompareState& state, const DataRef& file)
 {
-    constexpr int digits = 3;
-    if (SameText(file.left(1), u"Z"))
-        Concerning(u"Record "_s + file, [&] { state.ZNumberTable[ToLong(file.right(digits))] = file; });
+    if (file.IsOf(AppendedLetter))
+        Concerning(u"Record "_s + file.Text(), [&] { state.ZNumberTable[ToLong(file.Digits())] = file.Text(); });
 }
 
 // Empty when all are taken.
@@ -61,7 +60,7 @@ QString FreeZNumber(const CompareState& state)
 {
     for (int number = 1; number <= state.ZNumberTable.Last(); ++number)
         if (state.ZNumberTable[number].isEmpty())
-            return u"Z"_s + QString::number(number).rightJustified(3, u'0');
+            return DataRef(AppendedLetter, number).Text();
     return {};
 }
 
@@ -89,7 +88,7 @@ bool PassThroughDestination(const Comparison& comparison, const Direction& way, 
         // KEPT(FieldCopyTest.AppendToCurrent_LooksAtTheFirstCompareRecordForAZ): of the compare record in both
         // directions.
         // Mended, an append to the current branch would pass over the numbers that it meets there.
-        NoteZNumber(comparison.State, CompareRecords(comparison.Form6).Text(Field::File));
+        NoteZNumber(comparison.State, DataRef(CompareRecords(comparison.Form6).Text(Field::File)));
     }
     return true;
 }
@@ -108,7 +107,7 @@ QString NumberStillFree(CompareState& state, const Recordset& to, const std::set
 {
     for (const QString& file : NumbersIn(*to.Afresh()))
         if (!known.contains(file))
-            NoteZNumber(state, file);
+            NoteZNumber(state, DataRef(file));
     return FreeZNumber(state);
 }
 

@@ -4,6 +4,7 @@
 #include "output/OutputMode.h"
 #include "output/PrintErrors.h"
 #include "output/RecordReport.h"
+#include "platform/store/DataRef.h"
 #include "platform/store/Fields.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/ComeBackAfterwards.h"
@@ -61,7 +62,7 @@ void PutOutRecord(const RecordOutput& output, Pairs& pairs)
 bool PutOutRecordOfSibling(const RecordOutput& output, const QString& entry, Pairs& pairs)
 {
     try {
-        SwitchToSibling(output, entry.left(1));
+        SwitchToSibling(output, DataRef(entry).Letter());
     } catch (const RuntimeError& refusal) {
         if (refusal.IsTold)
             throw;
@@ -87,8 +88,9 @@ void PutOutEntries(const RecordOutput& output, Pairs& pairs)
         const QString file = output.Bookmarks.BookmarkList[entry];
         if (Records(output.Form3).Seek(Field::File, file))
             PutOutRecord(output, pairs);
-        else if (!passedOver.contains(file.left(1), Qt::CaseInsensitive) && !PutOutRecordOfSibling(output, file, pairs))
-            passedOver += file.left(1);
+        else if (const QString letter = DataRef(file).Letter();
+                 !passedOver.contains(letter, Qt::CaseInsensitive) && !PutOutRecordOfSibling(output, file, pairs))
+            passedOver += letter;
         meanwhile.KeepPainted();
     }
 }

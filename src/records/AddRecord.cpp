@@ -2,6 +2,7 @@
 
 #include "forms/Form3.h"
 #include "map/subjects/RecordFormPicture.h"
+#include "platform/store/DataRef.h"
 #include "platform/store/Fields.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/ComeBackAfterwards.h"
@@ -15,13 +16,11 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-constexpr qsizetype digits = 3;
-
-// The last row decides, not the highest number; above 999 the number simply grows.
-QString NumberAfter(const QString& last)
+// The last row decides, not the highest number.
+QString NumberAfter(const DataRef& last)
 {
-    const int number = Concerning(u"Record "_s + last, [&] { return ToInteger(last.right(digits)) + 1; });
-    return last.left(1) + QString::number(number).rightJustified(digits, u'0');
+    const int number = Concerning(u"Record "_s + last.Text(), [&] { return ToInteger(last.Digits()) + 1; });
+    return DataRef(last.Letter(), number).Text();
 }
 
 // There is no last row to number on from.
@@ -43,7 +42,7 @@ QString AppendRow(Recordset& records, RecordState& state)
     records.PutWhenWritten(Field::File, [&] {
         const auto all = records.Afresh();
         all->MoveLast();
-        return file = NumberAfter(all->Text(Field::File));
+        return file = NumberAfter(DataRef(all->Text(Field::File)));
     });
     records.Update();
     records.SetBookmark(records.LastModified());

@@ -12,6 +12,7 @@
 #include "map/subjects/SubjectPanel.h"
 #include "map/tools/LeaveTools.h"
 #include "platform/base/Text.h"
+#include "platform/store/DataRef.h"
 #include "platform/store/Fields.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/ComeBackAfterwards.h"
@@ -207,7 +208,7 @@ void TransferRecord(const ToolWork& work, const SubjectPanel& panel)
     const QString picture = PictureFile(work.Branch.WorkDir, source->File);
     QString directory = work.Branch.WorkDir;
     bool isOpen = true;
-    if (const QString letter = destination.first(1); !SameText(letter, source->File.left(1))) {
+    if (const QString letter = DataRef(destination).Letter(); !DataRef(source->File).IsOf(letter)) {
         directory = SiblingDirectory(directory, letter);
         LeaveToolsIfOpen(work);
         isOpen = OpenBranchOf(work, letter);

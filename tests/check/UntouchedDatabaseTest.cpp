@@ -78,7 +78,7 @@ TEST_F(UntouchedDatabaseTest, LockedDatabase_IsToldAsNotLookedAt)
     SqliteFile other(home.Path(database));
     other.Execute("PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE");
 
-    const Report report = CheckHome(home.Path());
+    const Report report = CheckHome(home.Path(), std::chrono::milliseconds(0));
 
     EXPECT_EQ(report.Findings, Found{Of(Kind::Unread, database, u"", u"another program is writing to this database")});
     EXPECT_EQ(VerdictOf(report), Verdict::NotWhole);
