@@ -1,5 +1,8 @@
 #include "gallery/GalleryTest.h"
 
+#include <ostream>
+#include <string>
+
 namespace lineforge
 {
 namespace
@@ -79,23 +82,6 @@ TEST_F(RearrangeTest, FileOfOneDigit_MovesAndSwapsByIt)
     EXPECT_EQ(Page(), QStringList({u"0 A001_01.avi video"_s, u"1 2 empty"_s, u"2 A001_3.wav sound"_s, u"3 4 empty"_s}));
 }
 
-TEST_F(RearrangeTest, LongName_KeepsAllThatFollowsItsSubscript)
-{
-    OpenGallery({u"A001_01 Leeds, 1901 (2).wav"_s, u"A001_03 York.avi"_s});
-    GivenCurrentDirectoryInTheGallery();
-    Drop(0, 1);
-    EXPECT_EQ(FilesInGallery(), QStringList({u"A001_03 York.avi"_s, u"A001_2 Leeds, 1901 (2).wav"_s}));
-}
-
-TEST_F(RearrangeTest, LongNames_ChangePlacesByTheirSubscriptsAlone)
-{
-    OpenGallery({u"A001_01 Leeds.wav"_s, u"A001_12 York Minster.avi"_s});
-    GivenCurrentDirectoryInTheGallery();
-    Drop(0, 11);
-    EXPECT_EQ(FilesInGallery(), QStringList({u"A001_01 York Minster.avi"_s, u"A001_12 Leeds.wav"_s}));
-    EXPECT_EQ(In(u"A001_12 Leeds.wav"), "A001_01 Leeds.wav");
-}
-
 // A swap is three renames: none of them is done when one of the files isn't there.
 TEST_F(RearrangeTest, SwapWithAFileThatHasGone_RenamesNothing)
 {
@@ -112,44 +98,141 @@ TEST_F(RearrangeTest, SwapWithAFileThatHasGone_RenamesNothing)
     }
 }
 
-TEST_F(RearrangeTest, EmptyTileOnAFileWithAPath_BringsTheFileToIt)
+// A gallery in which a tile is dropped on another.
+struct Dropping {
+    QStringList Files;
+    QList<int> WithPaths; // tiles that know the ways to their files; with none the gallery is the current directory
+    int From;
+    int To;
+};
+
+// What the page and the gallery are then.
+struct Rearranged {
+    QStringList Tiles; // of those up to the trailing one all that aren't empty and named by their own number
+    int Top;
+    QMap<QString, QString> NamesBefore; // of the files that are called otherwise then
+};
+
+struct Move {
+    const char* Name;
+    Dropping Drop;
+    Rearranged After;
+};
+
+void PrintTo(const Move& move, std::ostream* out)
 {
-    OpenGallery({u"A001_01.wav"_s, u"A001_04.txt"_s});
-    GivenWholePathOn(0);
-    Drop(1, 0);
-    EXPECT_EQ(Tile(1).Tag.value(), GalleryPathOf(u"A001_2.wav"));
-    EXPECT_EQ(FilesInGallery(), QStringList({u"A001_04.txt"_s, u"A001_2.wav"_s}));
+    *out << move.Name;
 }
 
-TEST_F(RearrangeTest, FileToTheEmptyTileInAGap_TakesItsSubscriptAsItStands)
+class MoveTest : public RearrangeTest, public testing::WithParamInterface<Move>
 {
-    OpenGallery({u"A001_01.jpg"_s, u"A001_04.txt"_s});
-    GivenCurrentDirectoryInTheGallery();
-    Drop(0, 1);
-    EXPECT_EQ(Page(), QStringList({u"0 01 empty"_s, u"1 A001_2.jpg blue"_s, u"2 3 empty"_s, u"3 A001_04.txt text"_s,
-                                   u"4 5 empty"_s}));
-    EXPECT_EQ(FilesInGallery(), QStringList({u"A001_04.txt"_s, u"A001_2.jpg"_s}));
-    EXPECT_EQ(Top(), 4);
+protected:
+    static QStringList WholePage()
+    {
+        QStringList page;
+        for (int index = 0; index <= GetParam().After.Top; ++index)
+            page << u"%1 %2 empty"_s.arg(index).arg(index + 1);
+        for (const QString& tile : GetParam().After.Tiles)
+            page[tile.section(u' ', 0, 0).toInt()] = tile;
+        return page;
+    }
+
+    QMap<QString, QByteArray> Contents()
+    {
+        QMap<QString, QByteArray> contents;
+        for (const QString& name : FilesInGallery())
+            contents[name] = In(name);
+        return contents;
+    }
+
+    static QMap<QString, QByteArray> ContentsAfter()
+    {
+        const QMap<QString, QString>& before = GetParam().After.NamesBefore;
+        QMap<QString, QByteArray> contents;
+        for (const QString& name : GetParam().Drop.Files)
+            contents[before.key(name, name)] = ContentOf(name);
+        return contents;
+    }
+
+    QStringList TagsWithPaths()
+    {
+        QStringList tags;
+        for (int index = 0; index <= Top(); ++index)
+            if (const QString tag = Tile(index).Tag; tag.contains(PathSeparator))
+                tags << tag;
+        return tags;
+    }
+};
+
+TEST_P(MoveTest, FilesAreRenamed_AndThePageShowsIt)
+{
+    const Dropping& drop = GetParam().Drop;
+    OpenGallery(drop.Files);
+    if (drop.WithPaths.isEmpty())
+        GivenCurrentDirectoryInTheGallery();
+    for (const int tile : drop.WithPaths)
+        GivenWholePathOn(tile);
+
+    Drop(drop.From, drop.To);
+
+    EXPECT_EQ(Page(), WholePage());
+    EXPECT_EQ(Top(), GetParam().After.Top);
+    EXPECT_EQ(TagsWithPaths().size(), drop.WithPaths.size());
+    for (const QString& tag : TagsWithPaths())
+        EXPECT_EQ(tag, GalleryPathOf(tag.section(PathSeparator, -1)));
+    EXPECT_EQ(Contents(), ContentsAfter());
     EXPECT_EQ(P.Screen.Pointer, MousePointer::Default);
 }
 
-TEST_F(RearrangeTest, FileWithAPath_KeepsItsDirectory)
-{
-    OpenGallery({u"A001_01.jpg"_s, u"A001_12.jpg"_s});
-    GivenWholePathOn(0);
-    Drop(0, 10);
-    EXPECT_EQ(Tile(10).Tag.value(), GalleryPathOf(u"A001_11.jpg"));
-    EXPECT_EQ(FilesInGallery(), QStringList({u"A001_11.jpg"_s, u"A001_12.jpg"_s}));
-}
+const Move moves[] = {
+    {"FileToTheEmptyTileInAGap_TakesItsSubscriptAsItStands",
+     {{u"A001_01.jpg"_s, u"A001_04.txt"_s}, {}, 0, 1},
+     {{u"0 01 empty"_s, u"1 A001_2.jpg blue"_s, u"3 A001_04.txt text"_s}, 4, {{u"A001_2.jpg"_s, u"A001_01.jpg"_s}}}},
+    {"EmptyTileOnAFile_BringsTheFileToIt",
+     {{u"A001_01.jpg"_s, u"A001_04.txt"_s}, {}, 1, 0},
+     {{u"0 01 empty"_s, u"1 A001_2.jpg blue"_s, u"3 A001_04.txt text"_s}, 4, {{u"A001_2.jpg"_s, u"A001_01.jpg"_s}}}},
+    {"EmptyTileOnAFileWithAPath_BringsTheFileToIt",
+     {{u"A001_01.wav"_s, u"A001_04.txt"_s}, {0}, 1, 0},
+     {{u"0 01 empty"_s, u"1 A001_2.wav sound"_s, u"3 A001_04.txt text"_s}, 4, {{u"A001_2.wav"_s, u"A001_01.wav"_s}}}},
+    {"FileWithAPath_KeepsItsDirectory",
+     {{u"A001_01.jpg"_s, u"A001_12.jpg"_s}, {0}, 0, 10},
+     {{u"0 01 empty"_s, u"10 A001_11.jpg blue"_s, u"11 A001_12.jpg blue"_s},
+      12,
+      {{u"A001_11.jpg"_s, u"A001_01.jpg"_s}}}},
+    {"LongName_KeepsAllThatFollowsItsSubscript",
+     {{u"A001_01 Leeds, 1901 (2).wav"_s, u"A001_03 York.avi"_s}, {}, 0, 1},
+     {{u"0 01 empty"_s, u"1 A001_2 Leeds, 1901 (2).wav sound"_s, u"2 A001_03 York.avi video"_s},
+      3,
+      {{u"A001_2 Leeds, 1901 (2).wav"_s, u"A001_01 Leeds, 1901 (2).wav"_s}}}},
+    {"FileToTheTrailingTile_BringsANewTrailingTile",
+     {{u"A001_01.jpg"_s, u"A001_02.wav"_s}, {}, 0, 2},
+     {{u"0 01 empty"_s, u"1 A001_02.wav sound"_s, u"2 A001_3.jpg blue"_s}, 3, {{u"A001_3.jpg"_s, u"A001_01.jpg"_s}}}},
+    {"TrailingTileOnAFile_BringsANewTrailingTile",
+     {{u"A001_01.jpg"_s, u"A001_02.wav"_s}, {}, 2, 0},
+     {{u"0 01 empty"_s, u"1 A001_02.wav sound"_s, u"2 A001_3.jpg blue"_s}, 3, {{u"A001_3.jpg"_s, u"A001_01.jpg"_s}}}},
+    {"HighestFileToTheTrailingTile_OnlyMovesUp",
+     {{u"A001_01.jpg"_s, u"A001_02.jpg"_s}, {}, 1, 2},
+     {{u"0 A001_01.jpg blue"_s, u"1 02 empty"_s, u"2 A001_3.jpg blue"_s}, 3, {{u"A001_3.jpg"_s, u"A001_02.jpg"_s}}}},
+    {"FilesOfTwoKinds_ChangePlaces_AndKeepTheirEndings",
+     {{u"A001_01.wav"_s, u"A001_02.txt"_s}, {}, 0, 1},
+     {{u"0 A001_01.txt text"_s, u"1 A001_02.wav sound"_s},
+      2,
+      {{u"A001_01.txt"_s, u"A001_02.txt"_s}, {u"A001_02.wav"_s, u"A001_01.wav"_s}}}},
+    {"FilesWithPaths_ChangePlaces_WhereverTheCurrentDirectoryIs",
+     {{u"A001_01.wav"_s, u"A001_02.avi"_s}, {0, 1}, 1, 0},
+     {{u"0 A001_01.avi video"_s, u"1 A001_02.wav sound"_s},
+      2,
+      {{u"A001_01.avi"_s, u"A001_02.avi"_s}, {u"A001_02.wav"_s, u"A001_01.wav"_s}}}},
+    {"LongNames_ChangePlacesByTheirSubscriptsAlone",
+     {{u"A001_01 Leeds.wav"_s, u"A001_12 York Minster.avi"_s}, {}, 0, 11},
+     {{u"0 A001_01 York Minster.avi video"_s, u"11 A001_12 Leeds.wav sound"_s},
+      12,
+      {{u"A001_01 York Minster.avi"_s, u"A001_12 York Minster.avi"_s},
+       {u"A001_12 Leeds.wav"_s, u"A001_01 Leeds.wav"_s}}}},
+};
 
-TEST_F(RearrangeTest, FileToTheTrailingTile_BringsANewTrailingTile)
-{
-    OpenGallery({u"A001_01.jpg"_s, u"A001_02.wav"_s});
-    GivenCurrentDirectoryInTheGallery();
-    Drop(0, 2);
-    EXPECT_EQ(Page(), QStringList({u"0 01 empty"_s, u"1 A001_02.wav sound"_s, u"2 A001_3.jpg blue"_s, u"3 4 empty"_s}));
-    EXPECT_EQ(Top(), 3);
-}
+INSTANTIATE_TEST_SUITE_P(Moves, MoveTest, testing::ValuesIn(moves),
+                         [](const auto& row) { return std::string(row.param.Name); });
 
 TEST_F(RearrangeTest, HighestFileToAGap_TakesTheTrailingTileAway)
 {
@@ -159,34 +242,6 @@ TEST_F(RearrangeTest, HighestFileToAGap_TakesTheTrailingTileAway)
     EXPECT_EQ(Page(), QStringList({u"0 A001_01.jpg blue"_s, u"1 A001_2.jpg blue"_s, u"2 03 empty"_s}));
     EXPECT_EQ(Top(), 2);
     EXPECT_EQ(Tile(3).Tag.value(), u"4");
-}
-
-TEST_F(RearrangeTest, HighestFileToTheTrailingTile_OnlyMovesUp)
-{
-    OpenGallery({u"A001_01.jpg"_s, u"A001_02.jpg"_s});
-    GivenCurrentDirectoryInTheGallery();
-    Drop(1, 2);
-    EXPECT_EQ(Page(), QStringList({u"0 A001_01.jpg blue"_s, u"1 02 empty"_s, u"2 A001_3.jpg blue"_s, u"3 4 empty"_s}));
-    EXPECT_EQ(Top(), 3);
-}
-
-TEST_F(RearrangeTest, EmptyTileOnAFile_BringsTheFileToIt)
-{
-    OpenGallery({u"A001_01.jpg"_s, u"A001_04.txt"_s});
-    GivenCurrentDirectoryInTheGallery();
-    Drop(1, 0);
-    EXPECT_EQ(Page(), QStringList({u"0 01 empty"_s, u"1 A001_2.jpg blue"_s, u"2 3 empty"_s, u"3 A001_04.txt text"_s,
-                                   u"4 5 empty"_s}));
-    EXPECT_EQ(FilesInGallery(), QStringList({u"A001_04.txt"_s, u"A001_2.jpg"_s}));
-}
-
-TEST_F(RearrangeTest, TrailingTileOnAFile_BringsANewTrailingTile)
-{
-    OpenGallery({u"A001_01.jpg"_s, u"A001_02.wav"_s});
-    GivenCurrentDirectoryInTheGallery();
-    Drop(2, 0);
-    EXPECT_EQ(Page(), QStringList({u"0 01 empty"_s, u"1 A001_02.wav sound"_s, u"2 A001_3.jpg blue"_s, u"3 4 empty"_s}));
-    EXPECT_EQ(Top(), 3);
 }
 
 TEST_F(RearrangeTest, EmptyTileOnTheHighestFile_TakesTheTrailingTileAway_AndLeavesItsTag)
@@ -221,28 +276,6 @@ TEST_F(RearrangeTest, TwoFiles_ChangePlaces)
     EXPECT_EQ(In(u"A001_01.jpg"), PictureBytes(Qt::red));
     EXPECT_EQ(In(u"A001_03.jpg"), PictureBytes(Qt::blue));
     EXPECT_EQ(FilesInGallery(), QStringList({u"A001_01.jpg"_s, u"A001_03.jpg"_s}));
-}
-
-TEST_F(RearrangeTest, FilesOfTwoKinds_KeepTheirEndings)
-{
-    OpenGallery({u"A001_01.wav"_s, u"A001_02.txt"_s});
-    GivenCurrentDirectoryInTheGallery();
-    Drop(0, 1);
-    EXPECT_EQ(Page(), QStringList({u"0 A001_01.txt text"_s, u"1 A001_02.wav sound"_s, u"2 3 empty"_s}));
-    EXPECT_EQ(In(u"A001_01.txt"), "A001_02.txt");
-    EXPECT_EQ(In(u"A001_02.wav"), "A001_01.wav");
-}
-
-TEST_F(RearrangeTest, TwoFilesWithPaths_ChangePlaces_WhereverTheCurrentDirectoryIs)
-{
-    OpenGallery({u"A001_01.wav"_s, u"A001_02.avi"_s});
-    GivenWholePathOn(0);
-    GivenWholePathOn(1);
-    Drop(1, 0);
-    EXPECT_EQ(Tile(0).Tag.value(), GalleryPathOf(u"A001_01.avi"));
-    EXPECT_EQ(Tile(1).Tag.value(), GalleryPathOf(u"A001_02.wav"));
-    EXPECT_EQ(In(u"A001_01.avi"), "A001_02.avi");
-    EXPECT_EQ(In(u"A001_02.wav"), "A001_01.wav");
 }
 
 TEST_F(RearrangeTest, FileAddedAMomentAgo_MovesFromItsPath)
