@@ -5,10 +5,10 @@
 #include "monkey/Journal.h"
 #include "monkey/Ledger.h"
 #include "monkey/Scratch.h"
-#include "monkey/SessionTime.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/WorkDatabase.h"
 #include "program/state/Program.h"
+#include "support/Clocks.h"
 #include "support/Windows.h"
 
 #include <QColorDialog>

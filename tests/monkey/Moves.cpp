@@ -2,8 +2,8 @@
 
 #include "monkey/Hands.h"
 #include "monkey/Journal.h"
-#include "monkey/SessionTime.h"
 #include "qt/QtPlatform.h"
+#include "support/Clocks.h"
 
 #include <QAbstractScrollArea>
 #include <QAction>

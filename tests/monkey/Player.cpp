@@ -2,9 +2,9 @@
 
 #include "monkey/Journal.h"
 #include "monkey/Scratch.h"
-#include "monkey/SessionTime.h"
 #include "program/state/Program.h"
 #include "qt/QtPlatform.h"
+#include "support/Clocks.h"
 #include "support/Windows.h"
 
 #include <QAbstractEventDispatcher>

@@ -5,12 +5,12 @@
 #include "monkey/Ledger.h"
 #include "monkey/Player.h"
 #include "monkey/Scratch.h"
-#include "monkey/SessionTime.h"
 #include "program/state/Program.h"
 #include "qt/QtPlatform.h"
 #include "shell/handlers/InstallHandlers.h"
 #include "shell/run/RunHandler.h"
 #include "shell/run/StartUp.h"
+#include "support/Clocks.h"
 #include "support/FakeProcesses.h"
 #include "support/Windows.h"
 

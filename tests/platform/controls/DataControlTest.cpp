@@ -1,6 +1,7 @@
 #include "platform/controls/DataControl.h"
 
 #include "platform/base/RuntimeError.h"
+#include "platform/store/OtherPrograms.h"
 #include "platform/store/PeopleTable.h"
 
 #include <memory>
@@ -113,6 +114,7 @@ TEST_F(DataControlTest, RefusedReading_IsTriedAgainAtTheNext)
     GivenOpened({u"Ann"_s, u"Bob"_s});
     data.Records().MoveNext();
     data.Records().Rest();
+    databases.Others().Milliseconds = 0;
     SqliteFile other(home.Path(u"people.db"));
     other.Execute("BEGIN EXCLUSIVE");
 

@@ -1,6 +1,7 @@
 #include "platform/store/Recordset.h"
 
 #include "platform/base/RuntimeError.h"
+#include "platform/store/OtherPrograms.h"
 #include "platform/store/PeopleTable.h"
 
 #include <sqlite3.h>
@@ -471,6 +472,7 @@ TEST_F(RestTest, CursorThatHasStopped_HoldsNothing)
 TEST_F(RestTest, FileLockedBySomebodyElse_RefusesTheUpdate_AndTakesItAfterwards)
 {
     Recordset people = Open();
+    databases.Others().Milliseconds = 0;
     SqliteFile other(FilePath());
     other.Execute("BEGIN IMMEDIATE");
     people.Edit();

@@ -293,7 +293,7 @@ TEST_F(HelpWindowTest, WholeManual_FitsOnASmallScreen)
 {
     OpenHelp(WholeManual);
     Window().resize(800, 600);
-    QTest::qWait(0);
+    QCoreApplication::processEvents();
     EXPECT_EQ(Window().size(), QSize(800, 600));
     for (QTreeWidgetItemIterator entry(&Contents()); *entry; ++entry) {
         emit Contents().itemActivated(*entry, 0);

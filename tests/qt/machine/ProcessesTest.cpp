@@ -3,11 +3,10 @@
 #include "support/Refusal.h"
 #include "support/TemporaryHome.h"
 
-#include <QElapsedTimer>
 #include <QFile>
-#include <QThread>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace lineforge
 {
@@ -26,12 +25,10 @@ TEST_F(ProcessesTest, Program_IsStartedOnTheFile_WithBlanksAndAccentsInBothPaths
     const QString program = Home.WriteFile(u"An Editor.exe", "#!/bin/sh\nprintf '%s' \"$1\" > \"$1.seen\"\n");
     QFile(program).setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     const QString file = Home.WriteFile(u"Été à la mer.txt", "text");
-    EXPECT_GT(Programs.Shell(program, file), 0);
+    // Whoever reads from it waits until the program has written.
+    ASSERT_EQ(mkfifo(QFile::encodeName(file + u".seen").constData(), 0600), 0);
+    ASSERT_GT(Programs.Shell(program, file), 0);
 
-    QElapsedTimer patience;
-    patience.start();
-    while (Home.Snapshot().value(u"Été à la mer.txt.seen"_s).isEmpty() && !patience.hasExpired(30'000))
-        QThread::msleep(5);
     EXPECT_EQ(Home.ReadFile(u"Été à la mer.txt.seen"), file.toUtf8());
 }
 

@@ -1,4 +1,5 @@
 #include "qt/text/TextPanelTest.h"
+#include "support/Clocks.h"
 
 #include <QClipboard>
 #include <QMenu>
@@ -9,6 +10,7 @@ namespace lineforge
 namespace
 {
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 // Selecting with mouse and keyboard, and copying.
 class TextPanelSelectTest : public TextPanelTest
@@ -88,13 +90,20 @@ TEST_F(TextPanelSelectTest, HeldBeyondTheEdge_ScrollsOn)
 {
     GrowTo(100);
     Texts->VScroll1.Value = 0;
+    HeldClocks clocks;
+    const auto pass = [&clocks](std::chrono::milliseconds time) {
+        clocks.LetPass(time);
+        ServeEvents();
+    };
     QTest::mousePress(&View(), Qt::LeftButton, {}, LeftOf(1, 0));
     MoveHeld({20, View().height() + 20});
-    EXPECT_TRUE(QTest::qWaitFor([&] { return Texts->VScroll1.Value > 300; }));
+    for (int turn = 0; turn < 100 && Texts->VScroll1.Value <= 300; ++turn)
+        pass(50ms);
+    EXPECT_GT(Texts->VScroll1.Value, 300);
     EXPECT_GT(View().Selection().Caret.Line, 20);
     QTest::mouseRelease(&View(), Qt::LeftButton, {}, {20, View().height() + 20});
     const int reached = Texts->VScroll1.Value;
-    QTest::qWait(120);
+    pass(1s);
     EXPECT_EQ(Texts->VScroll1.Value.value(), reached);
 }
 

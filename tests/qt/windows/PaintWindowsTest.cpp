@@ -1,6 +1,7 @@
 #include "qt/PaintCounter.h"
 #include "qt/WindowTest.h"
 #include "qt/views/LabelView.h"
+#include "support/Clocks.h"
 
 #include <QMouseEvent>
 #include <QPushButton>
@@ -11,6 +12,7 @@ namespace lineforge
 {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace
 {
@@ -74,8 +76,9 @@ TEST_F(PaintWindowsTest, NoTimerIsServedMeanwhile)
     QStringList served;
     QTimer::singleShot(0, qApp, [&served] { served += u"single shot"_s; });
     Painted->Timer1.Tick = [&served] { served += u"tick"_s; };
+    HeldClocks clocks;
     Painted->Timer1.Enabled = true;
-    QTest::qSleep(5);
+    clocks.LetPass(5ms);
 
     Machine().Loop().PaintWindows();
 
