@@ -36,6 +36,14 @@ constexpr qint64 megabyte = 1024LL * 1024;
 constexpr qint64 largeFile = 50 * megabyte;
 
 constexpr int messageTime = 10'000; // milliseconds
+
+// A text is printed from one page to another: of a list with gaps the toolkit prints all from the first to the last.
+void LeaveOutPageList(const QPrintDialog& dialog)
+{
+    for (const QString& name : {u"pagesRadioButton"_s, u"pagesLineEdit"_s})
+        if (auto* part = dialog.findChild<QWidget*>(name))
+            part->hide();
+}
 } // namespace
 
 EditorWindow::EditorWindow() : area_(new TextArea), findBar_(new FindBar(*area_))
@@ -207,6 +215,7 @@ void EditorWindow::Print()
     QPrintDialog dialog(&printer, this);
     dialog.setWindowTitle(u"Print"_s);
     dialog.setOption(QAbstractPrintDialog::PrintSelection, area_->textCursor().hasSelection());
+    LeaveOutPageList(dialog);
     if (dialog.exec() != QDialog::Accepted)
         return;
     if (printer.outputFormat() == QPrinter::NativeFormat)

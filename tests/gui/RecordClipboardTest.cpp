@@ -78,15 +78,21 @@ protected:
     }
     void ClickInto(const QString& box, int position) { SelectByMouse(box, position, position); }
 
+    // A click that the window hands on: menus look whether the mouse has moved since they came up.
+    static void ClickLikeAUser(const QWidget& widget, QPoint place)
+    {
+        QTest::mouseClick(widget.window()->windowHandle(), Qt::LeftButton, {}, widget.mapTo(widget.window(), place));
+    }
+
     // Opens the Edit menu and chooses, both by the mouse.
     void Choose(const QString& entry)
     {
         auto* bar = ViewOf(*P.Form3).findChild<QMenuBar*>();
         auto& menu = Find<QMenu>(*P.Form3, u"mnuEdit"_s);
-        QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(menu.menuAction()).center());
+        ClickLikeAUser(*bar, bar->actionGeometry(menu.menuAction()).center());
         ASSERT_TRUE(menu.isVisible());
         const QAction& action = Find<QAction>(*P.Form3, entry);
-        QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(const_cast<QAction*>(&action)).center());
+        ClickLikeAUser(menu, menu.actionGeometry(const_cast<QAction*>(&action)).center());
         ServeEvents();
         EXPECT_FALSE(menu.isVisible());
     }

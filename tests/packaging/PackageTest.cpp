@@ -287,6 +287,7 @@ TEST(DebTest, HoldsAHomeForTheLauncherAndWhatADesktopAsksFor)
               u"usr/share/doc/lineforge/changelog.gz"_s,
               u"usr/share/doc/lineforge/copyright"_s,
               u"usr/share/icons/hicolor/scalable/apps/lineforge.svg"_s,
+              u"usr/share/lintian/overrides/lineforge"_s,
               u"usr/share/man/man1/lineforge-check.1.gz"_s,
               u"usr/share/man/man1/lineforge.1.gz"_s,
               u"usr/share/metainfo/technology.tarnwick.lineforge.metainfo.xml"_s};

@@ -485,7 +485,7 @@ class EditorQueueTest : public QueueTest
 protected:
     void Print(const std::function<void(QPrintDialog& dialog)>& set)
     {
-        Home.WriteFile(u"a.txt", "first\n" + QByteArray("\n").repeated(80) + "last\n");
+        Home.WriteFile(u"a.txt", "first\n" + QByteArray("\n").repeated(200) + "last\n");
         EditorWindow editor;
         editor.Open(Home.Path(u"a.txt"));
         const NextDialog next([&set](QDialog& dialog) {
@@ -504,8 +504,29 @@ TEST_F(EditorQueueTest, ReverseOrderOfTheDialog_IsThatOfTheJob)
 {
     Print([](QPrintDialog& dialog) { In<QCheckBox>(dialog, u"reverse"_s).setChecked(true); });
     ASSERT_TRUE(IsPrinted(u"study"));
-    EXPECT_EQ(TextOn(u"study").count(u'\f'), 2);
+    EXPECT_EQ(TextOn(u"study").count(u'\f'), 4);
     EXPECT_LT(TextOn(u"study").indexOf(u"last"), TextOn(u"study").indexOf(u"first"));
+}
+
+TEST_F(EditorQueueTest, PagesFromOneToAnother_AreThoseOfTheJob)
+{
+    Print([](QPrintDialog& dialog) {
+        In<QRadioButton>(dialog, u"printRange"_s).setChecked(true);
+        In<QSpinBox>(dialog, u"from"_s).setValue(2);
+        In<QSpinBox>(dialog, u"to"_s).setValue(3);
+    });
+    ASSERT_TRUE(IsPrinted(u"study"));
+    EXPECT_EQ(TextOn(u"study").count(u'\f'), 2);
+    EXPECT_FALSE(TextOn(u"study").contains(u"first"));
+}
+
+TEST_F(EditorQueueTest, PagesCantBeListed)
+{
+    Print([](QPrintDialog& dialog) {
+        EXPECT_FALSE(In<QRadioButton>(dialog, u"printRange"_s).isHidden());
+        EXPECT_TRUE(In<QRadioButton>(dialog, u"pagesRadioButton"_s).isHidden());
+        EXPECT_TRUE(In<QLineEdit>(dialog, u"pagesLineEdit"_s).isHidden());
+    });
 }
 
 TEST_F(EditorQueueTest, AQueueThatRejects_IsTold)

@@ -8,6 +8,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <utility>
 #include <xcb/xtest.h>
 
 namespace lineforge::tour
@@ -166,7 +167,8 @@ bool Compositor::IsKeptAbove(const ScreenWindow& window) const
 }
 
 // The compositor gives the keyboard to the topmost window, which draws its frame in black as soon as it knows. What is
-// typed before that reaches it too, but what it pops up meanwhile belongs to another window.
+// typed before that reaches it too, but what it pops up meanwhile belongs to another window. Newer toolkits don't draw
+// every frame again that should be, and have had time enough to know.
 bool Compositor::AwaitsKeyboard(const ScreenWindow& window) const
 {
     const std::optional<ScreenWindow> topmost = TopmostWindow();
@@ -175,7 +177,11 @@ bool Compositor::AwaitsKeyboard(const ScreenWindow& window) const
     constexpr int reach = 5; // of the cross, from its middle
     constexpr int nearlyBlack = 64;
     const QRect cross(CrossOf(*topmost) - QPoint(reach, reach), CrossOf(*topmost) + QPoint(reach, reach));
-    return DarkestGrey(Picture(cross)) > nearlyBlack;
+    const xcb_window_t pale = DarkestGrey(Picture(cross)) > nearlyBlack ? topmost->Id : 0;
+    if (std::exchange(pale_, pale) != pale)
+        hasBeenPale_.start();
+    constexpr int longest = 3'000; // milliseconds
+    return pale && !hasBeenPale_.hasExpired(longest);
 }
 
 std::optional<QPoint> Compositor::ClosingCross(const ScreenWindow& window) const

@@ -2,6 +2,8 @@
 
 #include "Display.h"
 
+#include <QElapsedTimer>
+
 namespace lineforge::tour
 {
 
@@ -33,6 +35,9 @@ public:
 
 private:
     void MeetPointer() const;
+
+    mutable xcb_window_t pale_ = 0; // whose frame was drawn as that of a window without the keyboard when last seen
+    mutable QElapsedTimer hasBeenPale_;
 };
 
 } // namespace lineforge::tour

@@ -34,7 +34,7 @@ QRect Inside(const QRect& place)
 // One stretch of rows for each entry or separator.
 std::vector<Stretch> RowsOf(const Tour& tour, const ScreenWindow& popup)
 {
-    constexpr int lettersOfOneLine = 2;
+    constexpr int lettersOfOneLine = 4; // and the line under one of them
     return InkedRows(tour.PictureOf(Inside(popup.Place)), lettersOfOneLine);
 }
 } // namespace

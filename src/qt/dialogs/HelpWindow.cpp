@@ -1,6 +1,7 @@
 #include "qt/dialogs/HelpWindow.h"
 
 #include "qt/dialogs/HelpBook.h"
+#include "qt/style/Desktop.h"
 #include "qt/style/Outlines.h"
 
 #include <QAction>
@@ -71,7 +72,7 @@ HelpWindow::HelpWindow()
     BuildCommands();
     TakeColours();
     const int line = fontMetrics().lineSpacing();
-    resize(QSize(60 * line, 42 * line).boundedTo(screen()->availableSize()));
+    resize(QSize(60 * line, 42 * line).boundedTo(RoomOn(*screen())));
 }
 
 HelpWindow::~HelpWindow() = default;
@@ -88,9 +89,12 @@ void HelpWindow::BuildMiddle()
     auto* middle = new QSplitter;
     middle->addWidget(BuildSide());
     middle->addWidget(browser_);
-    middle->setStretchFactor(1, 1);
-    const int line = fontMetrics().lineSpacing();
-    middle->setSizes({15 * line, 45 * line});
+    constexpr int side = 1;
+    constexpr int page = 3; // so that its pictures have room on a small screen, too
+    middle->setStretchFactor(0, side);
+    middle->setStretchFactor(1, page);
+    const int unit = 15 * fontMetrics().lineSpacing();
+    middle->setSizes({side * unit, page * unit});
     middle->setChildrenCollapsible(false);
     setCentralWidget(middle);
 }

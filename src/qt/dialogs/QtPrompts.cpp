@@ -156,7 +156,7 @@ void WidenFor(const QString& text, QMessageBox& box)
 void Enlarge(QDialog& box, QSize lines)
 {
     const QSize wanted = (lines * box.fontMetrics().lineSpacing()).expandedTo(box.size());
-    box.resize(wanted.boundedTo(box.screen()->availableSize()));
+    box.resize(wanted.boundedTo(RoomOn(*box.screen())));
 }
 } // namespace
 

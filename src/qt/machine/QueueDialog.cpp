@@ -155,8 +155,16 @@ void QueueDialog::ShowProperties()
     }
 }
 
+// Newer toolkits hand a list to the server alone, which would count what the job leaves out.
+void QueueDialog::TakePageList(QPrinter& printer) const
+{
+    if (const QString pages = ListedPages(); !pages.isEmpty())
+        printer.setPageRanges(QPageRanges::fromString(pages));
+}
+
 QueueSetup QueueDialog::Taken(QPrinter& printer) const
 {
+    TakePageList(printer);
     if (printer.outputFormat() != QPrinter::NativeFormat)
         return {};
     QueueSetup setup{printer.printerName(), ServerOptions(printer), ListedPages(), {}};

@@ -37,6 +37,7 @@ private:
     void FollowPageList();
     void ShowPageList();
     QString ListedPages() const;
+    void TakePageList(QPrinter& printer) const;
     void ShowProperties();
 
     QPrintDialog& dialog_;

@@ -115,6 +115,11 @@ QSize RoomFor(QSize answer, QSize screen)
     return answer.height() > screen.height() / 2 ? answer : screen - QSize(0, panelAndTitle);
 }
 
+QSize RoomOn(const QScreen& screen)
+{
+    return RoomFor({}, screen.availableSize());
+}
+
 Scale ScaleForRoom(Size client, QSize room, double dots)
 {
     constexpr int bareStrip = 150; // twips

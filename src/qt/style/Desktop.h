@@ -4,6 +4,7 @@
 
 #include <QSize>
 
+class QScreen;
 class QWidget;
 class QWindow;
 
@@ -19,6 +20,9 @@ QSize GrantedRoom();
 // The same, from what the desktop has answered to a window that nobody sees, and the size of the screen. Some desktops
 // say how large it is only when there is something to be seen: there it is guessed.
 QSize RoomFor(QSize answer, QSize screen);
+
+// How large a window may be on a screen on which others and the desktop's panel have their place.
+QSize RoomOn(const QScreen& screen);
 
 // The scale at which a window with a client area of that size and its menu bar fit into such a room. The bare strip
 // below the lowest control may be cut off: panels that are a little higher than others should make nothing smaller.

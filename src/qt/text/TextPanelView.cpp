@@ -147,6 +147,22 @@ QList<QTextLayout::FormatRange> TextPanelView::MarksOf(const QTextLayout& layout
     return {mark};
 }
 
+// A font may be higher than a line, which its letters seldom are: a mark ends where the next line begins.
+void TextPanelView::DrawText(QPainter& painter, const QTextLayout& layout, QPointF place, qsizetype line) const
+{
+    QList<QTextLayout::FormatRange> marks = MarksOf(layout, line);
+    if (marks.isEmpty())
+        return layout.draw(&painter, place);
+    const int end = TopOf(line + 1);
+    painter.save();
+    painter.setClipRect(0, 0, width(), end);
+    layout.draw(&painter, place, marks);
+    painter.setClipRect(0, end, width(), height() - end);
+    marks.first().format.clearBackground();
+    layout.draw(&painter, place, marks);
+    painter.restore();
+}
+
 void TextPanelView::PaintLine(QPainter& painter, qsizetype line)
 {
     QTextLayout layout;
@@ -154,7 +170,7 @@ void TextPanelView::PaintLine(QPainter& painter, qsizetype line)
     const QPointF place(margin - shift_, TopOf(line));
     const int width = static_cast<int>(std::ceil(layout.lineAt(0).naturalTextWidth()));
     widest_ = std::max(widest_, width);
-    layout.draw(&painter, place, MarksOf(layout, line));
+    DrawText(painter, layout, place, line);
     // The end of a line is selected with the next one's beginning, and shows it where the line is empty.
     if (line >= selection_.First().Line && line < selection_.Last().Line)
         painter.fillRect(QRect(margin - shift_ + width, TopOf(line), fontMetrics().averageCharWidth(),

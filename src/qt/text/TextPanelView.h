@@ -62,6 +62,7 @@ private:
     qsizetype LineAt(int y) const;
     void LayOut(QTextLayout& layout, qsizetype line) const;
     QList<QTextLayout::FormatRange> MarksOf(const QTextLayout& layout, qsizetype line) const;
+    void DrawText(QPainter& painter, const QTextLayout& layout, QPointF place, qsizetype line) const;
     void PaintLine(QPainter& painter, qsizetype line);
     void DrawSelectionTo(QPoint point);
     bool ShiftSidewards(int pixels);

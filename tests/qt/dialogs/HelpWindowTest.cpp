@@ -289,6 +289,18 @@ TEST_F(HelpWindowTest, WholeManual_EveryEntryLeadsToItsPage)
     EXPECT_GT(entries, 100) << "chapters, pages and sections";
 }
 
+TEST_F(HelpWindowTest, LeavesRoomForFrameAndPanel_HoweverLargeTheLetters)
+{
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPixelSize(40);
+    QApplication::setFont(large);
+    OpenHelp(WholeManual);
+    QApplication::setFont(usual);
+    constexpr int frameAndPanel = 80;
+    EXPECT_EQ(Window().height(), Window().screen()->availableSize().height() - frameAndPanel);
+}
+
 TEST_F(HelpWindowTest, WholeManual_FitsOnASmallScreen)
 {
     OpenHelp(WholeManual);
