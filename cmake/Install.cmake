@@ -33,5 +33,4 @@ install_on_system(FILES ${CMAKE_BINARY_DIR}/lineforge-check.link ${CMAKE_INSTALL
 install_on_system(FILES ${CMAKE_BINARY_DIR}/lineforge.1.gz ${CMAKE_INSTALL_MANDIR}/man1)
 install_on_system(FILES ${CMAKE_BINARY_DIR}/lineforge-check.1.gz ${CMAKE_INSTALL_MANDIR}/man1)
 install_on_system(FILES packaging/copyright ${CMAKE_INSTALL_DATADIR}/doc/lineforge)
-install_on_system(FILES packaging/lintian-overrides ${CMAKE_INSTALL_DATADIR}/lintian/overrides RENAME lineforge)
 install_on_system(FILES ${CMAKE_BINARY_DIR}/changelog.gz ${CMAKE_INSTALL_DATADIR}/doc/lineforge)

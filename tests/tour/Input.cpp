@@ -6,6 +6,7 @@
 #include <QThread>
 
 #include <cstdlib>
+#include <utility>
 #include <xcb/xtest.h>
 
 namespace lineforge::tour
@@ -78,14 +79,20 @@ void Input::Drag(QPoint from, QPoint to, std::initializer_list<Key> held)
 
 void Input::Type(const QString& text)
 {
+    // The list that comes up under a name takes the keyboard while it comes.
+    constexpr std::uint32_t untilTheListIsThere = 200; // milliseconds
     const xcb_keycode_t shift = keyboard_.CodeOf(Key::Shift);
+    QChar before;
     for (const QChar character : text) {
+        const std::uint32_t wait = std::exchange(before, character) == u'/' ? untilTheListIsThere : 0;
         const Keyboard::Stroke stroke = keyboard_.StrokeOf(character);
-        if (stroke.WithShift)
-            Send(XCB_KEY_PRESS, shift);
-        Tap(stroke.Code);
-        if (stroke.WithShift)
+        Fake(display_, XCB_KEY_PRESS, stroke.WithShift ? shift : stroke.Code, wait);
+        if (stroke.WithShift) {
+            Tap(stroke.Code);
             Send(XCB_KEY_RELEASE, shift);
+        } else {
+            Send(XCB_KEY_RELEASE, stroke.Code);
+        }
     }
     Arrive();
 }

@@ -31,11 +31,15 @@ QRect Inside(const QRect& place)
     return place.adjusted(border, border, -border, -border);
 }
 
-// One stretch of rows for each entry or separator.
-std::vector<Stretch> RowsOf(const Tour& tour, const ScreenWindow& popup)
+// One stretch of rows for each entry or separator; none while the menu isn't to be seen. How far a letter is from the
+// line under it, is the font's matter.
+std::vector<Stretch> RowsOf(const Tour& tour, const ScreenWindow& popup, const MenuItem& menu)
 {
-    constexpr int lettersOfOneLine = 4; // and the line under one of them
-    return InkedRows(tour.PictureOf(Inside(popup.Place)), lettersOfOneLine);
+    const QImage picture = tour.PictureOf(Inside(popup.Place));
+    for (const int gap : {2, 3, 4})
+        if (std::vector<Stretch> rows = InkedRows(picture, gap); rows.size() == menu.Items.size())
+            return rows;
+    return {};
 }
 } // namespace
 
@@ -74,7 +78,7 @@ ScreenWindow AwaitMenu(Tour& tour, const MenuItem& menu)
     std::vector<ScreenWindow> popups;
     tour.Await(u"the menu \"%1\""_s.arg(Plain(menu)), [&] {
         popups = tour.Screen.Popups();
-        return popups.size() == 1 && RowsOf(tour, popups.front()).size() == menu.Items.size();
+        return popups.size() == 1 && !RowsOf(tour, popups.front(), menu).empty();
     });
     return popups.front();
 }
@@ -87,8 +91,8 @@ ScreenWindow OpenMenu(Tour& tour, const MenuItem& menu)
 
 QRect PlaceInMenu(Tour& tour, const ScreenWindow& popup, const MenuItem& menu, const MenuItem& entry)
 {
-    const std::vector<Stretch> rows = RowsOf(tour, popup);
-    Expect(rows.size() == menu.Items.size(), u"%1 rows in the menu"_s.arg(menu.Items.size()));
+    const std::vector<Stretch> rows = RowsOf(tour, popup, menu);
+    Expect(!rows.empty(), u"%1 rows in the menu"_s.arg(menu.Items.size()));
     const Stretch& row = rows[IndexOf(menu.Items, entry)];
     const QRect inside = Inside(popup.Place);
     return QRect(inside.x(), inside.y() + row.First, inside.width(), row.Length());
@@ -101,7 +105,7 @@ void Choose(Tour& tour, const MenuItem& menu, const MenuItem& submenu, const Men
     std::optional<ScreenWindow> inner;
     tour.Await(u"the menu \"%1\""_s.arg(Plain(submenu)), [&] {
         for (const ScreenWindow& window : tour.Screen.Popups())
-            if (window.Id != popup.Id && RowsOf(tour, window).size() == submenu.Items.size())
+            if (window.Id != popup.Id && !RowsOf(tour, window, submenu).empty())
                 inner = window;
         return inner.has_value();
     });

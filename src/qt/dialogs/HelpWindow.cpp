@@ -81,6 +81,8 @@ void HelpWindow::BuildMiddle()
 {
     Describe(*browser_, u"HelpText"_s, tr("Page"));
     browser_->document()->setDocumentMargin(12);
+    // One that comes with a page takes of its width, which tables notice only when the window changes.
+    browser_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     // Links lead through the manual and nowhere else.
     browser_->setOpenLinks(false);
     connect(browser_, &QTextBrowser::anchorClicked, this, &HelpWindow::GoTo);
