@@ -72,56 +72,56 @@ struct Form1 : Form {
     MenuItem mnuConts{mnuHelp, u"mnuConts", u"Contents"};
     MenuItem MnuAbout{mnuHelp, u"MnuAbout", u"About"};
 
-    PictureBox Picture1{*this, u"Picture1", {0, 0, 8415, 12750}};
-    Shape Shape1{Picture1, u"Shape1", {0, 0, 135, 255}};
+    PictureBox Picture1{*this, u"Picture1", {0, 0, 8415, 12750}}; // the map
+    Shape Shape1{Picture1, u"Shape1", {0, 0, 135, 255}};          // marks the current record's box
     ControlArray<Shape> Shape2{Picture1, u"Shape2", LineageFrame};
-    Shape Shape3{Picture1, u"Shape3", {0, 0, 0, 0}};
-    ScrollBar VScroll1{*this, u"VScroll1", {8400, 0, 255, 7455}, 8000, 100, 1500};
+    Shape Shape3{Picture1, u"Shape3", {0, 0, 0, 0}};                               // the zone that a tool moves
+    ScrollBar VScroll1{*this, u"VScroll1", {8400, 0, 255, 7455}, 8000, 100, 1500}; // moves the map up and down
 
     Button Command5{*this, u"Command5", {8760, 120, 975, 375}, u"Compare"};
     Button Command1{*this, u"Command1", {9840, 120, 975, 375}, u"Records"};
     Button Command2{*this, u"Command2", {10920, 120, 855, 375}, u"Gallery"};
 
     Frame Frame1{*this, u"Frame1", {8760, 720, 3015, 2775}, u"Ref  "};
-    Image Image1{Frame1, u"Image1", {120, 240, 2775, 2415}};
+    Image Image1{Frame1, u"Image1", {120, 240, 2775, 2415}}; // subject picture
 
-    Label Label9{*this, u"Label9", {8760, 3570, 3015, 285}};
-    Label Label10{*this, u"Label10", {8760, 3855, 3015, 285}};
+    Label Label9{*this, u"Label9", {8760, 3570, 3015, 285}};   // forenames
+    Label Label10{*this, u"Label10", {8760, 3855, 3015, 285}}; // surname
     Label Label2{*this, u"Label2", {8760, 4200, 1125, 255}, u"Birthdate"};
-    Label Label11{*this, u"Label11", {9930, 4200, 1845, 255}};
+    Label Label11{*this, u"Label11", {9930, 4200, 1845, 255}}; // date of birth
     Label Label3{*this, u"Label3", {8760, 4470, 1125, 255}, u"Deceased"};
-    Label Label12{*this, u"Label12", {9930, 4470, 1845, 255}};
+    Label Label12{*this, u"Label12", {9930, 4470, 1845, 255}}; // death
     Label Label4{*this, u"Label4", {8760, 4740, 1125, 255}, u"Spouse"};
-    Label Label14{*this, u"Label14", {9930, 4740, 1845, 255}};
+    Label Label14{*this, u"Label14", {9930, 4740, 1845, 255}}; // spouse
     Label Label13{*this, u"Label13", {8760, 5010, 1125, 255}, u"Maiden Name"};
-    Label Label15{*this, u"Label15", {9930, 5010, 1845, 255}};
+    Label Label15{*this, u"Label15", {9930, 5010, 1845, 255}}; // maiden name
     Label Label16{*this, u"Label16", {8760, 5280, 1125, 255}, u"Gender"};
-    Label Label17{*this, u"Label17", {9930, 5280, 1845, 255}};
+    Label Label17{*this, u"Label17", {9930, 5280, 1845, 255}}; // gender
 
     Frame Frame2{*this, u"Frame2", {8760, 5610, 3015, 930}, u"Tree Co-ordinates"};
     Label Label6{Frame2, u"Label6", {120, 255, 1125, 240}, u"Reference"};
-    TextBox Text8{Frame2, u"Text8", {120, 510, 1125, 315}};
+    TextBox Text8{Frame2, u"Text8", {120, 510, 1125, 315}}; // corner of a box around the pointer
     Label Label7{Frame2, u"Label7", {1350, 255, 720, 240}, u"Mouse 'X'"};
-    TextBox Text9{Frame2, u"Text9", {1350, 510, 720, 315}};
+    TextBox Text9{Frame2, u"Text9", {1350, 510, 720, 315}}; // the pointer on the map, across
     Label Label8{Frame2, u"Label8", {2175, 255, 720, 240}, u"Mouse 'Y'"};
-    TextBox Text10{Frame2, u"Text10", {2175, 510, 720, 315}};
+    TextBox Text10{Frame2, u"Text10", {2175, 510, 720, 315}}; // and down
 
     Frame Frame3{*this, u"Frame3", {8760, 6600, 3015, 735}, u"Heredity Lineage Indicater"};
     Label Label18{Frame3, u"Label18", {120, 330, 765, 240}, u"Surname :"};
-    TextBox Text1{Frame3, u"Text1", {885, 300, 930, 315}};
+    TextBox Text1{Frame3, u"Text1", {885, 300, 930, 315}}; // whose lineage is viewed
     Button Command3{Frame3, u"Command3", {1860, 300, 525, 315}, u"View"};
     Button Command4{Frame3, u"Command4", {2400, 300, 525, 315}, u"Clear"};
 
     // The drawing tools. Each image has a raised and a sunken face, kept in two images that are never shown.
     Frame Frame4{*this, u"Frame4", {8760, 7395, 3015, 600}};
-    Image Image2{Frame4, u"Image2", ToolPlace(0)};
-    Image Image3{Frame4, u"Image3", ToolPlace(1)};
-    Image Image4{Frame4, u"Image4", ToolPlace(2)};
-    Image Image5{Frame4, u"Image5", ToolPlace(3)};
-    Image Image6{Frame4, u"Image6", ToolPlace(4)};
-    Image Image7{Frame4, u"Image7", ToolPlace(5)};
-    Image Image9{Frame4, u"Image9", ToolPlace(6)};
-    Image Image8{Frame4, u"Image8", ToolPlace(7)};
+    Image Image2{Frame4, u"Image2", ToolPlace(0)}; // moves what is in a zone
+    Image Image3{Frame4, u"Image3", ToolPlace(1)}; // colour of lines, boxes and texts
+    Image Image4{Frame4, u"Image4", ToolPlace(2)}; // font of texts
+    Image Image5{Frame4, u"Image5", ToolPlace(3)}; // deletes
+    Image Image6{Frame4, u"Image6", ToolPlace(4)}; // draws lines
+    Image Image7{Frame4, u"Image7", ToolPlace(5)}; // draws boxes
+    Image Image9{Frame4, u"Image9", ToolPlace(6)}; // writes texts
+    Image Image8{Frame4, u"Image8", ToolPlace(7)}; // leaves the tools
     Image Image10{Frame4, u"Image10", {}};
     Image Image11{Frame4, u"Image11", {}};
     Image Image12{Frame4, u"Image12", {}};
@@ -141,7 +141,7 @@ struct Form1 : Form {
 
     CommonDialog CommonDialog1;
 
-    MultimediaControl MMControl1{*this, u"MMControl1"};
+    MultimediaControl MMControl1{*this, u"MMControl1"}; // clicks
 
     // The tool images in the order in which they stand.
     struct ToolImage {

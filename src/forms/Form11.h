@@ -10,8 +10,8 @@ namespace lineforge::forms
 struct Form11 : Form {
     Form11() : Form(u"Form11", {}, {9000, 6400}) {}
 
-    TextPanel Picture1{*this, u"Picture1", {0, 0, 8700, 6400}};
-    ScrollBar VScroll1{*this, u"VScroll1", {8730, 0, 255, 6400}, 0, 100, 1500};
+    TextPanel Picture1{*this, u"Picture1", {0, 0, 8700, 6400}};                 // the report
+    ScrollBar VScroll1{*this, u"VScroll1", {8730, 0, 255, 6400}, 0, 100, 1500}; // moves it
 };
 
 } // namespace lineforge::forms

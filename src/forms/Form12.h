@@ -14,20 +14,20 @@ struct Form12 : Form {
 
     Frame Frame1{*this, u"Frame1", {120, 60, 4080, 3000}, u"Submitter Information"};
     Label Label1{Frame1, u"Label1", {180, 315, 780, 255}, u"Name"};
-    TextBox Text1{Frame1, u"Text1", {1020, 285, 2910, 315}};
-    Frame Frame5{Frame1, u"Frame5", {60, 660, 3960, 1140}};
+    TextBox Text1{Frame1, u"Text1", {1020, 285, 2910, 315}}; // the submitter's name
+    Frame Frame5{Frame1, u"Frame5", {60, 660, 3960, 1140}};  // the three lines of the address
     Label Label2{Frame5, u"Label2", {120, 105, 780, 255}, u"Address"};
-    TextBox Text2{Frame5, u"Text2", {960, 75, 2910, 315}};
-    TextBox Text3{Frame5, u"Text3", {960, 420, 2910, 315}};
-    TextBox Text4{Frame5, u"Text4", {960, 765, 2910, 315}};
+    TextBox Text2{Frame5, u"Text2", {960, 75, 2910, 315}};  // first line
+    TextBox Text3{Frame5, u"Text3", {960, 420, 2910, 315}}; // second line
+    TextBox Text4{Frame5, u"Text4", {960, 765, 2910, 315}}; // third line
     Label Label3{Frame1, u"Label3", {180, 1890, 780, 255}, u"Phone"};
-    TextBox Text5{Frame1, u"Text5", {1020, 1860, 2910, 315}};
+    TextBox Text5{Frame1, u"Text5", {1020, 1860, 2910, 315}}; // telephone
     Label Label4{Frame1, u"Label4", {180, 2265, 780, 255}, u"Notes"};
-    TextBox Text6{Frame1, u"Text6", {1020, 2235, 2910, 660}};
+    TextBox Text6{Frame1, u"Text6", {1020, 2235, 2910, 660}}; // notes
 
     Frame Frame3{*this, u"Frame3", {120, 3150, 4080, 1260}, u"Record Sorting"};
     Label Label5{Frame3, u"Label5", {180, 315, 1980, 255}, u"Start Record number"};
-    TextBox Text7{Frame3, u"Text7", {2220, 285, 1020, 315}};
+    TextBox Text7{Frame3, u"Text7", {2220, 285, 1020, 315}}; // number of the record to begin with
     Label Label6{Frame3, u"Label6", {180, 690, 1980, 255}, u"Sort Direction"};
     OptionButton Option1{Frame3, u"Option1", {2220, 645, 1740, 285}, u"Decendants"}; // spelt so
     OptionButton Option2{Frame3, u"Option2", {2220, 930, 1740, 285}, u"Ancestors"};
@@ -47,8 +47,8 @@ struct Form12 : Form {
         u"family siblings. A list of the code tags used will be found in the help file."};
 
     // Moved up behind the window's upper edge by its bar, so that it begins there.
-    TextPanel Picture1{*this, u"Picture1", {4320, 0, 7200, 8000}};
-    ScrollBar VScroll1{*this, u"VScroll1", {11565, 0, 255, 7440}, 8000, 100, 1000};
+    TextPanel Picture1{*this, u"Picture1", {4320, 0, 7200, 8000}};                  // progress
+    ScrollBar VScroll1{*this, u"VScroll1", {11565, 0, 255, 7440}, 8000, 100, 1000}; // moves it
 
     std::array<TextBox*, 7> Texts() { return {&Text1, &Text2, &Text3, &Text4, &Text5, &Text6, &Text7}; }
 };

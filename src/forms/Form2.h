@@ -13,7 +13,7 @@ struct Form2 : Form {
     MenuItem mnuPrSetup{mnuPrin, u"mnuPrSetup", u"Printer &Setup"};
     MenuItem mnuPrint{mnuPrin, u"mnuPrint", u"&Print"};
 
-    Image Image1{*this, u"Image1", {150, 150, 7200, 5700}};
+    Image Image1{*this, u"Image1", {150, 150, 7200, 5700}}; // the picture
 };
 
 } // namespace lineforge::forms

@@ -34,9 +34,9 @@ struct Form5 : Form {
     static constexpr Rectangle FirstTile{240, 720, 735, 855};
     ControlArray<Image> Image1{*this, u"Image1", Tile};
 
-    PictureBox Picture1{*this, u"Picture1", {0, 0, 5250, 2250}};
+    PictureBox Picture1{*this, u"Picture1", {0, 0, 5250, 2250}}; // the player of sounds
     Label Label11{Picture1, u"Label11", {150, 120, 4950, 255}, u"Media Player"};
-    MultimediaControl MMControl1{Picture1, u"MMControl1", {150, 480, 4950, 615}};
+    MultimediaControl MMControl1{Picture1, u"MMControl1", {150, 480, 4950, 615}}; // its buttons
     Label Label1{Picture1, u"Label1", {150, 1155, 990, 255}, u"Rewind"};
     Label Label2{Picture1, u"Label2", {1140, 1155, 990, 255}, u"Play"};
     Label Label3{Picture1, u"Label3", {2130, 1155, 990, 255}, u"Pause"};
@@ -44,9 +44,9 @@ struct Form5 : Form {
     Label Label5{Picture1, u"Label5", {4110, 1155, 990, 255}, u"Stop"};
     Button Command3{Picture1, u"Command3", {2137, 1650, 975, 375}, u"Exit"};
 
-    PictureBox Picture2{*this, u"Picture2", {0, 0, 6900, 6900}};
+    PictureBox Picture2{*this, u"Picture2", {0, 0, 6900, 6900}}; // the player of films
     Label Label12{Picture2, u"Label12", {150, 120, 6600, 255}, u"Media Player"};
-    MultimediaControl MMControl2{Picture2, u"MMControl2", {150, 480, 6600, 5265}};
+    MultimediaControl MMControl2{Picture2, u"MMControl2", {150, 480, 6600, 5265}}; // its screen and buttons
     Label Label10{Picture2, u"Label10", {150, 5805, 1320, 255}, u"Rewind"};
     Label Label9{Picture2, u"Label9", {1470, 5805, 1320, 255}, u"Play"};
     Label Label8{Picture2, u"Label8", {2790, 5805, 1320, 255}, u"Pause"};

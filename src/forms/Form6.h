@@ -24,28 +24,28 @@ struct Form6 : Form {
     MenuItem mnuHelp{Menus, u"mnuHelp", u"&Help"};
 
     Label Label1{*this, u"Label1", {240, 180, 1860, 285}, u"Current Tree Branch:"};
-    Label Label2{*this, u"Label2", {2160, 180, 3540, 285}};
+    Label Label2{*this, u"Label2", {2160, 180, 3540, 285}}; // the open branch
     Label Label3{*this, u"Label3", {240, 570, 840, 285}, u"Record :"};
-    Label Label4{*this, u"Label4", {1140, 570, 1500, 285}};
+    Label Label4{*this, u"Label4", {1140, 570, 1500, 285}}; // number of its record
     Label Label5{*this, u"Label5", {240, 975, 960, 285}, u"Surname :"};
-    TextBox Text1{*this, u"Text1", {1260, 960, 2400, 315}};
+    TextBox Text1{*this, u"Text1", {1260, 960, 2400, 315}}; // surname
     Label Label11{*this, u"Label11", {240, 1365, 960, 285}, u"Forename"};
-    TextBox Text5{*this, u"Text5", {1260, 1350, 2400, 315}};
-    Image Image1{*this, u"Image1", {3840, 570, 1860, 1740}};
-    Frame Frame5{*this, u"Frame5", {240, 2400, 5460, 2100}, u"Field"};
-    TextBox Text2{Frame5, u"Text2", {120, 285, 5220, 1695}};
+    TextBox Text5{*this, u"Text5", {1260, 1350, 2400, 315}};           // forenames
+    Image Image1{*this, u"Image1", {3840, 570, 1860, 1740}};           // subject picture
+    Frame Frame5{*this, u"Frame5", {240, 2400, 5460, 2100}, u"Field"}; // names the field on show
+    TextBox Text2{Frame5, u"Text2", {120, 285, 5220, 1695}};           // the field on show
 
     Label Label6{*this, u"Label6", {6120, 180, 1980, 285}, u"Compare Tree Branch:"};
-    Label Label7{*this, u"Label7", {8160, 180, 3420, 285}};
+    Label Label7{*this, u"Label7", {8160, 180, 3420, 285}}; // the other branch
     Label Label8{*this, u"Label8", {6120, 570, 840, 285}, u"Record :"};
-    Label Label9{*this, u"Label9", {7020, 570, 1500, 285}};
+    Label Label9{*this, u"Label9", {7020, 570, 1500, 285}}; // number of its record
     Label Label10{*this, u"Label10", {6120, 975, 960, 285}, u"Surname :"};
-    TextBox Text3{*this, u"Text3", {7140, 960, 2400, 315}};
+    TextBox Text3{*this, u"Text3", {7140, 960, 2400, 315}}; // surname
     Label Label12{*this, u"Label12", {6120, 1365, 960, 285}, u"Forename"};
-    TextBox Text6{*this, u"Text6", {7140, 1350, 2400, 315}};
-    Image Image2{*this, u"Image2", {9720, 570, 1860, 1740}};
-    Frame Frame6{*this, u"Frame6", {6120, 2400, 5460, 2100}, u"Field"};
-    TextBox Text4{Frame6, u"Text4", {120, 285, 5220, 1695}};
+    TextBox Text6{*this, u"Text6", {7140, 1350, 2400, 315}};            // forenames
+    Image Image2{*this, u"Image2", {9720, 570, 1860, 1740}};            // subject picture
+    Frame Frame6{*this, u"Frame6", {6120, 2400, 5460, 2100}, u"Field"}; // names the field on show
+    TextBox Text4{Frame6, u"Text4", {120, 285, 5220, 1695}};            // the field on show
 
     Frame Frame1{
         *this, u"Frame1", {240, 4620, 11340, 2700}, u"Database Comparison Settings for Field Difference Searches"};

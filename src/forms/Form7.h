@@ -14,7 +14,7 @@ struct Form7 : Form {
     OptionButton Option2{Frame1, u"Option2", {240, 720, 5200, 315}, u"Map existing Unmapped Record"};
     OptionButton Option3{Frame1, u"Option3", {240, 1110, 5200, 315}, u"Map existing Alternate Tree Branch Record"};
     Label Label1{Frame1, u"Label1", {240, 1590, 2460, 255}, u"Enter existing Record Number :"};
-    TextBox Text1{Frame1, u"Text1", {2790, 1545, 900, 330}, 4};
+    TextBox Text1{Frame1, u"Text1", {2790, 1545, 900, 330}, 4}; // its number
 
     Frame Frame2{*this, u"Frame2", {180, 2310, 2730, 1155}, u"Subject Gender"};
     OptionButton Option4{Frame2, u"Option4", {240, 300, 2300, 315}, u"Male"};

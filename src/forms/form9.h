@@ -24,7 +24,7 @@ struct form9 : Form {
                      u"Disclaimer: While every endeavour is made to ensure that this product will operate trouble "
                      u"free, the user accepts all responsibilities for its use. "};
     CheckBox Check1{Frame1, u"Check1", {240, 3840, 6720, 315}, u"Don't show this screen again."};
-    MultimediaControl MMControl1{*this, u"MMControl1"};
+    MultimediaControl MMControl1{*this, u"MMControl1"}; // the tune
 };
 
 } // namespace lineforge::forms
