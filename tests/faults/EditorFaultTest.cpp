@@ -4,7 +4,6 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QPrintDialog>
-#include <QTimer>
 
 #include <climits>
 #include <utility>
@@ -19,27 +18,20 @@ namespace
 using namespace Qt::StringLiterals;
 
 // Agrees to everything, names one file wherever one is to be named, and remembers what went wrong.
-class WillingUser : public QObject
+class WillingUser : public DialogWatch
 {
 public:
-    WillingUser() { LookSoon(); }
-
     QString Named;
     QStringList Told;
 
 private:
-    // By a new timer each time, since one is served again only when its box has gone.
-    void LookSoon() { QTimer::singleShot(1, this, &WillingUser::Look); }
-
-    void Look()
+    void Meet(QDialog& dialog) override
     {
-        LookSoon();
-        QWidget* dialog = QApplication::activeModalWidget();
-        if (auto* box = qobject_cast<QMessageBox*>(dialog))
+        if (auto* box = qobject_cast<QMessageBox*>(&dialog))
             Agree(*box);
-        else if (auto* file = qobject_cast<QFileDialog*>(dialog))
+        else if (auto* file = qobject_cast<QFileDialog*>(&dialog))
             Name(*file, u"fileNameEdit"_s);
-        else if (auto* paper = qobject_cast<QPrintDialog*>(dialog))
+        else if (auto* paper = qobject_cast<QPrintDialog*>(&dialog))
             Name(*paper, u"filename"_s);
     }
 

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 #include <utility>
@@ -10,31 +11,43 @@
 namespace lineforge
 {
 
-NextDialog::NextDialog(std::function<void(QDialog&)> meet) : meet_(std::move(meet))
+DialogWatch::DialogWatch()
 {
-    connect(&timer_, &QTimer::timeout, this, &NextDialog::Look);
-    timer_.start(1);
+    qApp->installEventFilter(this);
+    LookSoon();
 }
+
+bool DialogWatch::eventFilter(QObject* object, QEvent* event)
+{
+    if ((event->type() == QEvent::Show || event->type() == QEvent::WindowActivate) && qobject_cast<QDialog*>(object))
+        LookSoon();
+    return false;
+}
+
+// When the loop that waits for the answer is entered, and what had waited before is done.
+void DialogWatch::LookSoon()
+{
+    QTimer::singleShot(0, this, &DialogWatch::Look);
+}
+
+void DialogWatch::Look()
+{
+    if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+        Meet(*dialog);
+}
+
+NextDialog::NextDialog(std::function<void(QDialog&)> meet) : meet_(std::move(meet)) {}
 
 NextDialog::~NextDialog()
 {
     EXPECT_TRUE(met_) << "no dialog came";
 }
 
-void NextDialog::Look()
+void NextDialog::Meet(QDialog& dialog)
 {
-    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (!dialog || met_)
+    if (std::exchange(met_, true))
         return;
-    timer_.stop();
-    met_ = true;
-    meet_(*dialog);
-}
-
-AnsweringUser::AnsweringUser()
-{
-    connect(&timer_, &QTimer::timeout, this, &AnsweringUser::Look);
-    timer_.start(1);
+    meet_(dialog);
 }
 
 QStringList AnsweringUser::Told()
@@ -42,14 +55,11 @@ QStringList AnsweringUser::Told()
     return std::exchange(told_, {});
 }
 
-void AnsweringUser::Look()
+void AnsweringUser::Meet(QDialog& dialog)
 {
-    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (!dialog)
-        return;
-    const QMessageBox& box = AsMessageBox(*dialog);
+    const QMessageBox& box = AsMessageBox(dialog);
     told_ += box.windowTitle() + QStringLiteral(": ") + box.text();
-    PressKey(*dialog, Qt::Key_Escape);
+    PressKey(dialog, Qt::Key_Escape);
 }
 
 QMessageBox& AsMessageBox(QDialog& dialog)

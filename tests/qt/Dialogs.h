@@ -2,7 +2,6 @@
 
 #include <QMessageBox>
 #include <QStringList>
-#include <QTimer>
 
 #include <functional>
 #include <stdexcept>
@@ -10,35 +9,46 @@
 namespace lineforge
 {
 
+// Looks at each dialog that comes up, or to the front again, once it waits for an answer.
+class DialogWatch : public QObject
+{
+public:
+    DialogWatch();
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+protected:
+    virtual void Meet(QDialog& dialog) = 0;
+
+private:
+    void LookSoon();
+    void Look();
+};
+
 // Meets the next dialog that waits for an answer, and fails the test when none has come before it goes. `meet` must end
 // the dialog.
-class NextDialog : public QObject
+class NextDialog : public DialogWatch
 {
 public:
     explicit NextDialog(std::function<void(QDialog& dialog)> meet);
     ~NextDialog() override;
 
 private:
-    void Look();
+    void Meet(QDialog& dialog) override;
 
     std::function<void(QDialog&)> meet_;
-    QTimer timer_;
     bool met_ = false;
 };
 
 // A user who answers every message box as it comes, with the button that Escape presses, and remembers what it said.
-class AnsweringUser : public QObject
+class AnsweringUser : public DialogWatch
 {
 public:
-    AnsweringUser();
-
     // Title, colon and text of each box, in their order; forgotten by asking.
     QStringList Told();
 
 private:
-    void Look();
+    void Meet(QDialog& dialog) override;
 
-    QTimer timer_;
     QStringList told_;
 };
 
