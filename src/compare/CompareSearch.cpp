@@ -38,7 +38,7 @@ void ReadyWhenGivenUp(Window<forms::Form6>& window, const Step& step)
 
 void Next(const Comparison& comparison, const Side& side, void (*end)(const Comparison& comparison))
 {
-    if (comparison.State.SearchEnded == 1)
+    if (comparison.State.HasEnded())
         return;
     ShowSearchState(*comparison.Form6, SearchState::ByHand);
     ForgetPair(comparison.State, comparison.Scratch);
@@ -56,10 +56,10 @@ void Next(const Comparison& comparison, const Side& side, void (*end)(const Comp
 
 void Search(const Comparison& comparison)
 {
-    if (comparison.State.SearchEnded == 1)
+    if (comparison.State.HasEnded())
         return;
     ShowSearchState(*comparison.Form6, SearchState::Busy);
-    if (comparison.State.ResetDone == 1) {
+    if (comparison.State.IsReset()) {
         SetFieldCaptions(*comparison.Form6, u"Searching Record Fields"_s, u"Searching Record Fields"_s);
         comparison.State.ResetDone = 0;
         comparison.Form6->Show();

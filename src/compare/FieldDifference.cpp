@@ -184,7 +184,7 @@ NextPair WalkPairs(const Comparison& comparison)
 
 void FieldDifferenceSearch(const Comparison& comparison)
 {
-    if (comparison.Scratch.ScanState == ComparePair::Ended || comparison.State.SearchEnded == 1 ||
+    if (comparison.Scratch.ScanState == ComparePair::Ended || comparison.State.HasEnded() ||
         ShowEndIfNoPair(comparison))
         return;
     switch (WalkPairs(comparison)) {

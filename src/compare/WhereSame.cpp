@@ -85,7 +85,7 @@ bool FindPair(const Comparison& comparison)
 
 void SearchWhereSame(const Comparison& comparison)
 {
-    if (comparison.State.SearchEnded == 1)
+    if (comparison.State.HasEnded())
         return;
     if (comparison.Scratch.ScanState == ComparePair::Walked && !LeaveWalkedPair(comparison))
         return;

@@ -140,7 +140,7 @@ void ReturnToTree(const BoxWork& work, const SubjectPanel& panel)
     if (areCurrent)
         KeepGender(work);
     work.Errors.Ignoring([&] { ShowRecordOnMap(panel); });
-    if (work.Gallery.FirstShow == 1)
+    if (work.Gallery.WantsPage())
         work.Errors.Ignoring([&] { MarkCurrentBox(work); });
     work.Form1->Show();
     work.Form3->Hide();

@@ -2,16 +2,15 @@
 
 #include "map/items/MapWork.h"
 #include "map/subjects/SubjectPanel.h"
+#include "program/state/RecordState.h"
 
 namespace lineforge
 {
 
-// The record scanner: five buttons like those of a tape recorder, and a timer that steps through the records while one
-// of the four moving ones is down. The map stays behind until the scan ends.
-
 class OtherPrograms;
 
-enum class ScanMode { FastForward = 1, Forward = 2, Stopped = 3, Back = 4, FastBack = 5 };
+// The record scanner: five buttons like those of a tape recorder, and a timer that steps through the records while one
+// of the four moving ones is down. The map stays behind until the scan ends.
 
 // A press of a moving button. Error 76 when the directory above the branch has gone.
 void StartScan(const SubjectPictures& pictures, ScratchState& scratch, ScanMode mode);

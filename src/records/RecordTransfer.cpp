@@ -11,7 +11,6 @@
 #include "map/subjects/RecordFormPicture.h"
 #include "map/subjects/SubjectPanel.h"
 #include "map/tools/LeaveTools.h"
-#include "platform/base/Text.h"
 #include "platform/store/DataRef.h"
 #include "platform/store/Fields.h"
 #include "program/branch/BranchPaths.h"

@@ -180,13 +180,13 @@ TEST_F(CompareBranchTest, FirstRecordWithoutAPicture_IsShownWithoutOne)
 TEST_F(CompareBranchTest, Window_TakesTheScreen)
 {
     GivenOpenBranch();
-    P.Scratch.ScanState = 2;
+    P.Scratch.ScanState = ComparePair::InHand;
     P.Form6.Unload();
     EXPECT_EQ(P.Form6->Width, 12000);
     EXPECT_EQ(P.Form6->Height, 8600);
     EXPECT_EQ(P.Form6->Left, (12000 - P.Form3->Width) / 2);
     EXPECT_EQ(P.Form6->Top, (9000 - P.Form3->Height) / 2 - 200);
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), ComparePair::None);
     EXPECT_TRUE(P.Form6->Option1.Value);
     EXPECT_FALSE(P.Form6->Option2.Value);
 }
@@ -207,7 +207,7 @@ TEST_F(CompareBranchTest, ChosenBranch_IsOpenedBesideTheOpenOne_AndTheFirstPairS
     Records(P.Form3).MoveLast();
     P.Compare.ResetDone = 1;
     P.Compare.FieldStep = 9;
-    P.Scratch.ScanState = 2;
+    P.Scratch.ScanState = ComparePair::InHand;
     ChooseCompare(u"Jones");
     EXPECT_EQ(P.Branch.WorkDir, Home.Path(u"LfgDat_A"));
     EXPECT_EQ(P.Branch.sBranchName, u"Smiths"_s);
@@ -226,7 +226,7 @@ TEST_F(CompareBranchTest, ChosenBranch_IsOpenedBesideTheOpenOne_AndTheFirstPairS
     EXPECT_EQ(P.Compare.SearchMask, 0);
     EXPECT_EQ(P.Compare.FieldStep, 1);
     EXPECT_EQ(P.Compare.ResetDone, 0);
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), ComparePair::None);
     EXPECT_EQ(Light(), Found);
     EXPECT_FALSE(P.Form8.IsLoaded());
 }
@@ -331,13 +331,13 @@ TEST_F(CompareBranchTest, NewBranch_OpensNoComparison)
 {
     GivenOpenBranch();
     P.Form6.Unload();
-    P.Scratch.ScanState = 1;
+    P.Scratch.ScanState = ComparePair::Walked;
     AnswerName(u"Browns");
     Confirm(u"Browns", u"LfgDat_D");
     ExpectEmptyBox();
     Click(P.Form1->New.Click);
     EXPECT_FALSE(P.Form6.IsLoaded());
-    EXPECT_EQ(State(), 1);
+    EXPECT_EQ(State(), ComparePair::Walked);
 }
 
 TEST_F(CompareBranchTest, SearchWhileTheListIsOpen_DoesntTurnTheChoiceIntoAnOpening)
@@ -465,12 +465,12 @@ TEST_F(CompareBranchTest, ButtonOnAnotherRecord_ForgetsThePair_AsAStepByHandDoes
     Compare();
     ChooseCompare(u"Jones");
     Search();
-    P.Scratch.ScanState = 2;
+    P.Scratch.ScanState = ComparePair::InHand;
     ASSERT_EQ(P.Compare.FieldStep, 2);
     Records(P.Form3).MoveLast();
     Click(P.Form1->Command5.Click);
     EXPECT_EQ(P.Compare.FieldStep, 0);
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), ComparePair::None);
     Search();
     EXPECT_EQ(ShownPair(), u"A002 B001"_s);
     EXPECT_EQ(Texts(), u"Jones|Smythe"_s);
@@ -605,10 +605,10 @@ TEST_F(CompareBranchTest, RecordBar_ShowsTheRecordThatItGoesTo)
     Compare();
     ChooseCompare(u"Jones");
     CompareRecords(P.Form6).MoveNext();
-    P.Scratch.ScanState = 2;
+    P.Scratch.ScanState = ComparePair::InHand;
     P.Compare.FieldStep = 5;
     Click(P.Form6->Data1.Stepped);
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), ComparePair::None);
     EXPECT_EQ(P.Compare.FieldStep, 0);
     EXPECT_EQ(ShownPair(), u"A001 B002"_s);
     EXPECT_EQ(Forenames(), u"John|Ann"_s);

@@ -51,7 +51,7 @@ TEST_F(CompareSearchTest, Reset_BeginsWithBothFirstRecords)
     EXPECT_EQ(P.Compare.ResetDone, 1);
     EXPECT_EQ(P.Compare.SearchMask, 0);
     EXPECT_EQ(P.Compare.FieldStep, 0);
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), ComparePair::None);
     EXPECT_EQ(Light(), Ready);
 }
 
@@ -138,10 +138,10 @@ class FieldStepTest : public CompareSearchTest, public testing::WithParamInterfa
 TEST_P(FieldStepTest, Next_ForgetsThePlaceUpToTheDeathCertificate)
 {
     P.Compare.FieldStep = GetParam().Before;
-    P.Scratch.ScanState = 2;
+    P.Scratch.ScanState = ComparePair::InHand;
     NextCompare();
     EXPECT_EQ(P.Compare.FieldStep, GetParam().After);
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), ComparePair::None);
 }
 
 INSTANTIATE_TEST_SUITE_P(Steps, FieldStepTest,

@@ -2,6 +2,7 @@
 
 #include "compare/Sides.h"
 #include "program/branch/WorkDatabase.h"
+#include "program/state/ScanState.h"
 #include "shell/ShellTest.h"
 #include "support/SqliteFile.h"
 

@@ -399,7 +399,7 @@ protected:
         GivenComparison({PersonOf(u"A001", u"our first"), PersonOf(u"A002", u"our second")},
                         {PersonOf(u"B001", u"their first"), PersonOf(u"B002", u"their second")});
         Search();
-        P.Scratch.ScanState = 2;
+        P.Scratch.ScanState = ComparePair::InHand;
         GetParam().IsCurrentMoved ? Records(P.Form3).MoveNext() : CompareRecords(P.Form6).MoveNext();
         moved_ = Pair();
     }
@@ -424,7 +424,7 @@ protected:
         EXPECT_EQ(Captions(), u"Field:|Field:"_s);
         EXPECT_EQ(Texts(), u"|"_s);
         EXPECT_EQ(P.Compare.FieldStep, 0);
-        EXPECT_EQ(State(), 0);
+        EXPECT_EQ(State(), ComparePair::None);
     }
 
 private:

@@ -60,7 +60,7 @@ TEST_F(FieldDifferenceTest, EachPress_ShowsTheNextDifferingField_InTheOrderOfThe
         EXPECT_EQ(Forenames(), u"our Forename|their Forename"_s);
         EXPECT_EQ(Light(), Found);
         EXPECT_EQ(Pair(), u"A001 B001"_s);
-        EXPECT_EQ(State(), 0);
+        EXPECT_EQ(State(), ComparePair::None);
     }
     const QString last = Captions();
     Prompts.Expect(u"Database End of File", u"End of Database Records", Buttons::Information, Answer::Ok, [&] {
@@ -135,7 +135,7 @@ TEST_F(FieldDifferenceTest, EndOfAWalkedPair_ShowsThatPairWhole)
     P.Form6->Text5.Text = u"typed"_s;
     P.Form6->Text6.Text = u"typed"_s;
     Search();
-    EXPECT_EQ(State(), 1);
+    EXPECT_EQ(State(), ComparePair::Walked);
     EXPECT_EQ(ShownPair(), u"A002 B002"_s);
     EXPECT_EQ(Pictures(), u"A002 B002"_s);
     EXPECT_EQ(Surnames(), u"Smith|Smith"_s);

@@ -60,7 +60,7 @@ TEST_P(MaskTest, PairAgreesOnAllThatIsTicked)
                      Person(u"A001", u"Smith", u"1903"), Person(u"A001", u"Smith", u"1901")});
     Tick(GetParam().Number, GetParam().Surname, GetParam().Birth);
     Search();
-    EXPECT_EQ(State(), 2);
+    EXPECT_EQ(State(), ComparePair::InHand);
     EXPECT_EQ(CompareRecords(P.Form6).Text(u"File") + u' ' + CompareRecords(P.Form6).Text(u"Surname") + u' ' +
                   CompareRecords(P.Form6).Text(u"BirthDate"),
               GetParam().Found.toString());
@@ -88,7 +88,7 @@ TEST_F(WhereSameTest, AllTicked_FindTheOneThatAgreesInAll)
     Tick(true, true, true);
     Search();
     EXPECT_EQ(CompareRecords(P.Form6).Text(u"BirthDate"), u"1901"_s);
-    EXPECT_EQ(State(), 1);
+    EXPECT_EQ(State(), ComparePair::Walked);
 }
 
 TEST_F(WhereSameTest, Match_ShowsThePair_AndItsFirstDifference)
@@ -100,7 +100,7 @@ TEST_F(WhereSameTest, Match_ShowsThePair_AndItsFirstDifference)
     EXPECT_EQ(ShownPair(), u"A002 B002"_s);
     EXPECT_EQ(Pictures(), u"A002 B002"_s);
     EXPECT_EQ(Captions(), u"Field: Forename|Field: Forename"_s);
-    EXPECT_EQ(State(), 2);
+    EXPECT_EQ(State(), ComparePair::InHand);
     EXPECT_EQ(Light(), Found);
 }
 
@@ -111,7 +111,7 @@ TEST_F(WhereSameTest, EmptySurnames_NeverPair)
     Tick(false, true, false);
     ExpectEndOfRecords();
     Search();
-    EXPECT_EQ(State(), 3);
+    EXPECT_EQ(State(), ComparePair::Ended);
     EXPECT_EQ(Captions(), u"End of Records search |End of Records search"_s);
     EXPECT_EQ(Texts(), u"|"_s);
     EXPECT_EQ(Light(), Busy);
@@ -125,11 +125,11 @@ TEST_F(WhereSameTest, AfterTheEnd_APressOnlySetsTheButton_UntilReset)
     ExpectEndOfRecords();
     Search();
     Search();
-    EXPECT_EQ(State(), 3);
+    EXPECT_EQ(State(), ComparePair::Ended);
     EXPECT_EQ(Light(), Busy);
     EXPECT_EQ(Captions(), u"End of Records search |End of Records search"_s);
     Reset();
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), ComparePair::None);
     EXPECT_EQ(Pair(), u"A001 B001"_s);
 }
 
@@ -142,12 +142,12 @@ TEST_F(WhereSameTest, EndOfFields_EndsThePress_AndTheNextMovesOn)
     Search();
     EXPECT_EQ(Captions(), u"End of Fields this Record|End of Fields this Record"_s);
     EXPECT_EQ(Texts(), u"|"_s);
-    EXPECT_EQ(State(), 1);
+    EXPECT_EQ(State(), ComparePair::Walked);
     EXPECT_EQ(Light(), Found);
     EXPECT_EQ(Pair(), u"A001 B001"_s);
     Search();
     EXPECT_EQ(Pair(), u"A001 B002"_s);
-    EXPECT_EQ(State(), 2);
+    EXPECT_EQ(State(), ComparePair::InHand);
 }
 
 TEST_F(WhereSameTest, WalkedLastPair_EndsAtTheCurrentRecords)
@@ -169,7 +169,7 @@ TEST_F(WhereSameTest, WalkedPairWhoseCurrentBranchHasRunOut_EndsAtTheCurrentReco
     GivenComparison({Person(u"A001", u"Smith")}, {Person(u"B001", u"Smith"), Person(u"B002", u"Smith")});
     Tick(false, true, false);
     SearchTimes(2);
-    ASSERT_EQ(State(), 1);
+    ASSERT_EQ(State(), ComparePair::Walked);
     Records(P.Form3).MoveNext();
     ExpectEndOfCurrent();
     Search();
@@ -233,7 +233,7 @@ TEST_P(PairsTest, AreThoseOfTheDoubleLoop_InItsOrder)
         Search();
         EXPECT_EQ(Pair(), QString(u"A%1 B%2"_s.arg(c + 1, 3, 10, QChar(u'0')).arg(k + 1, 3, 10, QChar(u'0'))));
         // The forenames differ, since they are the numbers.
-        EXPECT_EQ(State(), 2);
+        EXPECT_EQ(State(), ComparePair::InHand);
         while (State() == 2)
             Search();
     }

@@ -301,7 +301,7 @@ TEST_F(AddPictureTest, OpenItemIsClosedFirst_EvenIfTheQuestionIsDeclined)
     ClickTile(0);
     ExpectQuestion(Answer::Cancel);
     Click(P.Form5->mnuPic.Click);
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), GalleryScan::Browsing);
     EXPECT_EQ(Page(), QStringList({u"0 A001_01.jpg blue"_s, u"1 2 empty"_s}));
 }
 

@@ -78,7 +78,7 @@ TEST_F(BadGalleryTest, NamesWithAccentsAndBlanks_AreListed)
     EXPECT_EQ(Page(),
               QStringList({u"0 A001_01 Été à la mer.jpg blue"_s, u"1 A001_02 Grüße.wav sound"_s, u"2 3 empty"_s}));
     ClickTile(0);
-    EXPECT_EQ(State(), 1);
+    EXPECT_EQ(State(), GalleryScan::ItemOpen);
     EXPECT_EQ(Page(), QStringList{u"0 A001_01 Été à la mer.jpg blue"_s});
 }
 

@@ -20,11 +20,11 @@ TEST_F(DeleteFileTest, FileInTheMiddle_LeavesAnEmptyTile)
 {
     OpenGallery({u"A001_01.jpg"_s, u"A001_02.jpg"_s, u"A001_03.jpg"_s});
     BeginDeletion();
-    EXPECT_EQ(State(), 6);
+    EXPECT_EQ(State(), GalleryScan::Deleting);
     ClickTile(1);
     EXPECT_EQ(FilesInGallery(), QStringList({u"A001_01.jpg"_s, u"A001_03.jpg"_s}));
     EXPECT_EQ(Page(), QStringList({u"0 A001_01.jpg blue"_s, u"1 2 empty"_s, u"2 A001_03.jpg blue"_s, u"3 4 empty"_s}));
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), GalleryScan::Browsing);
     EXPECT_EQ(Top(), 3);
 }
 
@@ -51,12 +51,12 @@ TEST_F(DeleteFileTest, HighestFile_TakesTheTrailingTileAway_AndItsOwnTileOpensEm
     EXPECT_EQ(Tile(3).Tag.value(), u"3");
     // The click goes on into the opening, with the tag that still holds the name.
     EXPECT_EQ(Page(), QStringList{u"2 A001_03.jpg empty"_s});
-    EXPECT_EQ(State(), 1);
+    EXPECT_EQ(State(), GalleryScan::ItemOpen);
     EXPECT_FALSE(P.Form5->Command1.Visible);
 
     ClickTile(2);
     EXPECT_EQ(Page(), QStringList({u"0 A001_01.jpg blue"_s, u"1 2 empty"_s, u"2 A001_03.jpg empty"_s}));
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), GalleryScan::Browsing);
 }
 
 TEST_F(DeleteFileTest, FileAddedToTheTileThatHasOpenedEmpty_StaysThereWhenItIsClosed)
@@ -70,7 +70,7 @@ TEST_F(DeleteFileTest, FileAddedToTheTileThatHasOpenedEmpty_StaysThereWhenItIsCl
     Click(P.Form5->mnuAud.Click);
     ClickTile(1);
     EXPECT_EQ(Page(), QStringList({u"0 A001_01.jpg blue"_s, u"1 A001_02.wav sound"_s, u"2 3 empty"_s}));
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), GalleryScan::Browsing);
 }
 
 TEST_F(DeleteFileTest, HighestSound_EndsInTheBoxOfAMissingFile)
@@ -84,7 +84,7 @@ TEST_F(DeleteFileTest, HighestSound_EndsInTheBoxOfAMissingFile)
     Prompts.Expect(u"File not Accessable.", u"Problem with File Path", Buttons::Information);
     ClickTile(0);
     EXPECT_EQ(FilesInGallery(), QStringList());
-    EXPECT_EQ(State(), 1);
+    EXPECT_EQ(State(), GalleryScan::ItemOpen);
     EXPECT_EQ(Top(), 0);
 }
 
@@ -95,7 +95,7 @@ TEST_F(DeleteFileTest, HighestText_IsDeleted_AndTheEditorStartedOnItsName)
     ClickTile(0);
     EXPECT_EQ(FilesInGallery(), QStringList());
     EXPECT_EQ(Machine.Processes.Started, QStringList({Home.Path(u"Notepad.exe"), GalleryPathOf(u"A001_01.txt")}));
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), GalleryScan::Browsing);
 }
 
 TEST_F(DeleteFileTest, EmptyTile_OnlyEndsTheDeletion)
@@ -105,7 +105,7 @@ TEST_F(DeleteFileTest, EmptyTile_OnlyEndsTheDeletion)
     const QString caption = Caption();
     BeginDeletion();
     ClickTile(0);
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), GalleryScan::Browsing);
     EXPECT_EQ(Page(), page);
     EXPECT_EQ(Caption(), caption);
     EXPECT_EQ(FilesInGallery(), QStringList{u"A001_02.jpg"_s});
@@ -172,7 +172,7 @@ TEST_F(DeleteFileTest, BoxDeclined_DeletesNothingAtTheNextClick)
 {
     OpenGallery({u"A001_01.jpg"_s});
     BeginDeletion(Answer::Cancel);
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), GalleryScan::Browsing);
     ClickTile(0);
     EXPECT_EQ(FilesInGallery(), QStringList{u"A001_01.jpg"_s});
 }
@@ -182,7 +182,7 @@ TEST_F(DeleteFileTest, OpenItem_IsClosedFirst)
     OpenGallery({u"A001_01.jpg"_s});
     ClickTile(0);
     BeginDeletion(Answer::Cancel);
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), GalleryScan::Browsing);
     EXPECT_EQ(Page(), QStringList({u"0 A001_01.jpg blue"_s, u"1 2 empty"_s}));
 }
 
@@ -192,7 +192,7 @@ TEST_F(DeleteFileTest, WhileItWaits_ADropOnAnotherTileRearranges)
     P.Files.ChDir(Home.Path(u"LfgDat_A/LfgGal_A"));
     BeginDeletion();
     Drop(0, 1);
-    EXPECT_EQ(State(), 6);
+    EXPECT_EQ(State(), GalleryScan::Deleting);
     EXPECT_EQ(Home.ReadFile(InGallery(u"A001_01.wav")), "A001_02.wav");
     EXPECT_EQ(Home.ReadFile(InGallery(u"A001_02.wav")), "A001_01.wav");
 }
@@ -230,7 +230,7 @@ TEST_P(EndedDeletionTest, NextClickDeletesNothing)
     OpenGallery({u"A001_01.jpg"_s});
     BeginDeletion();
     Click([&] { GetParam().Take(*P.Form5); });
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), GalleryScan::Browsing);
     ClickTile(0);
     EXPECT_EQ(FilesInGallery(), QStringList{u"A001_01.jpg"_s});
 }

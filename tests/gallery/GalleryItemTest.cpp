@@ -39,7 +39,7 @@ TEST_F(GalleryItemTest, Picture_OpensInItsOwnSizeInTheMiddle_WithoutTilesAndButt
     EXPECT_FALSE(Tile(1).Stretch);
     EXPECT_EQ(Tile(1).Picture.value().size(), QSize(400, 300));
     EXPECT_FALSE(ButtonsAreShown());
-    EXPECT_EQ(State(), 1);
+    EXPECT_EQ(State(), GalleryScan::ItemOpen);
     EXPECT_EQ(Caption(), u"A001 Gallery of John  Smith   A001_02.jpg"_s);
 }
 
@@ -64,7 +64,7 @@ TEST_F(GalleryItemTest, SecondClick_PutsThePictureBackOnItsTile)
     EXPECT_TRUE(Tile(1).Stretch);
     EXPECT_EQ(Tile(1).Picture.value().size(), small);
     EXPECT_TRUE(ButtonsAreShown());
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), GalleryScan::Browsing);
     EXPECT_EQ(Caption(), u"A001 Gallery of  John  Smith"_s);
 }
 
@@ -76,7 +76,7 @@ TEST_F(GalleryItemTest, StateWordTakenBehindAnOpenPicture_TheNextClickOpensFromT
     const Rectangle places[] = {PlaceOf(0), PlaceOf(1)};
     for (const int next : {0, 1}) {
         ClickTile(0);
-        P.Scratch.ScanState = 0;
+        P.Scratch.ScanState = GalleryScan::Browsing;
         ClickTile(next);
         EXPECT_EQ(Page().size(), 1);
         EXPECT_FALSE(Tile(next).Stretch);
@@ -93,7 +93,7 @@ TEST_F(GalleryItemTest, EmptyTile_DoesNothingButSayItsSubscriptInTheCaption)
     OpenGallery({u"A001_01.jpg"_s});
     ClickTile(1);
     EXPECT_EQ(Page(), QStringList({u"0 A001_01.jpg blue"_s, u"1 2 empty"_s}));
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), GalleryScan::Browsing);
     EXPECT_EQ(Caption(), u"A001 Gallery of John  Smith   2"_s);
 }
 
@@ -103,7 +103,7 @@ TEST_F(GalleryItemTest, Text_StartsTheEditorOnTheFile_AndTheTilesStay)
     ClickTile(0);
     EXPECT_EQ(Machine.Processes.Started, QStringList({Home.Path(u"Notepad.exe"), GalleryPathOf(u"A001_01.txt")}));
     EXPECT_EQ(Page(), QStringList({u"0 A001_01.txt text"_s, u"1 2 empty"_s}));
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), GalleryScan::Browsing);
     EXPECT_TRUE(ButtonsAreShown());
     EXPECT_EQ(P.Scratch.sNewDir, Home.Path());
     EXPECT_EQ(P.Gallery.EditorTask, 2);
@@ -116,7 +116,7 @@ TEST_F(GalleryItemTest, EditorIsLookedForBesideTheProgramOnly)
     ExpectPathBox();
     ClickTile(0);
     EXPECT_EQ(Machine.Processes.Started, QStringList());
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), GalleryScan::Browsing);
     EXPECT_EQ(ExitCode(), std::nullopt);
 }
 
@@ -127,7 +127,7 @@ TEST_F(GalleryItemTest, PictureWhoseFileIsGone_IsTold_AndThePageStays)
     ExpectPathBox();
     ClickTile(0);
     EXPECT_EQ(Page(), QStringList({u"0 A001_01.jpg blue"_s, u"1 2 empty"_s}));
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), GalleryScan::Browsing);
 }
 
 TEST_F(GalleryItemTest, ItemOpenWhenTheWindowIsLeft_IsOpenWhenItComesBack)
@@ -137,12 +137,12 @@ TEST_F(GalleryItemTest, ItemOpenWhenTheWindowIsLeft_IsOpenWhenItComesBack)
     Click(P.Form5->CloseByFrame);
     EXPECT_TRUE(P.Form1->Visible);
     EXPECT_FALSE(P.Form5->Visible);
-    EXPECT_EQ(State(), 1);
+    EXPECT_EQ(State(), GalleryScan::ItemOpen);
     Click(P.Form1->Command2.Click);
     EXPECT_EQ(Page(), QStringList{u"0 A001_01.jpg blue"_s});
     ClickTile(0);
     EXPECT_EQ(Page(), QStringList({u"0 A001_01.jpg blue"_s, u"1 2 empty"_s}));
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), GalleryScan::Browsing);
 }
 
 TEST_F(GalleryItemTest, NewPageBehindAnOpenPicture_HasAllTilesInTheirPlaces_AndTheNextClickCloses)
@@ -156,13 +156,13 @@ TEST_F(GalleryItemTest, NewPageBehindAnOpenPicture_HasAllTilesInTheirPlaces_AndT
     P.Gallery.FirstShow = 1;
     Click(P.Form1->Command2.Click);
     EXPECT_EQ(PlaceOf(0), first);
-    EXPECT_EQ(State(), 1);
+    EXPECT_EQ(State(), GalleryScan::ItemOpen);
 
     ClickTile(1);
     EXPECT_EQ(PlaceOf(0), first);
     EXPECT_EQ(PlaceOf(1), second);
     EXPECT_EQ(Page(), QStringList({u"0 A002_01.jpg blue"_s, u"1 A002_02.jpg blue"_s, u"2 3 empty"_s}));
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), GalleryScan::Browsing);
     EXPECT_TRUE(ButtonsAreShown());
 }
 
@@ -188,7 +188,7 @@ TEST_F(GalleryItemTest, FileAddedBesideAnOpenPicture_ClosesThePictureWhenItIsCli
     Click(P.Form5->mnuTxt.Click);
     ClickTile(1);
     EXPECT_EQ(PlaceOf(0), place);
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), GalleryScan::Browsing);
     EXPECT_TRUE(ButtonsAreShown());
     EXPECT_EQ(Page(), QStringList({u"0 A001_01.jpg blue"_s, u"1 A001_02.txt text"_s, u"2 3 empty"_s}));
 }
@@ -295,7 +295,7 @@ TEST_F(GalleryItemTest, PictureAddedAMomentAgo_Opens)
     GivenFiles({u"A001_01.jpg"_s});
     Tile(0).Picture = LoadTilePicture(P, GalleryPathOf(u"A001_01.jpg"));
     ClickTile(0);
-    EXPECT_EQ(State(), 1);
+    EXPECT_EQ(State(), GalleryScan::ItemOpen);
     EXPECT_EQ(Tile(0).Picture.value().size(), QSize(40, 30));
 }
 

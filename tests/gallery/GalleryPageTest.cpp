@@ -237,11 +237,11 @@ TEST_F(GalleryPageTest, BranchClosedWhileThePageIsBuilt_EndsIt)
 TEST_F(GalleryPageTest, DeletionThatWaits_EndsWithANewPage)
 {
     OpenGallery({u"A001_01.jpg"_s, u"A002_01.jpg"_s});
-    P.Scratch.ScanState = 6;
+    P.Scratch.ScanState = GalleryScan::Deleting;
     P.Form3->Data1.Records().MoveNext();
     P.Gallery.FirstShow = 1;
     Click(P.Form1->Command2.Click);
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), GalleryScan::Browsing);
 }
 
 TEST_F(GalleryPageTest, WrongEnding_IsTold_AndNoTileIsShown)

@@ -76,7 +76,7 @@ TEST_P(GalleryPlayerTest, Click_OpensThePanelOnTheFile_WithoutTilesAndButtons)
     EXPECT_EQ(Page(), QStringList());
     EXPECT_FALSE(P.Form5->Command1.Visible);
     EXPECT_FALSE(P.Form5->Command2.Visible);
-    EXPECT_EQ(State(), 1);
+    EXPECT_EQ(State(), GalleryScan::ItemOpen);
     EXPECT_EQ(Caption(), QString(u"A001 Gallery of John  Smith   " + GetParam().File));
 }
 
@@ -92,7 +92,7 @@ TEST_P(GalleryPlayerTest, Exit_ClosesIt_AndThePageComesBack)
     EXPECT_EQ(Page(), page);
     EXPECT_TRUE(P.Form5->Command1.Visible);
     EXPECT_TRUE(P.Form5->Command2.Visible);
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), GalleryScan::Browsing);
     EXPECT_EQ(Caption(), u"A001 Gallery of  John  Smith"_s);
 }
 
@@ -102,7 +102,7 @@ TEST_P(GalleryPlayerTest, ExitOfTheOtherPlayer_DoesNothing)
     Commands.clear();
     PressOtherExit();
     EXPECT_EQ(Commands, QStringList());
-    EXPECT_EQ(State(), 1);
+    EXPECT_EQ(State(), GalleryScan::ItemOpen);
     EXPECT_TRUE(Box().Visible);
 }
 
@@ -119,9 +119,9 @@ TEST_P(GalleryPlayerTest, ExitWhileADeletionWaits_OnlyEndsThat)
 {
     ClickTile(0);
     Commands.clear();
-    P.Scratch.ScanState = 6;
+    P.Scratch.ScanState = GalleryScan::Deleting;
     PressExit();
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), GalleryScan::Browsing);
     EXPECT_EQ(Commands, QStringList());
     EXPECT_TRUE(Box().Visible);
 }
@@ -137,11 +137,11 @@ TEST_P(GalleryPlayerTest, FileThatIsGone_IsTold_WithButtonsAndTilesHidden_AndExi
     EXPECT_FALSE(P.Form5->Command2.Visible);
     EXPECT_TRUE(Box().Visible);
     EXPECT_EQ(Player().Visible, GetParam().ShowsBeforeOpen);
-    EXPECT_EQ(State(), 1);
+    EXPECT_EQ(State(), GalleryScan::ItemOpen);
 
     PressExit();
     EXPECT_EQ(Page(), page);
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), GalleryScan::Browsing);
 }
 
 TEST_P(GalleryPlayerTest, FileReplacedSinceThePageWasBuilt_IsPlayedAsItIsNow)
@@ -175,10 +175,10 @@ TEST_P(GalleryPlayerTest, NewPageBehindAnOpenPlayer_PutsItAway_AndTheNextClickCl
     EXPECT_EQ(Commands, QStringList{u"Close shown"_s});
     EXPECT_FALSE(Box().Visible);
     EXPECT_EQ(Page(), QStringList{u"0 1 empty"_s});
-    EXPECT_EQ(State(), 1);
+    EXPECT_EQ(State(), GalleryScan::ItemOpen);
     EXPECT_TRUE(P.Form5->Command1.Visible);
     ClickTile(0);
-    EXPECT_EQ(State(), 0);
+    EXPECT_EQ(State(), GalleryScan::Browsing);
     EXPECT_TRUE(P.Form5->Command1.Visible);
 }
 

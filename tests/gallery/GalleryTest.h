@@ -1,6 +1,7 @@
 #pragma once
 
 #include "gallery/GalleryFile.h"
+#include "program/state/ScanState.h"
 #include "shell/ShellTest.h"
 
 #include <QBuffer>

@@ -287,11 +287,11 @@ TEST_F(BranchImportTest, ToolsThatAreOpen_StaySo)
 {
     Choose(u"Smiths");
     P.Form1->mnuTreeTools.Click();
-    ASSERT_EQ(P.Tools.ToolMode, 3);
+    ASSERT_EQ(P.Tools.ToolMode, ToolsOpen);
 
     ImportAs(u'C', u"Browns"_s, u"LfgDat_C"_s);
 
-    EXPECT_EQ(P.Tools.ToolMode, 3);
+    EXPECT_EQ(P.Tools.ToolMode, ToolsOpen);
 }
 
 TEST_F(BranchImportTest, OnARecordOfAnotherBranch_TheImportedOneIsItsOwn)

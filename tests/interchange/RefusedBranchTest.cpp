@@ -358,7 +358,7 @@ TEST_F(RefusedBranchTest, GalleryThatIsBeingBuilt_StopsWithItsWindow)
 TEST_F(RefusedBranchTest, ToolsThatAreOpen_AreClosedByARefusedImport_ForThereIsNoMapToDrawOn)
 {
     P.Form1->mnuTreeTools.Click();
-    ASSERT_EQ(P.Tools.ToolMode, 3);
+    ASSERT_EQ(P.Tools.ToolMode, ToolsOpen);
 
     BeRefused(Way::Import);
 

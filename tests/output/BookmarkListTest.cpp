@@ -170,7 +170,7 @@ TEST_F(BookmarkListTest, Output_EmptiesTheList_SoThatASecondPrintGivesNothing)
     Print();
     EXPECT_EQ(Entries(), QStringList());
     EXPECT_EQ(P.Bookmarks.BookmarkCount, 0);
-    EXPECT_EQ(P.Output.OutputMode, 0);
+    EXPECT_EQ(P.Output.OutputMode, OutputMode::None);
 
     Print();
 
@@ -399,7 +399,7 @@ TEST_F(BookmarkListTest, NoPrinter_IsReportedOnce_AndTheUserStaysWhereHeWas)
     Print();
 
     EXPECT_EQ(Current(), u"A002"_s);
-    EXPECT_EQ(P.Output.OutputMode, 0);
+    EXPECT_EQ(P.Output.OutputMode, OutputMode::None);
 }
 
 TEST_F(BookmarkListTest, NoPrinter_ForASiblingsRecord_LeadsBackToTheOwnBranch)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "output/OutputMode.h"
 #include "output/Paper.h"
 #include "program/branch/WorkDatabase.h"
 #include "shell/ShellTest.h"

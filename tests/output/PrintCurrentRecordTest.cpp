@@ -19,7 +19,7 @@ TEST_F(PrintCurrentRecordTest, BothMenus_PrintTheCurrentRecord_OneJobEach_AndSta
 
     EXPECT_EQ(RecordsOnJobs(), std::vector<QStringList>({{u"A002"_s}, {u"A002"_s}}));
     EXPECT_EQ(Current(), u"A002"_s);
-    EXPECT_EQ(P.Output.OutputMode, 0);
+    EXPECT_EQ(P.Output.OutputMode, OutputMode::None);
 }
 
 TEST_F(PrintCurrentRecordTest, SiblingsRecord_IsPrintedWhileItIsShown)
@@ -41,7 +41,7 @@ TEST_F(PrintCurrentRecordTest, BehindTheLastRecord_NothingIsPrinted)
     P.Form1->mnuPrintRecord.Click();
 
     EXPECT_EQ(Machine.Printer.Asked, 0);
-    EXPECT_EQ(P.Output.OutputMode, 0);
+    EXPECT_EQ(P.Output.OutputMode, OutputMode::None);
 }
 
 TEST_F(PrintCurrentRecordTest, EmptyBranch_NothingIsPrinted)
@@ -68,7 +68,7 @@ TEST_F(PrintCurrentRecordTest, NoPrinter_IsReportedOnce_AndTheNextPrintWorks)
     Machine.Printer.IsThere = false;
     ExpectPrinterErrorBox();
     P.Form1->mnuPrintRecord.Click();
-    EXPECT_EQ(P.Output.OutputMode, 0);
+    EXPECT_EQ(P.Output.OutputMode, OutputMode::None);
     EXPECT_EQ(Current(), u"A001"_s);
 
     Machine.Printer.IsThere = true;

@@ -88,7 +88,7 @@ TEST_F(PrintDatabaseTest, Print_BeginsAndEndsOnTheFirstRecord_WhereverTheUserWas
 
     EXPECT_EQ(RecordsOn(Jobs().value(0)).size(), 3);
     EXPECT_EQ(Current(), u"A001"_s);
-    EXPECT_EQ(P.Output.OutputMode, 0);
+    EXPECT_EQ(P.Output.OutputMode, OutputMode::None);
 }
 
 TEST_F(PrintDatabaseTest, Cancel_EndsIt_WhereTheUserWas)
@@ -144,7 +144,7 @@ TEST_F(PrintDatabaseTest, NoPrinter_IsReportedOnce_AndTheNextPrintWorks)
     ExpectPrinterErrorBox();
     P.Form3->mnuPrinDatabase.Click();
     EXPECT_EQ(Current(), u"A001"_s);
-    EXPECT_EQ(P.Output.OutputMode, 0);
+    EXPECT_EQ(P.Output.OutputMode, OutputMode::None);
 
     Machine.Printer.IsThere = true;
     Print();

@@ -79,7 +79,7 @@ TEST_F(TextReportTest, Database_ComesBackToTheCurrentRecord_AndLeavesNoMode)
     WriteDatabase();
 
     EXPECT_EQ(Current(), u"A002"_s);
-    EXPECT_EQ(P.Output.OutputMode, 0);
+    EXPECT_EQ(P.Output.OutputMode, OutputMode::None);
     EXPECT_EQ(P.Output.TextFile, nullptr);
     EXPECT_EQ(Machine.Printer.Asked, 0);
 }
@@ -134,7 +134,7 @@ TEST_F(TextReportTest, EmptyBranch_GivesAnEmptyFile)
 
     EXPECT_TRUE(Home.Exists(report));
     EXPECT_EQ(Home.ReadFile(report), QByteArray());
-    EXPECT_EQ(P.Output.OutputMode, 0);
+    EXPECT_EQ(P.Output.OutputMode, OutputMode::None);
 }
 
 TEST_F(TextReportTest, List_IsWrittenInItsOrder_FromAllItsBranches_AndEmptied)
@@ -148,7 +148,7 @@ TEST_F(TextReportTest, List_IsWrittenInItsOrder_FromAllItsBranches_AndEmptied)
     EXPECT_EQ(RecordsIn(report), QStringList({u"A003"_s, u"B001"_s, u"A001"_s, u"A003"_s}));
     EXPECT_EQ(P.Bookmarks.BookmarkCount, 0);
     EXPECT_EQ(P.Bookmarks.BookmarkList[0], QString());
-    EXPECT_EQ(P.Output.OutputMode, 0);
+    EXPECT_EQ(P.Output.OutputMode, OutputMode::None);
     EXPECT_EQ(P.Output.TextFile, nullptr);
     EXPECT_EQ(Current(), u"A002"_s);
     EXPECT_EQ(Machine.Printer.Asked, 0);

@@ -158,10 +158,10 @@ TEST_F(DeleteRecordTest, NoAtTheSecondQuestion_LeavesEverything)
 
 TEST_F(DeleteRecordTest, PendingMapping_EndsBeforeTheQuestion)
 {
-    P.Tools.MapCursorMode = 1;
+    P.Tools.MapCursorMode = MapCursor::Mapping;
     P.Screen.Pointer = MousePointer::Cross;
     Prompts.Expect(u"Delete Record", u"Do you really want to delete this record?", Buttons::QuestionYesNo, Answer::No,
-                   [&] { EXPECT_EQ(P.Tools.MapCursorMode, 0); });
+                   [&] { EXPECT_EQ(P.Tools.MapCursorMode, MapCursor::Normal); });
 
     P.Form3->mnuDelete.Click();
 
@@ -170,12 +170,12 @@ TEST_F(DeleteRecordTest, PendingMapping_EndsBeforeTheQuestion)
 
 TEST_F(DeleteRecordTest, PendingRepositioning_Goes_On)
 {
-    P.Tools.MapCursorMode = 2;
+    P.Tools.MapCursorMode = MapCursor::Repositioning;
     ExpectFirstQuestion(Answer::No);
 
     P.Form3->mnuDelete.Click();
 
-    EXPECT_EQ(P.Tools.MapCursorMode, 2);
+    EXPECT_EQ(P.Tools.MapCursorMode, MapCursor::Repositioning);
 }
 
 TEST_F(DeleteRecordTest, BehindTheLastRecord_OrBeforeTheFirst_NothingIsAsked)
@@ -183,9 +183,9 @@ TEST_F(DeleteRecordTest, BehindTheLastRecord_OrBeforeTheFirst_NothingIsAsked)
     const Tree before = Home.Snapshot();
     Records(P.Form3).MoveLast();
     Records(P.Form3).MoveNext();
-    P.Tools.MapCursorMode = 1;
+    P.Tools.MapCursorMode = MapCursor::Mapping;
     Click(P.Form3->mnuDelete.Click);
-    EXPECT_EQ(P.Tools.MapCursorMode, 0);
+    EXPECT_EQ(P.Tools.MapCursorMode, MapCursor::Normal);
 
     Records(P.Form3).MoveFirst();
     Records(P.Form3).MovePrevious();

@@ -100,7 +100,7 @@ TEST_P(OpenFormTest, EndsAPendingMappingOrRepositioning)
         P.Tools.MapCursorMode = mode;
         P.Screen.Pointer = MousePointer::Cross;
         Open();
-        EXPECT_EQ(P.Tools.MapCursorMode, 0);
+        EXPECT_EQ(P.Tools.MapCursorMode, MapCursor::Normal);
         EXPECT_EQ(P.Screen.Pointer.value(), MousePointer::Default);
     }
 }
@@ -404,12 +404,12 @@ TEST_F(TreeTest, Marker_FollowsOnlyWhenANewGalleryPageIsAskedFor)
 
 TEST_F(TreeTest, PendingMapping_WritesTheForename_AndEnds)
 {
-    P.Tools.MapCursorMode = 1;
+    P.Tools.MapCursorMode = MapCursor::Mapping;
     P.Form3->Text3.Text = u"Anne"_s;
 
     PressTree();
 
-    EXPECT_EQ(P.Tools.MapCursorMode, 0);
+    EXPECT_EQ(P.Tools.MapCursorMode, MapCursor::Normal);
     EXPECT_EQ(Stored("Forename"), u"Anne"_s);
     EXPECT_EQ(Current(), u"A001"_s);
     EXPECT_TRUE(P.Record.SavedBookmark.has_value());
@@ -419,7 +419,7 @@ TEST_F(TreeTest, PendingMapping_WritesTheForename_AndEnds)
 TEST_F(TreeTest, PendingMapping_PrintsNumberAndForenameInTheBox)
 {
     P.Form1->Picture1.Cls();
-    P.Tools.MapCursorMode = 1;
+    P.Tools.MapCursorMode = MapCursor::Mapping;
 
     PressTree();
 
@@ -555,7 +555,7 @@ protected:
 
 TEST_F(GalleryButtonTest, WhileASubjectIsMapped_DoesNothing)
 {
-    P.Tools.MapCursorMode = 1;
+    P.Tools.MapCursorMode = MapCursor::Mapping;
     P.Form3->Text3.Text = u"Anne"_s;
     const Tree before = Home.Snapshot();
 
@@ -563,7 +563,7 @@ TEST_F(GalleryButtonTest, WhileASubjectIsMapped_DoesNothing)
 
     EXPECT_TRUE(P.Form3->Visible);
     EXPECT_FALSE(P.Form5->Visible);
-    EXPECT_EQ(P.Tools.MapCursorMode, 1);
+    EXPECT_EQ(P.Tools.MapCursorMode, MapCursor::Mapping);
     EXPECT_EQ(Forename(0), u"John"_s);
     EXPECT_EQ(Differences(before, Home.Snapshot()), QStringList());
 }
@@ -754,7 +754,7 @@ TEST_P(RecordMenuTest, Opening_TurnsTheBarOff_AndEndsAPendingMapping)
         Open();
 
         EXPECT_FALSE(P.Form3->Data1.Enabled);
-        EXPECT_EQ(P.Tools.MapCursorMode, 0);
+        EXPECT_EQ(P.Tools.MapCursorMode, MapCursor::Normal);
         EXPECT_EQ(P.Screen.Pointer.value(), MousePointer::Default);
     }
 }
@@ -766,7 +766,7 @@ TEST_F(RecordFormTest, SearchMenuOnARecordOfAnotherBranch_IsRefused_AndChangesNo
 {
     GivenRecordOfSibling();
     GivenRecordForm();
-    P.Tools.MapCursorMode = 2;
+    P.Tools.MapCursorMode = MapCursor::Repositioning;
     Prompts.Expect(u"Search Alternate Tree Branch Records.",
                    u"This Record is from another Tree Branch. You must open \n"
                    u"that Tree Branch to Search the Records of the Database. ",
@@ -775,7 +775,7 @@ TEST_F(RecordFormTest, SearchMenuOnARecordOfAnotherBranch_IsRefused_AndChangesNo
     P.Form3->mnuSearch.Click();
 
     EXPECT_TRUE(P.Form3->Data1.Enabled);
-    EXPECT_EQ(P.Tools.MapCursorMode, 2);
+    EXPECT_EQ(P.Tools.MapCursorMode, MapCursor::Repositioning);
 }
 
 TEST_F(RecordFormTest, EditAndPrintMenusOnARecordOfAnotherBranch_AreNotRefused)
@@ -791,13 +791,13 @@ TEST_F(RecordFormTest, EditAndPrintMenusOnARecordOfAnotherBranch_AreNotRefused)
 TEST_F(RecordFormTest, Help_OpensTheHelpFile_AndEndsAPendingMapping)
 {
     GivenRecordForm();
-    P.Tools.MapCursorMode = 1;
+    P.Tools.MapCursorMode = MapCursor::Mapping;
     const QString helpFile = P.Branch.HomeDir + u"LfgHelp.hlp";
     Prompts.ExpectHelp(helpFile);
 
     P.Form3->mnuHelp.Click();
 
-    EXPECT_EQ(P.Tools.MapCursorMode, 0);
+    EXPECT_EQ(P.Tools.MapCursorMode, MapCursor::Normal);
     EXPECT_TRUE(P.Form3->Data1.Enabled);
 }
 

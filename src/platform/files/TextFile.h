@@ -26,7 +26,7 @@ public:
 
     // Reads on until `name` has been passed, case ignored; false when the file ends first. On a mismatch the match
     // starts again at the character after the one that failed, which isn't looked at twice.
-    bool SkipPast(QStringView name);
+    [[nodiscard]] bool SkipPast(QStringView name);
 
 private:
     QString path_;

@@ -20,7 +20,7 @@ public:
     virtual qint64 Shell(const QString& program, const QString& file) = 0;
     // From now on this run works in that home directory too, unless another run works there already. Where that can't
     // be told, as on some disks of other machines, nobody else does.
-    virtual HomeOwner ClaimHome(const QString&) { return HomeOwner::ThisRun; }
+    [[nodiscard]] virtual HomeOwner ClaimHome(const QString&) { return HomeOwner::ThisRun; }
     // From now on it works in none that it has claimed but these.
     virtual void LeaveHomesBut(const QStringList&) {}
 };

@@ -39,7 +39,7 @@ public:
 
     virtual Answer MsgBox(const QString& title, const QString& text, Buttons buttons) = 0;
     // The text entered, empty for none and for Cancel.
-    virtual QString InputBox(const QString& title, const QString& prompt) = 0;
+    [[nodiscard]] virtual QString InputBox(const QString& title, const QString& prompt) = 0;
     // The path of an existing file, nothing for Cancel.
     [[nodiscard]] virtual std::optional<QString> OpenFile(const FileQuestion& question) = 0;
     // The path of a file to be written, which may exist; nothing for Cancel. A name without an ending gets that of the

@@ -29,7 +29,7 @@ public:
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
-    std::unique_ptr<Statement> Prepare(const QByteArray& sql) const;
+    [[nodiscard]] std::unique_ptr<Statement> Prepare(const QByteArray& sql) const;
 
     const QString& Path() const { return path_; }
 

@@ -43,7 +43,7 @@ public:
     OtherPrograms& Others() { return *others_; }
 
     // The open file of that path, or a fresh opening; it closes with its last user.
-    std::shared_ptr<Database> Open(const FileSystem& files, const QString& path);
+    [[nodiscard]] std::shared_ptr<Database> Open(const FileSystem& files, const QString& path);
 
 private:
     struct Known {

@@ -90,7 +90,7 @@ public:
     Bookmark LastModified() const { return lastModified_; }
 
     // A cursor of its own on all rows that stand in the file now.
-    std::unique_ptr<Recordset> Afresh() const;
+    [[nodiscard]] std::unique_ptr<Recordset> Afresh() const;
 
     // The user sees the current row as it stands.
     void Shown();

@@ -26,6 +26,7 @@ QString BranchLetter(const QString& workDir)
 
 QString SiblingDirectory(const QString& workDir, QStringView letter)
 {
+    Q_ASSERT(letter.size() == 1);
     return workDir.chopped(1) + letter;
 }
 

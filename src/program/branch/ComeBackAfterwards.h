@@ -37,11 +37,11 @@ inline void ComeBack(const RecordState& state, Window<forms::Form3>& recordForm)
 template <class Act>
 void ComeBackAfterwards(const BranchState& branch, RecordState& state, Window<forms::Form3>& recordForm, Act&& act)
 {
-    const bool isOwn = branch.UsingAlternate == 0;
+    const bool isOwn = !branch.IsSiblingShown();
     const Recordset& records = Records(recordForm);
     const Bookmark before = records.HasRow() ? records.GetBookmark() : Bookmark();
     const auto comeBack = [&] {
-        if (!isOwn || branch.UsingAlternate != 0 || !before)
+        if (!isOwn || branch.IsSiblingShown() || !before)
             return;
         state.SavedBookmark = before;
         Records(recordForm).SetBookmark(before);

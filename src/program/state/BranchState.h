@@ -31,6 +31,7 @@ struct AliasState {
     FixedArray<QString, 0, 99> AliasTable; // the same entries without their commas; the first empty one ends them
     Integer16 AliasAttr;                   // attributes of the list's file at its last reading
     Integer16 NoSplash;                    // 1: the splash isn't shown
+    bool IsSplashOff() const { return NoSplash == 1; }
 };
 
 } // namespace lineforge

@@ -25,10 +25,12 @@ struct CompareState {
     bool IsChoosing = false; // a compare branch is asked for in the list of branches
     Integer16 FieldStep;     // where the search for differences goes on: 0 and 1 at the first field, 23 behind the last
     Integer16 SearchEnded;   // 1: a recordset has run out
-    Integer16 ResetDone;     // 1 from Reset to the next Search
-    QString sCompField;      // the field on show
-    QString sSelText;        // selected at the last click in a box of the window
-    Integer16 SelBox;        // that box's number, 1 to 4, 0 for none
+    bool HasEnded() const { return SearchEnded == 1; }
+    Integer16 ResetDone; // 1 from Reset to the next Search
+    bool IsReset() const { return ResetDone == 1; }
+    QString sCompField; // the field on show
+    QString sSelText;   // selected at the last click in a box of the window
+    Integer16 SelBox;   // that box's number, 1 to 4, 0 for none
     ShownRecord ShownCurrent;
     ShownRecord ShownCompare;
     // The numbers of appended records that have been seen, as long as the window lives.

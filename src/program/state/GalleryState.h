@@ -11,7 +11,8 @@ namespace lineforge
 {
 
 struct GalleryState {
-    Integer16 FirstShow;  // 1: the page must be built before it is shown
+    Integer16 FirstShow; // 1: the page must be built before it is shown
+    bool WantsPage() const { return FirstShow == 1; }
     Integer16 GalleryTop; // the highest subscript of the page, and so the index of the empty tile behind it
     Integer16 GallerySel; // the tile last clicked
     // Where the tile of an enlarged picture stood; twips.

@@ -8,6 +8,9 @@
 namespace lineforge
 {
 
+// The values of `RecordScanMode`: the buttons of the record scanner.
+enum class ScanMode { FastForward = 1, Forward = 2, Stopped = 3, Back = 4, FastBack = 5 };
+
 struct RecordState {
     QString sCurFile; // `File` of the record at hand
     QString sPicFile; // and its picture's name
@@ -17,7 +20,7 @@ struct RecordState {
     QString sShownName;       // forename when the map last opened the record form
     QString sClipText;        // selected at the last click in a box of the record form
     Integer16 ClipSource;     // that box's number, 0 for none
-    Integer16 RecordScanMode; // 1 fast forward, 2 forward, 3 stopped, 4 back, 5 fast back
+    Integer16 RecordScanMode; // see `ScanMode`
     Bookmark SavedBookmark;
 };
 

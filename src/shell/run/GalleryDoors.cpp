@@ -23,7 +23,7 @@ namespace
 // must not be taken for this one's.
 bool NeedsPage(Program& p)
 {
-    return p.Gallery.FirstShow == 1 || !IsPageOfRecord(p.Gallery, p.Branch, p.Form3);
+    return p.Gallery.WantsPage() || !IsPageOfRecord(p.Gallery, p.Branch, p.Form3);
 }
 
 void ShowGallery(Program& p)
@@ -64,7 +64,7 @@ void GoToGalleryFromRecords(Program& p)
     p.Errors.Ignoring([&] { ShowRecordOnMap(p); });
     if (isKnown && NeedsPage(p))
         p.Screen.Pointer = MousePointer::Hourglass;
-    if (p.Gallery.FirstShow == 1)
+    if (p.Gallery.WantsPage())
         p.Errors.Ignoring([&] { MarkCurrentBox(p); });
     // A record that can't be told has no page; the window keeps the one that it has.
     if (isKnown)

@@ -67,7 +67,7 @@ void LoadSplash(Program& p)
     ReadAliasConfig(p);
 
     // A missing list has unloaded the splash.
-    if (p.form9.IsLoaded() && p.Alias.NoSplash != 1)
+    if (p.form9.IsLoaded() && !p.Alias.IsSplashOff())
         ShowSplash(p);
 
     p.Form1.Load();

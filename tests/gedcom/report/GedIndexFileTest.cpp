@@ -13,7 +13,7 @@ struct IndexRule {
     QByteArrayList Individuals;
     QByteArrayList Families;
     int ScanStateAfter = 0;
-    int ScanState = 0;
+    int ScanState = GedRecord::Outside;
     bool IsAccepted = true;
     int Error = 0;
 };

@@ -306,7 +306,7 @@ protected:
         P.Gedcom.Source->Close();
         P.Gedcom.Source->Open();
         if (from == From::Head)
-            P.Scratch.ScanState = 0;
+            P.Scratch.ScanState = GedRecord::Outside;
     }
 
     void ExpectSeek(const SeekRow& row)

@@ -175,7 +175,7 @@ TEST_F(GedcomConversionTest, TooManyRecords_LeaveTheHeadingAlone)
     EXPECT_EQ(ReportOf("0 HEAD\n" + Records(101, "INDI") + Records(1, "FAM") + Trailer), "");
     EXPECT_TRUE(IsCompleted());
     EXPECT_EQ(P.Errors.Last->Number, ErrorNumber::Subscript);
-    P.Scratch.ScanState = 0;
+    P.Scratch.ScanState = GedRecord::Outside;
     EXPECT_EQ(ReportOf("0 HEAD\n" + Records(21, "FAM") + Trailer), "");
     EXPECT_TRUE(IsCompleted());
 }

@@ -17,7 +17,7 @@ protected:
     void GivenBoth(const QByteArray& source)
     {
         P.Gedcom = GedcomState();
-        P.Scratch.ScanState = 0;
+        P.Scratch.ScanState = GedRecord::Outside;
         GivenReport();
         GivenSource(source);
         Literal.emplace(source);
@@ -163,7 +163,7 @@ TEST_P(MutatedConversionTest, AnySource_IsReportedAsByReadingItOverForEverySeek)
         const QByteArray source = MutatedSource(number);
         SCOPED_TRACE(testing::Message() << number << ": " << source.toPercentEncoding(" \n").constData());
         P.Gedcom = GedcomState();
-        P.Scratch.ScanState = 0;
+        P.Scratch.ScanState = GedRecord::Outside;
         P.Errors.Clear();
         Home.WriteFile(u"family.ged", source);
         LiteralMachine literal(source);

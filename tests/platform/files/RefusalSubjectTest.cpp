@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <ostream>
+#include <tuple>
 
 namespace lineforge
 {
@@ -88,9 +89,11 @@ INSTANTIATE_TEST_SUITE_P(
                         Thumbnails().Load(f, u"full.txt"_s, {9, 9}, {});
                     },
                     u"Full.txt"},
-        DiskRefusal{"NoDatabase", [](FileSystem& f) { Databases().Open(f, u"no.db"_s); }, u"no.db"},
-        DiskRefusal{"ReadOnlyDatabase", [](FileSystem& f) { Databases().Open(f, u"locked.txt"_s); }, u"Locked.txt"},
-        DiskRefusal{"WrongDatabase", [](FileSystem& f) { Databases().Open(f, u"full.txt"_s); }, u"Full.txt"},
+        DiskRefusal{"NoDatabase", [](FileSystem& f) { std::ignore = Databases().Open(f, u"no.db"_s); }, u"no.db"},
+        DiskRefusal{"ReadOnlyDatabase", [](FileSystem& f) { std::ignore = Databases().Open(f, u"locked.txt"_s); },
+                    u"Locked.txt"},
+        DiskRefusal{"WrongDatabase", [](FileSystem& f) { std::ignore = Databases().Open(f, u"full.txt"_s); },
+                    u"Full.txt"},
         DiskRefusal{"EndOfText",
                     [](FileSystem& f) {
                         TextReader reader(f, u"full.txt"_s);

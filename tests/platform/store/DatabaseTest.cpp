@@ -5,6 +5,8 @@
 
 #include <QFile>
 
+#include <tuple>
+
 namespace lineforge
 {
 namespace
@@ -50,7 +52,7 @@ TEST_F(OpenDatabaseTest, Garbage_IsNotADatabase)
 
     for (const QString& name : {u"garbage.db"_s, u"short.db"_s}) {
         EXPECT_EQ(RefusalToOpen(name), ErrorNumber::NotADatabase);
-        EXPECT_EQ(RefusalOf([&] { databases.Open(files, name); }), ErrorNumber::NotADatabase)
+        EXPECT_EQ(RefusalOf([&] { std::ignore = databases.Open(files, name); }), ErrorNumber::NotADatabase)
             << "told by the opening itself";
     }
 }
@@ -111,7 +113,7 @@ TEST_F(OpenDatabaseTest, PathInOtherCase_IsTheSameOpenFile)
 
 TEST_F(OpenDatabaseTest, FileThatNobodyUsesAnyMore_IsOpenedAfresh)
 {
-    databases.Open(files, u"people.db"_s);
+    std::ignore = databases.Open(files, u"people.db"_s);
     home.WriteFile(u"people.db", "no database any more");
 
     EXPECT_EQ(RefusalToOpen(u"people.db"_s), ErrorNumber::NotADatabase);

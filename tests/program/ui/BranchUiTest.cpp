@@ -107,9 +107,9 @@ TEST_F(BranchUiTest, EveryMenu_EndsAPendingMappingWhenItOpens)
 {
     for (MenuItem* menu : {&P.Form1->mnuFile, &P.Form1->mnuEdit, &P.Form1->mnuTreeGraphics, &P.Form1->mnuHelp}) {
         SCOPED_TRACE(qUtf8Printable(menu->Name));
-        P.Tools.MapCursorMode = 1;
+        P.Tools.MapCursorMode = MapCursor::Mapping;
         menu->Click();
-        EXPECT_EQ(P.Tools.MapCursorMode, 0);
+        EXPECT_EQ(P.Tools.MapCursorMode, MapCursor::Normal);
     }
 }
 

@@ -319,7 +319,7 @@ TEST_F(DeleteBranchTest, ImportedBranch_GoesWithItsEntry)
 TEST_F(DeleteBranchTest, ToolsThatAreOpen_AreLeftBehindBothConfirmations_AndABranchOpensAfterwards)
 {
     P.Form1->mnuTreeTools.Click();
-    ASSERT_EQ(P.Tools.ToolMode, 3);
+    ASSERT_EQ(P.Tools.ToolMode, ToolsOpen);
     ExpectDeletionQuestion(Answer::Yes);
     ExpectDeletionWarning(Answer::Yes);
     ExpectToolsQuestion(Answer::No);
@@ -340,7 +340,7 @@ TEST_F(DeleteBranchTest, NoAtEither_LeavesTheToolsOpen)
     ExpectDeletionWarning(Answer::No);
     Delete();
 
-    EXPECT_EQ(P.Tools.ToolMode, 3);
+    EXPECT_EQ(P.Tools.ToolMode, ToolsOpen);
 }
 
 TEST_F(DeleteBranchTest, WithNoBranchOpen_IsToldAndRemovesNothing)

@@ -54,19 +54,19 @@ TEST_F(GalleryDoorsTest, ButtonOfTheMap_WithoutABranch_IsTold)
 
 TEST_F(GalleryDoorsTest, ButtonOfTheMap_EndsAPendingMapping)
 {
-    P.Tools.MapCursorMode = 1;
+    P.Tools.MapCursorMode = MapCursor::Mapping;
     PressWithoutTools();
-    EXPECT_EQ(P.Tools.MapCursorMode, 0);
+    EXPECT_EQ(P.Tools.MapCursorMode, MapCursor::Normal);
 }
 
 TEST_F(GalleryDoorsTest, ButtonOfTheMap_LeavesTheTools)
 {
     Click(P.Form1->mnuTreeTools.Click);
-    ASSERT_EQ(P.Tools.ToolMode, 3);
+    ASSERT_EQ(P.Tools.ToolMode, ToolsOpen);
     Prompts.Expect(u"Closing Graphics Tools", u"Save the Tree Graphic changes ?", Buttons::InformationYesNo,
                    Answer::No);
     PressWithoutTools();
-    EXPECT_NE(P.Tools.ToolMode, 3);
+    EXPECT_NE(P.Tools.ToolMode, ToolsOpen);
     EXPECT_TRUE(P.Form5->Visible);
 }
 
