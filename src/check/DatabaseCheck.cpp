@@ -21,7 +21,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-
 DatabaseFormat FormatOfFile(const QString& path)
 {
     QFile file(path);

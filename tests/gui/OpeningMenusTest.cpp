@@ -3,6 +3,7 @@
 #include "map/tools/ToolSelection.h"
 #include "program/branch/SiblingBranch.h"
 #include "qt/Dialogs.h"
+#include "shell/handlers/InstallHandlers.h"
 #include "shell/run/RunHandler.h"
 
 #include <QMenu>

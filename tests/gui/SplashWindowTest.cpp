@@ -1,5 +1,6 @@
 #include "gui/ProgramWindowTest.h"
 #include "qt/windows/WindowView.h"
+#include "shell/handlers/InstallHandlers.h"
 #include "support/ProgramTest.h"
 
 #include <QScreen>

@@ -2,6 +2,7 @@
 #include "program/branch/AliasList.h"
 #include "program/branch/SiblingBranch.h"
 #include "program/branch/WorkDatabase.h"
+#include "shell/handlers/InstallHandlers.h"
 #include "support/Pixels.h"
 
 #include <QDir>

@@ -1,6 +1,7 @@
 #include "map/MapPlayer.h"
 
 #include "map/subjects/EnterBranch.h"
+#include "shell/handlers/InstallHandlers.h"
 
 // A play's beginning, and what is done beside pressing on the map.
 namespace lineforge

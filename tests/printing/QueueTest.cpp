@@ -1,6 +1,7 @@
 #include "editor/EditorWindow.h"
 #include "gui/ProgramWindowTest.h"
 #include "qt/Dialogs.h"
+#include "shell/handlers/InstallHandlers.h"
 
 #include <QAction>
 #include <QCheckBox>

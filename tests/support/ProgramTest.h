@@ -1,7 +1,6 @@
 #pragma once
 
 #include "program/state/Program.h"
-#include "shell/handlers/InstallHandlers.h"
 #include "support/TestPlatform.h"
 #include "support/Windows.h"
 
@@ -14,11 +13,7 @@ namespace lineforge
 class ProgramTest : public testing::Test
 {
 protected:
-    ProgramTest()
-    {
-        InstallHandlers(P);
-        P.Branch.HomeDir = P.ExecutableDirectory;
-    }
+    ProgramTest();
 
     TestPlatform Machine;
     Program P{Machine.Platform};

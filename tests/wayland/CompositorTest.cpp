@@ -1,5 +1,6 @@
 #include "gui/WindowCommands.h"
 #include "qt/style/Desktop.h"
+#include "shell/handlers/InstallHandlers.h"
 #include "wayland/SeenScreen.h"
 
 #include <QAction>

@@ -10,6 +10,7 @@
 #include "map/subjects/RecordFormPicture.h"
 #include "map/subjects/SubjectPanel.h"
 #include "platform/base/Text.h"
+#include "platform/store/DataRef.h"
 #include "platform/store/Fields.h"
 #include "program/branch/BranchPaths.h"
 #include "program/branch/ComeBackAfterwards.h"
@@ -86,7 +87,7 @@ void LinkBox(const MappingWork& work, std::optional<int> row, const QString& fil
 QString NextFreeNumber(RecordState& record, const QString& letter, Recordset& records)
 {
     int counter = 1;
-    const auto candidate = [&]() -> QString { return letter + QString::number(counter).rightJustified(3, u'0'); };
+    const auto candidate = [&] { return DataRef(letter, counter).Text(); };
     for (records.MoveFirst(); !records.Eof(); records.MoveNext()) {
         record.sCurFile = records.Text(Field::File);
         while (SameText(record.sCurFile, candidate()))

@@ -16,8 +16,8 @@ void EnableBranchUI(forms::Form1& form);
 
 // As wide as the screen and as high, less the spared twips, half of which it stands above the middle.
 void FillScreen(Form& form, const Screen& screen, int spared);
-// KEPT(GedcomFormTest.Window_IsAsWideAsTheScreen_AndSomewhatLessHigh): placed by the record form's size, not its own.
-// Mended, the window of the GEDCOM file would have another `Top`, and stand where it stands on the screen.
+// KEPT(GedcomFormTest.Window_IsAsWideAsTheScreen_AndSomewhatLessHigh): as large, but placed by the record form's size,
+// not its own. Mended, the window of the GEDCOM file would have another `Top`, and stand where it stands on the screen.
 void FillScreen(Form& form, const Screen& screen, Window<forms::Form3>& recordForm, int spared);
 
 // Ends a pending mapping or re-positioning of a subject.

@@ -32,7 +32,7 @@ void CloseBranch(Program& p)
     EmptySubjectPanel(*p.Form1, EmptiedBy::CloseBranch);
     // KEPT(CloseBranchTest.MaidenName_KeepsWhatItShowed_WhereAnotherWasStillPending): it keeps its text, whatever has
     // been stored meanwhile.
-    // Mended, it would be emptied with its sisters.
+    // Mended, it could show the name that has just been stored.
     form.Label15.Caption = maidenName;
     form.Picture1.Cls();
     form.Shape1.Visible = false;

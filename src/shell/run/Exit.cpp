@@ -18,13 +18,15 @@
 #include "shell/branches/CloseBranch.h"
 #include "shell/run/RunHandler.h"
 
+#include <functional>
+
 namespace lineforge
 {
 
 namespace
 {
 // False when the step was refused for what no answer can help, which is told.
-bool TellIfRefused(Program& p, const std::function<void()>& step)
+bool RunOrTell(Program& p, const std::function<void()>& step)
 {
     try {
         step();
@@ -60,9 +62,9 @@ void ExitFromRecords(Program& p)
     // Who has been told that a text isn't stored wants to see to it.
     if (p.Errors.Last && p.Errors.Last->IsTold)
         return;
-    TellIfRefused(p, [&p] { SaveBoxes(p.Map, p.Branch, p.Files); });
+    RunOrTell(p, [&p] { SaveBoxes(p.Map, p.Branch, p.Files); });
     // Or the windows' end would ask for the tools again.
-    if (!TellIfRefused(p, [&p] { LeaveToolsIfOpen(p); }))
+    if (!RunOrTell(p, [&p] { LeaveToolsIfOpen(p); }))
         HideTools(*p.Form1);
     p.Form5->MMControl1.Command(u"Close");
     // The main window takes all others with it and ends the program; a text that still can't be stored is told.

@@ -1,5 +1,6 @@
 #include "map/items/MapFile.h"
 #include "map/tools/ToolsTest.h"
+#include "shell/handlers/InstallHandlers.h"
 
 #include <random>
 

@@ -1,4 +1,5 @@
 #include "shell/ShellTest.h"
+#include "shell/handlers/InstallHandlers.h"
 
 #include <QFile>
 

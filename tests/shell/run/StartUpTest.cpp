@@ -1,5 +1,6 @@
 #include "program/branch/AliasList.h"
 #include "shell/ShellTest.h"
+#include "shell/handlers/InstallHandlers.h"
 
 #include <QFile>
 
