@@ -1,9 +1,9 @@
 #include "shell/ShellTest.h"
 
-#include <gmock/gmock.h>
-
 #include <QDirIterator>
 #include <QProcess>
+
+#include <gmock/gmock.h>
 
 namespace lineforge
 {
@@ -107,8 +107,7 @@ TEST_P(GrampsTest, TakesTheFile_WithItsSubmitter_AndTheNobodyWhoIsInIt)
     QStringList submission = LinesOf(file);
     submission = submission.mid(submission.indexOf(u"0 @N01@ SUBN"_s) + 1, 2);
     ASSERT_TRUE(submission.first().startsWith(u"1 DESC "));
-    EXPECT_THAT(LinesComplainedAbout(file), testing::AnyOf(settled, settled + submission))
-        << Said.toStdString();
+    EXPECT_THAT(LinesComplainedAbout(file), testing::AnyOf(settled, settled + submission)) << Said.toStdString();
 }
 
 } // namespace
